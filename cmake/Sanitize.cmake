@@ -1,0 +1,5 @@
+if(LS_SANITIZE)
+  # A finding of either sanitizer ends the program: a test that printed one and passed would hide it.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "base/ProgramEnd.h"
+#include "book/Book.h"
+#include "reader/Settings.h"
+
+namespace ls {
+
+/// The state that the rooms share. One instance lives in the program; whoever needs a part is handed it by
+/// reference.
+struct Global
+{
+    ProgramEnd end;
+    Book book;
+    Settings settings;
+};
+
+} // namespace ls

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+
+namespace ls {
+
+/// A count or an index of a table: 16 bits, signed, checked.
+///
+/// Passing 32,767 is an overflow, never a wrap-around: `Add` then returns false and the count stays as it
+/// was. The caller drops the work and shows the "Overflow" box once (see `ShowOverflow`).
+class Count16
+{
+public:
+    static constexpr int Max = 32767;
+
+    constexpr Count16() = default;
+    constexpr Count16(int value)
+        : m_value(static_cast<std::int16_t>(value))
+    {} // NOLINT(google-explicit-constructor): reads as a number
+
+    constexpr operator int() const
+    {
+        return m_value;
+    } // NOLINT(google-explicit-constructor): reads as a number
+
+    [[nodiscard]] constexpr bool Add(int n = 1)
+    {
+        if (m_value + n > Max) {
+            return false;
+        }
+        m_value = static_cast<std::int16_t>(m_value + n);
+        return true;
+    }
+
+private:
+    std::int16_t m_value = 0;
+};
+
+} // namespace ls

@@ -1,0 +1,77 @@
+#include "base/FindSpelling.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace ls {
+
+namespace {
+
+char LowerAscii(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameButForCase(const std::string& a, const std::string& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return LowerAscii(x) == LowerAscii(y); });
+}
+
+// The entry of `folder` that is `name` in another case; empty when there is none.
+std::string EntryNamed(FileSystem& files, const std::string& folder, const std::string& name)
+{
+    std::vector<FolderEntry> entries;
+    if (!files.List(folder.empty() ? files.CurrentFolder() : folder, entries).Ok()) {
+        return {};
+    }
+    std::string best;
+    for (const FolderEntry& entry : entries) {
+        if (SameButForCase(entry.name, name) && (best.empty() || entry.name < best)) {
+            best = entry.name;
+        }
+    }
+    return best;
+}
+
+// Splits "/a//b" into its names; empty ones (doubled separators) are passed over.
+std::vector<std::string> LevelsOf(PathRules rules, const std::string& path, std::size_t from)
+{
+    std::vector<std::string> levels;
+    while (from < path.size()) {
+        const std::size_t end = std::min(path.find(rules.separator, from), path.size());
+        if (end > from) {
+            levels.push_back(path.substr(from, end - from));
+        }
+        from = end + 1;
+    }
+    return levels;
+}
+
+} // namespace
+
+std::string FindSpelling(FileSystem& files, PathRules rules, const std::string& path)
+{
+    if (path.empty() || files.Exists(path)) {
+        return path;
+    }
+    std::size_t rest = path.find_first_not_of(rules.separator);
+    if (rest == std::string::npos) {
+        return path;
+    }
+    std::string found = rest > 0 ? std::string(1, rules.separator) : std::string();
+    for (const std::string& level : LevelsOf(rules, path, rest)) {
+        std::string next = JoinPath(rules, found, level);
+        if (!files.Exists(next)) {
+            const std::string entry = EntryNamed(files, found, level);
+            if (entry.empty()) {
+                return path;
+            }
+            next = JoinPath(rules, found, entry);
+        }
+        found = next;
+    }
+    return found;
+}
+
+} // namespace ls

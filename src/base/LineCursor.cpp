@@ -1,0 +1,122 @@
+#include "base/LineCursor.h"
+
+#include <cstring>
+
+namespace ls {
+
+namespace {
+
+// A topic is shorter than the small block, so that showing one reads little; a scan of a whole book grows to
+// the large one, which keeps the number of system calls low and stays inside the processor's cache.
+constexpr std::size_t SmallBlock = 16 * 1024;
+constexpr std::size_t LargeBlock = 256 * 1024;
+
+} // namespace
+
+LineCursor::LineCursor(BookFile& file) : m_file(&file) {}
+
+void LineCursor::Seek(FilePos pos)
+{
+    m_blockPos = pos < 1 ? 1 : pos;
+    m_size = 0;
+    m_next = 0;
+    m_error = {};
+}
+
+// Puts the bytes at Position() into the block; false at the end of the file or at an error (m_error tells
+// which).
+bool LineCursor::Fill()
+{
+    m_blockPos = Position();
+    m_next = 0;
+    const std::size_t wanted = m_size == 0 ? SmallBlock : LargeBlock;
+    if (m_block.size() < wanted) {
+        m_block.resize(wanted);
+    }
+    m_size = 0;
+    m_error = m_file->ReadAt(m_blockPos, m_block.data(), m_block.size(), m_size);
+    if (!m_error.Ok()) {
+        m_size = 0;
+    }
+    return m_size > 0;
+}
+
+bool LineCursor::AtEnd()
+{
+    return m_next == m_size && !Fill() && m_error.Ok();
+}
+
+void LineCursor::AppendRestOfBlock(std::string& line)
+{
+    line.append(m_block.data() + m_next, m_size - m_next);
+    m_next = m_size;
+}
+
+// Stands on a CR: passes it and the LF that may follow, which may lie in the next block.
+FileError LineCursor::PassLineEnd()
+{
+    ++m_next;
+    if (m_next == m_size && !Fill()) {
+        return m_error;
+    }
+    if (m_block[m_next] == '\n') {
+        ++m_next;
+    }
+    return {};
+}
+
+FileError LineCursor::ReadLine(std::string& line)
+{
+    line.clear();
+    if (m_next == m_size && !Fill()) {
+        return m_error.Ok() ? MakeFileError(error::InputPastEnd) : m_error;
+    }
+    for (;;) {
+        const char* from = m_block.data() + m_next;
+        const void* end = std::memchr(from, '\r', m_size - m_next);
+        if (end != nullptr) {
+            const auto length = static_cast<std::size_t>(static_cast<const char*>(end) - from);
+            line.append(from, length);
+            m_next += length;
+            return PassLineEnd();
+        }
+        AppendRestOfBlock(line);
+        if (!Fill()) {
+            return m_error; // the last line may lack its line end
+        }
+    }
+}
+
+FileError LineCursor::SkipLine()
+{
+    for (;;) {
+        const char* from = m_block.data() + m_next;
+        const void* end = std::memchr(from, '\r', m_size - m_next);
+        if (end != nullptr) {
+            m_next += static_cast<std::size_t>(static_cast<const char*>(end) - from);
+            return PassLineEnd();
+        }
+        m_next = m_size;
+        if (!Fill()) {
+            return m_error;
+        }
+    }
+}
+
+FileError LineCursor::SkipToLineBeginning(char first, char second)
+{
+    for (;;) {
+        if (m_next == m_size && !Fill()) {
+            return m_error;
+        }
+        const char c = m_block[m_next];
+        if (c == first || c == second) {
+            return {};
+        }
+        if (FileError failed = SkipLine(); !failed.Ok()) {
+            return failed;
+        }
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "base/FileError.h"
+#include "base/FilePos.h"
+#include "base/FileSystem.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace ls {
+
+/// Reads an open file line by line from a position of its own.
+///
+/// A line ends at CR or at CR LF; a lone LF is an ordinary character. Bytes pass through unchanged.
+/// Everything is read in blocks; `Seek` forgets them, so that a line read after it is what the file holds at
+/// that moment.
+class LineCursor
+{
+public:
+    /// The file must outlive the cursor.
+    explicit LineCursor(BookFile& file);
+
+    /// Moves to a 1-based byte position; it may lie behind the end, where the next read fails with error 62.
+    void Seek(FilePos pos);
+
+    /// The 1-based position of the next byte to be read.
+    [[nodiscard]] FilePos Position() const { return m_blockPos + static_cast<FilePos>(m_next); }
+
+    /// True when no byte is left. A read error counts as not at the end: the next `ReadLine` reports it.
+    [[nodiscard]] bool AtEnd();
+
+    /// Reads one line without its line end. Error 62 at the end of the file.
+    FileError ReadLine(std::string& line);
+
+    /// Passes over whole lines until the next one begins with `first` or `second`, or the file ends. The
+    /// position must be at the start of a line. Nothing is copied, so a line of any length costs no memory.
+    FileError SkipToLineBeginning(char first, char second);
+
+private:
+    bool Fill();
+    void AppendRestOfBlock(std::string& line);
+    FileError PassLineEnd();
+    FileError SkipLine();
+
+    BookFile* m_file;
+    std::vector<char> m_block;
+    std::size_t m_size = 0; ///< bytes in m_block
+    std::size_t m_next = 0; ///< the next of them
+    FilePos m_blockPos = 1; ///< position of m_block's first byte
+    FileError m_error;      ///< of the last Fill that failed
+};
+
+} // namespace ls

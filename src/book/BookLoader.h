@@ -1,0 +1,51 @@
+#pragma once
+
+#include "base/Count16.h"
+#include "base/Progress.h"
+#include "base/Seams.h"
+#include "book/Book.h"
+
+#include <string>
+
+namespace ls {
+
+class LineCursor;
+
+/// Opens `BookPath` as the book's file and reads its header line.
+///
+/// "LS:" at the start of the path names the program's folder; a path without a separator is taken in
+/// `WorkDir` when that is set. A file that is no book is offered as a plain text file (`BookVersion` 0). True
+/// when a file is open and may be shown; false after a message, or when the user declined, with no file open.
+/// `BookPath` stays as given.
+bool OpenBook(Book& book, const Seams& seams);
+
+/// Closes the book's file, if one is open.
+void CloseBook(Book& book);
+
+/// Fills the topic table and the cross references from the open file, starting behind the header line.
+///
+/// The caller has set `CurrentTopicNo` to 0. A read error shows its message and ends the program. A count
+/// that passes 32,767 shows "Overflow", closes the file, resets the book and clears `BookPath`, since a cut
+/// table would be saved short; false then and after a read error.
+bool ScanBook(Book& book, const Seams& seams, Progress* progress = nullptr);
+
+/// Positions `cursor` at the first body line of a topic.
+///
+/// `name` is the title with or without brackets; `number` its place in the table, or 0 when it is to be
+/// looked up: then the first topic of exactly that name counts, deleted ones too. On failure a message is
+/// shown and `name` is cleared: the name is unknown, the file cannot be read, or the header line is no longer
+/// where the scan saw it.
+void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::string& name,
+                 Count16& number);
+
+/// The message for a topic that cannot be read.
+void ShowFetchError(const Seams& seams, const std::string& name, const FileError& failed);
+
+/// Brings a topic's text and logic block from the file into its `TopicRec`, ready to be edited.
+///
+/// On failure (after `LocateTopic`'s message) `name` is empty and `number` 0. A plain text file is read
+/// whole; it has no table, and its text is put into `plainText` when that is given.
+void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& number,
+                  std::string* plainText = nullptr);
+
+} // namespace ls

@@ -1,0 +1,136 @@
+#include "base/LineCursor.h"
+#include "base/Text.h"
+#include "book/BookLoader.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view LogicOpening = "<IXML>";
+constexpr std::string_view LogicTag = "<LOGIC>";
+
+// Reads the lines of one topic up to the place where it ends in the file.
+class TopicReader
+{
+public:
+    TopicReader(LineCursor& cursor, FilePos end) : m_cursor(cursor), m_end(end) {}
+
+    // False at the end of the topic, and after an error, which `Failed` tells.
+    bool Next(std::string& line)
+    {
+        if (!m_failed.Ok() || m_cursor.Position() >= m_end) {
+            return false;
+        }
+        m_failed = m_cursor.ReadLine(line);
+        if (!m_failed.Ok()) {
+            return false;
+        }
+        line.resize(TrimRight(line).size());
+        return true;
+    }
+
+    // A read error, or a file that ends before the topic does: somebody cut it after the scan.
+    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+
+private:
+    LineCursor& m_cursor;
+    FilePos m_end;
+    FileError m_failed;
+};
+
+// Where a topic ends: at the next topic of the file, else where the scan stopped. A line in between that
+// begins with "[" but is no header ("[]", a line of a note) belongs to the topic and must not cut it short.
+FilePos EndOfTopic(const Book& book, int number)
+{
+    const FilePos own = book.TopicPos(static_cast<std::size_t>(number));
+    FilePos end = book.ScanEndPos;
+    for (int i = 1; i <= book.TopicCount; ++i) {
+        const FilePos pos = book.TopicPos(static_cast<std::size_t>(i));
+        if (pos > own) {
+            end = std::min(end, pos);
+        }
+    }
+    return end;
+}
+
+// The text up to the logic block or the topic's end; true when a logic block follows.
+bool ReadText(TopicReader& reader, std::string& text)
+{
+    std::string line;
+    while (reader.Next(line)) {
+        if (EqualsUpper(Trim(line), LogicOpening)) {
+            return true;
+        }
+        text.append(line).append(LineEnd);
+    }
+    return false;
+}
+
+std::string ReadLogic(TopicReader& reader)
+{
+    std::string line;
+    if (!reader.Next(line) || !EqualsUpper(Trim(line), LogicTag)) {
+        return {};
+    }
+    std::string logic;
+    logic.append(LogicOpening).append(LineEnd).append(LogicTag).append(LineEnd);
+    while (reader.Next(line)) {
+        logic.append(line).append(LineEnd);
+    }
+    return logic;
+}
+
+void LoadPlainText(Book& book, std::string* plainText)
+{
+    if (plainText == nullptr || !book.File) {
+        return;
+    }
+    plainText->clear();
+    LineCursor cursor(*book.File);
+    std::string line;
+    while (!cursor.AtEnd() && cursor.ReadLine(line).Ok()) {
+        plainText->append(TrimRight(line)).append(LineEnd);
+    }
+}
+
+} // namespace
+
+void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& number, std::string* plainText)
+{
+    if (book.IsPlainText()) {
+        LoadPlainText(book, plainText);
+        return;
+    }
+    name = WithBrackets(name);
+    if (!book.File) {
+        name.clear();
+        number = 0;
+        return;
+    }
+    LineCursor cursor(*book.File);
+    LocateTopic(book, seams, cursor, name, number);
+    if (name.empty()) {
+        number = 0;
+        return;
+    }
+    TopicReader reader(cursor, EndOfTopic(book, number));
+    std::string text;
+    const bool hasLogic = ReadText(reader, text);
+    std::string logic = hasLogic ? ReadLogic(reader) : std::string();
+    if (!reader.Failed().Ok()) {
+        // Half a topic in memory would be saved as the whole: it stays unedited instead.
+        ShowFetchError(seams, name, reader.Failed());
+        name.clear();
+        number = 0;
+        return;
+    }
+    TopicRec& rec = book.TopicRecs(static_cast<std::size_t>(number));
+    rec.Text = std::move(text);
+    rec.Logic = std::move(logic);
+}
+
+} // namespace ls

@@ -1,0 +1,62 @@
+#include "base/CodePage.h"
+#include "base/LineCursor.h"
+#include "base/Messages.h"
+#include "base/Text.h"
+#include "book/BookLoader.h"
+
+#include <algorithm>
+
+namespace ls {
+
+namespace {
+
+// The number of the first topic of exactly that name, or 0. Deleted topics are not skipped.
+int FindTopic(const Book& book, const std::string& key)
+{
+    const auto end = book.TopicNames.begin() + book.TopicCount;
+    const auto found = std::find(book.TopicNames.begin(), end, key);
+    return found == end ? 0 : static_cast<int>(found - book.TopicNames.begin()) + 1;
+}
+
+void Fail(const Seams& seams, std::string& name, const std::string& message)
+{
+    seams.messages.MsgBox(message, Icon::Warning);
+    name.clear();
+}
+
+} // namespace
+
+void ShowFetchError(const Seams& seams, const std::string& name, const FileError& failed)
+{
+    seams.messages.MsgBox("Failed to fetch topic " + FromBook(name) + " due to error #" +
+                              std::to_string(failed.number) + ": " + failed.description,
+                          Icon::Warning);
+}
+
+void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::string& name, Count16& number)
+{
+    if (name.empty()) {
+        return;
+    }
+    const std::string key = name.front() == '[' ? name : "[" + name + "]";
+    if (number == 0) {
+        number = FindTopic(book, key);
+    }
+    const bool inTable = number > 0 && static_cast<std::size_t>(number) <= book.TopicPos.UpperBound();
+    const FilePos pos = inTable ? book.TopicPos(static_cast<std::size_t>(number)) : 0;
+    if (pos == 0) {
+        Fail(seams, name, "Topic " + FromBook(key) + " was not found.");
+        return;
+    }
+    cursor.Seek(pos);
+    std::string line;
+    const FileError failed = cursor.ReadLine(line);
+    if (!failed.Ok()) {
+        ShowFetchError(seams, name, failed);
+        name.clear();
+    } else if (Trim(line) != key) {
+        Fail(seams, name, "Error looking up topic: " + FromBook(key));
+    }
+}
+
+} // namespace ls

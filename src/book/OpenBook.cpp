@@ -1,0 +1,103 @@
+#include "base/CodePage.h"
+#include "base/FindSpelling.h"
+#include "base/LineCursor.h"
+#include "base/Messages.h"
+#include "base/Processes.h"
+#include "base/Text.h"
+#include "book/BookLoader.h"
+
+namespace ls {
+
+namespace {
+
+constexpr std::string_view ProgramFolderPrefix = "LS:";
+
+// Where the file lies that `BookPath` names, before its spelling is looked up.
+std::string PathToOpen(const Book& book, const Seams& seams)
+{
+    std::string path = book.BookPath;
+    if (path.starts_with(ProgramFolderPrefix)) {
+        path =
+            JoinPath(seams.paths, seams.processes.ProgramFolder(), path.substr(ProgramFolderPrefix.size()));
+    }
+    if (!book.WorkDir.empty() && path.find(seams.paths.separator) == std::string::npos) {
+        path = JoinPath(seams.paths, book.WorkDir, path);
+    }
+    return path;
+}
+
+bool ReportOpenError(const Seams& seams, const std::string& path, const FileError& failed)
+{
+    seams.messages.MsgBox("Error opening <<" + FromPath(path) + ">> with code " +
+                              std::to_string(failed.number) + ": " + failed.description,
+                          Icon::Critical);
+    return false;
+}
+
+// Reads and parses the first line; the cursor ends behind it. An empty file has an empty first line.
+FileError ReadHeader(Book& book, const Seams& seams, LineCursor& cursor)
+{
+    std::string line;
+    if (!cursor.AtEnd()) {
+        if (FileError failed = cursor.ReadLine(line); !failed.Ok()) {
+            return failed;
+        }
+    }
+    if (!ParseBookHeader(line, book)) {
+        seams.messages.MsgBox("Invalid Lodestar Book header: <<" + FromBook(line) +
+                                  ">>.  Some information may not be loaded.",
+                              Icon::Warning);
+    }
+    return {};
+}
+
+bool AcceptsPlainText(Book& book, const Seams& seams)
+{
+    if (seams.messages.MsgBox(
+            "The file you opened is not a Lodestar Book or Advice file. Do you want to view it "
+            "as a single topic text file?",
+            Icon::Question, Buttons::OkCancel) != Reply::Ok) {
+        return false;
+    }
+    book.BookVersion = 0;
+    return true;
+}
+
+} // namespace
+
+void CloseBook(Book& book)
+{
+    book.File.reset();
+    book.OpenPath.clear();
+}
+
+bool OpenBook(Book& book, const Seams& seams)
+{
+    const std::string path = PathToOpen(book, seams);
+    const std::string realPath = FindSpelling(seams.files, seams.paths, path);
+    const Sharing sharing = book.LockBook ? Sharing::Locked : Sharing::Shared;
+    FileError failed = seams.files.OpenForReading(realPath, sharing, book.File);
+    if (!failed.Ok()) {
+        return ReportOpenError(seams, path, failed);
+    }
+    book.OpenPath = realPath;
+    LineCursor cursor(*book.File);
+    failed = ReadHeader(book, seams, cursor);
+    if (!failed.Ok()) {
+        CloseBook(book);
+        return ReportOpenError(seams, path, failed);
+    }
+    if (!IsBook(book) && !AcceptsPlainText(book, seams)) {
+        CloseBook(book);
+        return false;
+    }
+    FilePos size = 0;
+    if (book.BookStartPos == 0 || (book.File->Size(size).Ok() && book.BookStartPos > size)) {
+        book.BookStartPos = cursor.Position();
+    }
+    book.TopicCount = 0;
+    book.XrefCount = 0;
+    return true;
+}
+
+} // namespace ls

@@ -1,0 +1,200 @@
+#include "base/LineCursor.h"
+#include "base/Messages.h"
+#include "base/ProgramEnd.h"
+#include "base/Text.h"
+#include "book/BookLoader.h"
+#include "book/XrefText.h"
+
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr std::string_view IndexLine = "<INDEX>";
+constexpr std::string_view EndLine = "[EOF]";
+constexpr std::string_view IndexEnd = "<END-INDEX>";
+constexpr FilePos ProgressStep = 8 * 1024 * 1024;
+
+enum class LineOutcome
+{
+    GoOn,
+    Stop,
+    Overflow
+};
+
+// One scan of the open file: a cursor, the line at hand, and what it has come to.
+class Scanner
+{
+public:
+    Scanner(Book& book, Progress* progress)
+        : m_book(book), m_cursor(*book.File), m_progress(progress),
+          m_nextReport(book.BookStartPos + ProgressStep)
+    {
+        m_cursor.Seek(book.BookStartPos);
+    }
+
+    // Error number 6 stands for a count that passed its limit.
+    FileError Run()
+    {
+        for (;;) {
+            // Only lines that begin with "[" or "<" can matter: all others are passed over uncopied.
+            FileError failed = m_cursor.SkipToLineBeginning('[', '<');
+            if (!failed.Ok() || m_cursor.AtEnd()) {
+                return failed;
+            }
+            m_linePos = m_cursor.Position();
+            ReportProgress();
+            failed = m_cursor.ReadLine(m_line);
+            if (!failed.Ok()) {
+                return failed;
+            }
+            LineOutcome outcome = LineOutcome::GoOn;
+            failed = TakeLine(outcome);
+            if (!failed.Ok() || outcome == LineOutcome::Stop) {
+                return failed;
+            }
+            if (outcome == LineOutcome::Overflow) {
+                return MakeFileError(error::Overflow);
+            }
+        }
+    }
+
+    [[nodiscard]] FilePos EndPos() const { return m_endPos != 0 ? m_endPos : m_cursor.Position(); }
+
+private:
+    FileError TakeLine(LineOutcome& outcome)
+    {
+        if (m_line == IndexLine) {
+            outcome = LineOutcome::Stop;
+            m_endPos = m_linePos;
+            return ReadIndex();
+        }
+        if (m_line.starts_with(XrefOpening)) {
+            return TakeXref(outcome);
+        }
+        if (m_line == EndLine) {
+            outcome = LineOutcome::Stop;
+            m_endPos = m_linePos;
+        } else if (m_line.size() > 2 && m_line.front() == '[') {
+            outcome = TakeTopic();
+        }
+        return {};
+    }
+
+    LineOutcome TakeTopic()
+    {
+        if (!m_book.CurrentTopicNo.Add()) {
+            return LineOutcome::Overflow;
+        }
+        const auto number = static_cast<std::size_t>(m_book.CurrentTopicNo);
+        GrowTopicTables(m_book, number);
+        m_book.TopicNames(number) = Trim(m_line);
+        m_book.TopicPos(number) = m_linePos;
+        return LineOutcome::GoOn;
+    }
+
+    FileError TakeXref(LineOutcome& outcome)
+    {
+        XrefRec xref;
+        xref.ToTopic = XrefTarget(m_line);
+        if (m_book.CurrentTopicNo > 0) {
+            const std::string& name = m_book.TopicNames(static_cast<std::size_t>(m_book.CurrentTopicNo));
+            xref.FromTopic = name.substr(1, name.size() - 2);
+        }
+        if (FileError failed = ReadXrefText(m_cursor, m_line, xref.Text); !failed.Ok()) {
+            return failed;
+        }
+        if (xref.FromTopic.empty() || xref.ToTopic.empty()) {
+            return {};
+        }
+        if (!m_book.XrefCount.Add()) {
+            outcome = LineOutcome::Overflow;
+            return {};
+        }
+        m_book.Xrefs.Grow(static_cast<std::size_t>(m_book.XrefCount), TopicGrowthStep);
+        m_book.Xrefs(static_cast<std::size_t>(m_book.XrefCount)) = std::move(xref);
+        return {};
+    }
+
+    // Reads the records of a legacy index and stores none of them: such a book lists no topics, which is
+    // kept. A missing end record ends the index with the file.
+    FileError ReadIndex()
+    {
+        m_book.CurrentTopicNo = 0;
+        while (!m_cursor.AtEnd()) {
+            if (FileError failed = m_cursor.ReadLine(m_line); !failed.Ok()) {
+                return failed;
+            }
+            const std::size_t comma = m_line.find(',');
+            if (comma != std::string::npos && RecordName(comma + 1) == IndexEnd) {
+                break;
+            }
+        }
+        return {};
+    }
+
+    [[nodiscard]] std::string RecordName(std::size_t from) const
+    {
+        std::string_view name = Trim(std::string_view(m_line).substr(from));
+        if (!name.empty() && name.front() == '"') {
+            name.remove_prefix(1);
+            name = name.substr(0, name.find('"'));
+        }
+        return std::string(name);
+    }
+
+    void ReportProgress()
+    {
+        if (m_progress == nullptr || m_linePos < m_nextReport) {
+            return;
+        }
+        m_nextReport = m_linePos + ProgressStep;
+        FilePos size = 0;
+        if (m_book.File->Size(size).Ok()) {
+            m_progress->Step(m_linePos,
+                             size); // a scan cannot be cancelled: half a table would be saved short
+        }
+    }
+
+    Book& m_book;
+    LineCursor m_cursor;
+    Progress* m_progress;
+    FilePos m_nextReport;
+    std::string m_line;
+    FilePos m_linePos = 0;
+    FilePos m_endPos = 0;
+};
+
+// A table that stops at its limit would be saved short: nothing of the book is kept.
+bool DropOverfullBook(Book& book, const Seams& seams)
+{
+    CloseBook(book);
+    ResetBook(book);
+    book.BookPath.clear();
+    ShowOverflow(seams.messages);
+    return false;
+}
+
+} // namespace
+
+bool ScanBook(Book& book, const Seams& seams, Progress* progress)
+{
+    Scanner scanner(book, progress);
+    const FileError failed = scanner.Run();
+    if (failed.number == error::Overflow) {
+        return DropOverfullBook(book, seams);
+    }
+    if (!failed.Ok()) {
+        seams.messages.MsgBox("Error reading book file with code " + std::to_string(failed.number) + ": " +
+                                  failed.description,
+                              Icon::Critical);
+        EndProgram(seams.end, "error reading the book file");
+        return false;
+    }
+    book.ScanEndPos = scanner.EndPos();
+    book.TopicCount = book.CurrentTopicNo;
+    return true;
+}
+
+} // namespace ls

@@ -1,0 +1,84 @@
+#include "book/XrefText.h"
+
+#include "base/LineCursor.h"
+#include "base/Text.h"
+
+namespace ls {
+
+namespace {
+
+constexpr std::size_t Limit = 32000;
+constexpr std::string_view EndTag = "</XREF>";
+constexpr std::string_view OtherEnd = "<\\";
+
+// Collects the pieces of a note. `Add` returns false when the note is cut.
+class NoteText
+{
+public:
+    explicit NoteText(std::string& text) : m_text(&text) {}
+
+    bool Add(std::string_view piece)
+    {
+        piece = Trim(piece);
+        if (m_text->empty() && piece.empty()) {
+            return true;
+        }
+        // The limit counts the length that the text would have, its joining line end included.
+        const std::size_t joint = m_text->empty() ? 0 : 2;
+        if (m_text->size() + joint + piece.size() > Limit) {
+            m_text->append("???");
+            return false;
+        }
+        m_text->append(joint, ' ').replace(m_text->size() - joint, joint, "\r\n", joint);
+        m_text->append(piece);
+        return true;
+    }
+
+    // The last piece, before the end tag: an empty one adds nothing.
+    void AddLast(std::string_view piece)
+    {
+        if (!Trim(piece).empty()) {
+            Add(piece);
+        }
+    }
+
+private:
+    std::string* m_text;
+};
+
+} // namespace
+
+std::string XrefTarget(std::string_view openingLine)
+{
+    const std::size_t end = openingLine.find('>');
+    if (end == std::string_view::npos || end < XrefOpening.size()) {
+        return {};
+    }
+    std::string_view target = openingLine.substr(XrefOpening.size(), end - XrefOpening.size());
+    if (target.size() > 2 && target.front() == '"') {
+        target = target.substr(1, target.size() - 2);
+    }
+    return std::string(target);
+}
+
+FileError ReadXrefText(LineCursor& cursor, std::string_view openingLine, std::string& text)
+{
+    text.clear();
+    NoteText note(text);
+    const std::size_t opened = openingLine.find('>');
+    std::string piece(opened == std::string_view::npos ? std::string_view() : openingLine.substr(opened + 1));
+    for (;;) {
+        if (const std::size_t end = piece.find(EndTag); end != std::string::npos) {
+            note.AddLast(std::string_view(piece).substr(0, end));
+            return {};
+        }
+        if (piece.find(OtherEnd) != std::string::npos || !note.Add(piece) || cursor.AtEnd()) {
+            return {};
+        }
+        if (FileError failed = cursor.ReadLine(piece); !failed.Ok()) {
+            return failed;
+        }
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace ls {
+
+/// What is left of a source line while it is being wrapped: a position in the text, never a copy of it, so
+/// that a line of any length wraps in linear time. The text must outlive it.
+class LineRemainder
+{
+public:
+    explicit LineRemainder(std::string_view text) : m_text(text) {}
+
+    /// Length in characters, the spaces of an opened leading TAB included.
+    [[nodiscard]] std::size_t Size() const { return m_spaces + (m_text.size() - m_at); }
+    [[nodiscard]] bool Empty() const { return Size() == 0; }
+
+    /// True when nothing but blanks is left. Cheap when the text does not end in a blank.
+    [[nodiscard]] bool Blank() const;
+
+private:
+    friend void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment);
+
+    std::string_view m_text;
+    std::size_t m_at = 0;     ///< the next character of m_text
+    std::size_t m_spaces = 0; ///< spaces of a TAB that stand before it
+};
+
+/// Cuts one display line off the front of `line` and puts it, with `indent` spaces in front, into `segment`.
+///
+/// `width` is counted in visible characters: a tag counts nothing, an entity one. The line breaks at the last
+/// blank that fits, else hard after `width` raw characters. `indent` must be below `width`; a caller that
+/// breaks this gets the whole rest unwrapped (and an assertion in debug builds).
+void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment);
+
+} // namespace ls
