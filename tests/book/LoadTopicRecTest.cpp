@@ -1,0 +1,135 @@
+#include "book/BookFixture.h"
+
+namespace ls {
+namespace {
+
+struct LoadTopicRecTest : BookFixture
+{
+    // "name number" after loading a topic.
+    std::string Load(std::string name, int number = 0)
+    {
+        Count16 no = number;
+        LoadTopicRec(book, world.Get(), name, no);
+        return name + " " + std::to_string(no);
+    }
+};
+
+struct TextCase
+{
+    const char* name;
+    const char* body; ///< of the topic "A", behind its header line
+    const char* text;
+    const char* logic;
+};
+
+void PrintTo(const TextCase& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+struct TextTable : LoadTopicRecTest, testing::WithParamInterface<TextCase>
+{
+};
+
+TEST_P(TextTable, load_body_givesTextAndLogic)
+{
+    ASSERT_TRUE(Scan(std::string("LODESTAR BOOK V5.3\r\n[A]\r\n") + GetParam().body));
+    EXPECT_EQ(Load("A"), "[A] 1");
+    EXPECT_EQ(book.TopicRecs(1).Text, GetParam().text);
+    EXPECT_EQ(book.TopicRecs(1).Logic, GetParam().logic);
+    EXPECT_TRUE(world.messages.boxes.empty());
+}
+
+const TextCase TextCases[] = {
+    {"twoLines", "one\r\ntwo\r\n[B]\r\n", "one\r\ntwo\r\n", ""},
+    {"trailingBlanks_areCut", "one  \r\n  \r\n", "one\r\n\r\n", ""},
+    {"leadingBlanksAndTabs_stay", " \tone\t\r\n", " \tone\t\r\n", ""},
+    {"empty", "", "", ""},
+    {"noFinalLineEnd", "one", "one\r\n", ""},
+    {"crLineEnds_becomeCrLf", "one\rtwo\r", "one\r\ntwo\r\n", ""},
+    {"xrefsStay", "one\r\n<XREF TOPIC=B>n\r\nm</XREF>\r\n", "one\r\n<XREF TOPIC=B>n\r\nm</XREF>\r\n", ""},
+    {"logic", "one\r\n<IXML>\r\n<LOGIC>\r\nA(1)=B(2)  \r\n</IXML>\r\n[B]\r\n", "one\r\n",
+     "<IXML>\r\n<LOGIC>\r\nA(1)=B(2)\r\n</IXML>\r\n"},
+    {"logicInOtherCase", "one\r\n <ixml> \r\n <Logic> \r\nx\r\n", "one\r\n", "<IXML>\r\n<LOGIC>\r\nx\r\n"},
+    {"noLogicTag_noLogic", "one\r\n<IXML>\r\nx\r\n<LOGIC>\r\ny\r\n", "one\r\n", ""},
+    {"blankLineBeforeLogicTag_noLogic", "one\r\n<IXML>\r\n\r\n<LOGIC>\r\ny\r\n", "one\r\n", ""},
+    {"ixmlAtTheEnd", "one\r\n<IXML>\r\n", "one\r\n", ""},
+    {"ixmlWithText_isText", "<IXML> x\r\n", "<IXML> x\r\n", ""},
+    {"eof_ends", "one\r\n[EOF]\r\ntwo\r\n", "one\r\n", ""},
+    {"bracketLineThatIsNoHeader_isKept", "one\r\n[]\r\ntwo\r\n[B]\r\n", "one\r\n[]\r\ntwo\r\n", ""},
+    {"headerInsideANote_isKept", "<XREF TOPIC=B>n\r\n[C]\r\n</XREF>\r\nx\r\n[B]\r\n",
+     "<XREF TOPIC=B>n\r\n[C]\r\n</XREF>\r\nx\r\n", ""},
+};
+
+std::string TextCaseName(const testing::TestParamInfo<TextCase>& info)
+{
+    return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Topics, TextTable, testing::ValuesIn(TextCases), TextCaseName);
+
+TEST_F(LoadTopicRecTest, load_nameWithOneBracket_getsTheOther)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    EXPECT_EQ(Load("[A"), "[A] 1");
+    EXPECT_EQ(Load("A]"), "[A] 1");
+}
+
+TEST_F(LoadTopicRecTest, load_unknownName_clearsNameAndNumber)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    EXPECT_EQ(Load("Z"), " 0");
+    EXPECT_EQ(world.messages.Take(), (Strings{"warning|Lodestar Advisor|Topic [Z] was not found."}));
+}
+
+TEST_F(LoadTopicRecTest, load_editedTopic_isReplacedByTheFilesText)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    book.TopicRecs(1).Text = "edited";
+    book.TopicRecs(1).Logic = "logic";
+    EXPECT_EQ(Load("A", 1), "[A] 1");
+    EXPECT_EQ(book.TopicRecs(1).Text, "x\r\n");
+    EXPECT_EQ(book.TopicRecs(1).Logic, "");
+}
+
+TEST_F(LoadTopicRecTest, load_readErrorInTheText_keepsTheTopicUnedited)
+{
+    const std::string text(40000, 'x');
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\n" + text + "\r\n[B]\r\n"));
+    int reads = 0;
+    world.files.fail = [&reads](const std::string& operation) {
+        return operation.starts_with("read") && ++reads > 1 ? error::DeviceIo : 0;
+    };
+    EXPECT_EQ(Load("A"), " 0");
+    EXPECT_EQ(
+        world.messages.Take(),
+        (Strings{"warning|Lodestar Advisor|Failed to fetch topic [A] due to error #57: Device I/O error"}));
+    EXPECT_EQ(book.TopicRecs(1).Text, "");
+}
+
+TEST_F(LoadTopicRecTest, load_fileCutInsideTheTopic_keepsItUnedited)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\none\r\ntwo\r\n[B]\r\n"));
+    world.files["/work/Book.IDA"].resize(30);
+    EXPECT_EQ(Load("A"), " 0");
+    EXPECT_EQ(
+        world.messages.Take(),
+        (Strings{
+            "warning|Lodestar Advisor|Failed to fetch topic [A] due to error #62: Input past end of file"}));
+    EXPECT_EQ(book.TopicRecs(1).Text, "");
+}
+
+TEST_F(LoadTopicRecTest, load_plainTextFile_readsTheWholeFile)
+{
+    world.messages.replies = {Reply::Ok};
+    ASSERT_TRUE(Open("Plain\r\n[A]  \r\n<IXML>\r\nx"));
+    world.messages.Take();
+    std::string name;
+    Count16 number;
+    std::string text;
+    LoadTopicRec(book, world.Get(), name, number, &text);
+    EXPECT_EQ(text, "Plain\r\n[A]\r\n<IXML>\r\nx\r\n");
+}
+
+} // namespace
+} // namespace ls
