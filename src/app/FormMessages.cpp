@@ -1,0 +1,110 @@
+#include "app/FormMessages.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <vector>
+
+namespace ls {
+
+namespace {
+
+QMessageBox::Icon PictureOf(Icon icon)
+{
+    switch (icon) {
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::Exclamation:
+    case Icon::Warning:
+        return QMessageBox::Warning;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton ButtonOf(Reply reply)
+{
+    switch (reply) {
+    case Reply::Cancel:
+        return QMessageBox::Cancel;
+    case Reply::Yes:
+        return QMessageBox::Yes;
+    case Reply::No:
+        return QMessageBox::No;
+    case Reply::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+std::vector<Reply> RepliesOf(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return {Reply::Ok, Reply::Cancel};
+    case Buttons::YesNo:
+        return {Reply::Yes, Reply::No};
+    case Buttons::YesNoCancel:
+        return {Reply::Yes, Reply::No, Reply::Cancel};
+    case Buttons::Ok:
+        break;
+    }
+    return {Reply::Ok};
+}
+
+// OK with Cancel is asked before something is given up ("Exit without saving changes?"): a careless Enter
+// keeps it. Yes with No offers help, and Yes is what most people want.
+Reply EnterReply(Buttons buttons)
+{
+    return buttons == Buttons::OkCancel ? Reply::Cancel : RepliesOf(buttons).front();
+}
+
+} // namespace
+
+QWidget* FormMessages::Window() const
+{
+    QWidget* form = QApplication::activeModalWidget();
+    return form != nullptr ? form : m_window.data();
+}
+
+Reply FormMessages::ShowBox(const std::string& text, Icon icon, Buttons buttons, const std::string& title)
+{
+    QMessageBox box(Window());
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(QString::fromStdString(title));
+    box.setText(QString::fromStdString(text));
+    box.setIcon(PictureOf(icon));
+    const std::vector<Reply> replies = RepliesOf(buttons);
+    for (const Reply reply : replies) {
+        box.addButton(ButtonOf(reply));
+    }
+    box.setDefaultButton(ButtonOf(EnterReply(buttons)));
+    box.setEscapeButton(ButtonOf(SafeReply(buttons)));
+    const int pressed = box.exec();
+    const auto given = std::find_if(replies.begin(), replies.end(),
+                                    [pressed](Reply reply) { return ButtonOf(reply) == pressed; });
+    return given != replies.end() ? *given : SafeReply(buttons);
+}
+
+std::optional<std::string> FormMessages::ShowInputBox(const std::string& prompt, const std::string& title,
+                                                      const std::string& initial)
+{
+    QInputDialog box(Window());
+    box.setWindowTitle(QString::fromStdString(title));
+    box.setLabelText(QString::fromStdString(prompt));
+    box.setTextValue(QString::fromStdString(initial));
+    if (box.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return box.textValue().toStdString();
+}
+
+} // namespace ls

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QFont>
+
+#include <array>
+#include <bitset>
+
+namespace ls {
+
+/// The four faces that the reading pane prints in, as indices.
+inline constexpr std::size_t RegularFace = 0;
+inline constexpr std::size_t BoldFace = 1;
+inline constexpr std::size_t ItalicFace = 2; ///< bold italic is both added
+inline constexpr std::size_t FaceCount = 4;
+
+/// The character cell of the reading pane, and the fonts that are painted into it. Lengths are
+/// device-independent pixels.
+///
+/// Columns are counted when a line is wrapped, never measured: a character stands at its column times
+/// `charWidth`, whatever its own glyph says.
+struct CellMetrics
+{
+    std::array<QFont, FaceCount> fonts;
+    double charWidth = 0;     ///< of a regular "W"
+    double rowHeight = 0;     ///< from one row's top to the next; a whole number, so that rows stand evenly
+    double baseline = 0;      ///< below the row's top
+    double underlineTop = 0;  ///< below the row's top
+    double underlineSize = 1; ///< its thickness
+
+    /// For each face the book bytes whose glyph is exactly one cell wide. Rows of these are drawn in one
+    /// go; the others are drawn one by one.
+    std::array<std::bitset<256>, FaceCount> exact;
+};
+
+/// The pane's font, 9.75 points, on a screen of so many dots to the inch (96 where nothing was scaled).
+[[nodiscard]] CellMetrics MeasureCells(int dotsPerInch);
+
+} // namespace ls
