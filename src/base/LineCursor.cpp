@@ -87,6 +87,21 @@ FileError LineCursor::ReadLine(std::string& line)
     }
 }
 
+FileError LineCursor::ReadLine(std::string_view& line)
+{
+    const std::string_view block(m_block.data() + m_next, m_size - m_next);
+    const std::size_t length = block.find('\r');
+    // A CR at the block's end is not passed here: that fills the block anew, and the line would be gone.
+    if (length != std::string_view::npos && length + 1 < block.size()) {
+        line = block.substr(0, length);
+        m_next += length;
+        return PassLineEnd();
+    }
+    FileError failed = ReadLine(m_line);
+    line = m_line;
+    return failed;
+}
+
 FileError LineCursor::SkipLine()
 {
     for (;;) {

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ls {
@@ -33,6 +34,9 @@ public:
     /// Reads one line without its line end. Error 62 at the end of the file.
     FileError ReadLine(std::string& line);
 
+    /// The same without a copy: the line is valid until the cursor's next call.
+    FileError ReadLine(std::string_view& line);
+
     /// Passes over whole lines until the next one begins with `first` or `second`, or the file ends. The
     /// position must be at the start of a line. Nothing is copied, so a line of any length costs no memory.
     FileError SkipToLineBeginning(char first, char second);
@@ -49,6 +53,7 @@ private:
     std::size_t m_next = 0; ///< the next of them
     FilePos m_blockPos = 1; ///< position of m_block's first byte
     FileError m_error;      ///< of the last Fill that failed
+    std::string m_line;     ///< a line that does not lie in one block, put together
 };
 
 } // namespace ls

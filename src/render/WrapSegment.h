@@ -6,24 +6,33 @@
 
 namespace ls {
 
+/// The width below which a hanging indent could reach the width itself: the largest indent is 10.
+inline constexpr int LeastLineWidth = 11;
+
 /// What is left of a source line while it is being wrapped: a position in the text, never a copy of it, so
 /// that a line of any length wraps in linear time. The text must outlive it.
 class LineRemainder
 {
 public:
-    explicit LineRemainder(std::string_view text) : m_text(text) {}
+    explicit LineRemainder(std::string_view text);
 
     /// Length in characters, the spaces of an opened leading TAB included.
     [[nodiscard]] std::size_t Size() const { return m_spaces + (m_text.size() - m_at); }
     [[nodiscard]] bool Empty() const { return Size() == 0; }
 
-    /// True when nothing but blanks is left. Cheap when the text does not end in a blank.
-    [[nodiscard]] bool Blank() const;
+    /// True when nothing but blanks is left.
+    [[nodiscard]] bool Blank() const { return m_at >= m_contentEnd; }
 
 private:
     friend void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment);
 
+    void OpenLeadingTab();
+    void AppendFront(std::size_t count, std::string& segment) const;
+    void Pass(std::size_t count);
+    void TakeAll(std::string& segment);
+
     std::string_view m_text;
+    std::size_t m_contentEnd; ///< behind the last character of m_text that is no blank
     std::size_t m_at = 0;     ///< the next character of m_text
     std::size_t m_spaces = 0; ///< spaces of a TAB that stand before it
 };

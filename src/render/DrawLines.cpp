@@ -1,0 +1,123 @@
+#include "render/DrawLines.h"
+
+#include "render/DisplayLines.h"
+#include "render/Markup.h"
+#include "render/Rounding.h"
+#include "render/TextSurface.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ls {
+
+namespace {
+
+constexpr float MarkupVersion = 5.0F;
+
+void SetPlain(TextSurface& surface)
+{
+    surface.SetBold(false);
+    surface.SetItalic(false);
+    surface.SetUnderline(false);
+    surface.SetColour(Black);
+}
+
+// Prints one display line. A line that ends in a tag with nothing before it in its last print, such as one of
+// tags only, leaves the row open: the next line goes on in it, which is kept.
+void DrawMarkup(TextSurface& surface, std::string_view line, std::string& buffer)
+{
+    MarkupReader reader(line);
+    for (;;) {
+        const MarkupPiece piece = reader.Next();
+        switch (piece.kind) {
+        case MarkupPiece::Kind::Text:
+            surface.Print(piece.before, true);
+            return;
+        case MarkupPiece::Kind::Entity:
+            buffer.assign(piece.before).push_back(EntityCharacter(piece.name));
+            surface.Print(buffer, reader.AtEnd());
+            break;
+        case MarkupPiece::Kind::Tag:
+            if (!piece.before.empty()) {
+                surface.Print(piece.before, reader.AtEnd());
+            }
+            ApplyTag(surface, piece.name);
+            break;
+        }
+        if (reader.AtEnd()) {
+            return;
+        }
+    }
+}
+
+void AppendPlain(std::string& text, std::string_view line)
+{
+    MarkupReader reader(line);
+    while (!reader.AtEnd()) {
+        const MarkupPiece piece = reader.Next();
+        text.append(piece.before);
+        if (piece.kind == MarkupPiece::Kind::Entity) {
+            text.push_back(EntityCharacter(piece.name));
+        }
+    }
+}
+
+} // namespace
+
+void DrawLines(TextSurface& surface, const DisplayLines& lines, int firstLine, float bookVersion)
+{
+    DrawRows(surface, lines, firstLine, VisibleRows(surface.InnerHeight(), surface.TextHeight("W")),
+             bookVersion);
+}
+
+void DrawRows(TextSurface& surface, const DisplayLines& lines, int firstLine, int rows, float bookVersion)
+{
+    surface.Clear();
+    SetPlain(surface);
+    const int first = std::max(firstLine, 1);
+    const int last = std::min(first - 1 + std::min(rows, Count16::Max), static_cast<int>(lines.Count));
+    std::string buffer;
+    for (int number = first; number <= last; ++number) {
+        surface.BeginLine(number);
+        if (bookVersion < MarkupVersion) {
+            surface.Print(lines(number), true);
+        } else {
+            DrawMarkup(surface, lines(number), buffer);
+        }
+    }
+}
+
+std::string PlainText(const DisplayLines& lines, float bookVersion)
+{
+    std::string text;
+    for (int number = 1; number <= lines.Count; ++number) {
+        if (number > 1) {
+            text += '\n';
+        }
+        if (bookVersion < MarkupVersion) {
+            text += lines(number);
+        } else {
+            AppendPlain(text, lines(number));
+        }
+    }
+    return text;
+}
+
+int VisibleRows(double innerHeight, double rowHeight)
+{
+    return rowHeight > 0 ? RoundHalfEven(innerHeight / rowHeight) : 0;
+}
+
+ScrollSetup PlanScrolling(double innerHeight, double rowHeight, int lineCount)
+{
+    const int pageLines = rowHeight > 0 ? static_cast<int>(std::floor(innerHeight / rowHeight)) : 0;
+    const int step = pageLines >= lineCount ? RoundHalfEven(lineCount / 2.0 + 1) : pageLines - 1;
+    return {lineCount, std::max(step, 1)};
+}
+
+int CharsAcross(double innerWidth, double charWidth)
+{
+    return charWidth > 0 ? static_cast<int>(std::floor(innerWidth / charWidth)) : 0;
+}
+
+} // namespace ls
