@@ -1,5 +1,6 @@
 #pragma once
 
+#include "advisor/AdvisorTables.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "reader/Settings.h"
@@ -13,6 +14,7 @@ struct Global
     ProgramEnd end;
     Book book;
     Settings settings;
+    AdvisorTables advisor;
 };
 
 } // namespace ls

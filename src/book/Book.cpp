@@ -34,6 +34,7 @@ void ResetBook(Book& book)
     static_cast<BookHeader&>(book) = BookHeader{};
     book.BookVersion = NewBookVersion;
     book.TopicCount = 0;
+    ++book.TopicOrder;
     book.XrefCount = 0;
     book.BackCount = 0;
     book.LogicPos = 0;

@@ -6,6 +6,7 @@
 #include "base/FileSystem.h"
 #include "book/BookHeader.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -44,6 +45,9 @@ struct Book : BookHeader
     Array1<FilePos> TopicPos;       ///< where each header line begins
     Array1<TopicRec> TopicRecs;
     Count16 TopicCount;
+    /// Changes whenever topic numbers begin to mean other topics: by `ResetBook` and by a move. Whoever keeps
+    /// topic numbers beyond that (the advisor's answers) compares it.
+    std::uint32_t TopicOrder = 0;
 
     Array1<XrefRec> Xrefs;
     Count16 XrefCount;

@@ -1,0 +1,191 @@
+#include "advisor/Definitions.h"
+
+#include "advisor/AdvisorTables.h"
+#include "advisor/Inference.h"
+#include "advisor/LogicLoader.h"
+#include "base/CodePage.h"
+#include "base/Messages.h"
+#include "base/ProgramEnd.h"
+#include "base/Text.h"
+#include "book/Book.h"
+
+#include <algorithm>
+
+namespace ls {
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::size_t None = std::string::npos;
+
+// The text of one entry as it grows line by line.
+class EntryText
+{
+public:
+    explicit EntryText(const std::string& openTag)
+        : m_closing("</" + openTag.substr(1, openTag.find(' ') - 1) + ">")
+    {
+    }
+
+    // Takes the next piece; true when the entry is complete.
+    bool Take(std::string_view piece)
+    {
+        const std::size_t closing = piece.find(m_closing); // as written: "</q>" does not close an entry
+        const bool last = closing != None;
+        piece = piece.substr(0, closing);
+        if (m_text.size() + piece.size() > MaxEntryText) {
+            m_text += "???";
+            return true;
+        }
+        // An empty line inside the entry is kept as a bare line end; one before its text or at its end is
+        // not.
+        piece = Trim(piece);
+        if (!m_text.empty() && !(last && piece.empty())) {
+            m_text += LineEnd;
+        }
+        m_text += piece;
+        return last;
+    }
+
+    [[nodiscard]] const std::string& Text() const { return m_text; }
+
+private:
+    std::string m_closing;
+    std::string m_text;
+};
+
+} // namespace
+
+void Definitions::ReadFailed(const FileError& failed, std::string_view action)
+{
+    m_context.seams.messages.MsgBox(std::string(AppTitle) + ": " + std::to_string(failed.number) + "Error " +
+                                        std::string(action) + " idea file <<" +
+                                        FromPath(m_context.book.BookPath) + ">> due to error",
+                                    Icon::Critical);
+}
+
+// A topic that was added and never saved has no place in the file.
+FileError Definitions::SeekTopic(Count16 topic)
+{
+    const auto number = static_cast<std::size_t>(static_cast<int>(topic));
+    const bool inTable = topic > 0 && number <= m_context.book.TopicPos.UpperBound();
+    const FilePos pos = inTable ? m_context.book.TopicPos(number) : 0;
+    if (pos == 0) {
+        return MakeFileError(error::InvalidCall);
+    }
+    m_context.cursor.Seek(pos);
+    return {};
+}
+
+void Definitions::LoadTopicIfNeeded(Count16 topic, std::string& advice)
+{
+    const AdvisorTables& tables = m_context.tables;
+    const Counted loaded(tables.LogicTopics, tables.LogicTopicCount);
+    if (std::find(loaded.begin(), loaded.end(), topic) != loaded.end()) {
+        return;
+    }
+    const FileError failed = SeekTopic(topic);
+    if (!failed.Ok()) {
+        m_context.seams.messages.MsgBox(
+            "Error accessing idea file due to error: " + std::to_string(failed.number), Icon::Critical);
+        return;
+    }
+    LoadLogic(m_context, m_inference, topic, true, advice);
+}
+
+// The scan also stops at the end of the definitions or of the block, in a topic that has none.
+FileError Definitions::SkipToDefinitions()
+{
+    bool ownHeader = true;
+    std::string line;
+    while (!m_context.cursor.AtEnd()) {
+        const FileError failed = m_context.cursor.ReadLine(line);
+        if (!failed.Ok()) {
+            return failed;
+        }
+        if (StartsTopic(line) && !ownHeader) {
+            break;
+        }
+        ownHeader = false;
+        line = UpperCase(Trim(line));
+        if (line.find("<DEFINITIONS>") != None || line.find("</DEFINITIONS>") != None || line == "</IXML>") {
+            break;
+        }
+    }
+    return {};
+}
+
+Count16 Definitions::GotoTopicForVar(const std::string& var, std::string& advice)
+{
+    const AdvisorTables& tables = m_context.tables;
+    const Counted registered(tables.VarTopics, tables.VarTopicCount);
+    const auto found = std::find_if(registered.begin(), registered.end(),
+                                    [&var](const VarTopic& entry) { return entry.Name == var; });
+    if (found == registered.end() || found->Topic == 0) {
+        m_context.seams.messages.MsgBox("I can't find the variable definition for <<" + FromBook(var) + ">>.",
+                                        Icon::Exclamation);
+        return 0;
+    }
+    const Count16 topic = found->Topic; // loading below may move the table
+    if (topic == tables.FirstTopic) {
+        m_context.cursor.Seek(tables.DefinitionsPos);
+        return topic;
+    }
+    LoadTopicIfNeeded(topic, advice);
+    FileError failed = SeekTopic(topic);
+    if (failed.Ok()) {
+        failed = SkipToDefinitions();
+    }
+    if (!failed.Ok()) {
+        ReadFailed(failed, "accessing");
+    }
+    return topic;
+}
+
+// Reads one line of an entry; false at the end of the topic or the file, and after a read error's message.
+bool Definitions::ReadPiece(std::string& line)
+{
+    if (m_context.cursor.AtEnd()) {
+        return false;
+    }
+    const FileError failed = m_context.cursor.ReadLine(line);
+    if (!failed.Ok()) {
+        ReadFailed(failed, "reading");
+        return false;
+    }
+    return !StartsTopic(line);
+}
+
+// Passes over lines up to the one that holds the opening tag; `piece` gets what follows the tag.
+bool Definitions::FindTag(const std::string& openTag, std::string& piece)
+{
+    std::string line;
+    while (ReadPiece(line)) {
+        const std::string upper = UpperCase(line);
+        const std::string_view trimmed = Trim(upper);
+        if (trimmed == "</DEFINITIONS>") {
+            return false;
+        }
+        const bool comment = !trimmed.empty() && trimmed.front() == '*';
+        const std::size_t at = comment ? None : upper.find(openTag);
+        if (at != None) {
+            piece = line.substr(at + openTag.size());
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string Definitions::ReadTaggedText(const std::string& openTag)
+{
+    EntryText entry(openTag);
+    std::string piece;
+    if (m_context.seams.end.Ended() || !FindTag(openTag, piece)) {
+        return {};
+    }
+    while (!entry.Take(piece) && ReadPiece(piece)) {
+    }
+    return entry.Text();
+}
+
+} // namespace ls

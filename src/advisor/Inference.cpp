@@ -1,0 +1,252 @@
+#include "advisor/Inference.h"
+
+#include "advisor/RuleText.h"
+#include "advisor/ValueList.h"
+#include "base/CodePage.h"
+#include "base/Messages.h"
+#include "base/ProgramEnd.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr std::string_view AdviceGoal = "AV";
+
+std::size_t Index(int number)
+{
+    return static_cast<std::size_t>(number);
+}
+
+std::string Fact(std::string_view var, std::string_view value)
+{
+    return std::string(var).append("(").append(value).append(")");
+}
+
+} // namespace
+
+// A goal for which a rule has fired, and the value that it got.
+struct Inference::Conclusion
+{
+    int target = 0;
+    std::string var;
+    std::string value;
+};
+
+void Inference::Overflow()
+{
+    m_overflowed = true;
+    ShowOverflow(m_seams.messages);
+}
+
+void Inference::ReduceRules(std::string_view var, std::string_view value)
+{
+    if (value == m_tables.UnsureAnswer) {
+        return;
+    }
+    const std::string fact = Fact(var, value);
+    const std::string_view head = std::string_view(fact).substr(0, var.size() + 1);
+    int kept = 0;
+    for (int i = 1; i <= m_tables.RuleCount; ++i) {
+        std::string& rule = m_tables.LogicRules(Index(i));
+        ReduceRule(rule, head, fact);
+        if (!rule.empty() && ++kept != i) {
+            m_tables.LogicRules(Index(kept)) = std::move(rule);
+            rule.clear();
+        }
+    }
+    m_tables.RuleCount = kept;
+}
+
+void Inference::ReportMalformed(const std::string& rule)
+{
+    m_seams.messages.MsgBox("A LHS variable was found that is not in format Varname(Value): " +
+                                FromBook(rule) + " -- processing stopped",
+                            Icon::Exclamation);
+}
+
+// What goal by goal, each with a look through the rules, would find: the highest goal that a rule fired for,
+// by the first of its rules. A malformed rule stops a look that has not found its rule before it. One pass
+// notes the fired rules in front of the first malformed one; only those can be found by any look.
+std::optional<Inference::Conclusion> Inference::FirstConclusion(int highestTarget)
+{
+    std::unordered_map<std::string_view, std::string_view> fired;
+    const std::string* malformed = nullptr;
+    for (const std::string& rule : Counted(m_tables.LogicRules, m_tables.RuleCount)) {
+        const std::optional<LeftHandSide> left = ParseLeftHandSide(rule);
+        if (!left) {
+            malformed = &rule;
+            break;
+        }
+        if (HasFired(rule)) {
+            fired.emplace(left->var, left->value);
+        }
+    }
+    for (int t = highestTarget; t >= 1; --t) {
+        const auto found = fired.find(m_tables.Targets(Index(t)));
+        if (found != fired.end()) {
+            return Conclusion{t, std::string(found->first), std::string(found->second)};
+        }
+        if (malformed != nullptr) {
+            ReportMalformed(*malformed);
+            return std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
+// Keeps a concluded fact among the answers, once for a variable and topic; false when there is no room.
+bool Inference::NoteConclusion(const std::string& var, const std::string& value, Count16 topic)
+{
+    const Counted answers(std::as_const(m_tables.Answers), m_tables.AnswerCount);
+    const bool known = std::any_of(answers.begin(), answers.end(), [&](const Answer& answer) {
+        return answer.Var == var && answer.Topic == topic;
+    });
+    if (known ||
+        Append(m_tables.Answers, m_tables.AnswerCount, Answer{var, value, topic, true}, AdvisorGrowthStep)) {
+        return true;
+    }
+    Overflow();
+    return false;
+}
+
+std::string Inference::AssertFact(const std::string& var, Count16 topic, const std::string& value)
+{
+    if (m_seams.end.Ended() || m_overflowed) {
+        return {};
+    }
+    ReduceRules(var, value);
+    int t = m_tables.TargetCount;
+    // Ends because each round looks at fewer goals than the last one.
+    while (const std::optional<Conclusion> found = FirstConclusion(t)) {
+        if (!NoteConclusion(found->var, found->value, topic)) {
+            return {};
+        }
+        if (found->target == 1) {
+            // The dialogue's own goal. Sub-goals may still be pending when answers settle it past them: the
+            // advice counts all the same, or the reader would be told that there is nothing to ask.
+            return found->var == AdviceGoal ? found->value : Fact(found->var, found->value);
+        }
+        ReduceRules(found->var, found->value);
+        // The top of the stack goes, also when the goal that fired lies deeper.
+        m_tables.TargetCount = m_tables.TargetCount - 1;
+        t = found->target - 1;
+    }
+    return {};
+}
+
+std::string Inference::RecordAnswer(const std::string& var, const std::string& value, Count16 topic)
+{
+    if (m_seams.end.Ended() || m_overflowed) {
+        return {};
+    }
+    if (m_tables.RuleCount == 0) {
+        EndProgram(m_seams.end, fault::NoRules);
+        return {};
+    }
+    if (value != m_tables.UnsureAnswer) {
+        if (!Append(m_tables.Answers, m_tables.AnswerCount, Answer{var, value, topic, false},
+                    AdvisorGrowthStep)) {
+            Overflow();
+            return {};
+        }
+        return AssertFact(var, topic, value);
+    }
+    const Counted rules(std::as_const(m_tables.LogicRules), m_tables.RuleCount);
+    if (std::none_of(rules.begin(), rules.end(),
+                     [&var](const std::string& rule) { return Concludes(rule, var); })) {
+        EndProgram(m_seams.end, fault::UnsureWithoutRule);
+    } else if (!Append(m_tables.Targets, m_tables.TargetCount, var, TargetGrowthStep)) {
+        Overflow();
+    }
+    return {};
+}
+
+// False when a count passed its limit.
+bool Inference::CountCandidates(std::string_view goal)
+{
+    std::unordered_map<std::string_view, int> places; // names in rule texts, which do not change here
+    const auto take = [this, &places](std::string_view name) {
+        const auto [place, isNew] = places.emplace(name, m_tables.CandidateCount + 1);
+        if (!isNew) {
+            return m_tables.Candidates(Index(place->second)).Level.Add();
+        }
+        return Append(m_tables.Candidates, m_tables.CandidateCount, Candidate{std::string(name), 1},
+                      AdvisorGrowthStep);
+    };
+    for (const std::string& rule : Counted(m_tables.LogicRules, m_tables.RuleCount)) {
+        if (Concludes(rule, goal) && !ForEachConditionVar(rule, take)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void Inference::BuildCandidates()
+{
+    m_tables.CandidateCount = 0;
+    if (m_tables.TargetCount == 0) {
+        return;
+    }
+    if (!CountCandidates(m_tables.Targets(Index(m_tables.TargetCount)))) {
+        m_tables.CandidateCount = 0;
+        Overflow();
+    }
+}
+
+bool Inference::IsTarget(const std::string& name) const
+{
+    const Counted targets(m_tables.Targets, m_tables.TargetCount);
+    return std::find(targets.begin(), targets.end(), name) != targets.end();
+}
+
+std::string Inference::PickNextVariable()
+{
+    if (m_seams.end.Ended() || m_overflowed) {
+        return {};
+    }
+    BuildCandidates();
+    const Candidate* best = nullptr;
+    for (const Candidate& candidate : Counted(m_tables.Candidates, m_tables.CandidateCount)) {
+        if (best != nullptr && candidate.Level <= best->Level) {
+            continue;
+        }
+        if (IsTarget(candidate.Name)) {
+            m_seams.messages.MsgBox("Warning--circular definition", Icon::Critical);
+            EndProgram(m_seams.end, fault::Circular);
+            return {};
+        }
+        best = &candidate;
+    }
+    return best == nullptr ? std::string() : best->Name;
+}
+
+CollectedValues Inference::CollectValues(std::string_view var) const
+{
+    CollectedValues collected;
+    ValueList values;
+    const std::string head = std::string(var) + "(";
+    for (const std::string& rule : Counted(m_tables.LogicRules, m_tables.RuleCount)) {
+        collected.IsDerived = collected.IsDerived || Concludes(rule, var);
+        const std::size_t at = rule.find(head);
+        if (at == std::string::npos) {
+            continue;
+        }
+        const std::size_t from = at + head.size();
+        const std::size_t close = rule.find(')', from);
+        if (close != std::string::npos && values.Add(std::string_view(rule).substr(from, close - from))) {
+            ++collected.Count;
+        }
+    }
+    collected.Values = values.Text();
+    if (!collected.Values.empty() && collected.Values.front() == ',') {
+        collected.Values.erase(0, 1); // an empty value came first
+        --collected.Count;
+    }
+    return collected;
+}
+
+} // namespace ls
