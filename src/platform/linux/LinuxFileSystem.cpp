@@ -1,1 +1,221 @@
-// The files of a Linux system.
+#include "platform/linux/LinuxFileSystem.h"
+
+#include "platform/linux/ErrnoError.h"
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/LinuxBookFile.h"
+#include "platform/linux/LinuxOutputFile.h"
+#include "platform/linux/RenameToNewName.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ls {
+
+namespace {
+
+int OpenFile(const std::string& path, int flags)
+{
+    int descriptor = -1;
+    do {
+        descriptor = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+    } while (descriptor < 0 && errno == EINTR);
+    return descriptor;
+}
+
+// 75 for a folder, 68 for a pipe, a socket or a device.
+FileError ErrorOfKind(mode_t mode)
+{
+    if (S_ISREG(mode)) {
+        return {};
+    }
+    return MakeFileError(S_ISDIR(mode) ? error::PathFileAccess : error::DeviceUnavailable);
+}
+
+// Network file systems grant an exclusive lock only to a descriptor that can write, so Locked asks for one
+// and does with reading where the file may not be written.
+FileDescriptor OpenRegular(const std::string& path, Sharing sharing)
+{
+    // A pipe that took the name since it was looked at must not block the program, so never wait.
+    if (sharing == Sharing::Locked) {
+        FileDescriptor writable(OpenFile(path, O_RDWR | O_NONBLOCK | O_NOCTTY));
+        if (writable.IsOpen()) {
+            return writable;
+        }
+    }
+    return FileDescriptor(OpenFile(path, O_RDONLY | O_NONBLOCK | O_NOCTTY));
+}
+
+FileError TakeLock(int descriptor, Sharing sharing)
+{
+    int result = 0;
+    do {
+        result = ::flock(descriptor, (sharing == Sharing::Locked ? LOCK_EX : LOCK_SH) | LOCK_NB);
+    } while (result != 0 && errno == EINTR);
+    // Every other failure says that this file system has no locks.
+    return result != 0 && errno == EWOULDBLOCK ? MakeFileError(error::PermissionDenied) : FileError{};
+}
+
+// A name is on the disk only when its folder is. Some file systems cannot flush a folder, and the rename has
+// happened in any case, so a failure changes nothing for the caller.
+void FlushFolder(const std::string& folder)
+{
+    const FileDescriptor descriptor(OpenFile(folder, O_RDONLY | O_DIRECTORY));
+    if (descriptor.IsOpen()) {
+        ::fsync(descriptor.Get());
+    }
+}
+
+// ENOENT of a rename: the old name is missing (53, or 76 with its folder), or the new name's folder (76).
+FileError ErrorOfRename(int errnoValue, const std::string& from)
+{
+    struct stat status = {};
+    if (errnoValue == ENOENT && ::lstat(from.c_str(), &status) == 0) {
+        return MakeFileError(error::PathNotFound);
+    }
+    return ErrorOfPath(errnoValue, from);
+}
+
+bool LeadsToFolder(DIR* stream, const dirent& entry)
+{
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) {
+        return entry.d_type == DT_DIR;
+    }
+    struct stat status = {};
+    return ::fstatat(::dirfd(stream), entry.d_name, &status, 0) == 0 && S_ISDIR(status.st_mode);
+}
+
+struct CloseFolder
+{
+    void operator()(DIR* stream) const { ::closedir(stream); }
+};
+
+} // namespace
+
+LinuxFileSystem::LinuxFileSystem()
+{
+    // A file that grows beyond the user's limit must fail with "Disk full", not end the program and its
+    // edits.
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+FileError LinuxFileSystem::OpenForReading(const std::string& path, Sharing sharing,
+                                          std::unique_ptr<BookFile>& file)
+{
+    file.reset();
+    if (const FileError bad = CheckPath(path); !bad.Ok()) {
+        return bad;
+    }
+    // Looked at before it is opened: opening alone can set a device going.
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0) {
+        return ErrorOfPath(errno, path);
+    }
+    if (const FileError kind = ErrorOfKind(status.st_mode); !kind.Ok()) {
+        return kind;
+    }
+    FileDescriptor descriptor = OpenRegular(path, sharing);
+    if (!descriptor.IsOpen() || ::fstat(descriptor.Get(), &status) != 0) {
+        return ErrorOfPath(errno, path);
+    }
+    if (const FileError kind = ErrorOfKind(status.st_mode); !kind.Ok()) {
+        return kind;
+    }
+    if (const FileError refused = TakeLock(descriptor.Get(), sharing); !refused.Ok()) {
+        return refused;
+    }
+    file = std::make_unique<LinuxBookFile>(std::move(descriptor));
+    return {};
+}
+
+FileError LinuxFileSystem::CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file)
+{
+    file.reset();
+    if (const FileError bad = CheckPath(path); !bad.Ok()) {
+        return bad;
+    }
+    FileDescriptor descriptor(OpenFile(path, O_WRONLY | O_CREAT | O_EXCL));
+    if (!descriptor.IsOpen()) {
+        return ErrorOfPath(errno, path);
+    }
+    file = std::make_unique<LinuxOutputFile>(std::move(descriptor));
+    return {};
+}
+
+FileError LinuxFileSystem::RenameToNew(const std::string& from, const std::string& to)
+{
+    for (const std::string& path : {from, to}) {
+        if (const FileError bad = CheckPath(path); !bad.Ok()) {
+            return bad;
+        }
+    }
+    if (const int failure = RenameToNewName(from, to); failure != 0) {
+        return ErrorOfRename(failure, from);
+    }
+    FlushFolder(HoldingFolder(to));
+    return {};
+}
+
+FileError LinuxFileSystem::RenameOver(const std::string& from, const std::string& to)
+{
+    for (const std::string& path : {from, to}) {
+        if (const FileError bad = CheckPath(path); !bad.Ok()) {
+            return bad;
+        }
+    }
+    if (::rename(from.c_str(), to.c_str()) != 0) {
+        return ErrorOfRename(errno, from);
+    }
+    FlushFolder(HoldingFolder(to));
+    return {};
+}
+
+FileError LinuxFileSystem::Remove(const std::string& path)
+{
+    if (const FileError bad = CheckPath(path); !bad.Ok()) {
+        return bad;
+    }
+    return ::unlink(path.c_str()) == 0 ? FileError{} : ErrorOfPath(errno, path);
+}
+
+bool LinuxFileSystem::Exists(const std::string& path)
+{
+    struct stat status = {};
+    return CheckPath(path).Ok() && ::lstat(path.c_str(), &status) == 0;
+}
+
+FileError LinuxFileSystem::List(const std::string& folder, std::vector<FolderEntry>& entries)
+{
+    entries.clear();
+    if (const FileError bad = CheckPath(folder); !bad.Ok()) {
+        return bad;
+    }
+    const std::unique_ptr<DIR, CloseFolder> stream(::opendir(folder.empty() ? "." : folder.c_str()));
+    if (!stream) {
+        return errno == ENOENT ? MakeFileError(error::PathNotFound) : ErrorOfErrno(errno);
+    }
+    errno = 0;
+    while (const dirent* entry = ::readdir(stream.get())) {
+        const std::string name = entry->d_name;
+        if (name != "." && name != "..") {
+            entries.push_back({name, LeadsToFolder(stream.get(), *entry), name.front() == '.'});
+        }
+        errno = 0;
+    }
+    return ErrorOfErrno(errno);
+}
+
+std::string LinuxFileSystem::CurrentFolder()
+{
+    const std::unique_ptr<char, void (*)(void*)> folder(::getcwd(nullptr, 0), std::free);
+    return folder ? folder.get() : std::string();
+}
+
+} // namespace ls

@@ -1,0 +1,17 @@
+#include "platform/linux/FileDescriptor.h"
+
+#include <cerrno>
+
+#include <unistd.h>
+
+namespace ls {
+
+int FileDescriptor::Close()
+{
+    const int number = std::exchange(m_number, -1);
+    // The kernel gives the descriptor back even when it was interrupted: a second close could hit a file that
+    // was opened meanwhile.
+    return number < 0 || ::close(number) == 0 || errno == EINTR ? 0 : errno;
+}
+
+} // namespace ls

@@ -1,0 +1,48 @@
+#include "platform/linux/LinuxOutputFile.h"
+
+#include "platform/linux/ErrnoError.h"
+
+#include <cerrno>
+
+#include <unistd.h>
+
+namespace ls {
+
+FileError LinuxOutputFile::Write(std::string_view bytes)
+{
+    if (!m_descriptor.IsOpen()) {
+        return MakeFileError(error::BadFileNumber);
+    }
+    while (!bytes.empty() && m_failure.Ok()) {
+        const ssize_t count = ::write(m_descriptor.Get(), bytes.data(), bytes.size());
+        if (count > 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        } else if (count == 0) {
+            m_failure = MakeFileError(error::DiskFull); // nothing taken and no error: do not try forever
+        } else if (errno != EINTR) {
+            m_failure = ErrorOfErrno(errno);
+        }
+    }
+    return m_failure;
+}
+
+FileError LinuxOutputFile::Finish()
+{
+    if (!m_descriptor.IsOpen()) {
+        return MakeFileError(error::BadFileNumber);
+    }
+    int flushed = 0;
+    do {
+        flushed = ::fsync(m_descriptor.Get()) == 0 ? 0 : errno;
+    } while (flushed == EINTR);
+    if (flushed == EINVAL || flushed == EROFS) {
+        flushed = 0; // a file system that cannot flush: there is nothing to wait for
+    }
+    const int closed = m_descriptor.Close();
+    if (m_failure.Ok()) {
+        m_failure = ErrorOfErrno(flushed != 0 ? flushed : closed);
+    }
+    return m_failure;
+}
+
+} // namespace ls

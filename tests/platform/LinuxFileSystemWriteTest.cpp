@@ -1,0 +1,254 @@
+#include "platform/linux/LinuxFileSystem.h"
+
+#include "ChildProcess.h"
+#include "platform/linux/LinuxOutputFile.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <csignal>
+#include <filesystem>
+#include <thread>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace ls {
+namespace {
+
+using test::RunInChild;
+
+const FileError NameTaken{58, "File already exists"};
+const FileError FileMissing{53, "File not found"};
+const FileError FolderMissing{76, "Path not found"};
+const FileError DiskFull{61, "Disk full"};
+const FileError NotOpen{52, "Bad file name or number"};
+
+struct LinuxFileSystemWriteTest : testing::Test
+{
+    test::ScratchFolder folder;
+    LinuxFileSystem files;
+    std::unique_ptr<OutputFile> file;
+};
+
+TEST_F(LinuxFileSystemWriteTest, createNew_newName_holdsWhatWasWritten)
+{
+    ASSERT_EQ(files.CreateNew(folder / "a", file), FileError{});
+    EXPECT_EQ(file->Write("one\r\n"), FileError{});
+    EXPECT_EQ(file->Write(""), FileError{});
+    EXPECT_EQ(file->Write(std::string_view("\0two", 4)), FileError{});
+    EXPECT_EQ(file->Finish(), FileError{});
+    EXPECT_EQ(folder.Read("a"), std::string("one\r\n\0two", 9));
+}
+
+TEST_F(LinuxFileSystemWriteTest, createNew_takenName_isRefused)
+{
+    folder.Write("a", "old");
+    std::filesystem::create_symlink("none", folder / "dangling");
+    folder.MakeFolder("books");
+    for (const char* name : {"a", "dangling", "books"}) {
+        EXPECT_EQ(files.CreateNew(folder / name, file), NameTaken) << name;
+        EXPECT_EQ(file, nullptr) << name;
+    }
+    EXPECT_EQ(folder.Read("a"), "old");
+    EXPECT_FALSE(folder.Has("none"));
+}
+
+TEST_F(LinuxFileSystemWriteTest, createNew_missingFolder_is76)
+{
+    EXPECT_EQ(files.CreateNew(folder / "none/a", file), FolderMissing);
+    EXPECT_EQ(files.CreateNew(folder.Write("a", "") + "/b", file), FolderMissing);
+}
+
+TEST_F(LinuxFileSystemWriteTest, createNew_impossibleName_is52)
+{
+    EXPECT_EQ(files.CreateNew(folder / std::string(300, 'x'), file), NotOpen);
+    EXPECT_EQ(files.CreateNew(folder / "a" + std::string("\0b", 2), file), NotOpen);
+    EXPECT_FALSE(folder.Has("a"));
+}
+
+TEST_F(LinuxFileSystemWriteTest, createNew_closedFolder_is70)
+{
+    ASSERT_EQ(::chmod(folder.Path().c_str(), 0555), 0);
+    EXPECT_EQ(RunInChild([this] {
+                  return test::BecomeOrdinaryUser() ? files.CreateNew(folder / "a", file).number : 255;
+              }),
+              70);
+}
+
+TEST_F(LinuxFileSystemWriteTest, finish_twice_is52)
+{
+    ASSERT_EQ(files.CreateNew(folder / "a", file), FileError{});
+    EXPECT_EQ(file->Finish(), FileError{});
+    EXPECT_EQ(file->Finish(), NotOpen);
+    EXPECT_EQ(file->Write("x"), NotOpen);
+    EXPECT_EQ(folder.Read("a"), "");
+}
+
+TEST_F(LinuxFileSystemWriteTest, write_fullDevice_failsAndFinishTellsItAgain)
+{
+    LinuxOutputFile full(FileDescriptor(::open("/dev/full", O_WRONLY | O_CLOEXEC)));
+    EXPECT_EQ(full.Write("x"), DiskFull);
+    EXPECT_EQ(full.Write(""), DiskFull);
+    EXPECT_EQ(full.Finish(), DiskFull);
+}
+
+// Only a part of the last write fits: what is written is cut, and told as a failure.
+TEST_F(LinuxFileSystemWriteTest, write_beyondTheUsersLimit_isDiskFullAndNotTheEnd)
+{
+    EXPECT_EQ(RunInChild([this] {
+                  const rlimit limit{1000, 1000};
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  std::signal(SIGXFSZ, SIG_DFL);
+                  LinuxFileSystem own;
+                  own.CreateNew(folder / "a", file);
+                  const bool first = file->Write(std::string(600, 'x')).Ok();
+                  const FileError second = file->Write(std::string(600, 'y'));
+                  return first && second == DiskFull && file->Finish() == DiskFull ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(folder.Read("a").size(), 1000U);
+}
+
+TEST_F(LinuxFileSystemWriteTest, write_diskThatFillsUp_isDiskFull)
+{
+    constexpr int CannotMount = 99;
+    const std::string disk = folder.MakeFolder("disk");
+    const int result = RunInChild([this, &disk] {
+        if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount("none", disk.c_str(), "tmpfs", 0, "size=64k") != 0) {
+            return CannotMount;
+        }
+        files.CreateNew(disk + "/a", file);
+        const FileError written = file->Write(std::string(200'000, 'x'));
+        return written == DiskFull && file->Finish() == DiskFull ? 0 : 1;
+    });
+    if (result == CannotMount) {
+        GTEST_SKIP() << "only root can mount a small disk";
+    }
+    EXPECT_EQ(result, 0);
+}
+
+TEST_F(LinuxFileSystemWriteTest, write_interruptedAndShortWrites_writesAll)
+{
+    // A pipe takes little at a time, and signals without SA_RESTART interrupt the writer while it waits.
+    int ends[2];
+    ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0);
+    struct sigaction action = {};
+    action.sa_handler = [](int) {};
+    struct sigaction before = {};
+    ASSERT_EQ(::sigaction(SIGUSR1, &action, &before), 0);
+    const std::string bytes(1'000'000, 'x');
+    const pthread_t writer = ::pthread_self();
+    std::size_t received = 0;
+    std::thread reader([&] {
+        std::string buffer(10'000, '\0');
+        for (ssize_t count = 1; count > 0 && received < bytes.size();) {
+            ::pthread_kill(writer, SIGUSR1);
+            count = ::read(ends[0], buffer.data(), buffer.size());
+            received += count > 0 ? static_cast<std::size_t>(count) : 0;
+        }
+    });
+    LinuxOutputFile pipe{FileDescriptor(ends[1])};
+    EXPECT_EQ(pipe.Write(bytes), FileError{});
+    reader.join();
+    EXPECT_EQ(received, bytes.size());
+    EXPECT_EQ(pipe.Finish(), FileError{}); // a pipe cannot be flushed, and that is no failure
+    ::close(ends[0]);
+    ::sigaction(SIGUSR1, &before, nullptr);
+}
+
+TEST_F(LinuxFileSystemWriteTest, renameToNew_takenName_isRefused)
+{
+    folder.Write("a", "mine");
+    folder.Write("b", "old");
+    std::filesystem::create_symlink("none", folder / "dangling");
+    EXPECT_EQ(files.RenameToNew(folder / "a", folder / "b"), NameTaken);
+    EXPECT_EQ(files.RenameToNew(folder / "a", folder / "dangling"), NameTaken);
+    EXPECT_EQ(folder.Read("a"), "mine");
+    EXPECT_EQ(folder.Read("b"), "old");
+}
+
+TEST_F(LinuxFileSystemWriteTest, renameToNew_missing_tellsWhat)
+{
+    folder.Write("a", "mine");
+    EXPECT_EQ(files.RenameToNew(folder / "a", folder / "b"), FileError{});
+    EXPECT_EQ(folder.Read("b"), "mine");
+    EXPECT_EQ(files.RenameToNew(folder / "a", folder / "c"), FileMissing);
+    EXPECT_EQ(files.RenameToNew(folder / "none/a", folder / "c"), FolderMissing);
+    EXPECT_EQ(files.RenameToNew(folder / "b", folder / "none/c"), FolderMissing);
+    EXPECT_EQ(files.RenameToNew(folder / "b", folder / "c" + std::string("\0d", 2)), NotOpen);
+    EXPECT_EQ(folder.Read("b"), "mine");
+}
+
+// Several writers of one name at one moment: exactly one gets it, the others keep their file.
+TEST_F(LinuxFileSystemWriteTest, renameToNew_race_hasOneWinner)
+{
+    constexpr int Writers = 4;
+    for (int round = 0; round < 50; ++round) {
+        const std::string target = folder / "final" + std::to_string(round);
+        std::atomic<int> ready = 0;
+        std::atomic<int> winners = 0;
+        std::vector<std::thread> threads;
+        for (int i = 0; i < Writers; ++i) {
+            const std::string part = folder.Write("part" + std::to_string(i), std::to_string(i));
+            threads.emplace_back([&, part] {
+                ++ready;
+                while (ready < Writers) {
+                }
+                winners += files.RenameToNew(part, target).Ok() ? 1 : 0;
+            });
+        }
+        for (std::thread& thread : threads) {
+            thread.join();
+        }
+        ASSERT_EQ(winners, 1) << round;
+    }
+}
+
+TEST_F(LinuxFileSystemWriteTest, renameOver_takenName_isReplaced)
+{
+    folder.Write("a", "new");
+    folder.Write("b", "old");
+    EXPECT_EQ(files.RenameOver(folder / "a", folder / "b"), FileError{});
+    EXPECT_EQ(folder.Read("b"), "new");
+    EXPECT_FALSE(folder.Has("a"));
+}
+
+TEST_F(LinuxFileSystemWriteTest, renameOver_impossible_tellsWhy)
+{
+    folder.Write("a", "new");
+    folder.MakeFolder("books");
+    EXPECT_EQ(files.RenameOver(folder / "none", folder / "b"), FileMissing);
+    EXPECT_EQ(files.RenameOver(folder / "a", folder / "none/b"), FolderMissing);
+    EXPECT_EQ(files.RenameOver(folder / "a", folder / "books"), (FileError{75, "Path/File access error"}));
+    EXPECT_EQ(files.RenameOver(std::string("a\0b", 3), folder / "b"), NotOpen);
+    EXPECT_EQ(folder.Read("a"), "new");
+}
+
+TEST_F(LinuxFileSystemWriteTest, remove_names_takesFilesOnly)
+{
+    folder.Write("a", "");
+    folder.MakeFolder("books");
+    EXPECT_EQ(files.Remove(folder / "a"), FileError{});
+    EXPECT_FALSE(folder.Has("a"));
+    EXPECT_EQ(files.Remove(folder / "a"), FileMissing);
+    EXPECT_EQ(files.Remove(folder / "none/a"), FolderMissing);
+    EXPECT_EQ(files.Remove(folder / "books"), (FileError{75, "Path/File access error"}));
+    EXPECT_EQ(files.Remove(std::string("a\0b", 3)), NotOpen);
+}
+
+TEST_F(LinuxFileSystemWriteTest, remove_link_keepsItsTarget)
+{
+    folder.Write("a", "bytes");
+    std::filesystem::create_symlink("a", folder / "link");
+    EXPECT_EQ(files.Remove(folder / "link"), FileError{});
+    EXPECT_EQ(folder.Read("a"), "bytes");
+}
+
+} // namespace
+} // namespace ls
