@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -67,6 +68,15 @@ Reply EnterReply(Buttons buttons)
     return buttons == Buttons::OkCancel ? Reply::Cancel : RepliesOf(buttons).front();
 }
 
+// The prompt is its edit's label: a lone "&" would be taken for the mark of a shortcut.
+void SetPrompt(QInputDialog& box, QString prompt)
+{
+    box.setLabelText(prompt.replace(u'&', QStringLiteral("&&")));
+    if (auto* label = box.findChild<QLabel*>(); label != nullptr) {
+        label->setTextFormat(Qt::PlainText);
+    }
+}
+
 } // namespace
 
 QWidget* FormMessages::Window() const
@@ -99,7 +109,7 @@ std::optional<std::string> FormMessages::ShowInputBox(const std::string& prompt,
 {
     QInputDialog box(Window());
     box.setWindowTitle(QString::fromStdString(title));
-    box.setLabelText(QString::fromStdString(prompt));
+    SetPrompt(box, QString::fromStdString(prompt));
     box.setTextValue(QString::fromStdString(initial));
     if (box.exec() != QDialog::Accepted) {
         return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QProgressDialog>
 
 #include <algorithm>
@@ -53,7 +54,9 @@ void FormProgress::Open()
     m_dialog->setObjectName(QStringLiteral("ProgressBox"));
     m_dialog->setWindowTitle(QStringLiteral("Lodestar Advisor"));
     m_dialog->setWindowModality(Qt::ApplicationModal);
-    m_dialog->setLabelText(m_box.label);
+    auto* label = new QLabel(m_box.label);
+    label->setTextFormat(Qt::PlainText);
+    m_dialog->setLabel(label);
     m_dialog->setRange(0, BarLength);
     m_dialog->setMinimumDuration(0);
     m_dialog->setAutoReset(false);

@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "render/CellMetrics.h"
+#include "render/RunList.h"
 
 #include <QPainter>
 #include <QString>
@@ -32,7 +33,7 @@ std::array<char16_t, 256> MakeCellCharacters()
     return characters;
 }
 
-// The cells of a row that can be seen: from `first` on, up to but without `end`.
+// The cells of a row that can be seen, counted from 0: from `first` on, up to but without `end`.
 struct ColumnRange
 {
     std::size_t first = 0;
@@ -47,7 +48,12 @@ ColumnRange VisibleColumns(const CellMetrics& metrics, const QRectF& area)
     return {static_cast<std::size_t>(std::max(0.0, left)), static_cast<std::size_t>(std::max(0.0, right))};
 }
 
-std::size_t FaceOf(const PaneRun& run)
+double RowTop(const Run& run, const CellMetrics& metrics)
+{
+    return (run.row - 1) * metrics.rowHeight;
+}
+
+std::size_t FaceOf(const Run& run)
 {
     return (run.bold ? BoldFace : RegularFace) + (run.italic ? ItalicFace : RegularFace);
 }
@@ -67,19 +73,20 @@ void DrawCells(QPainter& painter, const std::string_view text, std::size_t colum
     }
 }
 
-void PaintRun(QPainter& painter, const PaneRun& run, const CellMetrics& metrics, const ColumnRange& columns)
+void PaintRun(QPainter& painter, const Run& run, const CellMetrics& metrics, const ColumnRange& columns)
 {
-    const std::size_t first = std::max(run.firstColumn, columns.first);
-    const std::size_t end = std::min(run.firstColumn + run.text.size(), columns.end);
+    const auto start = static_cast<std::size_t>(run.firstColumn - 1);
+    const std::size_t first = std::max(start, columns.first);
+    const std::size_t end = std::min(start + run.text.size(), columns.end);
     if (first >= end) {
         return;
     }
     const std::size_t face = FaceOf(run);
-    const double top = run.row * metrics.rowHeight;
+    const double top = RowTop(run, metrics);
     const QColor colour(run.colour.red, run.colour.green, run.colour.blue);
     painter.setFont(metrics.fonts[face]);
     painter.setPen(colour);
-    DrawCells(painter, std::string_view(run.text).substr(first - run.firstColumn, end - first), first,
+    DrawCells(painter, std::string_view(run.text).substr(first - start, end - first), first,
               top + metrics.baseline, metrics, metrics.exact[face]);
     if (run.underline) {
         painter.fillRect(QRectF(static_cast<double>(first) * metrics.charWidth, top + metrics.underlineTop,
@@ -96,13 +103,14 @@ char16_t CellCharacter(char byte)
     return characters[static_cast<unsigned char>(byte)];
 }
 
-void PaintRuns(QPainter& painter, std::span<const PaneRun> runs, const CellMetrics& metrics,
-               const QRectF& area)
+void PaintRuns(QPainter& painter, std::span<const Run> runs, const CellMetrics& metrics, const QRectF& area)
 {
     const ColumnRange columns = VisibleColumns(metrics, area);
-    const auto isAbove = [&](const PaneRun& run) { return (run.row + 1) * metrics.rowHeight <= area.top(); };
+    const auto isAbove = [&](const Run& run) {
+        return RowTop(run, metrics) + metrics.rowHeight <= area.top();
+    };
     for (auto run = std::partition_point(runs.begin(), runs.end(), isAbove);
-         run != runs.end() && run->row * metrics.rowHeight < area.bottom(); ++run) {
+         run != runs.end() && RowTop(*run, metrics) < area.bottom(); ++run) {
         PaintRun(painter, *run, metrics, columns);
     }
 }

@@ -1,23 +1,20 @@
 #pragma once
 
-#include "render/PaneRun.h"
-
 #include <QRectF>
 
 #include <span>
 
 class QPainter;
-class QString;
 
 namespace ls {
 
 struct CellMetrics;
+struct Run;
 
-/// Paints recorded runs. Row 0 and column 0 stand at the painter's origin; only the cells that `area` touches
+/// Paints recorded runs. Row 1 and column 1 stand at the painter's origin; only the cells that `area` touches
 /// are looked at, so that the cost depends on what is seen and not on how much was printed. `runs` are in the
 /// order of their rows. The ground is the caller's.
-void PaintRuns(QPainter& painter, std::span<const PaneRun> runs, const CellMetrics& metrics,
-               const QRectF& area);
+void PaintRuns(QPainter& painter, std::span<const Run> runs, const CellMetrics& metrics, const QRectF& area);
 
 /// The character that stands in a cell for a book byte. A control character, or a byte that the code page
 /// leaves unassigned, is shown as a small box and a TAB as a blank: neither can move what stands behind it.

@@ -16,7 +16,7 @@ namespace ls {
 namespace {
 
 constexpr int BorderWidth = 1;
-constexpr int TextMargin = 3; // between the border and the text
+constexpr int TextMargin = 4; // between the border and the text
 
 std::optional<QAbstractSlider::SliderAction> ScrollActionOf(int key)
 {
@@ -55,23 +55,13 @@ void ReadingPane::SetScrollBar(QScrollBar* bar)
 
 void ReadingPane::Clear()
 {
-    m_runs.clear();
-    m_style.row = 0;
-    m_style.firstColumn = 0;
-    m_style.displayLine = 0;
+    m_record.Clear();
     update();
 }
 
 void ReadingPane::Print(std::string_view text, bool endRow)
 {
-    m_style.endRow = endRow;
-    m_runs.push_back(m_style);
-    m_runs.back().text = text;
-    m_style.firstColumn += text.size();
-    if (endRow) {
-        ++m_style.row;
-        m_style.firstColumn = 0;
-    }
+    m_record.Print(text, endRow);
     update();
 }
 
@@ -110,7 +100,7 @@ void ReadingPane::paintEvent(QPaintEvent* event)
     const QRect seen = event->rect() & contentsRect();
     painter.setClipRect(seen);
     painter.translate(contentsRect().topLeft());
-    PaintRuns(painter, m_runs, m_metrics, QRectF(seen).translated(-contentsRect().topLeft()));
+    PaintRuns(painter, m_record.Runs(), m_metrics, QRectF(seen).translated(-contentsRect().topLeft()));
 }
 
 // The border also tells a keyboard user that the keys go to the text.

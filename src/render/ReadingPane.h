@@ -1,8 +1,7 @@
 #pragma once
 
 #include "render/CellMetrics.h"
-#include "render/PaneRun.h"
-#include "render/TextSurface.h"
+#include "render/RunList.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -37,14 +36,14 @@ public:
     [[nodiscard]] double RowHeight() const { return m_metrics.rowHeight; }
 
     /// What was printed since the last `Clear`.
-    [[nodiscard]] const std::vector<PaneRun>& Runs() const { return m_runs; }
+    [[nodiscard]] const std::vector<Run>& Runs() const { return m_record.Runs(); }
 
     void Clear() override;
-    void SetBold(bool on) override { m_style.bold = on; }
-    void SetItalic(bool on) override { m_style.italic = on; }
-    void SetUnderline(bool on) override { m_style.underline = on; }
-    void SetColour(Colour colour) override { m_style.colour = colour; }
-    void BeginLine(int displayLine) override { m_style.displayLine = displayLine; }
+    void SetBold(bool on) override { m_record.SetBold(on); }
+    void SetItalic(bool on) override { m_record.SetItalic(on); }
+    void SetUnderline(bool on) override { m_record.SetUnderline(on); }
+    void SetColour(Colour colour) override { m_record.SetColour(colour); }
+    void BeginLine(int displayLine) override { m_record.BeginLine(displayLine); }
     void Print(std::string_view text, bool endRow) override;
 
     /// The room for text: inside the border and its margin.
@@ -67,8 +66,7 @@ private:
     void PaintBorder(QPainter& painter) const;
 
     CellMetrics m_metrics;
-    std::vector<PaneRun> m_runs;
-    PaneRun m_style; ///< the styles in force and the position of the next print; its text stays empty
+    RunList m_record;
     QPointer<QScrollBar> m_bar;
 };
 

@@ -1,0 +1,18 @@
+#include "gui/StuckBoxGuard.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QStandardPaths>
+
+// Tests see the same desktop everywhere: one style, and no folder of the user's.
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const ls::test::StuckBoxGuard guard;
+    return RUN_ALL_TESTS();
+}
