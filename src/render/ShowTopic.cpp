@@ -83,6 +83,7 @@ private:
                 m_skip = true;
                 return;
             }
+            segment->reserve(static_cast<std::size_t>(m_width)); // also suits what it holds next time
             WrapSegment(rest, m_width, indent, *segment);
             indent = hang;
         } while (!rest.Blank());

@@ -46,5 +46,36 @@ TEST_F(LineCursorTest, readLine_loneLf_isAnOrdinaryCharacter)
     EXPECT_EQ(Lines(), (Strings{"a\nb", "c\n"}));
 }
 
+// The lines as views, read to the end of the file.
+TEST_F(LineCursorTest, readLineView_anyPlaceOfALineEnd_readsTheSameLines)
+{
+    // Line ends of both kinds before, at and behind the place where the first block ends.
+    constexpr std::size_t FirstBlock = 16 * 1024;
+    for (const char* lineEnd : {"\r\n", "\r"}) {
+        for (std::size_t length = FirstBlock - 4; length < FirstBlock + 4; ++length) {
+            Open(std::string(length, 'x') + lineEnd + "second" + lineEnd + lineEnd + "last");
+            LineCursor cursor(*file);
+            std::vector<std::string> lines;
+            std::string_view line;
+            while (!cursor.AtEnd() && cursor.ReadLine(line).Ok()) {
+                lines.emplace_back(line);
+            }
+            EXPECT_EQ(lines, (Strings{std::string(length, 'x'), "second", "", "last"})) << length;
+            EXPECT_EQ(lines, Lines()) << length;
+        }
+    }
+}
+
+TEST_F(LineCursorTest, readLineView_atTheEnd_isError62)
+{
+    Open("a\r\n");
+    LineCursor cursor(*file);
+    std::string_view line;
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "a");
+    EXPECT_EQ(cursor.Position(), 4);
+    EXPECT_EQ(cursor.ReadLine(line).number, error::InputPastEnd);
+}
+
 } // namespace
 } // namespace ls
