@@ -1,0 +1,117 @@
+#include "GuideFixture.h"
+#include "render/ShowTopic.h"
+
+#include <set>
+#include <string_view>
+
+namespace ls {
+namespace {
+
+using test::GuideFixture;
+
+using GuideTest = GuideFixture;
+
+std::size_t CountOf(std::string_view text, std::string_view piece)
+{
+    std::size_t count = 0;
+    for (auto at = text.find(piece); at != text.npos; at = text.find(piece, at + 1))
+        ++count;
+    return count;
+}
+
+TEST_F(GuideTest, open_header_hasEveryFieldAndNoMessage)
+{
+    EXPECT_EQ(book.BookAuthor, "The Lodestar Advisor authors");
+    EXPECT_EQ(book.BookCopyright, "2026 The Lodestar Advisor authors");
+    EXPECT_EQ(book.BookUrl, "http://www.lodestar-advisor.example/guide");
+    EXPECT_EQ(book.BookPost, "YES");
+    EXPECT_TRUE(world.messages.boxes.empty());
+}
+
+TEST_F(GuideTest, bytes_lineEnds_areCrLfThroughout)
+{
+    EXPECT_EQ(CountOf(bytes, "\n"), CountOf(bytes, "\r\n"));
+    EXPECT_EQ(CountOf(bytes, "\r"), CountOf(bytes, "\r\n"));
+    EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
+}
+
+TEST_F(GuideTest, bytes_lettersBeyondAscii_areOneByteEach)
+{
+    EXPECT_NE(bytes.find("caf\xE9, Gr\xF6\xDF"
+                         "e"),
+              bytes.npos);
+    EXPECT_EQ(bytes.find("\xC3\xA9"), bytes.npos) << "the guide was saved as UTF-8";
+}
+
+TEST_F(GuideTest, topics_titles_areTwelveOrMoreAndDiffer)
+{
+    std::set<std::string> titles;
+    for (int i = 1; i <= book.TopicCount; ++i)
+        titles.insert(book.TopicNames(static_cast<std::size_t>(i)));
+    EXPECT_GE(titles.size(), 12U);
+    EXPECT_EQ(titles.size(), static_cast<std::size_t>(book.TopicCount));
+}
+
+TEST_F(GuideTest, xrefs_every_leadsToATopicAndHasANote)
+{
+    std::set<std::string> titles;
+    for (int i = 1; i <= book.TopicCount; ++i)
+        titles.insert(book.TopicNames(static_cast<std::size_t>(i)));
+    ASSERT_GT(book.XrefCount, 0);
+    for (int i = 1; i <= book.XrefCount; ++i) {
+        const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
+        EXPECT_EQ(titles.count("[" + xref.ToTopic + "]"), 1U) << xref.FromTopic << " -> " << xref.ToTopic;
+        EXPECT_FALSE(xref.Text.empty()) << xref.FromTopic << " -> " << xref.ToTopic;
+    }
+}
+
+TEST_F(GuideTest, topics_every_isShownWithoutAMessageAndWithItsReferences)
+{
+    for (int i = 1; i <= book.TopicCount; ++i) {
+        std::string name = book.TopicNames(static_cast<std::size_t>(i));
+        Count16 number;
+        ShownTopic shown;
+        EXPECT_EQ(ShowTopic(book, world.Get(), name, number, 77, shown), ShowResult::Shown);
+        EXPECT_TRUE(shown.xrefButton) << name;
+        EXPECT_EQ(shown.advisorButton, name == "[Where to Read On]") << name;
+    }
+    EXPECT_TRUE(world.messages.boxes.empty());
+}
+
+// A line of text behind a reference would never be shown: it must belong to a note or to the rules.
+TEST_F(GuideTest, topics_linesBehindTheFirstReference_areNotesOrRules)
+{
+    bool behind = false;
+    bool inNote = false;
+    bool inRules = false;
+    std::size_t at = 0;
+    while (at < bytes.size()) {
+        const std::size_t end = bytes.find("\r\n", at);
+        const std::string line = bytes.substr(at, end - at);
+        at = end + 2;
+        if (!line.empty() && line.front() == '[')
+            behind = inNote = inRules = false;
+        if (line.rfind("<XREF", 0) == 0)
+            behind = inNote = true;
+        inRules = inRules || line == "<IXML>";
+        EXPECT_TRUE(!behind || inNote || inRules) << line;
+        if (line.find("</XREF>") != line.npos)
+            inNote = false;
+    }
+}
+
+TEST_F(GuideTest, text_everyMarkListAndEntity_isUsed)
+{
+    for (const char* piece :
+         {"<H1>",   "</H1>",   "<H2>",     "</H2>",   "<H3>",   "</H3>",     "<B>",   "</B>",
+          "<I>",    "</I>",    "<U>",      "</U>",    "&LT;",   "&GT;",      "&AMP;", "\r\n - ",
+          "\r\n- ", "\r\n1. ", "\r\n12. ", "\r\na) ", "\r\n\t", "\r\n<B>1. "})
+        EXPECT_NE(bytes.find(piece), bytes.npos) << piece;
+    for (const char* mark : {"H1", "H2", "H3", "B", "I", "U"})
+        EXPECT_EQ(CountOf(bytes, std::string("<") + mark + ">"),
+                  CountOf(bytes, std::string("</") + mark + ">"))
+            << mark;
+}
+
+} // namespace
+} // namespace ls
