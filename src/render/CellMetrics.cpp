@@ -45,9 +45,13 @@ std::bitset<256> ExactBytes(const QFontMetricsF& face, double charWidth)
 
 CellMetrics MeasureCells(int dotsPerInch)
 {
+    const auto pixelSize = static_cast<int>(std::lround(PointSize * dotsPerInch / PointsPerInch));
+    return MeasureCells(FixedPitchFont(std::max(1, pixelSize)));
+}
+
+CellMetrics MeasureCells(const QFont& regular)
+{
     CellMetrics cells;
-    const QFont regular =
-        FixedPitchFont(std::max(1, static_cast<int>(std::lround(PointSize * dotsPerInch / PointsPerInch))));
     const QFontMetricsF measured(regular);
     cells.charWidth = measured.horizontalAdvance(QLatin1Char('W'));
     cells.rowHeight = std::ceil(measured.height());

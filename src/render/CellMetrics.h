@@ -35,4 +35,7 @@ struct CellMetrics
 /// The pane's font, 9.75 points, on a screen of so many dots to the inch (96 where nothing was scaled).
 [[nodiscard]] CellMetrics MeasureCells(int dotsPerInch);
 
+/// Cells for any other font. One whose letters differ in width is squeezed into them.
+[[nodiscard]] CellMetrics MeasureCells(const QFont& regular);
+
 } // namespace ls

@@ -106,6 +106,8 @@ char16_t CellCharacter(char byte)
 void PaintRuns(QPainter& painter, std::span<const Run> runs, const CellMetrics& metrics, const QRectF& area)
 {
     const ColumnRange columns = VisibleColumns(metrics, area);
+    painter.save();
+    painter.setLayoutDirection(Qt::LeftToRight); // columns count from the left on every desktop
     const auto isAbove = [&](const Run& run) {
         return RowTop(run, metrics) + metrics.rowHeight <= area.top();
     };
@@ -113,6 +115,7 @@ void PaintRuns(QPainter& painter, std::span<const Run> runs, const CellMetrics& 
          run != runs.end() && RowTop(*run, metrics) < area.bottom(); ++run) {
         PaintRun(painter, *run, metrics, columns);
     }
+    painter.restore();
 }
 
 } // namespace ls

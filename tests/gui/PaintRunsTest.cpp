@@ -139,6 +139,17 @@ TEST(CellMetrics, rowHeight_isWholeAndHoldsTheFont)
     EXPECT_GE(Cells().underlineTop, Cells().baseline);
 }
 
+TEST(CellMetrics, proportionalFont_hasExactAndOtherLetters)
+{
+    QFont sans(QStringLiteral("Liberation Sans"));
+    sans.setPixelSize(13);
+    const CellMetrics cells = MeasureCells(sans);
+    EXPECT_TRUE(cells.exact[RegularFace]['W']);
+    EXPECT_FALSE(cells.exact[RegularFace]['i']);
+    EXPECT_FALSE(cells.exact[ItalicFace][' ']);
+    EXPECT_TRUE(Cells().exact[RegularFace]['i']);
+}
+
 TEST(CellCharacter, everyByte_isOneHarmlessCharacter)
 {
     for (int byte = 0; byte < 256; ++byte) {
@@ -253,14 +264,10 @@ TEST_P(Grid, cellByCell_paintsAsInOneGo)
 // A font whose letters differ in width, as when none of fixed pitch is installed.
 TEST_P(Grid, proportionalFont_isForcedIntoTheCells)
 {
-    CellMetrics cells = Cells();
-    for (QFont& font : cells.fonts) {
-        font.setFamily(QStringLiteral("Liberation Sans"));
-        ASSERT_FALSE(QFontInfo(font).fixedPitch());
-    }
-    for (auto& exact : cells.exact) {
-        exact.reset();
-    }
+    QFont sans(QStringLiteral("Liberation Sans"));
+    sans.setPixelSize(13);
+    ASSERT_FALSE(QFontInfo(sans).fixedPitch());
+    const CellMetrics cells = MeasureCells(sans);
     const QImage reference = Paint({MakeRun(1, 80, "|", face)}, scale, 1, cells);
     for (const char letter : {'i', 'm', ' '}) {
         const std::string text = std::string(79, letter) + "|";
@@ -352,6 +359,28 @@ TEST(PaintRuns, areaInTheMiddle_paintsWhatThePartOfTheWholeShows)
     PaintRuns(painter, runs, Cells(), middle);
     painter.end();
     EXPECT_EQ(image.copy(middle), Paint(runs).copy(middle));
+}
+
+TEST(PaintRuns, desktopFromRightToLeft_changesNothing)
+{
+    const std::vector<ls::Run> runs = {MakeRun(1, 1, "(a) First, see [b].")};
+    QImage image = Paint({});
+    QPainter painter(&image);
+    painter.setLayoutDirection(Qt::RightToLeft);
+    PaintRuns(painter, runs, Cells(), QRectF(0, 0, image.width(), image.height()));
+    painter.end();
+    EXPECT_EQ(image, Paint(runs));
+}
+
+TEST(PaintRuns, painter_isLeftAsItWas)
+{
+    QImage image = Paint({});
+    QPainter painter(&image);
+    const QFont font = painter.font();
+    painter.setPen(Qt::green);
+    PaintRuns(painter, std::vector<ls::Run>{MakeRun(1, 1, "text")}, Cells(), image.rect());
+    EXPECT_EQ(painter.font(), font);
+    EXPECT_EQ(painter.pen().color(), QColor(Qt::green));
 }
 
 TEST(PaintRuns, hugeRun_isPaintedLikeItsVisiblePart)
