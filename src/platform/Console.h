@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace ls {
+
+/// What a standard stream of the program is connected to.
+struct ConsoleStream
+{
+    bool isTerminal = false;
+    int columns = 0; ///< its width in characters; 0 when it is no terminal, or unknown
+};
+
+enum class StandardStream
+{
+    Input,
+    Output,
+    Error
+};
+
+/// Makes the standard streams carry bytes as they are written: UTF-8, no line end changed.
+void PrepareConsole();
+
+[[nodiscard]] ConsoleStream ConsoleOf(StandardStream stream);
+
+/// The program's arguments without its name, in UTF-8 where the system says so.
+[[nodiscard]] std::vector<std::string> ProgramArguments(int argc, char** argv);
+
+} // namespace ls

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/FileSystem.h"
+#include "base/PathRules.h"
+#include "base/Processes.h"
+
+#include <memory>
+
+namespace ls {
+
+/// The files of the running system.
+[[nodiscard]] std::unique_ptr<FileSystem> MakeFileSystem();
+
+/// The processes of the running system.
+[[nodiscard]] std::unique_ptr<Processes> MakeProcesses();
+
+/// How paths are written on the running system.
+[[nodiscard]] PathRules NativePaths();
+
+} // namespace ls

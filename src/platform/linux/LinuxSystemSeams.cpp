@@ -1,0 +1,23 @@
+#include "platform/SystemSeams.h"
+
+#include "platform/linux/LinuxFileSystem.h"
+#include "platform/linux/LinuxProcesses.h"
+
+namespace ls {
+
+std::unique_ptr<FileSystem> MakeFileSystem()
+{
+    return std::make_unique<LinuxFileSystem>();
+}
+
+std::unique_ptr<Processes> MakeProcesses()
+{
+    return std::make_unique<LinuxProcesses>();
+}
+
+PathRules NativePaths()
+{
+    return UnixPaths;
+}
+
+} // namespace ls
