@@ -1,0 +1,42 @@
+#pragma once
+
+#include "cli/Status.h"
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace ls {
+
+class CommandContext;
+
+/// One option of a command.
+struct OptionSpec
+{
+    std::string_view name;   ///< with its dashes: "--width"
+    std::string_view values; ///< names of its values, parted by blanks; empty for a mere switch
+    std::string_view help;
+    int least = 0; ///< each value is a whole number from least to most; both 0: any text
+    int most = 0;
+};
+
+/// One command: how it is called, what its help says, and what it does.
+struct CommandSpec
+{
+    std::string_view name;
+    std::string_view operands; ///< as the synopsis shows them: "BOOK [TITLE]"
+    std::size_t leastOperands; ///< how many there must be
+    std::size_t mostOperands;  ///< and may be
+    std::string_view summary;  ///< one line, without a full stop
+    std::string_view details;  ///< further lines of its help; may be empty
+    std::vector<OptionSpec> options;
+    Status (*run)(CommandContext& context);
+};
+
+/// The options that many commands share.
+inline constexpr OptionSpec JsonOption{"--json", "", "write JSON, for programs"};
+inline constexpr OptionSpec PlainOption{"--plain", "", "take a file that is no book as plain text"};
+inline constexpr OptionSpec NumberOption{"--number", "N", "the topic by its number instead of its title", 1,
+                                         32767};
+
+} // namespace ls

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "cli/CommandSpec.h"
+
+namespace ls {
+
+/// Each command tells its place in the table; its file holds the rest.
+[[nodiscard]] CommandSpec InfoCommand();
+[[nodiscard]] CommandSpec TopicsCommand();
+[[nodiscard]] CommandSpec XrefsCommand();
+[[nodiscard]] CommandSpec ShowCommand();
+[[nodiscard]] CommandSpec TextCommand();
+
+} // namespace ls

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "base/Progress.h"
+
+#include <iosfwd>
+
+namespace ls {
+
+/// Long work on a terminal: one line "Reading 45%", which is rewritten in place and goes when it is erased.
+class ProgressLine : public Progress
+{
+public:
+    /// Writes nothing at all when `shown` is false.
+    ProgressLine(std::ostream& stream, bool shown) : m_stream(&stream), m_shown(shown) {}
+    ~ProgressLine() override { Erase(); }
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+
+    bool Step(std::int64_t done, std::int64_t total) override;
+
+    /// Takes the line away, before anything else is written there.
+    void Erase();
+
+private:
+    std::ostream* m_stream;
+    bool m_shown;
+    int m_percent = -1; ///< what stands on the terminal; -1 for nothing
+};
+
+} // namespace ls

@@ -1,0 +1,55 @@
+#include "cli/TerminalSurface.h"
+
+#include "base/CodePage.h"
+#include "cli/TerminalText.h"
+
+#include <ostream>
+#include <string>
+
+namespace ls {
+
+namespace {
+
+// A colour of the terminal's own palette, so that it can be read on any background: black is the terminal's
+// own text colour.
+std::string_view PaletteCode(Colour colour)
+{
+    if (colour == Black) {
+        return {};
+    }
+    if (colour.red >= colour.green && colour.red >= colour.blue) {
+        return ";31";
+    }
+    return colour.green >= colour.blue ? ";32" : ";34";
+}
+
+} // namespace
+
+std::string TerminalSurface::StyleCode() const
+{
+    std::string code;
+    code.append(m_bold ? ";1" : "").append(m_italic ? ";3" : "").append(m_underline ? ";4" : "");
+    code.append(PaletteCode(m_colour));
+    return code.empty() ? code : "\033[" + code.substr(1) + "m";
+}
+
+void TerminalSurface::Print(std::string_view text, bool endRow)
+{
+    const std::string shown = LineForStream(FromBook(text), m_look.terminal);
+    const std::string style = m_look.styled && !shown.empty() ? StyleCode() : std::string();
+    *m_stream << style << shown << (style.empty() ? "" : "\033[0m");
+    m_rowOpen = true;
+    if (endRow) {
+        EndRow();
+    }
+}
+
+void TerminalSurface::EndRow()
+{
+    if (m_rowOpen) {
+        *m_stream << '\n';
+        m_rowOpen = false;
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/FileSystem.h"
+
+#include <string>
+
+namespace ls {
+
+/// The files of the system, with a memory for faults: an error on the way decides the exit status, however
+/// the operation that met it goes on.
+class WatchedFiles : public FileSystem
+{
+public:
+    explicit WatchedFiles(FileSystem& files) : m_files(&files) {}
+
+    /// The first error that an operation on a file came to; success when there was none.
+    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+
+    /// The path at which it happened.
+    [[nodiscard]] const std::string& FailedPath() const { return m_failedPath; }
+
+    /// The file that was opened last; empty when none could be.
+    [[nodiscard]] const std::string& LastOpened() const { return m_lastOpened; }
+
+    FileError OpenForReading(const std::string& path, Sharing sharing,
+                             std::unique_ptr<BookFile>& file) override;
+    FileError CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file) override;
+    FileError RenameToNew(const std::string& from, const std::string& to) override;
+    FileError RenameOver(const std::string& from, const std::string& to) override;
+    FileError Remove(const std::string& path) override;
+    bool Exists(const std::string& path) override { return m_files->Exists(path); }
+    FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override
+    {
+        return m_files->List(folder, entries); // looking for another spelling may fail without harm
+    }
+    std::string CurrentFolder() override { return m_files->CurrentFolder(); }
+
+    /// Notes an error, and hands it on.
+    FileError Note(const std::string& path, FileError failed);
+
+private:
+    FileSystem* m_files;
+    FileError m_failed;
+    std::string m_failedPath;
+    std::string m_lastOpened;
+};
+
+} // namespace ls

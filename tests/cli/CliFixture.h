@@ -1,0 +1,39 @@
+#pragma once
+
+#include "support/Json.h"
+#include "support/MemoryFileSystem.h"
+#include "support/RecordingProcesses.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace ls::test {
+
+/// `lsbook` run in process, with files in memory.
+class CliFixture : public testing::Test
+{
+protected:
+    /// The exit status; `out` and `err` then hold what it wrote.
+    int Run(const std::vector<std::string>& arguments);
+
+    /// Runs a command that must end with `status` and say nothing on standard error; gives its output.
+    std::string Out(const std::vector<std::string>& arguments, int status = 0);
+
+    /// The same with its output as JSON.
+    Json OutJson(const std::vector<std::string>& arguments, int status = 0);
+
+    MemoryFileSystem files;
+    RecordingProcesses processes;
+    bool outIsTerminal = false;
+    bool errIsTerminal = false;
+    int columns = 0;
+    std::string out;
+    std::string err;
+};
+
+/// A book of three topics with references, a logic block, and letters with accents.
+[[nodiscard]] std::string SmallBook();
+
+} // namespace ls::test

@@ -1,0 +1,159 @@
+// Every command meets every kind of file that is no good book.
+
+#include "CliFixture.h"
+
+namespace ls {
+namespace {
+
+using Strings = std::vector<std::string>;
+
+constexpr const char* NoBook = "question: The file you opened is not a Lodestar Book or Advice file. Do you "
+                               "want to view it as a single topic text file?\n"
+                               "lsbook: --plain takes it as plain text.\n";
+
+// Each command as it is asked for the file "/work/x".
+const std::vector<Strings> Commands = {
+    {"info", "x"},       {"topics", "x"},    {"xrefs", "x"},
+    {"xrefs", "x", "A"}, {"show", "x", "A"}, {"text", "x", "A"},
+};
+
+class Faults : public test::CliFixture
+{
+protected:
+    // All commands, for people and as JSON, come to that status and those messages; JSON can be parsed.
+    void ExpectAll(int status, const std::string& message)
+    {
+        for (Strings command : Commands) {
+            SCOPED_TRACE(testing::PrintToString(command));
+            EXPECT_EQ(Run(command), status);
+            EXPECT_EQ(err, message);
+            command.emplace_back("--json");
+            EXPECT_EQ(Run(command), status);
+            EXPECT_EQ(err, message);
+            EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
+        }
+    }
+};
+
+TEST_F(Faults, missingFile_isError53)
+{
+    ExpectAll(3, "critical: Error opening <<x>> with code 53: File not found\n");
+}
+
+TEST_F(Faults, missingFolder_isError76)
+{
+    EXPECT_EQ(Run({"info", "/nowhere/x"}), 3);
+    EXPECT_EQ(err, "critical: Error opening <</nowhere/x>> with code 76: Path not found\n");
+}
+
+TEST_F(Faults, folder_isError75)
+{
+    files.AddFolder("/work/x");
+    ExpectAll(3, "critical: Error opening <<x>> with code 75: Path/File access error\n");
+}
+
+TEST_F(Faults, noPermission_isError70)
+{
+    files["/work/x"] = test::SmallBook();
+    files.fail = [](const std::string& operation) { return operation == "open x" ? 70 : 0; };
+    ExpectAll(3, "critical: Error opening <<x>> with code 70: Permission denied\n");
+}
+
+TEST_F(Faults, emptyFile_isNoBook)
+{
+    files["/work/x"] = "";
+    ExpectAll(1, NoBook);
+}
+
+TEST_F(Faults, oneByte_isNoBook)
+{
+    for (const char byte : {'\0', '\r', '\n', '[', '<', '\x1A', '\xFF'}) {
+        files["/work/x"] = std::string(1, byte);
+        ExpectAll(1, NoBook);
+    }
+}
+
+TEST_F(Faults, nulBytes_areNoBook)
+{
+    files["/work/x"] = std::string(5000, '\0');
+    ExpectAll(1, NoBook);
+}
+
+TEST_F(Faults, hugeFirstLine_isNoBook)
+{
+    files["/work/x"] = std::string(3'000'000, '[');
+    ExpectAll(1, NoBook);
+}
+
+TEST_F(Faults, readErrorInTheHeader_isToldAsOpening)
+{
+    files["/work/x"] = test::SmallBook();
+    files.fail = [](const std::string& operation) { return operation == "read x 1" ? 57 : 0; };
+    ExpectAll(3, "critical: Error opening <<x>> with code 57: Device I/O error\n");
+}
+
+TEST_F(Faults, readErrorWhileScanning_isAFaultOfTheFile)
+{
+    files["/work/x"] = test::SmallBook();
+    files.fail = [](const std::string& operation) { return operation == "read x 73" ? 57 : 0; };
+    ExpectAll(3, "critical: Error reading book file with code 57: Device I/O error\n");
+}
+
+TEST_F(Faults, readErrorInTheTopic_isToldWithItsName)
+{
+    files["/work/x"] = test::SmallBook();
+    files.fail = [](const std::string& operation) { return operation == "read x 292" ? 57 : 0; };
+    for (const Strings& command :
+         {Strings{"show", "x", "Advice"}, {"text", "x", "Advice"}, {"xrefs", "x", "Advice"}}) {
+        EXPECT_EQ(Run(command), 3);
+        EXPECT_EQ(err, "warning: Failed to fetch topic [Advice] due to error #57: Device I/O error\n");
+    }
+}
+
+TEST_F(Faults, readErrorThatNoBoxTells_isToldByTheProgram)
+{
+    files["/work/x"] = test::SmallBook();
+    int reads = 0;
+    files.fail = [&reads](const std::string& operation) {
+        return operation == "read x 1" && ++reads > 1 ? 57 : 0;
+    };
+    EXPECT_EQ(Run({"info", "x"}), 3);
+    EXPECT_EQ(err, "critical: Error reading <<x>> with code 57: Device I/O error\n");
+    reads = 0;
+    EXPECT_EQ(Run({"info", "x", "--json"}), 3);
+    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
+}
+
+TEST_F(Faults, plainFilesOfAnyKind_areTakenByEveryCommand)
+{
+    const Strings contents = {
+        "",  std::string(1, '\0'),  std::string(5000, '\0'), std::string(1'000'000, 'x'), "\r", "\n",
+        "<", "[EOF]\r\n<INDEX>\r\n"};
+    for (const std::string& content : contents) {
+        files["/work/x"] = content;
+        for (const std::string command : {"info", "topics", "xrefs", "show", "text"}) {
+            SCOPED_TRACE(command + " of " + std::to_string(content.size()) + " bytes");
+            EXPECT_EQ(Run({command, "x", "--plain", "--json"}), 0);
+            EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
+            EXPECT_EQ(Run({command, "x", "--plain"}), 0);
+        }
+    }
+}
+
+TEST_F(Faults, bookOfNulBytesAndAHugeLine_isRead)
+{
+    files["/work/x"] =
+        "LODESTAR BOOK V5.3\r\n[A]\r\n" + std::string(2'000'000, 'x') + std::string(3, '\0') + "\r\n";
+    EXPECT_EQ(OutJson({"text", "x", "A"})["text"].String().size(), 2'000'005U);
+    EXPECT_EQ(OutJson({"show", "x", "A", "--width", "32767"})["count"].Int(), 62);
+    EXPECT_EQ(OutJson({"info", "x"})["topic_count"].Int(), 1);
+}
+
+TEST_F(Faults, pathThatIsNoUtf8_isShownSafely)
+{
+    EXPECT_EQ(Run({"info", "x\xFF"}), 3);
+    EXPECT_EQ(err, "critical: Error opening <<x\xEF\xBF\xBD>> with code 53: File not found\n");
+}
+
+} // namespace
+} // namespace ls

@@ -1,0 +1,114 @@
+// Books worked out by hand: what lsbook tells of each in JSON.
+
+#include "CliFixture.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace ls {
+namespace {
+
+using test::Json;
+using Strings = std::vector<std::string>;
+
+const std::string Folder = std::string(LS_TEST_DATA) + "/cases/text/";
+
+Strings CaseNames()
+{
+    Strings names;
+    for (const auto& entry : std::filesystem::directory_iterator(Folder)) {
+        if (entry.path().extension() == ".json") {
+            names.push_back(entry.path().stem().string());
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+class TextCase : public test::CliFixture, public testing::WithParamInterface<std::string>
+{
+protected:
+    void SetUp() override
+    {
+        m_expected = Json::ParseFile(Folder + GetParam() + ".json");
+        files["/work/case.IDA"] = test::ReadWholeFile(Folder + GetParam() + ".IDA");
+    }
+
+    Json Of(Strings arguments)
+    {
+        arguments.insert(arguments.begin() + 1, "case.IDA");
+        arguments.emplace_back("--json");
+        EXPECT_EQ(Run(arguments), 0);
+        return Json::Parse(out);
+    }
+
+    Json m_expected;
+};
+
+TEST_P(TextCase, info_asExpected)
+{
+    const Json& expected = m_expected["info"];
+    const Json info = Of({"info"});
+    for (const char* key : {"magic", "author", "copyright", "url", "post"}) {
+        EXPECT_EQ(info[key].String(), expected[key].String()) << key;
+    }
+    EXPECT_EQ(info["is_book"].Bool(), expected["is_book"].Bool());
+    EXPECT_EQ(info["topic_count"].Int(), expected["topic_count"].Int());
+    EXPECT_EQ(info["xref_count"].Int(), expected["xref_count"].Int());
+}
+
+TEST_P(TextCase, topics_asExpected)
+{
+    const Json topics = Of({"topics"});
+    const std::vector<Json>& expected = m_expected["topics"].Items();
+    ASSERT_EQ(topics["topics"].Items().size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        const Json& topic = topics["topics"].Items()[i];
+        EXPECT_EQ(topic["number"].Int(), expected[i]["number"].Int());
+        EXPECT_EQ(topic["title"].String(), expected[i]["title"].String());
+        EXPECT_EQ(topic["pos"].Int(), expected[i]["pos"].Int());
+    }
+}
+
+TEST_P(TextCase, xrefs_asExpected)
+{
+    const Json xrefs = Of({"xrefs"});
+    const std::vector<Json>& expected = m_expected["xrefs"].Items();
+    ASSERT_EQ(xrefs["xrefs"].Items().size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        const Json& xref = xrefs["xrefs"].Items()[i];
+        for (const char* key : {"from", "to", "text"}) {
+            EXPECT_EQ(xref[key].String(), expected[i][key].String()) << i << key;
+        }
+    }
+}
+
+TEST_P(TextCase, show_asExpected)
+{
+    // A bad header is told at every opening; showing a topic adds nothing to that.
+    const std::size_t messagesOfOpening = Of({"info"})["messages"].Items().size();
+    for (const Json& expected : m_expected["show"].Items()) {
+        const std::string number = std::to_string(expected["number"].Int());
+        const std::string width = std::to_string(expected["width"].Int());
+        SCOPED_TRACE("topic " + number + ", width " + width);
+        const Json shown = Of({"show", "--number", number, "--width", width});
+        EXPECT_EQ(shown["messages"].Items().size(), messagesOfOpening);
+        EXPECT_EQ(shown["lines"].Strings(), expected["lines"].Strings());
+        EXPECT_EQ(shown["count"].Int(), static_cast<int>(expected["lines"].Items().size()));
+        EXPECT_EQ(shown["xref_button"].Bool(), expected["xref_button"].Bool());
+        EXPECT_EQ(shown["advisor_button"].Bool(), expected["advisor_button"].Bool());
+        EXPECT_EQ(shown["logic_pos"].Int(), expected["logic_pos"].Int());
+    }
+}
+
+std::string TestName(const testing::TestParamInfo<std::string>& info)
+{
+    std::string name = info.param;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, TextCase, testing::ValuesIn(CaseNames()), TestName);
+
+} // namespace
+} // namespace ls
