@@ -1,15 +1,16 @@
 #include "base/LineCursor.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace ls {
 
 namespace {
 
-// A topic is shorter than the small block, so that showing one reads little; a scan of a whole book grows to
-// the large one, which keeps the number of system calls low and stays inside the processor's cache.
-constexpr std::size_t SmallBlock = 16 * 1024;
-constexpr std::size_t LargeBlock = 256 * 1024;
+// A topic is shorter than the first block, so that showing one reads little. Blocks then double up to the
+// last size, which keeps the number of system calls of a scan low and stays inside the processor's cache.
+constexpr std::size_t FirstBlock = 16 * 1024;
+constexpr std::size_t LastBlock = 256 * 1024;
 
 } // namespace
 
@@ -29,12 +30,15 @@ bool LineCursor::Fill()
 {
     m_blockPos = Position();
     m_next = 0;
-    const std::size_t wanted = m_size == 0 ? SmallBlock : LargeBlock;
-    if (m_block.size() < wanted) {
-        m_block.resize(wanted);
+    const std::size_t wanted = m_capacity == 0       ? FirstBlock
+                               : m_size < m_capacity ? m_capacity
+                                                     : std::min(2 * m_capacity, LastBlock);
+    if (m_capacity < wanted) {
+        m_block = std::make_unique_for_overwrite<char[]>(wanted);
+        m_capacity = wanted;
     }
     m_size = 0;
-    m_error = m_file->ReadAt(m_blockPos, m_block.data(), m_block.size(), m_size);
+    m_error = m_file->ReadAt(m_blockPos, m_block.get(), m_capacity, m_size);
     if (!m_error.Ok()) {
         m_size = 0;
     }
@@ -48,7 +52,7 @@ bool LineCursor::AtEnd()
 
 void LineCursor::AppendRestOfBlock(std::string& line)
 {
-    line.append(m_block.data() + m_next, m_size - m_next);
+    line.append(m_block.get() + m_next, m_size - m_next);
     m_next = m_size;
 }
 
@@ -72,7 +76,7 @@ FileError LineCursor::ReadLine(std::string& line)
         return m_error.Ok() ? MakeFileError(error::InputPastEnd) : m_error;
     }
     for (;;) {
-        const char* from = m_block.data() + m_next;
+        const char* from = m_block.get() + m_next;
         const void* end = std::memchr(from, '\r', m_size - m_next);
         if (end != nullptr) {
             const auto length = static_cast<std::size_t>(static_cast<const char*>(end) - from);
@@ -89,7 +93,7 @@ FileError LineCursor::ReadLine(std::string& line)
 
 FileError LineCursor::ReadLine(std::string_view& line)
 {
-    const std::string_view block(m_block.data() + m_next, m_size - m_next);
+    const std::string_view block(m_block.get() + m_next, m_size - m_next);
     const std::size_t length = block.find('\r');
     // A CR at the block's end is not passed here: that fills the block anew, and the line would be gone.
     if (length != std::string_view::npos && length + 1 < block.size()) {
@@ -105,7 +109,7 @@ FileError LineCursor::ReadLine(std::string_view& line)
 FileError LineCursor::SkipLine()
 {
     for (;;) {
-        const char* from = m_block.data() + m_next;
+        const char* from = m_block.get() + m_next;
         const void* end = std::memchr(from, '\r', m_size - m_next);
         if (end != nullptr) {
             m_next += static_cast<std::size_t>(static_cast<const char*>(end) - from);

@@ -5,9 +5,9 @@
 #include "base/FileSystem.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace ls {
 
@@ -48,12 +48,13 @@ private:
     FileError SkipLine();
 
     BookFile* m_file;
-    std::vector<char> m_block;
-    std::size_t m_size = 0; ///< bytes in m_block
-    std::size_t m_next = 0; ///< the next of them
-    FilePos m_blockPos = 1; ///< position of m_block's first byte
-    FileError m_error;      ///< of the last Fill that failed
-    std::string m_line;     ///< a line that does not lie in one block, put together
+    std::unique_ptr<char[]> m_block;
+    std::size_t m_capacity = 0; ///< bytes that m_block has room for
+    std::size_t m_size = 0;     ///< bytes in m_block
+    std::size_t m_next = 0;     ///< the next of them
+    FilePos m_blockPos = 1;     ///< position of m_block's first byte
+    FileError m_error;          ///< of the last Fill that failed
+    std::string m_line;         ///< a line that does not lie in one block, put together
 };
 
 } // namespace ls

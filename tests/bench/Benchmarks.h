@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+namespace ls::bench {
+
+/// Scans a book of 200 MiB against a search for its header lines, and compares the memory of two scans.
+/// `program` is this program's own path: the memory is that of a process of its own.
+void BenchScan(const std::string& program, const std::string& folder);
+
+/// Prints the peak memory, in KiB, of this process after scanning that book.
+void ReportScanMemory(const std::string& path);
+
+/// Shows the last topic of a large book against its first one.
+void BenchShow(const std::string& folder);
+
+/// Shows a topic of 30,000 display lines again, as a step of a resize does, against a copy of its lines.
+void BenchResize(const std::string& folder);
+
+/// Wraps lines of 25, 50 and 100 MiB.
+void BenchLines();
+
+} // namespace ls::bench

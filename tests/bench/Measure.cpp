@@ -1,0 +1,103 @@
+#include "bench/Measure.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <vector>
+
+namespace ls::bench {
+
+namespace {
+
+double MedianOf(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+} // namespace
+
+double TimeOf(const std::function<void()>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+Medians MeasureBoth(int rounds, const std::function<void()>& first, const std::function<void()>& second)
+{
+    std::vector<double> firstTimes;
+    std::vector<double> secondTimes;
+    first(); // what is only slow once is not what is measured
+    second();
+    for (int round = 0; round < rounds; ++round) {
+        firstTimes.push_back(TimeOf(first));
+        secondTimes.push_back(TimeOf(second));
+    }
+    return {MedianOf(firstTimes), MedianOf(secondTimes)};
+}
+
+double Measure(int rounds, const std::function<void()>& work)
+{
+    return MeasureBoth(rounds, work, [] {}).first;
+}
+
+std::string OutputOf(const std::string& command)
+{
+    std::FILE* pipe = popen(command.c_str(), "r");
+    Require(pipe != nullptr, "a command can be started");
+    std::string output;
+    char buffer[256];
+    while (const std::size_t got = std::fread(buffer, 1, sizeof buffer, pipe)) {
+        output.append(buffer, got);
+    }
+    Require(pclose(pipe) == 0, command.c_str());
+    return output;
+}
+
+long PeakMemory()
+{
+    // The kernel's count of this image; the one of getrusage begins with that of the process that started it.
+    std::ifstream status("/proc/self/status");
+    std::string word;
+    while (status >> word) {
+        if (word == "VmHWM:") {
+            long kib = 0;
+            status >> kib;
+            return kib;
+        }
+    }
+    return 0;
+}
+
+void PrintRow(const std::string& what, const std::string& value, double ratio, double limit)
+{
+    std::printf("%-58s %14s", what.c_str(), value.c_str());
+    if (ratio > 0) {
+        std::printf("  %7.2f", ratio);
+    }
+    if (limit > 0) {
+        std::printf("  at most %.2f%s", limit, ratio <= limit ? "" : "  MISSED");
+    }
+    std::printf("\n");
+    std::fflush(stdout);
+}
+
+std::string Milliseconds(double value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%.3f ms", value);
+    return text;
+}
+
+void Require(bool condition, const char* what)
+{
+    if (!condition) {
+        std::fprintf(stderr, "lsbench: this should hold and does not: %s\n", what);
+        std::exit(1);
+    }
+}
+
+} // namespace ls::bench

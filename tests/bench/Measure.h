@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+namespace ls::bench {
+
+/// Milliseconds that one call takes.
+[[nodiscard]] double TimeOf(const std::function<void()>& work);
+
+/// The medians of two pieces of work that are measured in turns, so that both see the same machine.
+struct Medians
+{
+    double first = 0;
+    double second = 0;
+
+    [[nodiscard]] double Ratio() const { return first / second; }
+};
+[[nodiscard]] Medians MeasureBoth(int rounds, const std::function<void()>& first,
+                                  const std::function<void()>& second);
+[[nodiscard]] double Measure(int rounds, const std::function<void()>& work);
+
+/// Starts a command line of the shell and gives what it prints; ends the program when it fails.
+[[nodiscard]] std::string OutputOf(const std::string& command);
+
+/// The most memory that this process has had resident since it was started, in KiB.
+[[nodiscard]] long PeakMemory();
+
+/// One line of the table. A limit of 0 means that there is none.
+void PrintRow(const std::string& what, const std::string& value, double ratio = 0, double limit = 0);
+[[nodiscard]] std::string Milliseconds(double value);
+
+/// Ends the program when something that a measurement rests on is not so: a fast wrong result is none.
+void Require(bool condition, const char* what);
+
+} // namespace ls::bench
