@@ -61,6 +61,8 @@ void FormProgress::Open()
     m_dialog->setMinimumDuration(0);
     m_dialog->setAutoReset(false);
     m_dialog->setAutoClose(false);
+    // Escape is the cancel button's shortcut only while the box is active; before that it closes the box.
+    connect(m_dialog.get(), &QDialog::rejected, m_dialog.get(), &QProgressDialog::cancel);
     if (!m_box.canCancel) {
         m_dialog->setCancelButton(nullptr);
         m_dialog->installEventFilter(this);

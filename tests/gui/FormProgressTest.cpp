@@ -132,6 +132,7 @@ TEST(FormProgress, workWithoutCancel_cannotBeStopped)
     EXPECT_TRUE(progress.Step(1, 4));
     EXPECT_EQ(Box()->findChild<QPushButton*>(), nullptr);
     QTest::keyClick(Box(), Qt::Key_Escape);
+    ASSERT_NE(Box(), nullptr);
     Box()->close();
     ASSERT_NE(Box(), nullptr);
     EXPECT_TRUE(progress.Step(2, 4));

@@ -352,7 +352,9 @@ TEST(PaintRuns, outsideTheArea_isNotDrawn)
 TEST(PaintRuns, areaInTheMiddle_paintsWhatThePartOfTheWholeShows)
 {
     const std::vector<ls::Run> runs = {MakeRun(1, 1, std::string(80, 'f'), BoldFace + ItalicFace)};
-    const QRect middle(100, 2, 57, 9);
+    // From the left edge of a cell on: the letter before it leans into the area.
+    const QRect middle(static_cast<int>(std::lround(13 * Cells().charWidth)), 0, 57,
+                       static_cast<int>(Cells().rowHeight));
     QImage image = Paint({});
     QPainter painter(&image);
     painter.setClipRect(middle);
