@@ -4,33 +4,56 @@
 
 namespace ls {
 
-bool ValueList::FromTheEnd::operator()(const std::string& a, const std::string& b) const
+namespace {
+
+constexpr std::size_t Counted = 64;
+
+std::string_view Tail(std::string_view text)
+{
+    return text.size() > Counted ? text.substr(text.size() - Counted) : text;
+}
+
+std::string_view Before(const std::string& text, std::size_t end)
+{
+    return std::string_view(text).substr(0, end);
+}
+
+bool EndsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+bool LessFromTheEnd(std::string_view a, std::string_view b)
 {
     return std::lexicographical_compare(a.rbegin(), a.rend(), b.rbegin(), b.rend());
 }
 
-bool ValueList::Holds(std::string_view value) const
+} // namespace
+
+bool ValueList::FromTheEnd::operator()(std::size_t a, std::size_t b) const
 {
-    if (value.find(',') != std::string_view::npos) {
-        // "X,Y" may lie across several values. It is a rare slip of an author: the text itself is searched.
-        return m_text.find(std::string(value) + ",") != std::string::npos;
-    }
-    // Without a comma inside, the value and its comma can only be the end of one piece.
-    const auto found = m_pieces.lower_bound(std::string(value));
-    return found != m_pieces.end() && found->size() >= value.size() &&
-           std::string_view(*found).substr(found->size() - value.size()) == value;
+    return LessFromTheEnd(Tail(Before(*text, a)), Tail(Before(*text, b)));
 }
 
-void ValueList::Index(std::string_view value)
+bool ValueList::FromTheEnd::operator()(std::size_t a, std::string_view b) const
 {
-    for (;;) {
-        const std::size_t comma = value.find(',');
-        m_pieces.emplace(value.substr(0, comma));
-        if (comma == std::string_view::npos) {
-            return;
+    return LessFromTheEnd(Tail(Before(*text, a)), b);
+}
+
+// The text holds the value and its comma where what stands before one of its commas ends in the value.
+bool ValueList::Holds(std::string_view value) const
+{
+    const std::string_view tail = Tail(value);
+    for (auto end = m_ends.lower_bound(tail); end != m_ends.end(); ++end) {
+        const std::string_view before = Before(m_text, *end);
+        if (!EndsWith(before, tail)) {
+            return false;
         }
-        value.remove_prefix(comma + 1);
+        if (EndsWith(before, value)) { // at once, unless the value is longer than what the order counts
+            return true;
+        }
     }
+    return false;
 }
 
 bool ValueList::Add(std::string_view value)
@@ -38,8 +61,11 @@ bool ValueList::Add(std::string_view value)
     if (!m_seen.emplace(value).second || Holds(value)) {
         return false;
     }
-    Index(value);
+    std::size_t at = m_text.size();
     m_text.append(value).push_back(',');
+    while ((at = m_text.find(',', at)) != std::string::npos) {
+        m_ends.insert(at++);
+    }
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <set>
 #include <string>
 #include <string_view>
@@ -15,7 +16,7 @@ namespace ls {
 class ValueList
 {
 public:
-    ValueList() = default;
+    ValueList() : m_ends(FromTheEnd{&m_text}) {}
     ValueList(const ValueList&) = delete;
     ValueList& operator=(const ValueList&) = delete;
 
@@ -25,19 +26,23 @@ public:
     [[nodiscard]] const std::string& Text() const { return m_text; }
 
 private:
-    // Orders texts by their last character, then the one before it, and so on: all texts that end alike stand
-    // together, the shortest first.
+    // Orders the places of commas by the characters in front of them, the nearest first: all places behind
+    // the same characters stand together. Only so many characters count, or a value of commas alone would
+    // make every comparison as long as itself.
     struct FromTheEnd
     {
-        bool operator()(const std::string& a, const std::string& b) const;
+        using is_transparent = void;
+        bool operator()(std::size_t a, std::size_t b) const;
+        bool operator()(std::size_t a, std::string_view b) const;
+
+        const std::string* text;
     };
 
     [[nodiscard]] bool Holds(std::string_view value) const;
-    void Index(std::string_view value);
 
     std::string m_text;
-    std::unordered_set<std::string> m_seen;     ///< every value asked for: the text holds it since then
-    std::set<std::string, FromTheEnd> m_pieces; ///< what stands between the commas of the text
+    std::multiset<std::size_t, FromTheEnd> m_ends; ///< where the commas of the text stand
+    std::unordered_set<std::string> m_seen;        ///< every value asked for: the text holds it since then
 };
 
 } // namespace ls

@@ -492,5 +492,18 @@ TEST(ValueListModel, randomValues_giveWhatASearchInTheTextGives)
     }
 }
 
+TEST(ValueListModel, longValuesThatEndAlike_areToldApart)
+{
+    ValueList list;
+    const std::string tail(100, 'T');
+    EXPECT_TRUE(list.Add("A" + tail));
+    EXPECT_TRUE(list.Add("B" + tail));
+    EXPECT_FALSE(list.Add(tail));
+    EXPECT_FALSE(list.Add("A" + tail + ",B" + tail));
+    EXPECT_TRUE(list.Add("B" + tail + ",A" + tail));
+    EXPECT_FALSE(list.Add(tail + ",A" + tail));
+    EXPECT_TRUE(list.Add("C" + tail));
+}
+
 } // namespace
 } // namespace ls
