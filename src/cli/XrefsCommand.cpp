@@ -143,7 +143,7 @@ CommandSpec XrefsCommand()
             "BOOK [TITLE]",
             1,
             2,
-            "Lists the cross references with their notes; with a title those of that topic, both ways",
+            "Lists cross references with their notes; with a title both ways",
             "",
             {NumberOption, JsonOption, PlainOption},
             Run};

@@ -2,6 +2,8 @@
 
 #include "CliFixture.h"
 
+#include <random>
+
 namespace ls {
 namespace {
 
@@ -147,6 +149,54 @@ TEST_F(Faults, bookOfNulBytesAndAHugeLine_isRead)
     EXPECT_EQ(OutJson({"text", "x", "A"})["text"].String().size(), 2'000'005U);
     EXPECT_EQ(OutJson({"show", "x", "A", "--width", "32767"})["count"].Int(), 62);
     EXPECT_EQ(OutJson({"info", "x"})["topic_count"].Int(), 1);
+}
+
+// A book with some bytes changed, put in and taken out, the same for the same seed.
+std::string Damaged(std::uint32_t seed)
+{
+    std::string book = test::SmallBook();
+    std::minstd_rand random(seed);
+    const std::string bytes("<>[]/&;=\"\r\n \t\\\0\x81\xFF", 17);
+    for (int i = 0; i < 12; ++i) {
+        // The first 18 bytes are kept, so that most of these still count as books.
+        const std::size_t at = 18 + random() % (book.size() - 18);
+        const std::size_t kind = random() % 4;
+        if (kind == 0) {
+            book.erase(at, random() % 5);
+        } else if (kind == 1) {
+            book.insert(at, 1, bytes[random() % bytes.size()]);
+        } else if (kind == 2) {
+            book.insert(at, book.substr(18 + random() % (at - 17), random() % 60));
+        } else {
+            book[at] = bytes[random() % bytes.size()];
+        }
+    }
+    return book;
+}
+
+TEST_F(Faults, damagedBooks_endInGoodOrderWithJsonThatParses)
+{
+    int opened = 0;
+    for (std::uint32_t seed = 1; seed <= 400; ++seed) {
+        SCOPED_TRACE(seed);
+        files["/work/x"] = Damaged(seed);
+        for (const Strings& command : {Strings{"info", "x"},
+                                       {"topics", "x"},
+                                       {"xrefs", "x"},
+                                       {"xrefs", "x", "--number", "1"},
+                                       {"show", "x", "--number", "2", "--width", "11"},
+                                       {"show", "x", "--number", "1", "--runs"},
+                                       {"text", "x", "--number", "1"}}) {
+            Strings withJson = command;
+            withJson.emplace_back("--json");
+            const int status = Run(withJson);
+            EXPECT_TRUE(status == 0 || (status == 1 && !err.empty())) << status << err;
+            EXPECT_EQ(test::Json::Parse(out).GetKind(), test::Json::Kind::Object);
+            EXPECT_EQ(Run(command), status) << "the form of the output changes no verdict";
+            opened += status == 0 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(opened, 1000) << "most of them must get past the header to mean anything";
 }
 
 TEST_F(Faults, pathThatIsNoUtf8_isShownSafely)
