@@ -1,0 +1,141 @@
+#include "base/Messages.h"
+#include "reader/IniFile.h"
+#include "reader/Settings.h"
+#include "reader/StatementReader.h"
+
+#include <string_view>
+
+namespace ls {
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view NewType = ".new";
+constexpr std::string_view BackupType = ".bak";
+constexpr int MaxBackups = 99;
+
+// A path as its record holds it. "~" stands before what would mean something else when it is read back.
+std::string Escaped(const std::string& path)
+{
+    std::string text;
+    for (std::size_t i = 0; i < path.size(); ++i) {
+        const char c = path[i];
+        if (c == '~' || c == ';' || (c == '+' && i + 1 == path.size())) {
+            text += '~';
+        }
+        text += c;
+    }
+    return text;
+}
+
+// A line end in a path would tear its record apart; such a book is opened, but not remembered.
+bool FitsOnALine(const std::string& path)
+{
+    return path.find_first_of(LineEnd) == std::string::npos;
+}
+
+std::string IniText(const Settings& settings)
+{
+    std::string text;
+    text.append(IniSignature).append(LineEnd);
+    if (settings.RecentFileCount > 0) {
+        text.append(RecentFilesSection).append(LineEnd);
+    }
+    for (int number = 1; number <= settings.RecentFileCount; ++number) {
+        const std::string& path = settings.RecentFiles[static_cast<std::size_t>(number - 1)];
+        if (FitsOnALine(path)) {
+            text += "*" + std::to_string(number) + "; NAME=" + Escaped(path);
+            text += LineEnd;
+        }
+    }
+    return text;
+}
+
+// Makes the file that will take the settings file's name; one left behind by a crash is in nobody's way.
+FileError WriteNewFile(FileSystem& files, const std::string& path, const std::string& text)
+{
+    std::unique_ptr<OutputFile> file;
+    FileError failed = files.CreateNew(path, file);
+    if (failed.number == error::FileAlreadyExists) {
+        files.Remove(path);
+        failed = files.CreateNew(path, file);
+    }
+    if (!failed.Ok()) {
+        return failed;
+    }
+    failed = file->Write(text);
+    if (failed.Ok()) {
+        failed = file->Finish();
+    }
+    if (!failed.Ok()) {
+        file.reset();
+        files.Remove(path);
+    }
+    return failed;
+}
+
+// Whether a file stands there that loading would refuse, or cannot even read.
+bool HoldsSomethingElse(FileSystem& files, const std::string& path)
+{
+    if (!files.Exists(path)) {
+        return false;
+    }
+    std::unique_ptr<BookFile> file;
+    if (const FileError failed = files.OpenForReading(path, Sharing::Shared, file); !failed.Ok()) {
+        return failed.number != error::PathFileAccess; // a folder is left where it is: saving then fails
+    }
+    StatementReader reader(*file);
+    std::string signature;
+    return !reader.ReadLine(signature) || !IsIniSignature(signature);
+}
+
+// Puts the file beside, under the first backup name that is free: ".bak", ".bak2", ...
+FileError KeepBeside(FileSystem& files, const std::string& path)
+{
+    FileError failed;
+    for (int number = 1; number <= MaxBackups; ++number) {
+        std::string backup = path + std::string(BackupType);
+        if (number > 1) {
+            backup += std::to_string(number);
+        }
+        failed = files.RenameToNew(path, backup);
+        if (failed.number != error::FileAlreadyExists) {
+            break;
+        }
+    }
+    return failed;
+}
+
+FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::string& text)
+{
+    const std::string newPath = path + std::string(NewType);
+    FileError failed = WriteNewFile(files, newPath, text);
+    if (!failed.Ok()) {
+        return failed;
+    }
+    if (HoldsSomethingElse(files, path)) {
+        failed = KeepBeside(files, path);
+    }
+    if (failed.Ok()) {
+        failed = files.RenameOver(newPath, path);
+    }
+    if (!failed.Ok()) {
+        files.Remove(newPath);
+    }
+    return failed;
+}
+
+} // namespace
+
+void SaveIniFile(const Settings& settings, const Seams& seams)
+{
+    const std::string path = IniPath(seams.files, seams.paths, settings.IniDir);
+    const FileError failed = ReplaceIniFile(seams.files, path, IniText(settings));
+    if (!failed.Ok()) {
+        seams.messages.MsgBox("Failed to save configuration and preferences to LSADVISOR.INI due to error #" +
+                                  std::to_string(failed.number) + ": " + failed.description,
+                              Icon::Warning);
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,59 @@
+#include "reader/Settings.h"
+
+#include "base/CodePage.h"
+#include "base/Text.h"
+
+#include <algorithm>
+
+namespace ls {
+
+namespace {
+
+// Paths are compared as people read them: letters with accents have no case either, as far as the code page
+// knows them. In other paths only the plain letters are folded, for bytes that look like capitals may be
+// parts of longer characters there.
+std::string WithoutCase(const std::string& path)
+{
+    if (const std::optional<std::string> text = ToBook(path)) {
+        return UpperCase(*text);
+    }
+    std::string folded = path;
+    for (char& c : folded) {
+        if (c >= 'a' && c <= 'z') {
+            c = UpperCase(c);
+        }
+    }
+    return folded;
+}
+
+// The index of the last entry that names `path`; -1 when none does.
+int EntryOf(const Settings& settings, const std::string& path)
+{
+    const std::string wanted = WithoutCase(path);
+    for (int i = settings.RecentFileCount - 1; i >= 0; --i) {
+        if (WithoutCase(settings.RecentFiles[static_cast<std::size_t>(i)]) == wanted) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+} // namespace
+
+void AddRecentFile(Settings& settings, const std::string& path)
+{
+    int place = EntryOf(settings, path);
+    if (place == 0) {
+        return;
+    }
+    if (place < 0) {
+        settings.RecentFileCount = std::min(settings.RecentFileCount + 1, MaxRecentFiles);
+        place = settings.RecentFileCount - 1; // the last place is the new one, or its entry falls off
+    }
+    const std::string added = path; // it may be one of the entries that move
+    const auto first = settings.RecentFiles.begin();
+    std::move_backward(first, first + place, first + place + 1);
+    settings.RecentFiles.front() = added;
+}
+
+} // namespace ls

@@ -1,0 +1,114 @@
+#include "reader/StatementReader.h"
+
+#include "base/Text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr char Separator = ';';
+constexpr char Continuation = '+';
+constexpr char Escape = '~';
+
+void Append(Statement& statement, char c, bool escaped)
+{
+    statement.text += c;
+    statement.marks += escaped ? Escape : ' ';
+}
+
+} // namespace
+
+std::size_t Statement::Find(char mark) const
+{
+    std::size_t at = text.find(mark);
+    while (at != std::string::npos && IsEscaped(at)) {
+        at = text.find(mark, at + 1);
+    }
+    return at;
+}
+
+Statement Statement::Part(std::size_t from, std::size_t count) const
+{
+    std::size_t end = from + std::min(count, text.size() - from);
+    const auto isBlank = [this](std::size_t at) { return text[at] == ' ' && !IsEscaped(at); };
+    while (from < end && isBlank(from)) {
+        ++from;
+    }
+    while (end > from && isBlank(end - 1)) {
+        --end;
+    }
+    return {text.substr(from, end - from), marks.substr(from, end - from)};
+}
+
+bool StatementReader::ReadLine(std::string& line)
+{
+    if (m_next == std::string::npos) {
+        if (!m_failed.Ok() || m_cursor.AtEnd()) {
+            return false;
+        }
+        m_failed = m_cursor.ReadLine(m_lines);
+        if (!m_failed.Ok()) {
+            return false;
+        }
+        m_next = 0;
+    }
+    const std::size_t end = m_lines.find('\n', m_next);
+    const bool last = end == std::string::npos;
+    line = Trim(std::string_view(m_lines).substr(m_next, last ? end : end - m_next));
+    m_next = last ? end : end + 1;
+    return true;
+}
+
+bool StatementReader::ReadFilledLine(std::string& line)
+{
+    while (ReadLine(line)) {
+        if (!line.empty()) {
+            return true;
+        }
+    }
+    line.clear();
+    return false;
+}
+
+// Cuts one statement from IniLine, which reads on where a line is continued.
+Statement StatementReader::TakeStatement()
+{
+    Statement statement;
+    std::size_t at = 0;
+    while (at < IniLine.size() && IniLine[at] != Separator) {
+        const char c = IniLine[at++];
+        const bool last = at == IniLine.size();
+        if (c == Escape) {
+            if (!last) { // at a line's end it escapes nothing and is dropped
+                Append(statement, IniLine[at++], true);
+            }
+        } else if (c == Continuation && last) {
+            if (!ReadFilledLine(IniLine)) {
+                return statement;
+            }
+            at = 0;
+        } else {
+            Append(statement, c, false);
+        }
+    }
+    IniLine.erase(0, at + 1);
+    return statement;
+}
+
+bool StatementReader::Next(Statement& statement)
+{
+    for (;;) {
+        if (IniLine.empty() && !ReadFilledLine(IniLine)) {
+            return false;
+        }
+        statement = TakeStatement().Part(0);
+        if (!statement.text.empty()) {
+            return true;
+        }
+    }
+}
+
+} // namespace ls

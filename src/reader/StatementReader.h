@@ -1,0 +1,62 @@
+#pragma once
+
+#include "base/FileError.h"
+#include "base/FileSystem.h"
+#include "base/LineCursor.h"
+
+#include <string>
+
+namespace ls {
+
+/// One statement of the settings file, with its escapes resolved and blanks trimmed at both ends.
+///
+/// `marks` runs beside `text`: "~" where one stood before the character, which then has no special meaning.
+struct Statement
+{
+    std::string text;
+    std::string marks;
+
+    /// Whether the statement begins with `mark`, unescaped.
+    [[nodiscard]] bool Begins(char mark) const { return !text.empty() && text[0] == mark && !IsEscaped(0); }
+
+    [[nodiscard]] bool IsEscaped(std::size_t at) const { return marks[at] == '~'; }
+
+    /// Where the first unescaped `mark` stands; `std::string::npos` when there is none.
+    [[nodiscard]] std::size_t Find(char mark) const;
+
+    /// The part from `from` on, `count` characters long, without the unescaped blanks at its ends.
+    [[nodiscard]] Statement Part(std::size_t from, std::size_t count = std::string::npos) const;
+};
+
+/// Reads the statements of the settings file, several of which may share a line.
+///
+/// ";" ends a statement, "+" at the end of a line joins the next line that is not empty, and "~" takes the
+/// special meaning from the character behind it. A line may end with LF alone, as Unix editors leave it.
+class StatementReader
+{
+public:
+    /// The file must outlive the reader.
+    explicit StatementReader(BookFile& file) : m_cursor(file) {}
+
+    /// Reads one whole line, trimmed; the first one is the file's signature. False at the end of the file and
+    /// after an error.
+    bool ReadLine(std::string& line);
+
+    /// Reads the next statement that is not empty. False at the end of the file and after an error.
+    bool Next(Statement& statement);
+
+    /// What ended reading; a file that was read to its end is no error.
+    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+
+private:
+    bool ReadFilledLine(std::string& line);
+    Statement TakeStatement();
+
+    LineCursor m_cursor;
+    FileError m_failed;
+    std::string m_lines;                    ///< one line, or several that end with LF alone
+    std::size_t m_next = std::string::npos; ///< where the next of them begins; npos: all are read
+    std::string IniLine;                    ///< what is left of the line being parsed
+};
+
+} // namespace ls

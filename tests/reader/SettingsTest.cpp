@@ -1,0 +1,496 @@
+#include "reader/Settings.h"
+
+#include "support/TestSeams.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+namespace ls {
+namespace {
+
+using test::CrLf;
+using test::TestSeams;
+using Strings = std::vector<std::string>;
+
+constexpr const char* Ini = "/ini/LSAdvisor.INI";
+constexpr const char* Signature = "LSADVISOR V5.3 INI";
+constexpr const char* FormatBox =
+    "warning|Lodestar Advisor|Failed to load LSADVISOR.INI due to invalid format or version.";
+const std::string SaveBox = "warning|Lodestar Advisor|Failed to save configuration and preferences to "
+                            "LSADVISOR.INI due to error #";
+
+Strings Recent(const Settings& settings)
+{
+    return {settings.RecentFiles.begin(), settings.RecentFiles.begin() + settings.RecentFileCount};
+}
+
+struct SettingsTest : testing::Test
+{
+    TestSeams world;
+    Settings settings;
+
+    void SetUp() override
+    {
+        world.files.AddFolder("/ini");
+        settings.IniDir = "/ini";
+    }
+
+    void Load() { LoadSettings(settings, world.Get()); }
+    void Save() { SaveIniFile(settings, world.Get()); }
+
+    void SetRecent(std::initializer_list<const char*> paths)
+    {
+        for (const char* path : paths) {
+            settings.RecentFiles[static_cast<std::size_t>(settings.RecentFileCount)] = path;
+            ASSERT_TRUE(settings.RecentFileCount.Add());
+        }
+    }
+
+    void FailAt(const std::string& operation, int number)
+    {
+        world.files.fail = [operation, number](const std::string& asked) {
+            return asked.starts_with(operation) ? number : 0;
+        };
+    }
+};
+
+// What a settings file holds behind its signature, and what comes of it.
+struct StatementCase
+{
+    const char* name;
+    std::string body;
+    Strings recent;
+    Strings boxes;
+};
+
+struct SettingsStatementTest : SettingsTest, testing::WithParamInterface<StatementCase>
+{
+};
+
+TEST_P(SettingsStatementTest, load_takesTheStatements)
+{
+    world.files[Ini] = CrLf({Signature}) + GetParam().body;
+    Load();
+    EXPECT_EQ(Recent(settings), GetParam().recent);
+    EXPECT_EQ(world.messages.Take(), GetParam().boxes);
+    EXPECT_FALSE(world.end.Ended());
+}
+
+const std::string Section = "[TOP10FILES]\r\n";
+
+std::string InvalidAssignment(const std::string& statement)
+{
+    return "exclamation|Lodestar Advisor|Data file contains invalid assignment: " + statement;
+}
+
+const StatementCase StatementCases[] = {
+    {"nothing", "", {}, {}},
+    {"emptySection", Section, {}, {}},
+    {"asWritten",
+     Section + CrLf({"*1; NAME=C:\\Books\\Guide.IDA", "*2; NAME=/b/Other.IDA"}),
+     {"C:\\Books\\Guide.IDA", "/b/Other.IDA"},
+     {}},
+    {"everythingOnOneLine", "[TOP10FILES];*1;NAME=a;*;NAME=b", {"a", "b"}, {}},
+    {"crAlone", "[TOP10FILES]\r*1; NAME=a\r", {"a"}, {}},
+    {"lfAlone", "[TOP10FILES]\n*1; NAME=a\n\n*2; NAME=b", {"a", "b"}, {}},
+    {"blanksAndEmptyLines", CrLf({"", "   [TOP10FILES]  ", "  ", "  *1 ;  NAME  =  a b  ", ""}), {"a b"}, {}},
+    {"emptyStatements", Section + ";; NAME=a;;\r\n;", {"a"}, {}},
+    {"escapedSemicolon", Section + "NAME=a~;b", {"a;b"}, {}},
+    {"escapedTilde", Section + "NAME=a~~b", {"a~b"}, {}},
+    {"escapedLetter", Section + "N~AME=~a", {"a"}, {}},
+    {"tildeAtTheEndOfALine_isDropped", Section + "NAME=a~\r\n*; NAME=b", {"a", "b"}, {}},
+    {"tildeBeforeTheEndBlank_keepsNothing", Section + "NAME=a~   \r\n", {"a"}, {}},
+    {"plusInside_isText", Section + "NAME=a+b", {"a+b"}, {}},
+    {"plusAtTheEnd_joinsTheNextLine", Section + "NAME=a+\r\n   b\r\nNAME=c", {"ab", "c"}, {}},
+    {"plusAtTheEnd_keepsBlanksBeforeIt", Section + "NAME=a +\r\nb", {"a b"}, {}},
+    {"plusAtTheEnd_passesOverEmptyLines", Section + "NAME=a+\r\n\r\n  \r\nb", {"ab"}, {}},
+    {"plusOnSeveralLines", Section + "NA+\r\nME+\r\n=a+\r\n+\r\nb", {"ab"}, {}},
+    {"plusInTheLastLine_isDropped", Section + "NAME=a+", {"a"}, {}},
+    {"joinedLine_mayEndTheStatement", Section + "NAME=a+\r\nb; NAME=c", {"ab", "c"}, {}},
+    {"escapedPlusAtTheEnd_isText", Section + "NAME=a~+\r\nNAME=b", {"a+", "b"}, {}},
+    {"escapedTildeBeforePlus_joins", Section + "NAME=a~~+\r\nb", {"a~b"}, {}},
+    {"plusBeforeSemicolon_isText", Section + "NAME=a+;NAME=b", {"a+", "b"}, {}},
+    {"comment", "'x=y\r\n" + Section + "'NAME=a\r\nNAME=b", {"b"}, {}},
+    {"semicolonEndsAComment", Section + "'NAME=a; NAME=b", {"b"}, {}},
+    {"quoteInside_isNoComment", Section + "NAME='a", {"'a"}, {}},
+    {"escapedQuote_isNoComment", Section + "~'NAME", {}, {InvalidAssignment("'NAME")}},
+    {"escapedStar_isNoRecord", Section + "~*1", {}, {InvalidAssignment("*1")}},
+    {"escapedBracket_isNoSection", Section + "~[X]", {}, {InvalidAssignment("[X]")}},
+    {"escapedEquals_isNone", Section + "NAME~=a", {}, {InvalidAssignment("NAME=a")}},
+    {"secondEquals_isText", Section + "NAME=a=b", {"a=b"}, {}},
+    {"sectionTwice", Section + "NAME=a\r\n" + Section + "NAME=b", {"a", "b"}, {}},
+    {"emptyName_makesAnEmptyEntry", Section + "NAME=\r\nNAME=b", {"", "b"}, {}},
+    {"elevenNames_keepTheFirstTen",
+     Section + CrLf({"NAME=1", "NAME=2", "NAME=3", "NAME=4", "NAME=5", "NAME=6", "NAME=7", "NAME=8", "NAME=9",
+                     "NAME=10", "NAME=11"}),
+     {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"},
+     {}},
+    {"recordNumbers_doNotMatter",
+     Section + "*7; NAME=a; *2; NAME=b; *-3; NAME=c; *x; NAME=d",
+     {"a", "b", "c", "d"},
+     {}},
+    {"highestRecordNumber", Section + "*32767; NAME=a", {"a"}, {}},
+    {"assignmentBeforeTheSection_isPassedOver",
+     "NAME=a\r\n*99999; OTHER=b\r\n" + Section + "NAME=c",
+     {"c"},
+     {}},
+    {"unknownField",
+     Section + "FILE=a\r\nNAME=b",
+     {"b"},
+     {"warning|Lodestar Advisor|LSIdeas.INI file contains invalid field name for Top10Files: FILE"}},
+    {"fieldInLowerCase",
+     Section + "name=a",
+     {},
+     {"warning|Lodestar Advisor|LSIdeas.INI file contains invalid field name for Top10Files: name"}},
+    {"unknownSection_endsLoading",
+     Section + "NAME=a\r\n[OTHER]\r\nNAME=b\r\n" + Section + "NAME=c",
+     {"a"},
+     {"critical|Lodestar Advisor|LSAdvisor.INI contains invalid record type: [OTHER]"}},
+    {"sectionInLowerCase",
+     "[top10files]\r\nNAME=a",
+     {},
+     {"critical|Lodestar Advisor|LSAdvisor.INI contains invalid record type: [top10files]"}},
+    {"noAssignment_goesOn", Section + "NAME\r\nNAME=b", {"b"}, {InvalidAssignment("NAME")}},
+    {"noFieldName_goesOn", Section + "=a\r\nNAME=b", {"b"}, {InvalidAssignment("=a")}},
+    {"noAssignmentBeforeTheSection", "hello\r\n" + Section + "NAME=b", {"b"}, {InvalidAssignment("hello")}},
+    {"bytesThatAreNoUtf8", Section + "NAME=/\xFF\r\n\xFF", {"/\xFF"}, {InvalidAssignment("\xEF\xBF\xBD")}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Bodies, SettingsStatementTest, testing::ValuesIn(StatementCases),
+                         [](const auto& row) { return row.param.name; });
+
+struct SignatureCase
+{
+    const char* name;
+    const char* line;
+    bool valid;
+};
+
+struct SettingsSignatureTest : SettingsTest, testing::WithParamInterface<SignatureCase>
+{
+};
+
+TEST_P(SettingsSignatureTest, load_checksTheFirstLine)
+{
+    world.files[Ini] = GetParam().line + std::string("\r\n") + Section + "NAME=a";
+    Load();
+    EXPECT_EQ(Recent(settings), GetParam().valid ? Strings{"a"} : Strings{});
+    EXPECT_EQ(world.messages.Take(), GetParam().valid ? Strings{} : Strings{FormatBox});
+}
+
+const SignatureCase SignatureCases[] = {
+    {"asWritten", "LSADVISOR V5.3 INI", true},
+    {"older", "LSADVISOR V4 INI", true},
+    {"otherOrder", "INI of LSADVISOR V5.30", true},
+    {"newer", "LSADVISOR V5.4 INI", false},
+    {"aLittleNewer", "LSADVISOR V5.3000001 INI", false},
+    {"versionZero", "LSADVISOR V0 INI", false},
+    {"noNumber", "LSADVISOR V INI", false},
+    {"noVersion", "LSADVISOR 5.3 INI", false},
+    {"lowerCaseV", "LSADVISOR v5.3 INI", false},
+    {"noProduct", "ADVISOR V5.3 INI", false},
+    {"productInLowerCase", "lsadvisor V5.3 INI", false},
+    {"noIni", "LSADVISOR V5.3", false},
+    {"empty", "", false},
+};
+
+INSTANTIATE_TEST_SUITE_P(Lines, SettingsSignatureTest, testing::ValuesIn(SignatureCases),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(SettingsTest, load_noFile_saysNothing)
+{
+    Load();
+    EXPECT_EQ(Recent(settings), Strings{});
+    EXPECT_EQ(world.messages.Take(), Strings{});
+}
+
+TEST_F(SettingsTest, load_emptyFile_isRefused)
+{
+    world.files[Ini] = "";
+    Load();
+    EXPECT_EQ(world.messages.Take(), Strings{FormatBox});
+}
+
+TEST_F(SettingsTest, load_unreadableFile_saysNothing)
+{
+    for (const char* operation : {"open", "read"}) {
+        world.files[Ini] = CrLf({Signature, "[TOP10FILES]", "NAME=a"});
+        FailAt(operation, error::DeviceIo);
+        Load();
+        EXPECT_EQ(Recent(settings), Strings{}) << operation;
+        EXPECT_EQ(world.messages.Take(), Strings{}) << operation;
+    }
+}
+
+TEST_F(SettingsTest, load_noFolderGiven_readsFromTheCurrentOne)
+{
+    settings.IniDir.clear();
+    world.files["/work/LSAdvisor.INI"] = CrLf({Signature, "[TOP10FILES]", "NAME=a"});
+    Load();
+    EXPECT_EQ(Recent(settings), Strings{"a"});
+}
+
+TEST_F(SettingsTest, load_otherCase_isFound)
+{
+    world.files["/ini/LSADVISOR.INI"] = CrLf({Signature, "[TOP10FILES]", "NAME=a"});
+    settings.IniDir = "/INI";
+    Load();
+    EXPECT_EQ(Recent(settings), Strings{"a"});
+}
+
+TEST_F(SettingsTest, load_again_replacesTheList)
+{
+    SetRecent({"old 1", "old 2"});
+    world.files[Ini] = CrLf({Signature, "[TOP10FILES]", "NAME=a"});
+    Load();
+    EXPECT_EQ(Recent(settings), Strings{"a"});
+    EXPECT_EQ(settings.RecentFiles[1], "");
+}
+
+struct TooManyCase
+{
+    const char* name;
+    const char* body;
+};
+
+struct SettingsTooManyTest : SettingsTest, testing::WithParamInterface<TooManyCase>
+{
+};
+
+TEST_P(SettingsTooManyTest, load_tooManyRecords_endsTheProgram)
+{
+    world.files[Ini] = CrLf({Signature, "[TOP10FILES]", "NAME=a"}) + GetParam().body;
+    Load();
+    EXPECT_EQ(Recent(settings), Strings{"a"});
+    EXPECT_EQ(world.messages.Take(),
+              Strings{"critical|Lodestar Advisor|The input file contains too many records to load."});
+    EXPECT_EQ(world.end.Reason(), "too many records in the settings file");
+}
+
+INSTANTIATE_TEST_SUITE_P(Bodies, SettingsTooManyTest,
+                         testing::Values(TooManyCase{"numberAboveTheLimit", "*32768; NAME=b"},
+                                         TooManyCase{"hugeNumber", "*99999999999999999999; NAME=b"},
+                                         TooManyCase{"nextBehindTheLast", "*32767; *; NAME=b"}),
+                         [](const auto& row) { return row.param.name; });
+
+struct AddCase
+{
+    const char* name;
+    Strings before;
+    const char* path;
+    Strings after;
+};
+
+struct AddRecentFileTest : testing::TestWithParam<AddCase>
+{
+};
+
+TEST_P(AddRecentFileTest, add_putsThePathFirst)
+{
+    Settings settings;
+    for (const std::string& path : GetParam().before) {
+        settings.RecentFiles[static_cast<std::size_t>(settings.RecentFileCount)] = path;
+        ASSERT_TRUE(settings.RecentFileCount.Add());
+    }
+    AddRecentFile(settings, GetParam().path);
+    EXPECT_EQ(Recent(settings), GetParam().after);
+}
+
+const AddCase AddCases[] = {
+    {"firstOfAll", {}, "a", {"a"}},
+    {"new", {"a", "b"}, "c", {"c", "a", "b"}},
+    {"atTheTop_changesNothing", {"a", "b"}, "A", {"a", "b"}},
+    {"second", {"a", "b", "c"}, "b", {"b", "a", "c"}},
+    {"last", {"a", "b", "c"}, "c", {"c", "a", "b"}},
+    {"otherCase_isMovedAndRewritten",
+     {"x", "y", "C:\\Books\\Guide.IDA", "z"},
+     "c:\\books\\guide.ida",
+     {"c:\\books\\guide.ida", "x", "y", "z"}},
+    {"twoMatches_theLastCounts", {"x", "A", "y", "a"}, "a", {"a", "x", "A", "y"}},
+    {"nine_growToTen",
+     {"1", "2", "3", "4", "5", "6", "7", "8", "9"},
+     "n",
+     {"n", "1", "2", "3", "4", "5", "6", "7", "8", "9"}},
+    {"ten_theLastFallsOff",
+     {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"},
+     "n",
+     {"n", "1", "2", "3", "4", "5", "6", "7", "8", "9"}},
+    {"tenAndTheLastAgain",
+     {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"},
+     "10",
+     {"10", "1", "2", "3", "4", "5", "6", "7", "8", "9"}},
+    {"accentsHaveNoCase", {"x", "\xC3\x84.IDA"}, "\xC3\xA4.ida", {"\xC3\xA4.ida", "x"}},
+    {"otherLetters_staySeparate", {"x", "\xC3\x9A"}, "\xC3\x8A", {"\xC3\x8A", "x", "\xC3\x9A"}},
+    {"lettersThatTheCodePageLacks", {"x", "\xD0\x9A.IDA"}, "\xD0\x9A.ida", {"\xD0\x9A.ida", "x"}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Lists, AddRecentFileTest, testing::ValuesIn(AddCases),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(SettingsTest, add_entryOfItsOwnList_isTakenWhole)
+{
+    SetRecent({"a", "b", "c"});
+    AddRecentFile(settings, settings.RecentFiles[2]);
+    EXPECT_EQ(Recent(settings), (Strings{"c", "a", "b"}));
+}
+
+TEST_F(SettingsTest, save_noRecentFiles_writesTheSignatureOnly)
+{
+    Save();
+    EXPECT_EQ(world.files[Ini], "LSADVISOR V5.3 INI\r\n");
+    EXPECT_EQ(world.messages.Take(), Strings{});
+}
+
+TEST_F(SettingsTest, save_recentFiles_writesOneRecordEach)
+{
+    SetRecent({"C:\\Books\\Guide.IDA", "/b/My Book (001).IDA"});
+    Save();
+    EXPECT_EQ(world.files[Ini], "LSADVISOR V5.3 INI\r\n[TOP10FILES]\r\n*1; NAME=C:\\Books\\Guide.IDA\r\n"
+                                "*2; NAME=/b/My Book (001).IDA\r\n");
+}
+
+TEST_F(SettingsTest, save_specialCharacters_areEscaped)
+{
+    SetRecent({"/a;b", "/~u/c", "/d+", "/e+f", "/g~+"});
+    Save();
+    EXPECT_EQ(world.files[Ini], CrLf({Signature, "[TOP10FILES]", "*1; NAME=/a~;b", "*2; NAME=/~~u/c",
+                                      "*3; NAME=/d~+", "*4; NAME=/e+f", "*5; NAME=/g~~~+"}));
+}
+
+TEST_F(SettingsTest, save_thenLoad_givesTheSamePaths)
+{
+    SetRecent({"/a;b~", "~", "/d+", "/+", "/x=y", "'q", "[z]", "*1", "/\xFF\xC3\x84", "/e;+"});
+    const Strings before = Recent(settings);
+    Save();
+    Settings loaded;
+    loaded.IniDir = "/ini";
+    LoadSettings(loaded, world.Get());
+    EXPECT_EQ(Recent(loaded), before);
+    EXPECT_EQ(world.messages.Take(), Strings{});
+}
+
+TEST_F(SettingsTest, save_pathWithLineEnd_isLeftOut)
+{
+    SetRecent({"/a\nb", "/c\rd", "/e"});
+    Save();
+    EXPECT_EQ(world.files[Ini], CrLf({Signature, "[TOP10FILES]", "*3; NAME=/e"}));
+}
+
+TEST_F(SettingsTest, save_existingFile_isReplacedInOneStep)
+{
+    world.files[Ini] = CrLf({Signature, "[TOP10FILES]", "*1; NAME=old"});
+    SetRecent({"new"});
+    Save();
+    EXPECT_EQ(world.files[Ini], CrLf({Signature, "[TOP10FILES]", "*1; NAME=new"}));
+    EXPECT_FALSE(world.files.Has("/ini/LSAdvisor.INI.new"));
+    EXPECT_FALSE(world.files.Has("/ini/LSAdvisor.INI.bak"));
+    EXPECT_EQ(world.files.log.back(), "rename /ini/LSAdvisor.INI.new /ini/LSAdvisor.INI");
+}
+
+TEST_F(SettingsTest, save_fileInOtherCase_isTheOneReplaced)
+{
+    world.files["/ini/LSADVISOR.INI"] = CrLf({Signature});
+    settings.IniDir = "/Ini";
+    SetRecent({"a"});
+    Save();
+    EXPECT_EQ(world.files["/ini/LSADVISOR.INI"], CrLf({Signature, "[TOP10FILES]", "*1; NAME=a"}));
+    EXPECT_FALSE(world.files.Has(Ini));
+}
+
+TEST_F(SettingsTest, save_folderInOtherCase_getsItsFirstFile)
+{
+    settings.IniDir = "/Ini";
+    Save();
+    EXPECT_TRUE(world.files.Has(Ini));
+}
+
+TEST_F(SettingsTest, save_noFolderGiven_writesIntoTheCurrentOne)
+{
+    settings.IniDir.clear();
+    Save();
+    EXPECT_TRUE(world.files.Has("/work/LSAdvisor.INI"));
+}
+
+TEST_F(SettingsTest, save_refusedFile_isKeptBeside)
+{
+    world.files[Ini] = "LSADVISOR V5.4 INI\r\nprecious";
+    Save();
+    EXPECT_EQ(world.files["/ini/LSAdvisor.INI.bak"], "LSADVISOR V5.4 INI\r\nprecious");
+    EXPECT_EQ(world.files[Ini], CrLf({Signature}));
+    SetRecent({"a"});
+    Save(); // the file is one of this version now: no second backup
+    EXPECT_EQ(world.files["/ini/LSAdvisor.INI.bak"], "LSADVISOR V5.4 INI\r\nprecious");
+    EXPECT_FALSE(world.files.Has("/ini/LSAdvisor.INI.bak2"));
+}
+
+TEST_F(SettingsTest, save_refusedFileAndAnEarlierBackup_keepsBoth)
+{
+    world.files["/ini/LSAdvisor.INI.bak"] = "first";
+    world.files[Ini] = "second";
+    Save();
+    EXPECT_EQ(world.files["/ini/LSAdvisor.INI.bak"], "first");
+    EXPECT_EQ(world.files["/ini/LSAdvisor.INI.bak2"], "second");
+    EXPECT_EQ(world.files[Ini], CrLf({Signature}));
+}
+
+TEST_F(SettingsTest, save_backupFails_leavesTheRefusedFile)
+{
+    world.files[Ini] = "precious";
+    FailAt("rename", error::PermissionDenied);
+    Save();
+    EXPECT_EQ(world.files[Ini], "precious");
+    EXPECT_FALSE(world.files.Has("/ini/LSAdvisor.INI.new"));
+    EXPECT_EQ(world.messages.Take(), Strings{SaveBox + "70: Permission denied"});
+}
+
+TEST_F(SettingsTest, save_fileThatCannotBeOpened_isKeptBeside)
+{
+    world.files[Ini] = CrLf({Signature, "[TOP10FILES]", "*1; NAME=unseen"});
+    FailAt("open", error::PermissionDenied);
+    Save();
+    EXPECT_EQ(world.files["/ini/LSAdvisor.INI.bak"], CrLf({Signature, "[TOP10FILES]", "*1; NAME=unseen"}));
+    EXPECT_EQ(world.files[Ini], CrLf({Signature}));
+}
+
+TEST_F(SettingsTest, save_newFileLeftByACrash_isNotInTheWay)
+{
+    world.files["/ini/LSAdvisor.INI.new"] = "half a";
+    Save();
+    EXPECT_EQ(world.files[Ini], CrLf({Signature}));
+    EXPECT_EQ(world.messages.Take(), Strings{});
+}
+
+struct SaveFaultCase
+{
+    const char* name;
+    const char* operation;
+    int number;
+    const char* end; ///< of the box
+};
+
+struct SettingsSaveFaultTest : SettingsTest, testing::WithParamInterface<SaveFaultCase>
+{
+};
+
+TEST_P(SettingsSaveFaultTest, save_fault_isShownAndTheOldFileStays)
+{
+    const std::string old = CrLf({Signature, "[TOP10FILES]", "*1; NAME=old"});
+    world.files[Ini] = old;
+    SetRecent({"new"});
+    FailAt(GetParam().operation, GetParam().number);
+    Save();
+    EXPECT_EQ(world.messages.Take(), Strings{SaveBox + GetParam().end});
+    EXPECT_EQ(world.files[Ini], old);
+    EXPECT_FALSE(world.files.Has("/ini/LSAdvisor.INI.new"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Operations, SettingsSaveFaultTest,
+                         testing::Values(SaveFaultCase{"create", "create", 70, "70: Permission denied"},
+                                         SaveFaultCase{"write", "write", 61, "61: Disk full"},
+                                         SaveFaultCase{"finish", "finish", 57, "57: Device I/O error"},
+                                         SaveFaultCase{"rename", "rename", 75, "75: Path/File access error"}),
+                         [](const auto& row) { return row.param.name; });
+
+} // namespace
+} // namespace ls
