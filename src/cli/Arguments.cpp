@@ -12,7 +12,7 @@ namespace {
 
 std::string Quoted(std::string_view argument)
 {
-    return "\"" + FromPath(argument) + "\"";
+    return FromPath(argument).insert(0, 1, '"').append(1, '"');
 }
 
 // The words of "BOOK [TITLE]" or "W H".
