@@ -9,6 +9,7 @@
 #include <atomic>
 #include <csignal>
 #include <filesystem>
+#include <latch>
 #include <thread>
 
 #include <fcntl.h>
@@ -191,15 +192,13 @@ TEST_F(LinuxFileSystemWriteTest, renameToNew_race_hasOneWinner)
     constexpr int Writers = 4;
     for (int round = 0; round < 50; ++round) {
         const std::string target = folder / "final" + std::to_string(round);
-        std::atomic<int> ready = 0;
+        std::latch together(Writers);
         std::atomic<int> winners = 0;
         std::vector<std::thread> threads;
         for (int i = 0; i < Writers; ++i) {
             const std::string part = folder.Write("part" + std::to_string(i), std::to_string(i));
             threads.emplace_back([&, part] {
-                ++ready;
-                while (ready < Writers) {
-                }
+                together.arrive_and_wait();
                 winners += files.RenameToNew(part, target).Ok() ? 1 : 0;
             });
         }
