@@ -66,6 +66,14 @@ TEST_F(LinuxFileSystemTest, readAt_endOfFile_givesFewerBytes)
     EXPECT_EQ(ReadAt(1'000'000'000'000, 10), "");
 }
 
+// The kernel gives this file a page at a time, however much is asked for.
+TEST_F(LinuxFileSystemTest, readAt_shortReads_goesOnToTheEnd)
+{
+    ASSERT_EQ(Open("/proc/self/smaps"), FileError{});
+    constexpr std::size_t Page = 4096;
+    EXPECT_GT(ReadAt(1, 10 * Page).size(), 2 * Page);
+}
+
 TEST_F(LinuxFileSystemTest, readAt_positionZero_isRefused)
 {
     ASSERT_EQ(Open(folder.Write("a", "abc")), FileError{});

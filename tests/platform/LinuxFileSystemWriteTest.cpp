@@ -6,9 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <latch>
 #include <thread>
 
@@ -134,31 +136,62 @@ TEST_F(LinuxFileSystemWriteTest, write_diskThatFillsUp_isDiskFull)
     EXPECT_EQ(result, 0);
 }
 
+std::atomic<int> interruptions = 0;
+
+// Whether the thread is waiting in the kernel.
+bool Sleeps(pid_t thread)
+{
+    std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
+    std::string stat;
+    std::getline(file, stat);
+    const std::size_t name = stat.rfind(") ");
+    return name != std::string::npos && stat[name + 2] == 'S';
+}
+
+// Reads a full pipe empty, but first lets the writer wait and interrupts it three times.
+std::size_t InterruptAndRead(int pipe, pthread_t writer, pid_t writerId, std::size_t size)
+{
+    for (int i = 0; i < 3; ++i) {
+        while (!Sleeps(writerId)) {
+            std::this_thread::yield();
+        }
+        ::pthread_kill(writer, SIGUSR1);
+        while (interruptions <= i) {
+            std::this_thread::yield();
+        }
+    }
+    std::string buffer(10'000, '\0');
+    std::size_t received = 0;
+    for (ssize_t count = 1; count > 0 && received < size;) {
+        count = ::read(pipe, buffer.data(), std::min(buffer.size(), size - received));
+        received += count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    return received;
+}
+
+// A full pipe takes nothing until it is read, and a signal without SA_RESTART interrupts who waits for it.
 TEST_F(LinuxFileSystemWriteTest, write_interruptedAndShortWrites_writesAll)
 {
-    // A pipe takes little at a time, and signals without SA_RESTART interrupt the writer while it waits.
     int ends[2];
     ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0);
     struct sigaction action = {};
-    action.sa_handler = [](int) {};
+    action.sa_handler = [](int) { ++interruptions; };
     struct sigaction before = {};
     ASSERT_EQ(::sigaction(SIGUSR1, &action, &before), 0);
-    const std::string bytes(1'000'000, 'x');
-    const pthread_t writer = ::pthread_self();
+    const std::string filling(static_cast<std::size_t>(::fcntl(ends[1], F_GETPIPE_SZ)), 'f');
+    ASSERT_EQ(::write(ends[1], filling.data(), filling.size()), static_cast<ssize_t>(filling.size()));
+
+    const std::string bytes(300'000, 'x');
+    const std::size_t size = filling.size() + bytes.size();
     std::size_t received = 0;
-    std::thread reader([&] {
-        std::string buffer(10'000, '\0');
-        for (ssize_t count = 1; count > 0 && received < bytes.size();) {
-            ::pthread_kill(writer, SIGUSR1);
-            count = ::read(ends[0], buffer.data(), buffer.size());
-            received += count > 0 ? static_cast<std::size_t>(count) : 0;
-        }
+    std::thread reader([&, writer = ::pthread_self(), writerId = ::gettid()] {
+        received = InterruptAndRead(ends[0], writer, writerId, size);
     });
     LinuxOutputFile pipe{FileDescriptor(ends[1])};
     EXPECT_EQ(pipe.Write(bytes), FileError{});
-    reader.join();
-    EXPECT_EQ(received, bytes.size());
     EXPECT_EQ(pipe.Finish(), FileError{}); // a pipe cannot be flushed, and that is no failure
+    reader.join();
+    EXPECT_EQ(received, size);
     ::close(ends[0]);
     ::sigaction(SIGUSR1, &before, nullptr);
 }

@@ -51,7 +51,7 @@ std::optional<std::string> KeyFileValue(std::string_view text, std::string_view 
         const std::size_t end = std::min(text.find('\n'), text.size());
         const std::string_view line = TrimSpace(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
-        if (line.empty() || line.front() == '#') {
+        if (line.empty()) {
             continue;
         }
         if (line.front() == '[') {

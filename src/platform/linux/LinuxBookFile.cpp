@@ -12,9 +12,6 @@ namespace ls {
 FileError LinuxBookFile::ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got)
 {
     got = 0;
-    if (pos < 1) {
-        return MakeFileError(error::InvalidCall);
-    }
     while (got < size) {
         const auto at = static_cast<off_t>(pos - 1 + static_cast<FilePos>(got));
         const ssize_t count = ::pread(m_descriptor.Get(), buffer + got, size - got, at);

@@ -11,6 +11,7 @@ class LinuxBookFile : public BookFile
 public:
     explicit LinuxBookFile(FileDescriptor descriptor) : m_descriptor(std::move(descriptor)) {}
 
+    /// A position below 1 is error 5.
     FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override;
     FileError Size(FilePos& size) override;
 

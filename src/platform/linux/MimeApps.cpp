@@ -17,8 +17,8 @@ constexpr std::size_t MaxIdSize = 255;
 
 bool IsId(const std::string& id)
 {
-    return id.size() <= MaxIdSize && id.ends_with(".desktop") && !id.starts_with('.') &&
-           id.find('/') == std::string::npos && id.find('\0') == std::string::npos;
+    return id.size() <= MaxIdSize && id.ends_with(".desktop") && id.find('/') == std::string::npos &&
+           id.find('\0') == std::string::npos;
 }
 
 // The text of the id's file in a folder. A dash of the id may stand for a folder: "a-web.desktop" is also
