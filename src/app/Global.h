@@ -3,6 +3,7 @@
 #include "advisor/AdvisorTables.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
+#include "files/FileDialog.h"
 #include "reader/Settings.h"
 
 namespace ls {
@@ -15,6 +16,7 @@ struct Global
     Book book;
     Settings settings;
     AdvisorTables advisor;
+    FileDialog fileDialog;
 };
 
 } // namespace ls

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QFont>
+
+namespace ls {
+
+/// The font of the forms, which they are designed for: "MS Sans Serif" at 9.75 points, or a face of like
+/// measures where that is not installed.
+[[nodiscard]] QFont FormFont();
+
+} // namespace ls

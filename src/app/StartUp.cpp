@@ -1,0 +1,24 @@
+#include "app/StartUp.h"
+
+#include "app/Global.h"
+#include "base/Processes.h"
+#include "reader/BookCommands.h"
+#include "reader/CommandLine.h"
+
+namespace ls {
+
+void StartUp(Global& global, const Seams& seams, const CommandLine& commandLine, BookCommands& commands)
+{
+    global.book.WorkDir = seams.processes.Environment("LSADVISOR_WORKDIR");
+    ReportInvalidParameters(commandLine, seams);
+    global.settings.IniDir = commandLine.iniDir;
+    global.book.StartTopic = commandLine.startTopic;
+    LoadSettings(global.settings, seams);
+    if (seams.end.Ended() || commandLine.bookPath.empty()) {
+        return;
+    }
+    global.book.BookPath = commandLine.bookPath;
+    commands.OpenAtStart();
+}
+
+} // namespace ls

@@ -1,0 +1,57 @@
+// lsadvisor: the desktop program.
+
+#include "app/FormMessages.h"
+#include "app/Global.h"
+#include "platform/Console.h"
+#include "platform/SystemSeams.h"
+#include "reader/CommandLine.h"
+#include "reader/MainForm.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include <iostream>
+
+namespace {
+
+constexpr int EndedNormally = 0;
+constexpr int EndedByFault = 4;
+
+// The program speaks English only, whatever the desktop does.
+void SetUpApplication()
+{
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    QApplication::setApplicationName(QStringLiteral("lsadvisor"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Lodestar Advisor"));
+    QApplication::setApplicationVersion(QStringLiteral(LS_VERSION));
+}
+
+int ExitStatus(const ls::ProgramEnd& end)
+{
+    if (!end.Ended()) {
+        return EndedNormally;
+    }
+    std::cerr << "lsadvisor: " << end.Reason() << '\n';
+    return EndedByFault;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv); // takes the toolkit's own arguments away
+    SetUpApplication();
+    ls::Global global;
+    const std::unique_ptr<ls::FileSystem> files = ls::MakeFileSystem();
+    const std::unique_ptr<ls::Processes> processes = ls::MakeProcesses();
+    ls::FormMessages messages(global.end);
+    const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
+    ls::MainForm form(global, seams);
+    messages.SetParent(&form);
+    form.Form_Load(ls::ParseArguments(ls::ProgramArguments(argc, argv), seams));
+    if (!global.end.Ended()) {
+        form.show();
+        QApplication::exec();
+    }
+    return ExitStatus(global.end);
+}

@@ -1,0 +1,273 @@
+#include "reader/MainForm.h"
+
+#include "app/FormFont.h"
+#include "app/Global.h"
+#include "app/RunGuarded.h"
+#include "app/StartUp.h"
+#include "reader/MainFormView.h"
+#include "ui_MainForm.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+#include <cmath>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr int AfterResizeMilliseconds = 60; // how long a window that is being dragged must rest
+
+int Pixels(double length)
+{
+    return static_cast<int>(std::lround(length));
+}
+
+} // namespace
+
+MainForm::MainForm(Global& global, const Seams& seams)
+    : m_ui(std::make_unique<Ui::MainForm>()), m_global(global), m_seams(seams), m_layout(RememberDesign()),
+      m_view(std::make_unique<MainFormView>(*this, *m_ui, global, m_seams)),
+      m_navigation(global.book, m_seams, *m_view),
+      m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation)
+{
+    ConnectButtons();
+    ConnectItems();
+    m_afterResize.setSingleShot(true);
+    m_afterResize.setInterval(AfterResizeMilliseconds);
+    connect(&m_afterResize, &QTimer::timeout, this, &MainForm::ShowAgain);
+    m_ui->centralwidget->installEventFilter(this);
+    m_ui->TopicList->installEventFilter(this);
+    m_ui->TopicList->view()->viewport()->installEventFilter(this);
+}
+
+MainForm::~MainForm() = default;
+
+// The form is designed by the size of its inner area; the menus come on top of that.
+MainLayout MainForm::RememberDesign()
+{
+    setFont(FormFont());
+    m_ui->setupUi(this);
+    const QSize inner = size();
+    resize(inner + QSize(0, m_ui->menubar->sizeHint().height()));
+    MainGeometry design;
+    design.innerWidth = inner.width();
+    design.innerHeight = inner.height();
+    design.picLeft = m_ui->MsgPic->x();
+    design.picTop = m_ui->MsgPic->y();
+    design.picWidth = m_ui->MsgPic->width();
+    design.picHeight = m_ui->MsgPic->height();
+    design.scrollWidth = m_ui->VScroll1->width();
+    design.listLeft = m_ui->TopicList->x();
+    design.listWidth = m_ui->TopicList->width();
+    design.goToLeft = m_ui->GoToButton->x();
+    design.backLeft = m_ui->BackButton->x();
+    design.nextLeft = m_ui->NextButton->x();
+    design.doneTop = m_ui->DoneButton->y();
+    return MainLayout(design);
+}
+
+void MainForm::ConnectButtons()
+{
+    connect(m_ui->GoToButton, &QAbstractButton::clicked, this, &MainForm::GoToButton_Click);
+    connect(m_ui->BackButton, &QAbstractButton::clicked, this, &MainForm::PrevTopic_Click);
+    connect(m_ui->NextButton, &QAbstractButton::clicked, this, &MainForm::NextItem_Click);
+    connect(m_ui->DoneButton, &QAbstractButton::clicked, this, &MainForm::DoneButton_Click);
+    connect(m_ui->TopicList, &QComboBox::currentIndexChanged, this, &MainForm::TopicList_Change);
+    connect(m_ui->TopicList, &QComboBox::activated, this, &MainForm::TopicList_Change);
+    connect(m_ui->VScroll1, &QAbstractSlider::valueChanged, this, &MainForm::VScroll1_Change);
+}
+
+void MainForm::ConnectItems()
+{
+    connect(m_ui->NewItem, &QAction::triggered, this, &MainForm::NewItem_Click);
+    connect(m_ui->OpenItem, &QAction::triggered, this, &MainForm::OpenItem_Click);
+    connect(m_ui->ExitItem, &QAction::triggered, this, &MainForm::DoneButton_Click);
+    connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
+    connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
+    connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
+    connect(m_ui->ContentsItem, &QAction::triggered, this, &MainForm::ContentsItem_Click);
+}
+
+// Every command goes through here. One that is still running, with a box or form of its own open, is never
+// interrupted by another; a resize that came meanwhile is caught up with; and when a fault has ended the
+// program, the window closes.
+void MainForm::Run(const std::function<void()>& command)
+{
+    if (m_running) {
+        return;
+    }
+    {
+        const QScopedValueRollback<bool> running(m_running, true);
+        RunGuarded(command, m_seams);
+    }
+    if (m_seams.end.Ended()) {
+        close();
+    }
+}
+
+void MainForm::Form_Load(const CommandLine& commandLine)
+{
+    Run([&] { StartUp(m_global, m_seams, commandLine, m_commands); });
+}
+
+void MainForm::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (!m_activated) {
+        m_activated = true;
+        QTimer::singleShot(0, this, &MainForm::Form_Activate);
+    }
+}
+
+void MainForm::Form_Activate()
+{
+    if (m_global.book.BookPath.empty()) {
+        OpenItem_Click();
+    }
+}
+
+void MainForm::closeEvent(QCloseEvent* event)
+{
+    bool mayLeave = m_seams.end.Ended();
+    if (!mayLeave) {
+        Run([&] { mayLeave = m_commands.MayLeave(); });
+    }
+    event->setAccepted(mayLeave);
+}
+
+void MainForm::Form_Resize()
+{
+    const QSize inner = m_ui->centralwidget->size();
+    const MainPositions to = m_layout.Form_Resize(inner.width(), inner.height());
+    m_ui->MsgPic->resize(Pixels(to.picWidth), Pixels(to.picHeight));
+    m_ui->VScroll1->move(Pixels(to.scrollLeft), m_ui->VScroll1->y());
+    m_ui->VScroll1->resize(m_ui->VScroll1->width(), Pixels(to.scrollHeight));
+    m_ui->TopicList->resize(Pixels(to.listWidth), m_ui->TopicList->height());
+    m_ui->GoToButton->move(Pixels(to.goToLeft), m_ui->GoToButton->y());
+    m_ui->BackButton->move(Pixels(to.backLeft), m_ui->BackButton->y());
+    m_ui->NextButton->move(Pixels(to.nextLeft), m_ui->NextButton->y());
+    for (QWidget* button : {m_ui->DoneButton, m_ui->AdvisorButton, m_ui->XRButton, m_ui->ExplainButton}) {
+        button->move(button->x(), Pixels(to.buttonTop));
+    }
+    m_afterResize.start();
+}
+
+// At the end of a burst of resizes. While a box, a form or a list is open the topic waits until that closes.
+void MainForm::ShowAgain()
+{
+    if (m_running || QApplication::activeModalWidget() != nullptr ||
+        QApplication::activePopupWidget() != nullptr) {
+        m_afterResize.start();
+        return;
+    }
+    m_ui->DoneButton->setFocus();
+    Run([this] { m_navigation.ShowAgain(); });
+}
+
+void MainForm::GoToButton_Click()
+{
+    Run([this] { m_navigation.GoToButton_Click(); });
+}
+
+void MainForm::NextItem_Click()
+{
+    Run([this] { m_navigation.NextItem_Click(); });
+}
+
+void MainForm::PrevTopic_Click()
+{
+    Run([this] { m_navigation.PrevTopic_Click(); });
+}
+
+void MainForm::AlphaItem_Click()
+{
+    Run([this] { m_navigation.AlphaItem_Click(); });
+}
+
+void MainForm::ContentsItem_Click()
+{
+    Run([this] { m_navigation.ContentsItem_Click(); });
+}
+
+void MainForm::NewItem_Click()
+{
+    Run([this] { m_commands.NewItem_Click(); });
+}
+
+void MainForm::OpenItem_Click()
+{
+    Run([this] { m_commands.OpenItem_Click(); });
+}
+
+void MainForm::VScroll1_Change()
+{
+    Run([this] { m_view->VScroll1_Change(); });
+}
+
+void MainForm::DoneButton_Click()
+{
+    close();
+}
+
+void MainForm::TopicList_Change()
+{
+    if (!m_view->SettingList()) {
+        Run([this] { m_navigation.TopicList_Change(); });
+    }
+}
+
+void MainForm::TopicList_DblClick()
+{
+    m_ui->TopicList->hidePopup();
+    GoToButton_Click();
+}
+
+bool MainForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_ui->centralwidget) {
+        if (event->type() == QEvent::Resize) {
+            Form_Resize();
+        }
+        return false;
+    }
+    return FilterList(watched, event);
+}
+
+// The wheel over the closed list would choose another topic and so wipe the pane: it needs the focus first.
+bool MainForm::FilterList(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonDblClick) {
+        TopicList_DblClick();
+        return true;
+    }
+    return event->type() == QEvent::Wheel && watched == m_ui->TopicList && !m_ui->TopicList->hasFocus();
+}
+
+// Enter presses the default button unless the button with the focus took it; the page keys scroll the topic
+// wherever the focus is.
+void MainForm::keyPressEvent(QKeyEvent* event)
+{
+    QPushButton* const byDefault = m_ui->GoToButton->isDefault() ? m_ui->GoToButton : m_ui->DoneButton;
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        byDefault->click();
+        break;
+    case Qt::Key_PageUp:
+        m_ui->VScroll1->triggerAction(QAbstractSlider::SliderPageStepSub);
+        break;
+    case Qt::Key_PageDown:
+        m_ui->VScroll1->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        break;
+    default:
+        QMainWindow::keyPressEvent(event);
+        break;
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "base/Seams.h"
+#include "reader/BookCommands.h"
+#include "reader/MainLayout.h"
+#include "reader/Navigation.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class MainForm;
+}
+
+namespace ls {
+
+struct CommandLine;
+struct Global;
+class MainFormView;
+
+/// The main window: the reading pane, the topic list, and the commands on books and topics.
+class MainForm : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainForm(Global& global, const Seams& seams);
+    ~MainForm() override;
+
+    /// Start-up, before the window is first shown. Afterwards the program may have ended.
+    void Form_Load(const CommandLine& commandLine);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void ConnectButtons();
+    void ConnectItems();
+    MainLayout RememberDesign();
+
+    void Form_Activate();
+    void Form_Resize();
+    void ShowAgain();
+
+    void GoToButton_Click();
+    void NextItem_Click();
+    void PrevTopic_Click();
+    void DoneButton_Click();
+    void TopicList_Change();
+    void TopicList_DblClick();
+    void VScroll1_Change();
+    void NewItem_Click();
+    void OpenItem_Click();
+    void AlphaItem_Click();
+    void ContentsItem_Click();
+
+    void Run(const std::function<void()>& command);
+    bool FilterList(QObject* watched, QEvent* event);
+
+    std::unique_ptr<Ui::MainForm> m_ui;
+    Global& m_global;
+    Seams m_seams;
+    MainLayout m_layout;
+    std::unique_ptr<MainFormView> m_view;
+    Navigation m_navigation;
+    BookCommands m_commands;
+    QTimer m_afterResize;
+    bool m_activated = false;
+    bool m_running = false; // while a command runs, with the boxes and forms that it shows
+};
+
+} // namespace ls

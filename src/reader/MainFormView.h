@@ -1,0 +1,58 @@
+#pragma once
+
+#include "base/Seams.h"
+#include "reader/MainView.h"
+#include "reader/TopicDisplay.h"
+#include "reader/TopicListItems.h"
+
+class QMainWindow;
+
+namespace Ui {
+class MainForm;
+}
+
+namespace ls {
+
+struct Global;
+
+/// The controls of the main window as its rules see them.
+class MainFormView : public MainView
+{
+public:
+    MainFormView(QMainWindow& form, Ui::MainForm& ui, Global& global, const Seams& seams);
+
+    /// True while the program itself chooses the list's entry: its change event is to do nothing then.
+    [[nodiscard]] bool SettingList() const { return m_settingList; }
+
+    void VScroll1_Change() { m_display.VScroll1_Change(); }
+
+    void SetTopicList(const TopicListModel& model) override;
+    void SelectItem(int index) override;
+    [[nodiscard]] int SelectedItem() const override;
+    [[nodiscard]] int ItemCount() const override;
+    [[nodiscard]] TopicListItem Item(int index) const override;
+    [[nodiscard]] bool Alphabetic() const override;
+    void CheckOrder(bool alphabetic) override;
+    [[nodiscard]] int LineWidthChars() const override;
+    void ShowLines(ShownTopic& shown) override;
+    void ClearPane() override;
+    void ShowExplainButton(bool visible) override;
+    void ShowTopicControls(bool visible) override;
+    void SetDefault(DefaultButton button) override;
+    void ShowFileForm() override;
+    [[nodiscard]] std::unique_ptr<Progress> WatchScan() override;
+
+private:
+    void SetUpList();
+    void SetUpButtons();
+
+    QMainWindow& m_form;
+    Ui::MainForm& m_ui;
+    Global& m_global;
+    Seams m_seams;
+    TopicListItems m_items;
+    TopicDisplay m_display;
+    bool m_settingList = false;
+};
+
+} // namespace ls

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "base/Progress.h"
+#include "reader/TopicList.h"
+#include "render/ShowTopic.h"
+
+#include <memory>
+
+namespace ls {
+
+/// The button that Enter presses.
+enum class DefaultButton
+{
+    GoTo,
+    Done
+};
+
+/// The main window as its rules see it: they decide, it only shows. What it is told here it shows without
+/// answering by an event: the list's change event is for the user's own choices.
+class MainView
+{
+public:
+    virtual ~MainView() = default;
+
+    virtual void SetTopicList(const TopicListModel& model) = 0;
+    virtual void SelectItem(int index) = 0;
+    [[nodiscard]] virtual int SelectedItem() const = 0; ///< from 0; -1 for none
+    [[nodiscard]] virtual int ItemCount() const = 0;
+    [[nodiscard]] virtual TopicListItem Item(int index) const = 0;
+
+    /// Whether `AlphaItem` is checked (else `ContentsItem` is).
+    [[nodiscard]] virtual bool Alphabetic() const = 0;
+    virtual void CheckOrder(bool alphabetic) = 0;
+
+    [[nodiscard]] virtual int LineWidthChars() const = 0;
+
+    /// Shows a topic's lines from the first one on, and `XRButton` and `AdvisorButton` as it says. The lines
+    /// may be taken in exchange for others, whose memory the next topic uses.
+    virtual void ShowLines(ShownTopic& shown) = 0;
+
+    /// Empties the pane, hides and resets the scroll bar, hides `XRButton` and `AdvisorButton`.
+    virtual void ClearPane() = 0;
+
+    virtual void ShowExplainButton(bool visible) = 0;
+
+    /// The list with its label, Go To, the Index menu and the items for the next topic, the previous one and
+    /// export: what a plain text file has no use for.
+    virtual void ShowTopicControls(bool visible) = 0;
+
+    virtual void SetDefault(DefaultButton button) = 0;
+
+    /// Shows the file form on the shared file-dialog variables and returns when it is closed.
+    virtual void ShowFileForm() = 0;
+
+    /// Told how far the scan of a long book has come, as long as the scan runs; nothing when nobody watches.
+    [[nodiscard]] virtual std::unique_ptr<Progress> WatchScan() = 0;
+};
+
+} // namespace ls

@@ -1,0 +1,132 @@
+#include "reader/Navigation.h"
+
+#include "base/Messages.h"
+#include "book/Book.h"
+#include "reader/MainView.h"
+#include "reader/QuietMessages.h"
+
+namespace ls {
+
+void Navigation::FillTopicList()
+{
+    m_view.SetTopicList(ls::FillTopicList(m_book, m_view.Alphabetic()));
+}
+
+void Navigation::ChangeOrder(bool alphabetic)
+{
+    m_view.CheckOrder(alphabetic);
+    FillTopicList();
+}
+
+void Navigation::GoToButton_Click()
+{
+    if (!m_book.IsOpen()) {
+        return;
+    }
+    if (m_book.IsPlainText()) {
+        Show({}, m_book.CurrentTopicNo);
+        return;
+    }
+    if (m_view.ItemCount() == 0) {
+        m_seams.messages.MsgBox("There are no topics in this file.", Icon::Information);
+        return;
+    }
+    const int selected = m_view.SelectedItem();
+    if (selected < 0) {
+        m_seams.messages.MsgBox("Select a topic before clicking Go.", Icon::Warning);
+        return;
+    }
+    const TopicListItem item = m_view.Item(selected);
+    m_book.CurrentTopicNo = item.itemData;
+    Show(TitleOfItem(item.text, m_view.Alphabetic()), m_book.CurrentTopicNo);
+}
+
+void Navigation::GoToCurrentTopic()
+{
+    const bool missing = !m_book.IsPlainText() && !m_book.CurrentTopicName.empty() &&
+                         m_view.ItemCount() > 0 && m_view.SelectedItem() < 0;
+    if (missing) {
+        Show(m_book.CurrentTopicName, 0);
+    } else {
+        GoToButton_Click();
+    }
+}
+
+void Navigation::Show(const std::string& name, Count16 number)
+{
+    m_book.CurrentTopicName = name;
+    m_book.CurrentTopicNo = number;
+    switch (ShowTopic(m_book, m_seams, m_book.CurrentTopicName, m_book.CurrentTopicNo,
+                      m_view.LineWidthChars(), m_shown)) {
+    case ShowResult::Nothing:
+        return;
+    case ShowResult::Cleared:
+        ClearDisplay();
+        return;
+    case ShowResult::Shown:
+        break;
+    }
+    m_book.LogicPos = m_shown.logicPos;
+    m_view.ShowLines(m_shown);
+    if (!m_book.IsPlainText()) {
+        m_view.SetDefault(DefaultButton::Done);
+    }
+}
+
+void Navigation::NextItem_Click()
+{
+    const int selected = m_view.SelectedItem();
+    if (selected == m_view.ItemCount() - 1) {
+        m_seams.messages.MsgBox("There are no more topics in the list.", Icon::Information);
+        return;
+    }
+    GoToItem(selected + 1);
+}
+
+void Navigation::PrevTopic_Click()
+{
+    const int selected = m_view.SelectedItem();
+    if (selected <= 0) {
+        m_seams.messages.MsgBox("You are at the first topic in the list.", Icon::Information);
+        return;
+    }
+    GoToItem(selected - 1);
+}
+
+void Navigation::GoToItem(int index)
+{
+    m_view.SelectItem(index);
+    TopicList_Change();
+    GoToButton_Click();
+}
+
+void Navigation::TopicList_Change()
+{
+    m_view.SetDefault(DefaultButton::GoTo);
+    ClearDisplay();
+}
+
+void Navigation::ClearDisplay()
+{
+    m_view.ClearPane();
+    m_book.CurrentTopicName.clear();
+}
+
+void Navigation::ShowAgain()
+{
+    const bool onShow =
+        m_book.IsOpen() && (m_book.IsPlainText() ? m_book.File != nullptr : !m_book.CurrentTopicName.empty());
+    if (!onShow) {
+        return;
+    }
+    QuietMessages quiet(m_seams.end);
+    const Seams silent{m_seams.files, quiet, m_seams.processes, m_seams.end, m_seams.paths};
+    std::string name = m_book.CurrentTopicName;
+    Count16 number = m_book.CurrentTopicNo;
+    if (ShowTopic(m_book, silent, name, number, m_view.LineWidthChars(), m_shown) == ShowResult::Shown) {
+        m_book.LogicPos = m_shown.logicPos;
+        m_view.ShowLines(m_shown);
+    }
+}
+
+} // namespace ls

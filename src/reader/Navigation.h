@@ -1,0 +1,58 @@
+#pragma once
+
+#include "base/Count16.h"
+#include "base/Seams.h"
+#include "render/ShowTopic.h"
+
+#include <string>
+
+namespace ls {
+
+struct Book;
+class MainView;
+
+/// Which topic the main window shows: the topic list, Go To, next and previous, and what clears the display.
+class Navigation
+{
+public:
+    Navigation(Book& book, const Seams& seams, MainView& view) : m_book(book), m_seams(seams), m_view(view) {}
+
+    /// Refills the list in the order that the Index menu has checked, with the entry of `CurrentTopicName`
+    /// selected. The display stays.
+    void FillTopicList();
+
+    void AlphaItem_Click() { ChangeOrder(true); }
+    void ContentsItem_Click() { ChangeOrder(false); }
+
+    /// Shows the selected topic, or the whole of a plain text file.
+    void GoToButton_Click();
+
+    /// Shows `CurrentTopicName` after the list was filled: its entry as if Go To were clicked; a name that is
+    /// not in the list is looked up, so that the look-up's message names it.
+    void GoToCurrentTopic();
+
+    void NextItem_Click();
+    void PrevTopic_Click();
+
+    /// The user chose another entry of the list: nothing is on show until Go To.
+    void TopicList_Change();
+
+    /// Empties the pane: no topic is on show.
+    void ClearDisplay();
+
+    /// Shows the topic on show again at the pane's new width, from its first line, and without any message.
+    /// What cannot be read again stays as it is on the pane.
+    void ShowAgain();
+
+private:
+    void ChangeOrder(bool alphabetic);
+    void Show(const std::string& name, Count16 number);
+    void GoToItem(int index);
+
+    Book& m_book;
+    Seams m_seams;
+    MainView& m_view;
+    ShownTopic m_shown; // kept for the memory of its lines
+};
+
+} // namespace ls

@@ -1,0 +1,77 @@
+#include "reader/TopicDisplay.h"
+
+#include "render/DrawLines.h"
+#include "render/ReadingPane.h"
+
+#include <QScrollBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr int MaxAtRest = 10;
+constexpr int LargeChangeAtRest = 1;
+
+} // namespace
+
+TopicDisplay::TopicDisplay(ReadingPane& pane, QScrollBar& bar) : m_pane(pane), m_bar(bar)
+{
+    m_pane.SetScrollBar(&m_bar);
+    m_bar.setSingleStep(1);
+    ClearDisplay();
+}
+
+int TopicDisplay::LineWidthChars() const
+{
+    return CharsAcross(m_pane.InnerWidth(), m_pane.TextWidth("W"));
+}
+
+void TopicDisplay::Show(DisplayLines& lines, float bookVersion)
+{
+    std::swap(m_lines, lines);
+    m_bookVersion = bookVersion;
+    SetUpScrolling();
+}
+
+void TopicDisplay::SetUpScrolling()
+{
+    const ScrollSetup setup = PlanScrolling(m_pane.InnerHeight(), m_pane.TextHeight("W"), m_lines.Count);
+    SetBar(setup.max, setup.largeChange);
+    m_bar.show();
+    Draw(1);
+}
+
+// A topic without lines has a bar whose greatest value is 0; its least is then 0 as well.
+void TopicDisplay::SetBar(int max, int largeChange)
+{
+    m_suppressScrollRedraw = true;
+    m_bar.setRange(std::min(1, max), max);
+    m_bar.setPageStep(largeChange);
+    m_bar.setValue(1);
+    m_suppressScrollRedraw = false;
+}
+
+void TopicDisplay::VScroll1_Change()
+{
+    if (!m_suppressScrollRedraw) {
+        Draw(m_bar.value());
+    }
+}
+
+void TopicDisplay::Draw(int firstLine)
+{
+    DrawLines(m_pane, m_lines, firstLine, m_bookVersion);
+}
+
+void TopicDisplay::ClearDisplay()
+{
+    m_pane.Clear();
+    m_lines.Clear();
+    m_bar.hide();
+    SetBar(MaxAtRest, LargeChangeAtRest);
+}
+
+} // namespace ls

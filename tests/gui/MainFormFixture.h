@@ -1,0 +1,162 @@
+#pragma once
+
+#include "app/FormMessages.h"
+#include "app/Global.h"
+#include "gui/Controls.h"
+#include "gui/ModalScript.h"
+#include "gui/WatchedFiles.h"
+#include "platform/SystemSeams.h"
+#include "reader/CommandLine.h"
+#include "reader/MainForm.h"
+#include "render/ReadingPane.h"
+#include "support/RecordingProcesses.h"
+#include "support/TestSeams.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ls {
+
+using Strings = std::vector<std::string>;
+
+/// The real main window on real files in a scratch folder, which is also the working folder and that of the
+/// settings.
+class MainFormFixture : public testing::Test
+{
+protected:
+    MainFormFixture()
+    {
+        messages.SetParent(&form);
+        processes.environment["LSADVISOR_WORKDIR"] = Path("");
+    }
+
+    [[nodiscard]] std::string Path(const std::string& name) const
+    {
+        return folder.path().toStdString() + (name.empty() ? "" : "/" + name);
+    }
+
+    /// Writes a file into the scratch folder and gives its path.
+    std::string Write(const std::string& name, const std::string& bytes)
+    {
+        QFile file(QString::fromStdString(Path(name)));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        return Path(name);
+    }
+
+    /// A book of the topics "A", "B" and "C" with the bodies "a", "b" and "c".
+    std::string WriteThree()
+    {
+        return Write("Three.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "[B]", "b", "[C]", "c"}));
+    }
+
+    /// Start-up with that book ("" for none) and the first showing, which also ends the first resize.
+    void Start(const std::string& path, const std::string& topic = {})
+    {
+        CommandLine commandLine;
+        commandLine.bookPath = path;
+        commandLine.startTopic = topic;
+        commandLine.iniDir = Path("");
+        form.Form_Load(commandLine);
+        if (global.end.Ended()) {
+            return;
+        }
+        form.show();
+        Settle(); // a form or box that comes first is open meanwhile
+        form.activateWindow();
+        EXPECT_TRUE(test::WaitFor([this] { return form.isActiveWindow(); }));
+    }
+
+    /// Runs the event loop until what a resize left to do is done.
+    static void Settle() { QTest::qWait(150); }
+
+    /// Opens a file through the Open item and the file form.
+    void Open(test::ModalScript& script, const std::string& path)
+    {
+        script.Do([path](QWidget& chooser) { ChooseFile(chooser, path); });
+        test::Press(form, "OpenItem");
+    }
+
+    static void ChooseFile(QWidget& chooser, const std::string& path)
+    {
+        auto* dialog = qobject_cast<QFileDialog*>(&chooser);
+        ASSERT_NE(dialog, nullptr);
+        dialog->selectFile(QString::fromStdString(path));
+        static_cast<QDialog*>(dialog)->accept();
+    }
+
+    template <typename Control>
+    Control& Get(const char* name)
+    {
+        return *test::Find<Control>(form, name);
+    }
+
+    [[nodiscard]] bool Visible(const char* name)
+    {
+        if (const auto* entry = form.findChild<QAction*>(QString::fromLatin1(name)); entry != nullptr) {
+            return entry->isVisible();
+        }
+        return Get<QWidget>(name).isVisible();
+    }
+
+    /// The rows that the pane shows, joined by "|".
+    std::string PaneText()
+    {
+        std::string text;
+        int row = 1;
+        for (const auto& run : Get<ReadingPane>("MsgPic").Runs()) {
+            for (; row < run.row; ++row) {
+                text += "|";
+            }
+            text += run.text;
+        }
+        return text;
+    }
+
+    Strings ItemTexts()
+    {
+        Strings texts;
+        const auto& list = Get<QComboBox>("TopicList");
+        for (int i = 0; i < list.count(); ++i) {
+            texts.push_back(list.itemText(i).toStdString());
+        }
+        return texts;
+    }
+
+    /// Chooses an entry of the list as a user does with the keys.
+    void Select(int index)
+    {
+        auto& list = Get<QComboBox>("TopicList");
+        list.setFocus();
+        while (list.currentIndex() < index) {
+            QTest::keyClick(&list, Qt::Key_Down);
+        }
+        while (list.currentIndex() > index) {
+            QTest::keyClick(&list, Qt::Key_Up);
+        }
+    }
+
+    QTemporaryDir folder;
+    test::WatchedFiles files{MakeFileSystem()};
+    test::RecordingProcesses processes;
+    Global global;
+    FormMessages messages{global.end};
+    Seams seams{files, messages, processes, global.end, NativePaths()};
+    MainForm form{global, seams};
+};
+
+} // namespace ls

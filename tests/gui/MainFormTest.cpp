@@ -1,0 +1,476 @@
+#include "gui/MainFormFixture.h"
+#include "reader/ButtonIcons.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolTip>
+#include <QWheelEvent>
+
+namespace ls {
+namespace {
+
+using test::ModalScript;
+using test::Press;
+
+constexpr const char* NextAtEnd = "information|Lodestar Advisor|There are no more topics in the list.";
+constexpr const char* PreviousAtStart =
+    "information|Lodestar Advisor|You are at the first topic in the list.";
+constexpr const char* NothingSelected = "warning|Lodestar Advisor|Select a topic before clicking Go.";
+constexpr const char* AskNew = "question|Lodestar Advisor|Start over?|OKCancel";
+constexpr const char* AskExit = "question|Lodestar Advisor|Exit without saving changes?|OKCancel";
+constexpr const char* AskOpen =
+    "question|Lodestar Advisor|Open another book without saving changes?|OKCancel";
+constexpr const char* AskPlain = "question|Lodestar Advisor|The file you opened is not a Lodestar Book or "
+                                 "Advice file. Do you want to view "
+                                 "it as a single topic text file?|OKCancel";
+constexpr const char* TheFileForm = "form|FileForm|Lodestar Advisor Open";
+
+struct MainFormTest : MainFormFixture
+{
+    [[nodiscard]] bool IsDefault(const char* button) { return Get<QPushButton>(button).isDefault(); }
+
+    void EnterInWindow() { QTest::keyClick(form.windowHandle(), Qt::Key_Return); }
+};
+
+std::string Caption(QString text)
+{
+    return text.remove(QLatin1Char('&')).toStdString();
+}
+
+TEST_F(MainFormTest, controls_captionsAndToolTips)
+{
+    struct Row
+    {
+        const char* name;
+        const char* caption;
+        const char* toolTip;
+    };
+    EXPECT_EQ(form.windowTitle(), QStringLiteral("Lodestar Advisor"));
+    EXPECT_EQ(Get<QLabel>("TopicLabel").text(), QStringLiteral("Select a topic, then choose Go To"));
+    EXPECT_EQ(Get<QComboBox>("TopicList").toolTip(), QStringLiteral("Pick topic from list"));
+    for (const Row& row :
+         {Row{"GoToButton", "Go To", "Display chosen topic"}, Row{"BackButton", "", "Go to previous topic"},
+          Row{"NextButton", "", "Go to next topic"}, Row{"XRButton", "Cross Reference", ""},
+          Row{"AdvisorButton", "Advisor", ""}, Row{"DoneButton", "Close", "Close window"},
+          Row{"ExplainButton", "", "Find out more on Internet; post a comment"}}) {
+        const auto& button = Get<QPushButton>(row.name);
+        EXPECT_EQ(Caption(button.text()), row.caption) << row.name;
+        EXPECT_EQ(button.toolTip().toStdString(), row.toolTip) << row.name;
+        EXPECT_EQ(button.text().isEmpty(), !button.icon().isNull()) << row.name;
+        EXPECT_TRUE(!button.text().isEmpty() || !button.accessibleName().isEmpty()) << row.name;
+    }
+}
+
+TEST_F(MainFormTest, menus_captionsInOrder)
+{
+    const std::vector<std::pair<const char*, Strings>> expected = {
+        {"FileMenu File", {"NewItem New", "OpenItem Open", "SaveItem Save", "ExitItem Exit"}},
+        {"EditMenu Edit",
+         {"AddTopicItem Add Topic", "EdTextItem Edit Topic Text", "AdviceEdItem Edit Topic Advice",
+          "DelTopicItem Remove Topics", "ReorderItem Reorder Topics",
+          "EditPropertiesOption Edit Properties"}},
+        {"ActionMenu Action",
+         {"PrevTopic Previous Topic", "NextItem Next Topic", "PrintItem Print Topic",
+          "ExportItem Export Topic"}},
+        {"IndexMenu Index", {"AlphaItem Alphabetic Order", "ContentsItem Contents Order"}},
+        {"HelpMenu Help", {"HelpItem Help", "AboutItem About"}}};
+    const QList<QAction*> menus = form.menuBar()->actions();
+    ASSERT_EQ(static_cast<std::size_t>(menus.size()), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        const QMenu* menu = menus[static_cast<qsizetype>(i)]->menu();
+        EXPECT_EQ(menu->objectName().toStdString() + " " + Caption(menu->title()), expected[i].first);
+        Strings items;
+        for (const QAction* item : menu->actions()) {
+            if (!item->isSeparator()) {
+                items.push_back(item->objectName().toStdString() + " " + Caption(item->text()));
+            }
+        }
+        EXPECT_EQ(items, expected[i].second);
+    }
+}
+
+TEST_F(MainFormTest, design_paneHolds80CharactersAndWholeRows)
+{
+    const auto& pane = Get<ReadingPane>("MsgPic");
+    EXPECT_GE(pane.InnerWidth() / pane.TextWidth("W"), 80.25) << "also two pixels narrower, when resized";
+    EXPECT_GE(pane.InnerHeight() / pane.TextHeight("W"), 25);
+}
+
+TEST_F(MainFormTest, design_everyControlFitsInTheFormAndShowsItsCaption)
+{
+    const QRect inner(0, 0, 686, 493);
+    for (const char* name : {"TopicLabel", "TopicList", "GoToButton", "BackButton", "NextButton", "MsgPic",
+                             "VScroll1", "DoneButton", "AdvisorButton", "XRButton", "ExplainButton"}) {
+        const auto& control = Get<QWidget>(name);
+        EXPECT_TRUE(inner.contains(control.geometry())) << name;
+        if (const auto* button = qobject_cast<const QPushButton*>(&control); button != nullptr) {
+            EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(button->text()) + 12) << name;
+            EXPECT_GE(button->height(), button->fontMetrics().height() + 6) << name;
+        }
+    }
+}
+
+TEST_F(MainFormTest, icons_atTwiceTheScale_areDrawnInFullSize)
+{
+    for (const ButtonPicture picture :
+         {ButtonPicture::ArrowLeft, ButtonPicture::ArrowRight, ButtonPicture::Globe}) {
+        const QImage once = ButtonIcon(picture).pixmap(QSize(16, 16), 1.0).toImage();
+        const QImage twice = ButtonIcon(picture).pixmap(QSize(16, 16), 2.0).toImage();
+        EXPECT_EQ(twice.size(), QSize(32, 32));
+        EXPECT_NE(once.scaled(32, 32), twice);
+        EXPECT_GT(qAlpha(twice.pixel(16, 16)) + qAlpha(twice.pixel(10, 16)), 0) << "something is drawn";
+    }
+}
+
+TEST_F(MainFormTest, firstShowing_noBook_opensTheFileFormOnce)
+{
+    ModalScript script;
+    script.Escape();
+    Start("");
+    EXPECT_EQ(script.Seen(), Strings{TheFileForm});
+    form.hide();
+    test::ShowActive(form);
+    Settle();
+    EXPECT_EQ(script.Seen().size(), 1U);
+    EXPECT_FALSE(Visible("VScroll1"));
+    EXPECT_FALSE(Visible("XRButton"));
+    EXPECT_FALSE(Visible("AdvisorButton"));
+    EXPECT_FALSE(Visible("ExplainButton"));
+    EXPECT_TRUE(IsDefault("GoToButton"));
+    EXPECT_TRUE(Get<QAction>("ContentsItem").isChecked());
+    EXPECT_FALSE(Get<QAction>("AlphaItem").isChecked());
+}
+
+TEST_F(MainFormTest, firstShowing_bookOfTheCommandLine_showsItWithoutAsking)
+{
+    Start(WriteThree());
+    EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. B", "3. C"}));
+    EXPECT_EQ(PaneText(), "a");
+    EXPECT_TRUE(Visible("VScroll1"));
+    EXPECT_TRUE(IsDefault("DoneButton"));
+    EXPECT_FALSE(IsDefault("GoToButton"));
+    EXPECT_EQ(Get<QComboBox>("TopicList").itemData(2).toInt(), 3);
+}
+
+TEST_F(MainFormTest, firstShowing_startTopic_isShown)
+{
+    Start(WriteThree(), "B");
+    EXPECT_EQ(PaneText(), "b");
+    EXPECT_EQ(Get<QComboBox>("TopicList").currentIndex(), 1);
+}
+
+TEST_F(MainFormTest, firstShowing_startTopicNotInTheBook_isReportedOnce)
+{
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Start(WriteThree(), "Nowhere");
+    EXPECT_EQ(script.Seen(), Strings{"warning|Lodestar Advisor|Topic [Nowhere] was not found."});
+    EXPECT_EQ(PaneText(), "");
+}
+
+TEST_F(MainFormTest, firstShowing_missingBook_saysSoAndThenOpensTheFileForm)
+{
+    ModalScript script;
+    script.Answer(Reply::Ok).Escape();
+    Start(Path("None.IDA"));
+    EXPECT_EQ(script.Seen(), (Strings{"critical|Lodestar Advisor|Error opening <<" + Path("None.IDA") +
+                                          ">> with code 53: File not found",
+                                      TheFileForm}));
+}
+
+TEST_F(MainFormTest, laterFeatures_areThereAndDisabled)
+{
+    Start(WriteThree());
+    for (const char* name :
+         {"SaveItem", "AddTopicItem", "EdTextItem", "AdviceEdItem", "DelTopicItem", "ReorderItem",
+          "EditPropertiesOption", "PrintItem", "ExportItem", "HelpItem", "AboutItem"}) {
+        EXPECT_FALSE(Get<QAction>(name).isEnabled()) << name;
+    }
+}
+
+TEST_F(MainFormTest, open_fileForm_opensTheChosenBook)
+{
+    Start(WriteThree());
+    const std::string other =
+        Write("Other.ida", test::CrLf({"LODESTAR BOOK V5.3 /URL=\"http://a.example\"", "[X]", "x"}));
+    ModalScript script;
+    Open(script, other);
+    EXPECT_EQ(script.Seen(), Strings{TheFileForm});
+    EXPECT_EQ(PaneText(), "x");
+    EXPECT_TRUE(Visible("ExplainButton"));
+    EXPECT_FALSE(global.book.LockBook);
+    EXPECT_EQ(global.settings.RecentFiles[0], other);
+    EXPECT_TRUE(QFile::exists(QString::fromStdString(Path("LSAdvisor.INI"))));
+    Open(script, Path("Three.IDA"));
+    EXPECT_FALSE(Visible("ExplainButton"));
+}
+
+TEST_F(MainFormTest, open_unsavedChanges_cancelKeepsTheBook)
+{
+    Start(WriteThree());
+    global.book.BookChanged = true;
+    ModalScript script;
+    script.Answer(Reply::Cancel);
+    Press(form, "OpenItem");
+    EXPECT_EQ(script.Seen(), Strings{AskOpen});
+    EXPECT_EQ(PaneText(), "a");
+}
+
+TEST_F(MainFormTest, goTo_listChanged_clearsThePaneUntilEnter)
+{
+    Start(WriteThree());
+    Select(1);
+    EXPECT_EQ(PaneText(), "");
+    EXPECT_FALSE(Visible("VScroll1"));
+    EXPECT_TRUE(IsDefault("GoToButton"));
+    EXPECT_FALSE(IsDefault("DoneButton"));
+    EnterInWindow();
+    EXPECT_EQ(PaneText(), "b");
+    EXPECT_TRUE(IsDefault("DoneButton"));
+    EXPECT_TRUE(form.isVisible());
+    EnterInWindow();
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(MainFormTest, goTo_sameEntryPickedAgain_clearsThePaneToo)
+{
+    Start(WriteThree());
+    auto& list = Get<QComboBox>("TopicList");
+    Q_EMIT list.activated(0);
+    EXPECT_EQ(PaneText(), "");
+    Press(form, "GoToButton");
+    EXPECT_EQ(PaneText(), "a");
+}
+
+TEST_F(MainFormTest, goTo_clickedByMouse_thenEnterCloses)
+{
+    Start(WriteThree());
+    Select(2);
+    Press(form, "GoToButton");
+    EXPECT_EQ(PaneText(), "c");
+    EnterInWindow();
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(MainFormTest, goTo_nothingSelected_asksToSelect)
+{
+    Start(WriteThree());
+    Get<QComboBox>("TopicList").setCurrentIndex(-1);
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Press(form, "GoToButton");
+    EXPECT_EQ(script.Seen(), Strings{NothingSelected});
+}
+
+TEST_F(MainFormTest, goTo_noBook_doesNothing)
+{
+    ModalScript script;
+    script.Escape();
+    Start("");
+    Press(form, "GoToButton");
+    EXPECT_EQ(script.Seen().size(), 1U);
+}
+
+TEST_F(MainFormTest, enter_otherButtonFocused_pressesThatButton)
+{
+    Start(WriteThree());
+    Get<QPushButton>("NextButton").setFocus();
+    EnterInWindow();
+    EXPECT_EQ(PaneText(), "b");
+    EXPECT_TRUE(form.isVisible());
+}
+
+TEST_F(MainFormTest, list_doubleClick_goesToTheTopic)
+{
+    Start(WriteThree());
+    Select(1);
+    auto& list = Get<QComboBox>("TopicList");
+    QTest::mouseDClick(list.view()->viewport(), Qt::LeftButton);
+    EXPECT_EQ(PaneText(), "b");
+    Select(2);
+    QTest::mouseDClick(&list, Qt::LeftButton);
+    EXPECT_EQ(PaneText(), "c");
+}
+
+TEST_F(MainFormTest, list_wheelWithoutFocus_changesNothing)
+{
+    Start(WriteThree());
+    auto& list = Get<QComboBox>("TopicList");
+    const auto wheel = [&list] {
+        QWheelEvent event(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&list, &event);
+    };
+    wheel();
+    EXPECT_EQ(list.currentIndex(), 0);
+    list.setFocus();
+    wheel();
+    EXPECT_EQ(list.currentIndex(), 1);
+}
+
+TEST_F(MainFormTest, nextAndPrevious_buttonsAndItems_moveAndTellTheEnds)
+{
+    Start(WriteThree());
+    Press(form, "NextButton");
+    EXPECT_EQ(PaneText(), "b");
+    Press(form, "NextItem");
+    EXPECT_EQ(PaneText(), "c");
+    ModalScript script;
+    script.Answer(Reply::Ok).Answer(Reply::Ok).Answer(Reply::Ok).Answer(Reply::Ok);
+    Press(form, "NextButton");
+    Press(form, "NextItem");
+    EXPECT_EQ(PaneText(), "c");
+    Press(form, "BackButton");
+    Press(form, "PrevTopic");
+    EXPECT_EQ(PaneText(), "a");
+    Press(form, "BackButton");
+    Press(form, "PrevTopic");
+    EXPECT_EQ(PaneText(), "a");
+    EXPECT_EQ(script.Seen(), (Strings{NextAtEnd, NextAtEnd, PreviousAtStart, PreviousAtStart}));
+}
+
+TEST_F(MainFormTest, indexMenu_marksTheOrderAndRefillsTheList)
+{
+    Start(Write("Order.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[b]", "b", "[A]", "a"})));
+    Press(form, "AlphaItem");
+    EXPECT_TRUE(Get<QAction>("AlphaItem").isChecked());
+    EXPECT_FALSE(Get<QAction>("ContentsItem").isChecked());
+    EXPECT_EQ(ItemTexts(), (Strings{"A", "b"}));
+    EXPECT_EQ(Get<QComboBox>("TopicList").currentIndex(), 1);
+    EXPECT_EQ(PaneText(), "b");
+    Press(form, "AlphaItem");
+    EXPECT_TRUE(Get<QAction>("AlphaItem").isChecked()) << "picked again it stays checked";
+    Press(form, "ContentsItem");
+    EXPECT_FALSE(Get<QAction>("AlphaItem").isChecked());
+    EXPECT_TRUE(Get<QAction>("ContentsItem").isChecked());
+    EXPECT_EQ(ItemTexts(), (Strings{"1. b", "2. A"}));
+}
+
+TEST_F(MainFormTest, list_specialCharacters_areShownFromTheCodePage)
+{
+    Start(Write("Umlaut.IDA", "LODESTAR BOOK V5.3\r\n[\xDC"
+                              "ber \x80]\r\ntext\r\n"));
+    EXPECT_EQ(ItemTexts(), Strings{"1. \xC3\x9C"
+                                   "ber \xE2\x82\xAC"});
+}
+
+TEST_F(MainFormTest, topicButtons_followTheTopic)
+{
+    Start(Write("Refs.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "<XREF TOPIC=B>", "note</XREF>",
+                                        "[B]", "b", "[C]", "c", "<IXML>", "<LOGIC>"})));
+    EXPECT_TRUE(Visible("XRButton"));
+    EXPECT_FALSE(Visible("AdvisorButton"));
+    EXPECT_FALSE(Get<QPushButton>("XRButton").isEnabled());
+    Press(form, "NextButton");
+    EXPECT_TRUE(Visible("XRButton")) << "A refers to it";
+    Press(form, "NextButton");
+    EXPECT_FALSE(Visible("XRButton"));
+    EXPECT_TRUE(Visible("AdvisorButton"));
+    EXPECT_FALSE(Get<QPushButton>("AdvisorButton").isEnabled());
+    Select(0);
+    EXPECT_FALSE(Visible("XRButton"));
+    EXPECT_FALSE(Visible("AdvisorButton"));
+}
+
+TEST_F(MainFormTest, plainText_hidesTheListsControlsUntilABookComes)
+{
+    const std::string note = Write("Note.TXT", "plain words\r\n");
+    const std::string book = WriteThree();
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Start(note);
+    EXPECT_EQ(script.Seen(), Strings{AskPlain});
+    EXPECT_EQ(PaneText(), "plain words");
+    const auto hidden = {"TopicLabel", "TopicList", "GoToButton", "ExportItem", "NextItem", "PrevTopic"};
+    for (const char* name : hidden) {
+        EXPECT_FALSE(Visible(name)) << name;
+    }
+    EXPECT_FALSE(Get<QMenu>("IndexMenu").menuAction()->isVisible());
+    Open(script, book);
+    for (const char* name : hidden) {
+        EXPECT_TRUE(Visible(name)) << name;
+    }
+    EXPECT_TRUE(Get<QMenu>("IndexMenu").menuAction()->isVisible());
+    EXPECT_EQ(PaneText(), "a");
+}
+
+TEST_F(MainFormTest, newItem_cancelled_changesNothing)
+{
+    Start(WriteThree());
+    ModalScript script;
+    script.Answer(Reply::Cancel);
+    Press(form, "NewItem");
+    EXPECT_EQ(script.Seen(), Strings{AskNew});
+    EXPECT_EQ(PaneText(), "a");
+}
+
+TEST_F(MainFormTest, newItem_accepted_clearsTheWindow)
+{
+    Start(WriteThree());
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Press(form, "NewItem");
+    EXPECT_EQ(PaneText(), "");
+    EXPECT_EQ(ItemTexts(), Strings{});
+    EXPECT_FALSE(Visible("VScroll1"));
+    EXPECT_EQ(Get<QScrollBar>("VScroll1").value(), 1);
+    EXPECT_FALSE(global.book.IsOpen());
+}
+
+TEST_F(MainFormTest, leave_noChanges_closesAtOnce)
+{
+    Start(WriteThree());
+    Press(form, "DoneButton");
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(MainFormTest, leave_changes_everyWayAsksAndFollowsTheAnswer)
+{
+    Start(WriteThree());
+    global.book.BookChanged = true;
+    ModalScript script;
+    script.Answer(Reply::Cancel).Answer(Reply::Cancel).Answer(Reply::Cancel).Answer(Reply::Ok);
+    Press(form, "DoneButton");
+    EXPECT_TRUE(form.isVisible());
+    Press(form, "ExitItem");
+    EXPECT_TRUE(form.isVisible());
+    form.close();
+    EXPECT_TRUE(form.isVisible());
+    Press(form, "ExitItem");
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(script.Seen(), (Strings{AskExit, AskExit, AskExit, AskExit}));
+}
+
+TEST_F(MainFormTest, programEnd_readErrorWhileScanning_closesTheWindowWithoutAsking)
+{
+    Start(WriteThree());
+    const std::string big = Write("Big.IDA", "LODESTAR BOOK V5.3\r\n" + std::string(900000, 'x'));
+    ModalScript script;
+    script.Do([this, big](QWidget& chooser) {
+        files.failure = error::DeviceIo;
+        files.readsBefore = 1;
+        ChooseFile(chooser, big);
+    });
+    script.Answer(Reply::Ok);
+    Press(form, "OpenItem");
+    EXPECT_EQ(script.Seen(),
+              (Strings{TheFileForm,
+                       "critical|Lodestar Advisor|Error reading book file with code 57: Device I/O error"}));
+    EXPECT_TRUE(global.end.Ended());
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(MainFormTest, programEnd_settingsFault_endsBeforeTheWindowIsShown)
+{
+    Write("LSAdvisor.INI", test::CrLf({"LSADVISOR V5.3 INI", "[TOP10FILES]", "*40000; NAME=Old.IDA"}));
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Start(WriteThree());
+    EXPECT_EQ(script.Seen(),
+              Strings{"critical|Lodestar Advisor|The input file contains too many records to load."});
+    EXPECT_TRUE(global.end.Ended());
+    EXPECT_FALSE(form.isVisible());
+}
+
+} // namespace
+} // namespace ls

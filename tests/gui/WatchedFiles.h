@@ -1,0 +1,73 @@
+#pragma once
+
+#include "base/FileSystem.h"
+
+#include <utility>
+
+namespace ls::test {
+
+/// Real files that count the reads of books, and fail them all when told to.
+class WatchedFiles : public FileSystem
+{
+public:
+    explicit WatchedFiles(std::unique_ptr<FileSystem> files) : m_files(std::move(files)) {}
+
+    int reads = 0;
+    int failure = 0;      ///< the error number of every read from then on; 0 for none
+    int readsBefore = -1; ///< reads that still succeed before the failure; -1 fails at once
+
+    FileError OpenForReading(const std::string& path, Sharing sharing,
+                             std::unique_ptr<BookFile>& file) override
+    {
+        const FileError failed = m_files->OpenForReading(path, sharing, file);
+        if (failed.Ok()) {
+            file = std::make_unique<Watched>(*this, std::move(file));
+        }
+        return failed;
+    }
+    FileError CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file) override
+    {
+        return m_files->CreateNew(path, file);
+    }
+    FileError RenameToNew(const std::string& from, const std::string& to) override
+    {
+        return m_files->RenameToNew(from, to);
+    }
+    FileError RenameOver(const std::string& from, const std::string& to) override
+    {
+        return m_files->RenameOver(from, to);
+    }
+    FileError Remove(const std::string& path) override { return m_files->Remove(path); }
+    bool Exists(const std::string& path) override { return m_files->Exists(path); }
+    FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override
+    {
+        return m_files->List(folder, entries);
+    }
+    std::string CurrentFolder() override { return m_files->CurrentFolder(); }
+
+private:
+    class Watched : public BookFile
+    {
+    public:
+        Watched(WatchedFiles& owner, std::unique_ptr<BookFile> file) : m_owner(owner), m_file(std::move(file))
+        {
+        }
+        FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
+        {
+            ++m_owner.reads;
+            if (m_owner.failure != 0 && m_owner.readsBefore-- <= 0) {
+                return MakeFileError(m_owner.failure);
+            }
+            return m_file->ReadAt(pos, buffer, size, got);
+        }
+        FileError Size(FilePos& size) override { return m_file->Size(size); }
+
+    private:
+        WatchedFiles& m_owner;
+        std::unique_ptr<BookFile> m_file;
+    };
+
+    std::unique_ptr<FileSystem> m_files;
+};
+
+} // namespace ls::test
