@@ -1,9 +1,11 @@
 #include "platform/linux/FindProgram.h"
 
+#include "ChildProcess.h"
 #include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace ls {
@@ -42,6 +44,17 @@ TEST_F(FindProgramTest, findProgram_onlyPlainFile_is70)
 {
     folder.Write("one/web", "");
     EXPECT_EQ(Find("web", folder / "one:" + (folder / "two")), 70);
+}
+
+TEST_F(FindProgramTest, findProgram_closedFolderInSearchPath_is53)
+{
+    folder.WriteProgram("closed/web", "");
+    ASSERT_EQ(::chmod(folder.Path().c_str(), 0755), 0);
+    ASSERT_EQ(::chmod((folder / "closed").c_str(), 0), 0);
+    EXPECT_EQ(test::RunInChild(
+                  [this] { return test::BecomeOrdinaryUser() ? Find("web", folder / "closed") : 255; }),
+              53);
+    ASSERT_EQ(::chmod((folder / "closed").c_str(), 0755), 0);
 }
 
 TEST_F(FindProgramTest, findProgram_folderOfThatNameInSearchPath_is53)

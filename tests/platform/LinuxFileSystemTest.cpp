@@ -257,6 +257,7 @@ TEST_F(LinuxFileSystemTest, list_noRights_is70)
                   return test::BecomeOrdinaryUser() ? files.List(folder / "closed", entries).number : 255;
               }),
               70);
+    ASSERT_EQ(::chmod((folder / "closed").c_str(), 0755), 0); // so that it can be taken away
 }
 
 TEST_F(LinuxFileSystemTest, currentFolder_changed_isTheFullPath)

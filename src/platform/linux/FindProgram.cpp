@@ -52,8 +52,11 @@ FileError FindProgram(const std::string& name, const std::string& searchPath, st
             program = path;
             return {};
         }
-        // A file that may not be run tells more than that the next folder lacks it.
-        failure = number == error::PermissionDenied ? number : failure;
+        // A file that may not be run tells more than that the next folder lacks it; a folder that may not be
+        // looked into tells nothing.
+        if (number == error::PermissionDenied && ::access(path.c_str(), F_OK) == 0) {
+            failure = number;
+        }
     }
     return MakeFileError(failure);
 }
