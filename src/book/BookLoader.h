@@ -11,12 +11,15 @@ namespace ls {
 
 class LineCursor;
 
+/// Where the file lies that `BookPath` names, before its spelling is looked up: "LS:" at the start names the
+/// program's folder, and a path without a separator is taken in `WorkDir` when that is set.
+[[nodiscard]] std::string PathToOpen(const Book& book, const Seams& seams);
+
 /// Opens `BookPath` as the book's file and reads its header line.
 ///
-/// "LS:" at the start of the path names the program's folder; a path without a separator is taken in
-/// `WorkDir` when that is set. A file that is no book is offered as a plain text file (`BookVersion` 0). True
-/// when a file is open and may be shown; false after a message, or when the user declined, with no file open.
-/// `BookPath` stays as given.
+/// The file is the one that `PathToOpen` names. A file that is no book is offered as a plain text file
+/// (`BookVersion` 0). True when a file is open and may be shown; false after a message, or when the user
+/// declined, with no file open. `BookPath` stays as given.
 bool OpenBook(Book& book, const Seams& seams);
 
 /// Closes the book's file, if one is open.

@@ -12,20 +12,6 @@ namespace {
 
 constexpr std::string_view ProgramFolderPrefix = "LS:";
 
-// Where the file lies that `BookPath` names, before its spelling is looked up.
-std::string PathToOpen(const Book& book, const Seams& seams)
-{
-    std::string path = book.BookPath;
-    if (path.starts_with(ProgramFolderPrefix)) {
-        path =
-            JoinPath(seams.paths, seams.processes.ProgramFolder(), path.substr(ProgramFolderPrefix.size()));
-    }
-    if (!book.WorkDir.empty() && path.find(seams.paths.separator) == std::string::npos) {
-        path = JoinPath(seams.paths, book.WorkDir, path);
-    }
-    return path;
-}
-
 bool ReportOpenError(const Seams& seams, const std::string& path, const FileError& failed)
 {
     seams.messages.MsgBox("Error opening <<" + FromPath(path) + ">> with code " +
@@ -64,6 +50,19 @@ bool AcceptsPlainText(Book& book, const Seams& seams)
 }
 
 } // namespace
+
+std::string PathToOpen(const Book& book, const Seams& seams)
+{
+    std::string path = book.BookPath;
+    if (path.starts_with(ProgramFolderPrefix)) {
+        path =
+            JoinPath(seams.paths, seams.processes.ProgramFolder(), path.substr(ProgramFolderPrefix.size()));
+    }
+    if (!book.WorkDir.empty() && path.find(seams.paths.separator) == std::string::npos) {
+        path = JoinPath(seams.paths, book.WorkDir, path);
+    }
+    return path;
+}
 
 void CloseBook(Book& book)
 {

@@ -1,0 +1,137 @@
+#include "book/LineEnds.h"
+
+#include "base/CodePage.h"
+#include "base/Count16.h"
+#include "base/FindSpelling.h"
+#include "base/Messages.h"
+#include "base/StdSubs.h"
+#include "book/Book.h"
+#include "book/BookLoader.h"
+
+#include <string_view>
+#include <vector>
+
+namespace ls {
+
+namespace {
+
+constexpr std::size_t BlockSize = 64 * 1024;
+constexpr std::string_view PartType = ".part";
+
+// Appends `block` to `text` with CR LF for each lone LF; `previous` is the character before the block.
+void AppendWithCrLf(std::string& text, std::string_view block, char previous)
+{
+    for (const char c : block) {
+        if (c == '\n' && previous != '\r') {
+            text += '\r';
+        }
+        text += c;
+        previous = c;
+    }
+}
+
+// The next numbered name that is free, and whose partial file is too; empty when all are taken.
+std::string FreeNumberedName(const Seams& seams, const std::string& path)
+{
+    std::string name = path;
+    for (int tries = 0; tries < Count16::Max; ++tries) {
+        name = NumberedName(seams.paths, name);
+        if (!seams.files.Exists(name) && !seams.files.Exists(name + std::string(PartType))) {
+            return name;
+        }
+    }
+    return {};
+}
+
+FileError WritePart(FileSystem& files, BookFile& from, const std::string& part)
+{
+    std::unique_ptr<OutputFile> to;
+    FileError failed = files.CreateNew(part, to);
+    if (!failed.Ok()) {
+        return failed;
+    }
+    failed = CopyWithCrLf(from, *to);
+    if (failed.Ok()) {
+        failed = to->Finish();
+    }
+    if (!failed.Ok()) {
+        to.reset();
+        files.Remove(part);
+    }
+    return failed;
+}
+
+// Writes the copy under another name first, so that a cut one never passes for a whole book.
+FileError MakeCopy(FileSystem& files, BookFile& from, const std::string& copy)
+{
+    const std::string part = copy + std::string(PartType);
+    FileError failed = WritePart(files, from, part);
+    if (failed.Ok()) {
+        failed = files.RenameToNew(part, copy);
+        if (!failed.Ok()) {
+            files.Remove(part);
+        }
+    }
+    return failed;
+}
+
+} // namespace
+
+bool HasUnixLineEnds(BookFile& file)
+{
+    std::vector<char> block(BlockSize);
+    std::size_t got = 0;
+    if (!file.ReadAt(1, block.data(), block.size(), got).Ok()) {
+        return false;
+    }
+    const std::string_view head(block.data(), got);
+    return head.find('\n') != std::string_view::npos && head.find('\r') == std::string_view::npos;
+}
+
+FileError CopyWithCrLf(BookFile& from, OutputFile& to)
+{
+    std::vector<char> block(BlockSize);
+    std::string text;
+    char previous = '\0';
+    FilePos pos = 1;
+    for (;;) {
+        std::size_t got = 0;
+        if (FileError failed = from.ReadAt(pos, block.data(), block.size(), got); !failed.Ok() || got == 0) {
+            return failed;
+        }
+        text.clear();
+        AppendWithCrLf(text, {block.data(), got}, previous);
+        if (FileError failed = to.Write(text); !failed.Ok()) {
+            return failed;
+        }
+        previous = block[got - 1];
+        pos += static_cast<FilePos>(got);
+    }
+}
+
+std::string OfferConvertedCopy(const Book& book, const Seams& seams)
+{
+    const std::string path = PathToOpen(book, seams);
+    const std::string realPath = FindSpelling(seams.files, seams.paths, path);
+    std::unique_ptr<BookFile> file;
+    if (!seams.files.OpenForReading(realPath, Sharing::Shared, file).Ok() || !HasUnixLineEnds(*file)) {
+        return book.BookPath; // what cannot be opened is reported where it is opened
+    }
+    if (seams.messages.MsgBox("<<" + FromPath(path) +
+                                  ">> has Unix line ends.  Do you want to open a converted copy?",
+                              Icon::Question, Buttons::YesNo) != Reply::Yes) {
+        return book.BookPath;
+    }
+    const std::string copy = FreeNumberedName(seams, realPath);
+    const FileError failed =
+        copy.empty() ? MakeFileError(error::FileAlreadyExists) : MakeCopy(seams.files, *file, copy);
+    if (failed.Ok()) {
+        return copy;
+    }
+    seams.messages.MsgBox("Failed to write the converted copy <<" + FromPath(copy) + ">> due to error #" +
+                              std::to_string(failed.number) + ": " + failed.description,
+                          Icon::Warning);
+    return book.BookPath;
+}
+
+} // namespace ls
