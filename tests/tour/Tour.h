@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QDir>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+class QComboBox;
+class QScrollBar;
+class QWidget;
+
+namespace ls {
+
+class ReadingPane;
+
+/// A walk through the main window on a real display: each step works the controls as a user does, by mouse
+/// and keys, looks whether the window shows what it should, and takes a picture of it.
+class Tour
+{
+public:
+    /// The window is on show; pictures go into the folder, which exists.
+    Tour(QWidget& window, const QDir& pictures);
+
+    /// Takes all steps. Each is reported in a line on standard output; the first that fails ends the tour.
+    [[nodiscard]] bool Take();
+
+private:
+    /// What a step found wrong; empty when all is well.
+    using Fault = QString;
+
+    struct Step
+    {
+        const char* name; ///< as in the picture's file name
+        Fault (Tour::*take)();
+    };
+
+    Fault FindControls();
+    Fault LookAtOpenBook();
+    Fault PickTopic();
+    Fault GoToPickedTopic();
+    Fault ShowNextTopic();
+    Fault ScrollByPage();
+    Fault ScrollToEnd();
+    Fault OpenIndexMenu();
+    Fault SortByAlphabet();
+    Fault SortByContents();
+    Fault WidenWindow();
+
+    [[nodiscard]] bool TakeStep(const Step& step, int number);
+    [[nodiscard]] bool SavePicture(const QString& name) const;
+    void LookForBox() const;
+
+    [[nodiscard]] Fault Press(const char* button) const;
+    [[nodiscard]] Fault OpenMenu(const char* name) const;
+    [[nodiscard]] Fault ChooseItem(const char* menu, const char* item) const;
+    [[nodiscard]] QStringList Items() const;
+    [[nodiscard]] QString BareTitle(const QString& item) const;
+    [[nodiscard]] QString Shown() const;
+
+    QWidget& m_window;
+    QDir m_pictures;
+    QTimer m_boxWatch;
+    QPointer<QComboBox> m_list;
+    QPointer<QScrollBar> m_bar;
+    QPointer<ReadingPane> m_pane;
+};
+
+} // namespace ls

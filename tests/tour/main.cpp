@@ -1,0 +1,56 @@
+// lstour: a walk through the real main window. lstour PICTURE_FOLDER BOOK [/NAME=VALUE...]
+
+#include "Tour.h"
+#include "app/FormMessages.h"
+#include "app/Global.h"
+#include "platform/Console.h"
+#include "platform/SystemSeams.h"
+#include "reader/CommandLine.h"
+#include "reader/MainForm.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QtTest/qtestsystem.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int WrongUsage = 2;
+
+// The window as the program makes it, but worked by the tour instead of a user.
+bool TakeTour(const QDir& pictures, const std::vector<std::string>& arguments)
+{
+    ls::Global global;
+    const auto files = ls::MakeFileSystem();
+    const auto processes = ls::MakeProcesses();
+    ls::FormMessages messages(global.end);
+    const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
+    ls::MainForm form(global, seams);
+    messages.SetParent(&form);
+    ls::Tour tour(form, pictures);
+    form.Form_Load(ls::ParseArguments(arguments, seams));
+    form.show();
+    if (!QTest::qWaitForWindowActive(&form)) {
+        std::puts("FAILED  the window does not become active");
+        return false;
+    }
+    return tour.Take() && !global.end.Ended();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    std::vector<std::string> arguments = ls::ProgramArguments(argc, argv);
+    const QDir pictures(arguments.empty() ? QString() : QString::fromLocal8Bit(arguments.front().c_str()));
+    if (arguments.size() < 2 || !pictures.exists()) {
+        std::fputs("usage: lstour PICTURE_FOLDER BOOK [/NAME=VALUE...]; the folder must exist\n", stderr);
+        return WrongUsage;
+    }
+    arguments.erase(arguments.begin());
+    return TakeTour(pictures, arguments) ? EXIT_SUCCESS : EXIT_FAILURE;
+}
