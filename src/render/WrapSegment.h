@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/BreakFinder.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -35,6 +37,7 @@ private:
     std::size_t m_contentEnd; ///< behind the last character of m_text that is no blank
     std::size_t m_at = 0;     ///< the next character of m_text
     std::size_t m_spaces = 0; ///< spaces of a TAB that stand before it
+    BreakMarks m_marks;
 };
 
 /// Cuts one display line off the front of `line` and puts it, with `indent` spaces in front, into `segment`.

@@ -25,6 +25,15 @@ void WrapWhole(const std::string& line)
     Require(total >= line.size() * 9 / 10, "the line is wrapped whole");
 }
 
+std::string Repeated(const std::string& piece, std::size_t size)
+{
+    std::string text;
+    while (text.size() < size) {
+        text += piece;
+    }
+    return text;
+}
+
 void BenchKind(const std::string& kind, const std::function<std::string(std::size_t size)>& make)
 {
     double first = 0;
@@ -43,6 +52,10 @@ void BenchLines()
 {
     BenchKind("with blanks", Prose);
     BenchKind("without blanks", [](std::size_t size) { return std::string(size, 'x'); });
+    // Hidden text that every segment looks through to its end before it breaks.
+    BenchKind("of tags", [](std::size_t size) { return Repeated("<B>", size) + std::string(100, 'x'); });
+    BenchKind("of tags that never end",
+              [](std::size_t size) { return Repeated(std::string(77, 'x') + "<yy", size) + "&"; });
 }
 
 } // namespace ls::bench

@@ -1,11 +1,13 @@
 #include "bench/Measure.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <vector>
+
+#include <sys/resource.h>
+#include <time.h>
 
 namespace ls::bench {
 
@@ -17,13 +19,33 @@ double MedianOf(std::vector<double> values)
     return values[values.size() / 2];
 }
 
+double MillisecondsOf(const timespec& time)
+{
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+double MillisecondsOf(const timeval& time)
+{
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+}
+
+// Of this process and of the commands that it waited for.
+double ProcessorTime()
+{
+    timespec own{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &own);
+    rusage commands{};
+    getrusage(RUSAGE_CHILDREN, &commands);
+    return MillisecondsOf(own) + MillisecondsOf(commands.ru_utime) + MillisecondsOf(commands.ru_stime);
+}
+
 } // namespace
 
 double TimeOf(const std::function<void()>& work)
 {
-    const auto start = std::chrono::steady_clock::now();
+    const double start = ProcessorTime();
     work();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+    return ProcessorTime() - start;
 }
 
 Medians MeasureBoth(int rounds, const std::function<void()>& first, const std::function<void()>& second)

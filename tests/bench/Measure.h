@@ -6,7 +6,8 @@
 
 namespace ls::bench {
 
-/// Milliseconds that one call takes.
+/// Milliseconds of processor time that one call takes, commands that it waits for included. Files are in the
+/// page cache, so nothing else is waited for; a clock on the wall would count what others do on the machine.
 [[nodiscard]] double TimeOf(const std::function<void()>& work);
 
 /// The medians of two pieces of work that are measured in turns, so that both see the same machine.

@@ -1,4 +1,4 @@
-// Measures what readers of large books wait for. lsbench FOLDER, where the inputs are made and kept.
+// Measures what readers of large books wait for. The inputs are made, and kept, in a folder that is named.
 
 #include "bench/Benchmarks.h"
 
@@ -12,14 +12,24 @@ int main(int argc, char** argv)
         ls::bench::ReportScanMemory(argv[2]);
         return 0;
     }
-    if (argc != 2) {
-        std::fputs("usage: lsbench FOLDER\n", stderr);
+    if (argc != 2 && argc != 3) {
+        std::fputs("usage: lsbench FOLDER [scan|show|resize|lines]\n", stderr);
         return 2;
     }
+    const std::string only = argc == 3 ? argv[2] : "";
+    const auto wanted = [&only](const char* name) { return only.empty() || only == name; };
     std::printf("%-58s %14s  %7s\n", "", "median", "ratio");
-    ls::bench::BenchScan(argv[0], first);
-    ls::bench::BenchShow(first);
-    ls::bench::BenchResize(first);
-    ls::bench::BenchLines();
+    if (wanted("scan")) {
+        ls::bench::BenchScan(argv[0], first);
+    }
+    if (wanted("show")) {
+        ls::bench::BenchShow(first);
+    }
+    if (wanted("resize")) {
+        ls::bench::BenchResize(first);
+    }
+    if (wanted("lines")) {
+        ls::bench::BenchLines();
+    }
     return 0;
 }

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <utility>
 #include <vector>
 
 namespace ls {
@@ -169,27 +170,32 @@ TEST(WrapSegment, remainder_ofBlanks_isBlankAndNotEmpty)
     EXPECT_FALSE(rest.Empty());
 }
 
-// Lines of a few characters that matter, so that every rule meets every other one.
-TEST(WrapSegment, wrap_randomLines_asTheRuleWrittenStepByStep)
+// Compares every segment of random lines with those of the rule written down step by step.
+class RandomLines
 {
-    constexpr std::string_view Characters = "aaab   <>&;\t";
-    std::mt19937 random(20240501);
-    const auto pick = [&random](int low, int high) {
-        return std::uniform_int_distribution<int>(low, high)(random);
-    };
-    for (int round = 0; round < 60000; ++round) {
+public:
+    explicit RandomLines(unsigned seed) : m_random(seed) {}
+
+    int Pick(int low, int high) { return std::uniform_int_distribution<int>(low, high)(m_random); }
+
+    std::string Line(const Strings& pieces, int longest)
+    {
         std::string line;
-        const int length = pick(0, 60);
-        for (int i = 0; i < length; ++i) {
-            line += Characters[static_cast<std::size_t>(pick(0, static_cast<int>(Characters.size()) - 1))];
+        for (int left = Pick(0, longest); left > 0; --left) {
+            line += pieces[static_cast<std::size_t>(Pick(0, static_cast<int>(pieces.size()) - 1))];
         }
-        const int width = pick(1, 14);
-        const int indent = pick(0, std::min(width - 1, 10));
+        return line;
+    }
+
+    // Each segment may have a width of its own, as no caller has them: the rule asks for no other.
+    void Compare(const std::string& line, int leastWidth, int mostWidth, int indent)
+    {
         std::string expectedRest = line;
         LineRemainder rest(line);
         std::string segment;
         for (int n = 0; !expectedRest.empty(); ++n) {
             const int hang = n == 0 ? 0 : indent;
+            const int width = Pick(leastWidth, mostWidth);
             const std::string expected = test::PlainWrapSegment(expectedRest, width, hang);
             WrapSegment(rest, width, hang, segment);
             ASSERT_EQ(segment, expected) << "line <<" << line << ">> width " << width << " segment " << n;
@@ -198,7 +204,62 @@ TEST(WrapSegment, wrap_randomLines_asTheRuleWrittenStepByStep)
                 << "line <<" << line << ">> segment " << n;
         }
     }
+
+private:
+    std::mt19937 m_random;
+};
+
+TEST(WrapSegment, wrap_randomLines_asTheRuleWrittenStepByStep)
+{
+    // Few characters, those that matter, so that every rule meets every other one.
+    const Strings pieces = {"a", "a", "a", " ", " ", "<", ">", "&", ";", "\t"};
+    RandomLines random(20240501);
+    for (int round = 0; round < 40000 && !testing::Test::HasFatalFailure(); ++round) {
+        const int width = random.Pick(1, 14);
+        const std::string line = random.Line(pieces, 60);
+        random.Compare(line, width, width, random.Pick(0, std::min(width - 1, 10)));
+    }
 }
+
+// Hidden text of hundreds of characters, in which many segments end before it is passed.
+class HiddenText : public testing::TestWithParam<std::pair<const char*, Strings>>
+{
+};
+
+TEST_P(HiddenText, wrap_randomLines_asTheRuleWrittenStepByStep)
+{
+    const std::string a(300, 'a');
+    RandomLines random(7);
+    for (int round = 0; round < 200 && !testing::Test::HasFatalFailure(); ++round) {
+        const int width = random.Pick(11, 40);
+        std::string line = random.Line(GetParam().second, 80);
+        line += round % 2 == 0 ? "&" : ">;" + a;
+        random.Compare(line, width, round % 3 == 0 ? 40 : width, random.Pick(0, 10));
+    }
+}
+
+const std::string ManyTags = [] {
+    std::string tags;
+    for (int i = 0; i < 120; ++i) {
+        tags += "<B>";
+    }
+    return tags;
+}();
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, HiddenText,
+    testing::Values(std::pair("tags", Strings{"<B>", "</H1>", "<B>", "<I>", "x"}),
+                    std::pair("tagRuns", Strings{ManyTags, ManyTags, "x", "xyz ", "&AMP;"}),
+                    std::pair("longTags", Strings{"<" + std::string(700, 'q') + ">", "x", "y z"}),
+                    std::pair("openTags", Strings{"<", "ab", "cdefghij", "klmnopqrstuvwxyz", "-"}),
+                    std::pair("openTagsAndBlanks", Strings{"<", "ab", "cd ", "klmnopqrstuvwxyz", "-"}),
+                    std::pair("longEntities", Strings{"&" + ManyTags + ";", "<B>", "x", "y"}),
+                    std::pair("entitiesInTags", Strings{"<&", ">", ";", ManyTags, "x", "y "}),
+                    std::pair("ends", Strings{">", ";", "x", "<", ManyTags, "<B>", "<B>"}),
+                    std::pair("entitiesAtTheEdge",
+                              Strings{ManyTags, ManyTags, "x", "xxxxx", "&" + std::string(400, 'q') + "; x"}),
+                    std::pair("everything", Strings{"<", ">", "&", ";", "a", "a", " ", ManyTags, "bcd"})),
+    [](const auto& row) { return row.param.first; });
 
 } // namespace
 } // namespace ls
