@@ -28,11 +28,13 @@ enum class ShowResult
     Shown,   ///< `ShownTopic` is filled
 };
 
-/// Reads a topic from the book's file, or from its edited text, and wraps it to `lineWidthChars` characters.
+/// Reads a topic from the book's file, or from its edited text, and wraps it to `lineWidthChars` characters
+/// (`LeastLineWidth` at least). A plain text file is shown whole, whatever the name.
 ///
 /// `topicName` is the title with or without brackets and comes back with them (empty after a failed look-up);
 /// `topicIndex` is its number, 0 when it is to be looked up. A topic of more than 32,767 display lines is cut
-/// there after the "Overflow" box.
+/// there after the "Overflow" box. A topic that cannot be read to its end is shown as far as it was read,
+/// after the message for a topic that cannot be fetched.
 ShowResult ShowTopic(const Book& book, const Seams& seams, std::string& topicName, Count16& topicIndex,
                      int lineWidthChars, ShownTopic& shown);
 
