@@ -69,13 +69,16 @@ double LeadingNumber(std::string_view text)
     text = TrimLeft(text);
     if (!text.empty() && text.front() == '+') {
         text.remove_prefix(1);
+        if (!text.empty() && text.front() == '-') {
+            return 0; // one sign only
+        }
     }
     double value = 0;
     // "inf" and "nan" would parse too: a number begins with a digit, a point or a minus.
     if (!text.empty() && std::string_view("0123456789.-").find(text.front()) != std::string_view::npos) {
         const auto result =
             std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-        if (result.ec != std::errc() || !std::isfinite(value)) {
+        if (result.ec != std::errc() || !std::isfinite(value)) { // "-inf" parses
             return 0;
         }
     }

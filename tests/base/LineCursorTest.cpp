@@ -77,5 +77,255 @@ TEST_F(LineCursorTest, readLineView_atTheEnd_isError62)
     EXPECT_EQ(cursor.ReadLine(line).number, error::InputPastEnd);
 }
 
+constexpr std::size_t Block = 16 * 1024; ///< what a cursor reads first
+
+// Line ends around the place where the first block ends: a CR as its last byte, a CR LF over the border, and
+// so on for every offset.
+TEST_F(LineCursorTest, readLine_lineEndsAroundABlockBorder_readTheSame)
+{
+    for (const char* lineEnd : {"\r\n", "\r"}) {
+        for (std::size_t length = Block - 3; length <= Block + 1; ++length) {
+            const std::string bytes = std::string(length, 'x') + lineEnd + "next" + lineEnd;
+            Open(bytes);
+            LineCursor cursor(*file);
+            std::string line;
+            ASSERT_TRUE(cursor.ReadLine(line).Ok());
+            EXPECT_EQ(line, std::string(length, 'x'));
+            EXPECT_EQ(cursor.Position(), static_cast<FilePos>(bytes.find("next") + 1)) << length;
+            ASSERT_TRUE(cursor.ReadLine(line).Ok());
+            EXPECT_EQ(line, "next") << length;
+            EXPECT_TRUE(cursor.AtEnd());
+        }
+    }
+}
+
+TEST_F(LineCursorTest, readLine_crLastInTheBlockAndLfAlone_areTwoThings)
+{
+    // "CR x LF": the LF that comes later belongs to its line.
+    Open(std::string(Block - 1, 'x') + "\ry\nz\r");
+    EXPECT_EQ(Lines(), (Strings{std::string(Block - 1, 'x'), "y\nz"}));
+}
+
+TEST_F(LineCursorTest, readLine_severalBlocks_areOneLine)
+{
+    const std::string longLine(40 * Block + 7, 'y');
+    Open("a\r\n" + longLine + "\r\nb");
+    EXPECT_EQ(Lines(), (Strings{"a", longLine, "b"}));
+}
+
+TEST_F(LineCursorTest, readLine_loneCrAtTheEnd_endsTheLastLine)
+{
+    Open("a\rb\r");
+    EXPECT_EQ(Lines(), (Strings{"a", "b"}));
+}
+
+TEST_F(LineCursorTest, readLine_emptyLines_areRead)
+{
+    Open("\r\r\n\r");
+    EXPECT_EQ(Lines(), (Strings{"", "", ""}));
+}
+
+TEST_F(LineCursorTest, readLine_nulAndHighBytes_passThrough)
+{
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        if (byte != '\r') {
+            bytes += static_cast<char>(byte);
+        }
+    }
+    Open(bytes + "\r\n" + std::string(2, '\0'));
+    EXPECT_EQ(Lines(), (Strings{bytes, std::string(2, '\0')}));
+}
+
+TEST_F(LineCursorTest, readLine_emptyFile_isError62)
+{
+    Open("");
+    LineCursor cursor(*file);
+    std::string line = "old";
+    EXPECT_TRUE(cursor.AtEnd());
+    EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::InputPastEnd));
+    EXPECT_EQ(line, "");
+}
+
+TEST_F(LineCursorTest, position_afterEachLine_isTheNextLinesFirstByte)
+{
+    Open("ab\rc\r\n\r\nde\nf\r\ng");
+    LineCursor cursor(*file);
+    std::vector<FilePos> positions{cursor.Position()};
+    std::string line;
+    while (!cursor.AtEnd() && cursor.ReadLine(line).Ok()) {
+        positions.push_back(cursor.Position());
+    }
+    EXPECT_EQ(positions, (std::vector<FilePos>{1, 4, 7, 9, 15, 16}));
+}
+
+TEST_F(LineCursorTest, seek_toAnyByte_readsFromThere)
+{
+    Open("abc\r\ndef");
+    LineCursor cursor(*file);
+    std::string line;
+    for (const auto& [pos, expected] : std::vector<std::pair<FilePos, std::string>>{
+             {6, "def"}, {2, "bc"}, {5, "\ndef"}, {0, "abc"}, {-7, "abc"}}) {
+        cursor.Seek(pos);
+        ASSERT_TRUE(cursor.ReadLine(line).Ok());
+        EXPECT_EQ(line, expected) << pos;
+    }
+}
+
+TEST_F(LineCursorTest, seek_behindTheEnd_readingIsError62)
+{
+    Open("abc");
+    LineCursor cursor(*file);
+    std::string line;
+    for (const FilePos pos : {4, 5, 4000000}) {
+        cursor.Seek(pos);
+        EXPECT_EQ(cursor.Position(), pos);
+        EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::InputPastEnd)) << pos;
+        EXPECT_TRUE(cursor.AtEnd());
+    }
+}
+
+TEST_F(LineCursorTest, seek_changedFile_readsWhatItHoldsNow)
+{
+    Open("old line\r\nsecond\r\n");
+    LineCursor cursor(*file);
+    std::string line;
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    files["/f"] = "new line, and longer\r\nmore";
+    cursor.Seek(1);
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "new line, and longer");
+    files["/f"] = "cut";
+    cursor.Seek(11);
+    EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::InputPastEnd));
+}
+
+TEST_F(LineCursorTest, atEnd_fileThatGrows_isReadOn)
+{
+    Open("a\r\n");
+    LineCursor cursor(*file);
+    std::string line;
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_TRUE(cursor.AtEnd());
+    files["/f"] += "b\r\n";
+    EXPECT_FALSE(cursor.AtEnd());
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "b");
+}
+
+TEST_F(LineCursorTest, readLine_failingRead_isReportedAndIsNotTheEnd)
+{
+    Open("a\r\n");
+    LineCursor cursor(*file);
+    files.fail = [](const std::string& operation) {
+        return operation.starts_with("read") ? error::DeviceIo : 0;
+    };
+    std::string line;
+    EXPECT_FALSE(cursor.AtEnd());
+    EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::DeviceIo));
+    std::string_view view;
+    EXPECT_EQ(cursor.ReadLine(view), MakeFileError(error::DeviceIo));
+    EXPECT_EQ(cursor.SkipToLineBeginning('[', '<'), MakeFileError(error::DeviceIo));
+    files.fail = nullptr;
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "a");
+}
+
+TEST_F(LineCursorTest, readLine_failureInTheMiddleOfALine_isReported)
+{
+    Open(std::string(Block, 'x') + "y\r\n");
+    files.fail = [](const std::string& operation) { return operation == "read /f 1" ? 0 : error::DeviceIo; };
+    LineCursor cursor(*file);
+    std::string line;
+    EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::DeviceIo));
+    cursor.Seek(1);
+    EXPECT_EQ(cursor.SkipToLineBeginning('[', '<'), MakeFileError(error::DeviceIo));
+}
+
+TEST_F(LineCursorTest, skipToLineBeginning_passesOverLinesAndEndsAtTheMark)
+{
+    Open("a[\r\n [b\r<x\r\n[y");
+    LineCursor cursor(*file);
+    ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
+    EXPECT_EQ(cursor.Position(), 9);
+    ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
+    EXPECT_EQ(cursor.Position(), 9); // where it stands counts
+    std::string line;
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "<x");
+    ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
+    EXPECT_EQ(cursor.Position(), 13);
+}
+
+TEST_F(LineCursorTest, skipToLineBeginning_loneLfBeforeAMark_isNoLineEnd)
+{
+    Open("a\n[b\r\n[c");
+    LineCursor cursor(*file);
+    ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
+    EXPECT_EQ(cursor.Position(), 7);
+}
+
+TEST_F(LineCursorTest, skipToLineBeginning_aroundABlockBorder_findsTheMark)
+{
+    for (const char* lineEnd : {"\r\n", "\r"}) {
+        for (std::size_t length = Block - 4; length <= Block + 2; ++length) {
+            const std::string before = std::string(length, 'x') + lineEnd;
+            Open(before + "[Topic]\r\n");
+            LineCursor cursor(*file);
+            ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
+            EXPECT_EQ(cursor.Position(), static_cast<FilePos>(before.size() + 1)) << length;
+        }
+    }
+}
+
+TEST_F(LineCursorTest, skipToLineBeginning_noMark_endsAtTheEnd)
+{
+    for (const char* bytes : {"", "a", "a\r", "a\r\nb\r\n", "\r\n\r\n"}) {
+        Open(bytes);
+        LineCursor cursor(*file);
+        EXPECT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
+        EXPECT_TRUE(cursor.AtEnd());
+    }
+}
+
+// A file of five billion bytes that holds two lines far behind everything that 32 bits can count.
+class HugeFile : public BookFile
+{
+public:
+    static constexpr FilePos Start = 5'000'000'000;
+
+    FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
+    {
+        const std::string_view lines = "[Far]\r\ntext";
+        got = 0;
+        while (got < size && pos + static_cast<FilePos>(got) - Start < static_cast<FilePos>(lines.size())) {
+            const FilePos at = pos + static_cast<FilePos>(got) - Start;
+            buffer[got++] = at < 0 ? 'x' : lines[static_cast<std::size_t>(at)];
+        }
+        return {};
+    }
+
+    FileError Size(FilePos& size) override
+    {
+        size = Start + 10;
+        return {};
+    }
+};
+
+TEST(LineCursor, position_past2GiB_isExact)
+{
+    HugeFile huge;
+    LineCursor cursor(huge);
+    cursor.Seek(HugeFile::Start);
+    std::string line;
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "[Far]");
+    EXPECT_EQ(cursor.Position(), 5'000'000'007);
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "text");
+    EXPECT_EQ(cursor.Position(), 5'000'000'011);
+    EXPECT_TRUE(cursor.AtEnd());
+}
+
 } // namespace
 } // namespace ls
