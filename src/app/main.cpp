@@ -17,12 +17,12 @@ namespace {
 constexpr int EndedNormally = 0;
 constexpr int EndedByFault = 4;
 
-// The program speaks English only, whatever the desktop does.
+// The program speaks English only, whatever the desktop does. It has no display name: the toolkit would add
+// that to the title of every form.
 void SetUpApplication()
 {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication::setApplicationName(QStringLiteral("lsadvisor"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Lodestar Advisor"));
     QApplication::setApplicationVersion(QStringLiteral(LS_VERSION));
 }
 

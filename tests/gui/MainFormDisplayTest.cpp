@@ -117,6 +117,7 @@ TEST_F(MainFormDisplayTest, scroll_wheelOverThePane_movesTheBar)
 TEST_F(MainFormDisplayTest, scroll_lastLine_leavesTheRestEmpty)
 {
     Start(WriteLines(100));
+    test::TakePicture(form, "main-long-topic");
     Bar().setValue(100);
     EXPECT_EQ(PaneText(), "100");
 }
@@ -177,6 +178,7 @@ TEST_F(MainFormDisplayTest, resize_smaller_leavesTheControlsAtTheirDesignedPlace
     EXPECT_EQ(Get<QWidget>("GoToButton").pos(), QPoint(518, 28));
     EXPECT_EQ(Get<QWidget>("DoneButton").pos(), QPoint(8, 457));
     EXPECT_EQ(PaneText(), "a");
+    test::TakePicture(form, "main-small");
 }
 
 TEST_F(MainFormDisplayTest, resize_scrolledTopic_returnsToItsFirstLineAndFocusesClose)

@@ -125,7 +125,10 @@ TEST_F(MainFormTest, icons_atTwiceTheScale_areDrawnInFullSize)
 TEST_F(MainFormTest, firstShowing_noBook_opensTheFileFormOnce)
 {
     ModalScript script;
-    script.Escape();
+    script.Do([](QWidget& chooser) {
+        test::TakePicture(chooser, "main-chooser");
+        QTest::keyClick(&chooser, Qt::Key_Escape);
+    });
     Start("");
     EXPECT_EQ(script.Seen(), Strings{TheFileForm});
     form.hide();
@@ -166,6 +169,7 @@ TEST_F(MainFormTest, firstShowing_startTopicNotInTheBook_isReportedOnce)
     Start(WriteThree(), "Nowhere");
     EXPECT_EQ(script.Seen(), Strings{"warning|Lodestar Advisor|Topic [Nowhere] was not found."});
     EXPECT_EQ(PaneText(), "");
+    test::TakePicture(form, "main-empty");
 }
 
 TEST_F(MainFormTest, firstShowing_missingBook_saysSoAndThenOpensTheFileForm)
@@ -361,6 +365,7 @@ TEST_F(MainFormTest, topicButtons_followTheTopic)
     EXPECT_TRUE(Visible("XRButton"));
     EXPECT_FALSE(Visible("AdvisorButton"));
     EXPECT_FALSE(Get<QPushButton>("XRButton").isEnabled());
+    test::TakePicture(form, "main-topic");
     Press(form, "NextButton");
     EXPECT_TRUE(Visible("XRButton")) << "A refers to it";
     Press(form, "NextButton");
@@ -381,6 +386,7 @@ TEST_F(MainFormTest, plainText_hidesTheListsControlsUntilABookComes)
     Start(note);
     EXPECT_EQ(script.Seen(), Strings{AskPlain});
     EXPECT_EQ(PaneText(), "plain words");
+    test::TakePicture(form, "main-plain-text");
     const auto hidden = {"TopicLabel", "TopicList", "GoToButton", "ExportItem", "NextItem", "PrevTopic"};
     for (const char* name : hidden) {
         EXPECT_FALSE(Visible(name)) << name;
