@@ -1,5 +1,6 @@
 // lsadvisor: the desktop program.
 
+#include "app/FormFont.h"
 #include "app/FormMessages.h"
 #include "app/Global.h"
 #include "platform/Console.h"
@@ -22,6 +23,7 @@ constexpr int EndedByFault = 4;
 void SetUpApplication()
 {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    QApplication::setFont(ls::FormFont());
     QApplication::setApplicationName(QStringLiteral("lsadvisor"));
     QApplication::setApplicationVersion(QStringLiteral(LS_VERSION));
 }

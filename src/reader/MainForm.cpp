@@ -108,6 +108,9 @@ void MainForm::Run(const std::function<void()>& command)
     if (m_seams.end.Ended()) {
         close();
     }
+    if (std::exchange(m_resizedMeanwhile, false)) {
+        m_afterResize.start();
+    }
 }
 
 void MainForm::Form_Load(const CommandLine& commandLine)
@@ -160,8 +163,11 @@ void MainForm::Form_Resize()
 // At the end of a burst of resizes. While a box, a form or a list is open the topic waits until that closes.
 void MainForm::ShowAgain()
 {
-    if (m_running || QApplication::activeModalWidget() != nullptr ||
-        QApplication::activePopupWidget() != nullptr) {
+    if (m_running) {
+        m_resizedMeanwhile = true;
+        return;
+    }
+    if (QApplication::activePopupWidget() != nullptr) {
         m_afterResize.start();
         return;
     }
@@ -256,7 +262,9 @@ void MainForm::keyPressEvent(QKeyEvent* event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        byDefault->click();
+        if (byDefault->isVisible()) {
+            byDefault->click();
+        }
         break;
     case Qt::Key_PageUp:
         m_ui->VScroll1->triggerAction(QAbstractSlider::SliderPageStepSub);

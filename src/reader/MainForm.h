@@ -72,6 +72,7 @@ private:
     BookCommands m_commands;
     QTimer m_afterResize;
     bool m_activated = false;
+    bool m_resizedMeanwhile = false;
     bool m_running = false; // while a command runs, with the boxes and forms that it shows
 };
 

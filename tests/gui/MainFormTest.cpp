@@ -400,6 +400,29 @@ TEST_F(MainFormTest, plainText_hidesTheListsControlsUntilABookComes)
     EXPECT_EQ(PaneText(), "a");
 }
 
+TEST_F(MainFormTest, plainText_enterWithoutAVisibleDefaultButton_doesNothing)
+{
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Start(Write("Note.TXT", "one\r\ntwo\r\n"));
+    Get<QScrollBar>("VScroll1").setValue(2);
+    Get<ReadingPane>("MsgPic").setFocus();
+    EnterInWindow();
+    EXPECT_EQ(PaneText(), "two");
+    EXPECT_TRUE(form.isVisible());
+}
+
+TEST_F(MainFormTest, plainText_nextAndPrevious_tellThatThereIsNothingMore)
+{
+    ModalScript script;
+    script.Answer(Reply::Ok).Answer(Reply::Ok).Answer(Reply::Ok);
+    Start(Write("Note.TXT", "one\r\n"));
+    Press(form, "NextButton");
+    Press(form, "BackButton");
+    EXPECT_EQ(script.Seen(), (Strings{AskPlain, NextAtEnd, PreviousAtStart}));
+    EXPECT_EQ(PaneText(), "one");
+}
+
 TEST_F(MainFormTest, newItem_cancelled_changesNothing)
 {
     Start(WriteThree());
