@@ -4,6 +4,7 @@
 #include "base/Messages.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/LineEnds.h"
 #include "files/FileDialog.h"
 #include "reader/MainView.h"
 #include "reader/Navigation.h"
@@ -83,7 +84,8 @@ void BookCommands::OpenAtStart()
 // file must not stay behind as if it were a new book's.
 bool BookCommands::OpenBookPath()
 {
-    if (OpenBook(m_book, m_seams) && !m_seams.end.Ended()) {
+    m_book.BookPath = OfferConvertedCopy(m_book, m_seams);
+    if (!m_seams.end.Ended() && OpenBook(m_book, m_seams)) {
         return true;
     }
     ForgetBook();

@@ -477,7 +477,7 @@ TEST_F(MainFormTest, programEnd_readErrorWhileScanning_closesTheWindowWithoutAsk
     ModalScript script;
     script.Do([this, big](QWidget& chooser) {
         files.failure = error::DeviceIo;
-        files.readsBefore = 1;
+        files.readsBefore = 2;
         ChooseFile(chooser, big);
     });
     script.Answer(Reply::Ok);

@@ -14,7 +14,7 @@ public:
 
     int reads = 0;
     int failure = 0;      ///< the error number of every read from then on; 0 for none
-    int readsBefore = -1; ///< reads that still succeed before the failure; -1 fails at once
+    int readsBefore = 0; ///< reads that still succeed before it
 
     FileError OpenForReading(const std::string& path, Sharing sharing,
                              std::unique_ptr<BookFile>& file) override

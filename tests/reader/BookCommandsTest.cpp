@@ -24,6 +24,9 @@ constexpr const char* AskOpen =
     "question|Lodestar Advisor|Open another book without saving changes?|OKCancel";
 constexpr const char* AskExit = "question|Lodestar Advisor|Exit without saving changes?|OKCancel";
 constexpr const char* AskNew = "question|Lodestar Advisor|Start over?|OKCancel";
+constexpr const char* AskConvert =
+    "question|Lodestar Advisor|<</work/Book.IDA>> has Unix line ends.  Do you want to open a converted "
+    "copy?|YesNo";
 constexpr const char* AskPlain = "question|Lodestar Advisor|The file you opened is not a Lodestar Book or "
                                  "Advice file. Do you want to view "
                                  "it as a single topic text file?|OKCancel";
@@ -181,6 +184,25 @@ TEST_F(BookCommandsTest, open_plainTextDeclined_leavesNothingOpen)
     EXPECT_EQ(RecentFile(1), "/work/Book.IDA");
 }
 
+TEST_F(BookCommandsTest, open_unixLineEnds_opensTheConvertedCopy)
+{
+    world.messages.replies = {Reply::Yes};
+    Open("LODESTAR BOOK V5.3\n[A]\na\n");
+    EXPECT_EQ(Boxes(), Strings{AskConvert});
+    EXPECT_EQ(OnShow(), "[A]|a");
+    EXPECT_EQ(book.BookPath, "/work/Book (001).IDA");
+    EXPECT_EQ(RecentFile(1), "/work/Book (001).IDA");
+}
+
+TEST_F(BookCommandsTest, open_unixLineEndsDeclined_opensTheFileAsItIs)
+{
+    world.messages.replies = {Reply::No};
+    Open("LODESTAR BOOK V5.3\n[A]\na\n");
+    EXPECT_EQ(book.BookPath, "/work/Book.IDA");
+    EXPECT_FALSE(world.files.Has("/work/Book (001).IDA"));
+    Boxes();
+}
+
 TEST_F(BookCommandsTest, open_unsavedChanges_asksFirstAndCancelKeepsThem)
 {
     OpenThree();
@@ -247,7 +269,7 @@ TEST_F(BookCommandsTest, open_readErrorWhileScanning_endsTheProgram)
     Choose("/work/Book.IDA");
     int reads = 0;
     world.files.fail = [&reads](const std::string& operation) {
-        return operation.starts_with("read /work/Book.IDA") && ++reads > 1 ? error::DeviceIo : 0;
+        return operation.starts_with("read /work/Book.IDA") && ++reads > 2 ? error::DeviceIo : 0;
     };
     commands.OpenItem_Click();
     EXPECT_EQ(Boxes(), Strings{"critical|Lodestar Advisor|Error reading book file with code 57: Device I/O "
