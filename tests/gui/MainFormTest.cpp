@@ -1,9 +1,6 @@
 #include "gui/MainFormFixture.h"
-#include "reader/ButtonIcons.h"
 
 #include <QMenu>
-#include <QMenuBar>
-#include <QToolTip>
 #include <QWheelEvent>
 
 namespace ls {
@@ -31,96 +28,6 @@ struct MainFormTest : MainFormFixture
 
     void EnterInWindow() { QTest::keyClick(form.windowHandle(), Qt::Key_Return); }
 };
-
-std::string Caption(QString text)
-{
-    return text.remove(QLatin1Char('&')).toStdString();
-}
-
-TEST_F(MainFormTest, controls_captionsAndToolTips)
-{
-    struct Row
-    {
-        const char* name;
-        const char* caption;
-        const char* toolTip;
-    };
-    EXPECT_EQ(form.windowTitle(), QStringLiteral("Lodestar Advisor"));
-    EXPECT_EQ(Get<QLabel>("TopicLabel").text(), QStringLiteral("Select a topic, then choose Go To"));
-    EXPECT_EQ(Get<QComboBox>("TopicList").toolTip(), QStringLiteral("Pick topic from list"));
-    for (const Row& row :
-         {Row{"GoToButton", "Go To", "Display chosen topic"}, Row{"BackButton", "", "Go to previous topic"},
-          Row{"NextButton", "", "Go to next topic"}, Row{"XRButton", "Cross Reference", ""},
-          Row{"AdvisorButton", "Advisor", ""}, Row{"DoneButton", "Close", "Close window"},
-          Row{"ExplainButton", "", "Find out more on Internet; post a comment"}}) {
-        const auto& button = Get<QPushButton>(row.name);
-        EXPECT_EQ(Caption(button.text()), row.caption) << row.name;
-        EXPECT_EQ(button.toolTip().toStdString(), row.toolTip) << row.name;
-        EXPECT_EQ(button.text().isEmpty(), !button.icon().isNull()) << row.name;
-        EXPECT_TRUE(!button.text().isEmpty() || !button.accessibleName().isEmpty()) << row.name;
-    }
-}
-
-TEST_F(MainFormTest, menus_captionsInOrder)
-{
-    const std::vector<std::pair<const char*, Strings>> expected = {
-        {"FileMenu File", {"NewItem New", "OpenItem Open", "SaveItem Save", "ExitItem Exit"}},
-        {"EditMenu Edit",
-         {"AddTopicItem Add Topic", "EdTextItem Edit Topic Text", "AdviceEdItem Edit Topic Advice",
-          "DelTopicItem Remove Topics", "ReorderItem Reorder Topics",
-          "EditPropertiesOption Edit Properties"}},
-        {"ActionMenu Action",
-         {"PrevTopic Previous Topic", "NextItem Next Topic", "PrintItem Print Topic",
-          "ExportItem Export Topic"}},
-        {"IndexMenu Index", {"AlphaItem Alphabetic Order", "ContentsItem Contents Order"}},
-        {"HelpMenu Help", {"HelpItem Help", "AboutItem About"}}};
-    const QList<QAction*> menus = form.menuBar()->actions();
-    ASSERT_EQ(static_cast<std::size_t>(menus.size()), expected.size());
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        const QMenu* menu = menus[static_cast<qsizetype>(i)]->menu();
-        EXPECT_EQ(menu->objectName().toStdString() + " " + Caption(menu->title()), expected[i].first);
-        Strings items;
-        for (const QAction* item : menu->actions()) {
-            if (!item->isSeparator()) {
-                items.push_back(item->objectName().toStdString() + " " + Caption(item->text()));
-            }
-        }
-        EXPECT_EQ(items, expected[i].second);
-    }
-}
-
-TEST_F(MainFormTest, design_paneHolds80CharactersAndWholeRows)
-{
-    const auto& pane = Get<ReadingPane>("MsgPic");
-    EXPECT_GE(pane.InnerWidth() / pane.TextWidth("W"), 80.25) << "also two pixels narrower, when resized";
-    EXPECT_GE(pane.InnerHeight() / pane.TextHeight("W"), 25);
-}
-
-TEST_F(MainFormTest, design_everyControlFitsInTheFormAndShowsItsCaption)
-{
-    const QRect inner(0, 0, 686, 493);
-    for (const char* name : {"TopicLabel", "TopicList", "GoToButton", "BackButton", "NextButton", "MsgPic",
-                             "VScroll1", "DoneButton", "AdvisorButton", "XRButton", "ExplainButton"}) {
-        const auto& control = Get<QWidget>(name);
-        EXPECT_TRUE(inner.contains(control.geometry())) << name;
-        if (const auto* button = qobject_cast<const QPushButton*>(&control); button != nullptr) {
-            EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(button->text()) + 12) << name;
-            EXPECT_GE(button->height(), button->fontMetrics().height() + 6) << name;
-        }
-    }
-}
-
-TEST_F(MainFormTest, icons_atTwiceTheScale_areDrawnInFullSize)
-{
-    for (const ButtonPicture picture :
-         {ButtonPicture::ArrowLeft, ButtonPicture::ArrowRight, ButtonPicture::Globe}) {
-        const QImage once = ButtonIcon(picture).pixmap(QSize(16, 16), 1.0).toImage();
-        const QImage twice = ButtonIcon(picture).pixmap(QSize(16, 16), 2.0).toImage();
-        EXPECT_EQ(twice.size(), QSize(32, 32));
-        EXPECT_NE(once.scaled(32, 32), twice);
-        EXPECT_GT(qAlpha(twice.pixel(16, 16)) + qAlpha(twice.pixel(10, 16)), 0) << "something is drawn";
-    }
-}
 
 TEST_F(MainFormTest, firstShowing_noBook_opensTheFileFormOnce)
 {
@@ -182,16 +89,6 @@ TEST_F(MainFormTest, firstShowing_missingBook_saysSoAndThenOpensTheFileForm)
                                       TheFileForm}));
 }
 
-TEST_F(MainFormTest, laterFeatures_areThereAndDisabled)
-{
-    Start(WriteThree());
-    for (const char* name :
-         {"SaveItem", "AddTopicItem", "EdTextItem", "AdviceEdItem", "DelTopicItem", "ReorderItem",
-          "EditPropertiesOption", "PrintItem", "ExportItem", "HelpItem", "AboutItem"}) {
-        EXPECT_FALSE(Get<QAction>(name).isEnabled()) << name;
-    }
-}
-
 TEST_F(MainFormTest, open_fileForm_opensTheChosenBook)
 {
     Start(WriteThree());
@@ -207,6 +104,22 @@ TEST_F(MainFormTest, open_fileForm_opensTheChosenBook)
     EXPECT_TRUE(QFile::exists(QString::fromStdString(Path("LSAdvisor.INI"))));
     Open(script, Path("Three.IDA"));
     EXPECT_FALSE(Visible("ExplainButton"));
+}
+
+TEST_F(MainFormTest, open_lockForEditing_keepsTheBookFromOthers)
+{
+    Start(WriteThree());
+    const std::string other = Write("Other.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[X]", "x"}));
+    ModalScript script;
+    script.Do([other](QWidget& chooser) {
+        test::Find<QAbstractButton>(chooser, "ExclusiveOption")->click();
+        ChooseFile(chooser, other);
+    });
+    Press(form, "OpenItem");
+    EXPECT_EQ(PaneText(), "x");
+    EXPECT_TRUE(global.book.LockBook);
+    std::unique_ptr<BookFile> elsewhere;
+    EXPECT_EQ(files.OpenForReading(other, Sharing::Shared, elsewhere).number, error::PermissionDenied);
 }
 
 TEST_F(MainFormTest, open_unsavedChanges_cancelKeepsTheBook)
