@@ -183,38 +183,4 @@ void RunAdvisor(Book& book, AdvisorTables& tables, const Seams& seams, AdvisorPl
     }
 }
 
-std::string IconWord(Icon icon)
-{
-    switch (icon) {
-    case Icon::Critical:
-        return "critical";
-    case Icon::Exclamation:
-        return "exclamation";
-    case Icon::Warning:
-        return "warning";
-    case Icon::Information:
-        return "information";
-    case Icon::Question:
-        return "question";
-    case Icon::None:
-        break;
-    }
-    return {};
-}
-
-std::string ReplyWord(Reply reply)
-{
-    switch (reply) {
-    case Reply::Cancel:
-        return "Cancel";
-    case Reply::Yes:
-        return "Yes";
-    case Reply::No:
-        return "No";
-    case Reply::Ok:
-        break;
-    }
-    return "OK";
-}
-
 } // namespace ls

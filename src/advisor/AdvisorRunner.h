@@ -70,10 +70,4 @@ struct AdvisorPlayer
 void RunAdvisor(Book& book, AdvisorTables& tables, const Seams& seams, AdvisorPlayer& player, int run,
                 const std::string& title);
 
-/// "critical", "exclamation", "warning", "information" or "question"; empty for no icon.
-[[nodiscard]] std::string IconWord(Icon icon);
-
-/// "OK", "Cancel", "Yes" or "No".
-[[nodiscard]] std::string ReplyWord(Reply reply);
-
 } // namespace ls

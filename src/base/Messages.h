@@ -41,6 +41,12 @@ enum class Reply
 /// The reply that changes nothing: Cancel, No, or OK where nothing is asked.
 [[nodiscard]] Reply SafeReply(Buttons buttons);
 
+/// The icon's word: "critical", "exclamation", "warning", "information", "question"; empty for none.
+[[nodiscard]] std::string_view IconWord(Icon icon);
+
+/// "OK", "Cancel", "Yes" or "No".
+[[nodiscard]] std::string_view ReplyWord(Reply reply);
+
 /// Everything that is said to or asked of the user. Texts are UTF-8: book text enters by `FromBook`, a path
 /// by `FromPath`.
 ///

@@ -58,10 +58,4 @@ private:
     std::vector<Shown> m_shown;
 };
 
-/// The icon's word: "critical", "exclamation", "warning", "information", "question"; empty for none.
-[[nodiscard]] std::string_view IconWord(Icon icon);
-
-/// "OK", "Cancel", "Yes" or "No".
-[[nodiscard]] std::string_view ReplyWord(Reply reply);
-
 } // namespace ls

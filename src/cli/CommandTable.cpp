@@ -9,7 +9,7 @@ namespace ls {
 const std::vector<CommandSpec>& CommandTable()
 {
     static const std::vector<CommandSpec> table = {InfoCommand(), TopicsCommand(), XrefsCommand(),
-                                                   ShowCommand(), TextCommand()};
+                                                   ShowCommand(), TextCommand(), AdviseCommand()};
     return table;
 }
 

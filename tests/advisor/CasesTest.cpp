@@ -1,3 +1,4 @@
+#include "EventLines.h"
 #include "advisor/AdvisorRunner.h"
 #include "advisor/AdvisorTables.h"
 #include "book/Book.h"
@@ -14,15 +15,6 @@ namespace {
 
 using Kind = AdvisorEvent::Kind;
 
-std::string Joined(const std::vector<std::string>& texts)
-{
-    std::string joined;
-    for (const std::string& text : texts) {
-        joined += "[" + text + "]";
-    }
-    return joined;
-}
-
 // One line for an event, the same for what happened and for what the case expects.
 std::string Line(const AdvisorEvent& event)
 {
@@ -30,12 +22,13 @@ std::string Line(const AdvisorEvent& event)
     case Kind::Run:
         return "run " + std::to_string(event.run) + " " + event.name;
     case Kind::Question:
-        return "question " + event.name + (event.derived ? " derived" : "") + " " + Joined(event.choices) +
-               ": " + event.text;
+        return "question " + event.name + (event.derived ? " derived" : "") + " " +
+               test::JoinedTexts(event.choices) + ": " + event.text;
     case Kind::InvalidAnswer:
-        return "invalid answer " + event.name + " " + Joined(event.choices);
+        return "invalid answer " + event.name + " " + test::JoinedTexts(event.choices);
     case Kind::Box:
-        return "box " + IconWord(event.icon) + "|" + event.name + "|" + ReplyWord(event.reply);
+        return "box " + std::string(IconWord(event.icon)) + "|" + event.name + "|" +
+               std::string(ReplyWord(event.reply));
     case Kind::Advice:
         return "advice " + event.name + ": " + event.text;
     case Kind::Text:
@@ -54,43 +47,6 @@ std::string Line(const AdvisorEvent& event)
         return "program ends: " + event.name;
     }
     return "?";
-}
-
-std::string ExpectedLine(const test::Json& event)
-{
-    if (event.Has("run")) {
-        return "run " + std::to_string(event["run"].Int()) + " " + event["topic"].String();
-    }
-    if (event.Has("question")) {
-        return "question " + event["question"].String() + (event["derived"].Bool() ? " derived" : "") + " " +
-               Joined(event["choices"].Strings()) + ": " + event["text"].String();
-    }
-    if (event.Has("invalid_answer")) {
-        return "invalid answer " + event["invalid_answer"].String() + " " +
-               Joined(event["choices"].Strings());
-    }
-    if (event.Has("box")) {
-        return "box " + event["icon"].String() + "|" + event["box"].String() + "|" + event["reply"].String();
-    }
-    if (event.Has("advice")) {
-        return "advice " + event["advice"].String() + ": " + event["text"].String();
-    }
-    if (event.Has("text")) {
-        return "text " + event["text"].String();
-    }
-    if (event.Has("no_advisor")) {
-        return "no advisor " + event["no_advisor"].String();
-    }
-    if (event.Has("answer")) {
-        return "answer " + event["answer"].String();
-    }
-    if (event.Has("waiting")) {
-        return "waiting " + event["waiting"].String();
-    }
-    if (event.Has("button")) {
-        return "button " + event["button"].String();
-    }
-    return "program ends: " + event["program_ends"].String();
 }
 
 std::string RunCase(const test::Json& data, const std::string& bookBytes)
@@ -149,7 +105,7 @@ TEST_P(AdvisorCases, runsOfCase_giveItsEvents)
     const test::Json data = test::Json::ParseFile(stem + ".json");
     std::string expected;
     for (const test::Json& event : data["events"].Items()) {
-        expected += ExpectedLine(event) + "\n";
+        expected += test::EventLine(event) + "\n";
     }
     ASSERT_FALSE(expected.empty());
     EXPECT_EQ(RunCase(data, test::ReadWholeFile(stem + ".IDA")), expected);

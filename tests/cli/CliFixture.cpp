@@ -10,11 +10,11 @@ namespace ls::test {
 
 int CliFixture::Run(const std::vector<std::string>& arguments)
 {
-    std::istringstream in;
+    std::istringstream inStream(in);
     std::ostringstream outStream;
     std::ostringstream errStream;
-    CliEnvironment environment{in,        outStream, errStream,     files,         processes,
-                               UnixPaths, false,     outIsTerminal, errIsTerminal, columns};
+    CliEnvironment environment{inStream,  outStream,    errStream,     files,         processes,
+                               UnixPaths, inIsTerminal, outIsTerminal, errIsTerminal, columns};
     const int status = RunLsbook(arguments, environment);
     out = outStream.str();
     err = errStream.str();

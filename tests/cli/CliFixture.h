@@ -26,6 +26,8 @@ protected:
 
     MemoryFileSystem files;
     RecordingProcesses processes;
+    std::string in; ///< what standard input holds
+    bool inIsTerminal = false;
     bool outIsTerminal = false;
     bool errIsTerminal = false;
     int columns = 0;

@@ -93,6 +93,19 @@ TEST_F(Program, fullOutput_endsWithThree)
     EXPECT_EQ(scratch.Read("stderr"), "lsbook: standard output cannot be written\n");
 }
 
+TEST_F(Program, advise_statusTellsHowTheDialogueEnded)
+{
+    scratch.Write("a.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "<IXML>", "<LOGIC>", "TARGET R",
+                                       "R(1)=X(\xC9)", "R(2)=X(NO)", "<DEFINITIONS>", "<Q ID=X>x?</Q>",
+                                       "<Q ID=R>", "<AV ID=R(1)>One.</AV>", "[B]", "<IXML>", "<LOGIC>",
+                                       "AV(1)=AV(1)", "<DEFINITIONS>"}));
+    EXPECT_EQ(Run("advise a.IDA A --answers É"), 0);
+    EXPECT_EQ(out, "Advisor: A\n\nx?\n  1) É\n  2) NO\n> É\n\nAdvice R(1):\nOne.\n");
+    EXPECT_EQ(Run("advise a.IDA A --answers MAYBE"), 2);
+    EXPECT_EQ(Run("advise a.IDA B"), 4);
+    EXPECT_EQ(err, "critical: Warning--circular definition\n");
+}
+
 // Runs `lsbook show a.IDA A` in a folder, on a terminal that is 20 characters wide; gives what stands there.
 std::string ShowOnTerminal(const std::string& folder)
 {
