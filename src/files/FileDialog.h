@@ -18,6 +18,7 @@ struct FileDialog
     std::string ChosenFile;      ///< out: the name as it was typed or picked
     std::string ChosenFullPath;  ///< out: that name made absolute
     bool FileFormOK = false;     ///< out: accepted, not cancelled
+    std::string BrowsedName;     ///< the name that Browse put into the box last
 };
 
 } // namespace ls

@@ -1,0 +1,333 @@
+#include "files/FileSelector.h"
+
+#include "base/CodePage.h"
+#include "base/FileSystem.h"
+#include "base/FindSpelling.h"
+#include "base/Messages.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+// Names sorted as a person looks for them: without regard to case, equal ones by bytes.
+void SortNames(std::vector<std::string>& names)
+{
+    std::vector<std::pair<std::string, std::string>> keyed;
+    keyed.reserve(names.size());
+    for (std::string& name : names) {
+        std::string key = LowerCaseAscii(name);
+        keyed.emplace_back(std::move(key), std::move(name));
+    }
+    std::sort(keyed.begin(), keyed.end());
+    std::transform(keyed.begin(), keyed.end(), names.begin(),
+                   [](auto& entry) { return std::move(entry.second); });
+}
+
+// "C:" of "C:\\Books"; nothing where there are no drives.
+std::string DriveOf(std::string_view path)
+{
+    return path.size() >= 2 && path[1] == ':' ? std::string(path.substr(0, 2)) : std::string();
+}
+
+std::string WithoutTrailingSeparator(PathRules rules, std::string path)
+{
+    if (path.size() > 1 && path.back() == rules.separator && !(rules.drives && path.size() == 3)) {
+        path.pop_back();
+    }
+    return path;
+}
+
+} // namespace
+
+FileSelector::FileSelector(const Seams& seams, Volumes& volumes, std::string fileMode, std::string workDir)
+    : m_seams(seams), m_fileMode(std::move(fileMode)), m_workDir(std::move(workDir)),
+      m_volumes(volumes.List())
+{
+    for (const Volume& volume : m_volumes) {
+        m_driveLabels.push_back(volume.label);
+    }
+}
+
+void FileSelector::Load(const std::string& startPath)
+{
+    m_overwriteConfirmed = false;
+    m_chosenFullPath = startPath;
+    const std::string current = m_seams.files.CurrentFolder();
+    m_folderPath = current;
+    SelectDriveOf(current);
+    if (!ReadFolder(current).Ok()) {
+        m_folderPath.clear();
+    }
+
+    std::string path = startPath;
+    if (path.empty()) {
+        path = m_workDir.empty() ? current : m_workDir;
+    } else if (path.back() == m_seams.paths.separator) {
+        path.pop_back();
+    }
+    if (path.find('*') == std::string::npos) {
+        path += m_seams.paths.separator;
+        path += "*.IDA";
+    }
+    m_text = path;
+    Apply();
+}
+
+std::string FileSelector::InFolder(const std::string& name) const
+{
+    return JoinPath(m_seams.paths, m_folderPath, name);
+}
+
+void FileSelector::ResetText()
+{
+    m_text = InFolder(m_pattern);
+}
+
+// The drive part of what the drive list shows: up to its ":", which a one-letter text gets added.
+std::string FileSelector::CurrentDriveText()
+{
+    const std::string label = m_drive < 0 ? std::string() : m_driveLabels[static_cast<std::size_t>(m_drive)];
+    if (const std::size_t colon = label.find(':'); colon != std::string::npos) {
+        return label.substr(0, colon + 1);
+    }
+    if (label.size() == 1) {
+        return label + ":";
+    }
+    m_seams.messages.MsgBox("Invalid disk name found.  We will use <<C:>>", Icon::Exclamation);
+    return "C:";
+}
+
+bool FileSelector::SwitchDrive(const std::string& drive)
+{
+    const std::string letter = LowerCaseAscii(drive.substr(0, 1));
+    const auto isMeant = [&letter](const Volume& volume) {
+        return LowerCaseAscii(std::string_view(volume.label).substr(0, 1)) == letter;
+    };
+    if (m_drive >= 0 && isMeant(m_volumes[static_cast<std::size_t>(m_drive)])) {
+        return true;
+    }
+    const auto found = std::find_if(m_volumes.begin(), m_volumes.end(), isMeant);
+    const FileError failed =
+        found == m_volumes.end() ? MakeFileError(error::DeviceUnavailable) : ReadFolder(found->folder);
+    if (!failed.Ok()) {
+        m_seams.messages.MsgBox("Sorry, you cannot choose drive " + FromPath(drive) + " due to error " +
+                                    std::to_string(failed.number) + ": " + failed.description,
+                                Icon::Exclamation);
+        ResetText();
+        return false;
+    }
+    m_drive = static_cast<int>(found - m_volumes.begin());
+    return true;
+}
+
+// Reads what lies in a folder; on success it is the folder on show.
+FileError FileSelector::ReadFolder(const std::string& folder)
+{
+    std::vector<FolderEntry> entries;
+    if (FileError failed = m_seams.files.List(folder, entries); !failed.Ok()) {
+        return failed;
+    }
+    m_subfolders.clear();
+    m_allFiles.clear();
+    for (FolderEntry& entry : entries) {
+        if (!entry.hidden) {
+            (entry.isFolder ? m_subfolders : m_allFiles).push_back(std::move(entry.name));
+        }
+    }
+    SortNames(m_subfolders);
+    SortNames(m_allFiles);
+    m_folderPath = WithoutTrailingSeparator(m_seams.paths, folder);
+    SelectDriveOf(m_folderPath);
+    ListFolders();
+    FilterFiles();
+    return {};
+}
+
+void FileSelector::FilterFiles()
+{
+    m_files.clear();
+    std::copy_if(m_allFiles.begin(), m_allFiles.end(), std::back_inserter(m_files),
+                 [this](const std::string& name) { return MatchesPattern(name, m_pattern); });
+}
+
+void FileSelector::ListFolders()
+{
+    const PathRules rules = m_seams.paths;
+    m_folders.clear();
+    std::vector<std::string> way{m_folderPath};
+    for (std::string parent = FolderOf(rules, m_folderPath); !parent.empty() && parent != way.back();
+         parent = FolderOf(rules, parent)) {
+        way.push_back(parent);
+    }
+    std::reverse(way.begin(), way.end());
+    for (std::size_t i = 0; i < way.size(); ++i) {
+        const std::string name = NameOf(rules, way[i]);
+        m_folders.push_back({name.empty() ? way[i] : name, way[i], static_cast<int>(i), true});
+    }
+    for (const std::string& name : m_subfolders) {
+        m_folders.push_back({name, InFolder(name), static_cast<int>(way.size()), false});
+    }
+}
+
+// The volume with the longest root that holds the folder.
+void FileSelector::SelectDriveOf(const std::string& folder)
+{
+    std::size_t longest = 0;
+    for (std::size_t i = 0; i < m_volumes.size(); ++i) {
+        const std::string root = m_seams.paths.drives ? m_volumes[i].label.substr(0, 2) : m_volumes[i].folder;
+        const std::string within = JoinPath(m_seams.paths, root, "");
+        const bool holds = m_seams.paths.drives ? LowerCaseAscii(folder.substr(0, 2)) == LowerCaseAscii(root)
+                                                : folder == root || folder.starts_with(within);
+        if (holds && root.size() > longest) {
+            longest = root.size();
+            m_drive = static_cast<int>(i);
+        }
+    }
+}
+
+bool FileSelector::SwitchFolder(const std::string& folder, const std::string& asWritten)
+{
+    const FileError failed = ReadFolder(folder);
+    if (failed.Ok()) {
+        return true;
+    }
+    m_seams.messages.MsgBox("Sorry, you cannot choose " + FromPath(LowerCaseAscii(asWritten)) +
+                                " due to error " + std::to_string(failed.number) + ": " + failed.description,
+                            Icon::Exclamation);
+    ResetText();
+    return false;
+}
+
+// The folder that a text names: none is the folder on show, and a relative one lies in that.
+std::string FileSelector::FolderMeant(const PathParts& parts) const
+{
+    if (parts.folder.empty()) {
+        return m_folderPath;
+    }
+    const std::string folder = parts.folder.front() == m_seams.paths.separator
+                                   ? (m_seams.paths.drives ? DriveOf(m_folderPath) : "") + parts.folder
+                                   : JoinPath(m_seams.paths, m_folderPath, parts.folder);
+    const std::string bare = WithoutTrailingSeparator(m_seams.paths, folder);
+    if (m_seams.paths.drives) {
+        return LowerCaseAscii(bare) == LowerCaseAscii(m_folderPath) ? m_folderPath : bare;
+    }
+    // Names that differ only in case are two folders here: spelled as one of them, that one is meant.
+    return FindSpelling(m_seams.files, m_seams.paths, bare);
+}
+
+FileSelector::Outcome FileSelector::Apply()
+{
+    PathParts parts = SplitPath(m_seams.paths, m_text);
+    if (m_seams.paths.drives) {
+        parts.drive = parts.drive.empty() ? CurrentDriveText() : LowerCaseAscii(parts.drive);
+        if (!SwitchDrive(parts.drive)) {
+            return Outcome::Stay;
+        }
+    }
+    const std::string folder = FolderMeant(parts);
+    // Names that differ only in case are two folders on some systems: spelled as it is, the one on show
+    // stays.
+    if (folder != m_folderPath && !SwitchFolder(folder, parts.folder)) {
+        return Outcome::Stay;
+    }
+    if (HasWildcard(parts.Pattern())) {
+        m_pattern = parts.Pattern();
+        FilterFiles();
+        ResetText();
+        return Outcome::Stay;
+    }
+    if (!SwitchFolder(m_folderPath, m_folderPath)) { // the list may be old: a file may have come or gone
+        return Outcome::Stay;
+    }
+    return ChooseName(parts.Pattern());
+}
+
+bool FileSelector::IsSubfolder(const std::string& name) const
+{
+    return std::find(m_subfolders.begin(), m_subfolders.end(), name) != m_subfolders.end();
+}
+
+FileSelector::Outcome FileSelector::ChooseName(const std::string& name)
+{
+    // The whole folder is searched, not only what the pattern lists: "does not exist" must be true. As
+    // spelled wins; else the first that differs only in case.
+    auto found = std::find(m_allFiles.begin(), m_allFiles.end(), name);
+    if (found == m_allFiles.end()) {
+        found = std::find_if(m_allFiles.begin(), m_allFiles.end(),
+                             [lower = LowerCaseAscii(name)](const std::string& file) {
+                                 return LowerCaseAscii(file) == lower;
+                             });
+    }
+    // A hidden file is not listed, but it is there.
+    const bool hidden =
+        found == m_allFiles.end() && m_seams.files.Exists(InFolder(name)) && !IsSubfolder(name);
+    const bool exists = found != m_allFiles.end() || hidden;
+    const std::string real = found != m_allFiles.end() ? *found : name;
+    if (m_fileMode == "R" && !exists) {
+        m_seams.messages.MsgBox("File does not exist: " + FromPath(LowerCaseAscii(m_text)),
+                                Icon::Exclamation);
+        return Outcome::Stay;
+    }
+    if (m_fileMode == "W" && exists) {
+        if (m_seams.messages.MsgBox("File already exists.  Overwrite?", Icon::Question, Buttons::OkCancel) !=
+            Reply::Ok) {
+            return Outcome::Stay;
+        }
+        m_overwriteConfirmed = true;
+    }
+    return Accept(real);
+}
+
+FileSelector::Outcome FileSelector::Accept(const std::string& name)
+{
+    m_text = InFolder(name);
+    m_chosenFullPath = m_text;
+    return Outcome::Accepted;
+}
+
+FileSelector::Outcome FileSelector::OkClicked(const std::string& text)
+{
+    m_text = text;
+    return Apply();
+}
+
+void FileSelector::DriveChanged(int index)
+{
+    if (index < 0 || static_cast<std::size_t>(index) >= m_volumes.size() || index == m_drive) {
+        return;
+    }
+    m_text = JoinPath(m_seams.paths, m_volumes[static_cast<std::size_t>(index)].folder, m_pattern);
+    Apply();
+}
+
+void FileSelector::FolderClicked(int index)
+{
+    if (index < 0 || static_cast<std::size_t>(index) >= m_folders.size()) {
+        return;
+    }
+    m_text = JoinPath(m_seams.paths, m_folders[static_cast<std::size_t>(index)].path, m_pattern);
+    Apply();
+}
+
+void FileSelector::FileClicked(int index)
+{
+    if (index >= 0 && static_cast<std::size_t>(index) < m_files.size()) {
+        m_text = InFolder(m_files[static_cast<std::size_t>(index)]);
+    }
+}
+
+FileSelector::Outcome FileSelector::FileDoubleClicked(int index)
+{
+    FileClicked(index);
+    return Apply();
+}
+
+void FileSelector::Cancel()
+{
+    m_chosenFullPath.clear();
+}
+
+} // namespace ls
