@@ -1,0 +1,22 @@
+#pragma once
+
+#include "base/Volumes.h"
+
+#include <string>
+#include <string_view>
+
+namespace ls {
+
+/// The volumes of a Linux system: the root, the home folder, and what is mounted where removable and other
+/// disks go
+/// (/media, /run/media, /mnt). Their folders are the roots themselves.
+class LinuxVolumes : public Volumes
+{
+public:
+    std::vector<Volume> List() override;
+};
+
+/// The volumes of a mount table in the form of /proc/self/mounts, with the home folder behind the root.
+[[nodiscard]] std::vector<Volume> VolumesOf(std::string_view mounts, const std::string& home);
+
+} // namespace ls
