@@ -4,6 +4,7 @@
 #include "app/FormMessages.h"
 #include "app/Global.h"
 #include "platform/Console.h"
+#include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"
 #include "reader/CommandLine.h"
 #include "reader/MainForm.h"
@@ -47,8 +48,10 @@ int main(int argc, char** argv)
     const std::unique_ptr<ls::FileSystem> files = ls::MakeFileSystem();
     const std::unique_ptr<ls::Processes> processes = ls::MakeProcesses();
     ls::FormMessages messages(global.end);
+    const std::unique_ptr<ls::Volumes> volumes = ls::MakeVolumes();
+    const std::unique_ptr<ls::DdeServer> ddeServer = ls::MakeDdeServer();
     const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
-    ls::MainForm form(global, seams);
+    ls::MainForm form(global, seams, {*volumes, *ddeServer});
     messages.SetParent(&form);
     form.Form_Load(ls::ParseArguments(ls::ProgramArguments(argc, argv), seams));
     if (!global.end.Ended()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Seams.h"
+#include "files/FormSeams.h"
 
 class QWidget;
 
@@ -10,6 +11,6 @@ struct Global;
 
 /// Shows the file form over `parent`, told and answering by `global.fileDialog` (and `global.book.LockBook`,
 /// when it asks about sharing), and returns when it is closed.
-void ShowFileForm(QWidget* parent, Global& global, const Seams& seams);
+void ShowFileForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms);
 
 } // namespace ls

@@ -3,6 +3,7 @@
 #include "base/FileSystem.h"
 #include "base/PathRules.h"
 #include "base/Processes.h"
+#include "base/Volumes.h"
 
 #include <memory>
 
@@ -13,6 +14,9 @@ namespace ls {
 
 /// The processes of the running system.
 [[nodiscard]] std::unique_ptr<Processes> MakeProcesses();
+
+/// The volumes of the running system.
+[[nodiscard]] std::unique_ptr<Volumes> MakeVolumes();
 
 /// How paths are written on the running system.
 [[nodiscard]] PathRules NativePaths();

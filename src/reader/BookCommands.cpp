@@ -6,6 +6,7 @@
 #include "book/BookLoader.h"
 #include "book/LineEnds.h"
 #include "files/FileDialog.h"
+#include "files/FileFormRules.h"
 #include "reader/MainView.h"
 #include "reader/Navigation.h"
 #include "reader/Settings.h"
@@ -65,7 +66,7 @@ void BookCommands::AskForFile()
 void BookCommands::OpenChosenFile()
 {
     ForgetBook();
-    m_book.BookPath = m_dialog.ChosenFile;
+    m_book.BookPath = PathOfChosenBook(m_dialog, m_book.WorkDir);
     ClearView();
     if (OpenBookPath()) {
         ShowOpenedBook();

@@ -29,9 +29,9 @@ int Pixels(double length)
 
 } // namespace
 
-MainForm::MainForm(Global& global, const Seams& seams)
+MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
     : m_ui(std::make_unique<Ui::MainForm>()), m_global(global), m_seams(seams), m_layout(RememberDesign()),
-      m_view(std::make_unique<MainFormView>(*this, *m_ui, global, m_seams)),
+      m_view(std::make_unique<MainFormView>(*this, *m_ui, global, m_seams, forms)),
       m_navigation(global.book, m_seams, *m_view),
       m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation)
 {

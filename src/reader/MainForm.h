@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Seams.h"
+#include "files/FormSeams.h"
 #include "reader/BookCommands.h"
 #include "reader/MainLayout.h"
 #include "reader/Navigation.h"
@@ -27,7 +28,7 @@ class MainForm : public QMainWindow
     Q_OBJECT
 
 public:
-    MainForm(Global& global, const Seams& seams);
+    MainForm(Global& global, const Seams& seams, const FormSeams& forms);
     ~MainForm() override;
 
     /// Start-up, before the window is first shown. Afterwards the program may have ended.

@@ -13,8 +13,10 @@
 
 namespace ls {
 
-MainFormView::MainFormView(QMainWindow& form, Ui::MainForm& ui, Global& global, const Seams& seams)
-    : m_form(form), m_ui(ui), m_global(global), m_seams(seams), m_display(*ui.MsgPic, *ui.VScroll1)
+MainFormView::MainFormView(QMainWindow& form, Ui::MainForm& ui, Global& global, const Seams& seams,
+                           const FormSeams& forms)
+    : m_form(form), m_ui(ui), m_global(global), m_seams(seams), m_forms(forms),
+      m_display(*ui.MsgPic, *ui.VScroll1)
 {
     SetUpList();
     SetUpButtons();
@@ -120,7 +122,7 @@ void MainFormView::SetDefault(DefaultButton button)
 
 void MainFormView::ShowFileForm()
 {
-    ls::ShowFileForm(&m_form, m_global, m_seams);
+    ls::ShowFileForm(&m_form, m_global, m_seams, m_forms);
 }
 
 std::unique_ptr<Progress> MainFormView::WatchScan()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Seams.h"
+#include "files/FormSeams.h"
 #include "reader/MainView.h"
 #include "reader/TopicDisplay.h"
 #include "reader/TopicListItems.h"
@@ -19,7 +20,8 @@ struct Global;
 class MainFormView : public MainView
 {
 public:
-    MainFormView(QMainWindow& form, Ui::MainForm& ui, Global& global, const Seams& seams);
+    MainFormView(QMainWindow& form, Ui::MainForm& ui, Global& global, const Seams& seams,
+                 const FormSeams& forms);
 
     /// True while the program itself chooses the list's entry: its change event is to do nothing then.
     [[nodiscard]] bool SettingList() const { return m_settingList; }
@@ -50,6 +52,7 @@ private:
     Ui::MainForm& m_ui;
     Global& m_global;
     Seams m_seams;
+    FormSeams m_forms;
     TopicListItems m_items;
     TopicDisplay m_display;
     bool m_settingList = false;

@@ -9,6 +9,7 @@
 #include "reader/CommandLine.h"
 #include "reader/MainForm.h"
 #include "render/ReadingPane.h"
+#include "support/RecordingDde.h"
 #include "support/RecordingProcesses.h"
 #include "support/TestSeams.h"
 
@@ -18,7 +19,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
-#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -93,10 +93,9 @@ protected:
 
     static void ChooseFile(QWidget& chooser, const std::string& path)
     {
-        auto* dialog = qobject_cast<QFileDialog*>(&chooser);
-        ASSERT_NE(dialog, nullptr);
-        dialog->selectFile(QString::fromStdString(path));
-        static_cast<QDialog*>(dialog)->accept();
+        ASSERT_EQ(chooser.objectName(), QStringLiteral("FileForm"));
+        test::Type(chooser, "FilenameBox", QString::fromStdString(path));
+        test::Press(chooser, "OKButton");
     }
 
     template <typename Control>
@@ -156,7 +155,9 @@ protected:
     Global global;
     FormMessages messages{global.end};
     Seams seams{files, messages, processes, global.end, NativePaths()};
-    MainForm form{global, seams};
+    std::unique_ptr<Volumes> volumes = MakeVolumes();
+    test::RecordingDde dde;
+    MainForm form{global, seams, {*volumes, dde}};
 };
 
 } // namespace ls

@@ -4,6 +4,7 @@
 #include "app/FormMessages.h"
 #include "app/Global.h"
 #include "platform/Console.h"
+#include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"
 #include "reader/CommandLine.h"
 #include "reader/MainForm.h"
@@ -27,7 +28,9 @@ bool TakeTour(const QDir& pictures, const std::vector<std::string>& arguments)
     const auto processes = ls::MakeProcesses();
     ls::FormMessages messages(global.end);
     const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
-    ls::MainForm form(global, seams);
+    const auto volumes = ls::MakeVolumes();
+    const auto ddeServer = ls::MakeDdeServer();
+    ls::MainForm form(global, seams, {*volumes, *ddeServer});
     messages.SetParent(&form);
     ls::Tour tour(form, pictures);
     form.Form_Load(ls::ParseArguments(arguments, seams));

@@ -1,0 +1,194 @@
+#include "files/FileForm.h"
+
+#include "app/FormFont.h"
+#include "app/Global.h"
+#include "base/DdeServer.h"
+#include "base/ProgramEnd.h"
+#include "files/FileChooser.h"
+#include "files/FileFormRules.h"
+#include "files/OpenForm.h"
+#include "files/PathText.h"
+#include "ui_FileForm.h"
+
+#include <QApplication>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace ls {
+
+namespace {
+
+constexpr int TimerMilliseconds = 10;
+
+} // namespace
+
+FileForm::FileForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms)
+    : QDialog(parent), m_ui(std::make_unique<Ui::FileForm>()), m_global(global), m_seams(seams),
+      m_forms(forms), m_timer1(new QTimer(this))
+{
+    setFont(FormFont());
+    m_ui->setupUi(this);
+    setModal(true);
+    m_ui->HelpButton->setIcon(style()->standardIcon(QStyle::SP_DialogHelpButton));
+    m_timer1->setObjectName(QStringLiteral("Timer1"));
+    m_timer1->setInterval(TimerMilliseconds);
+    m_ui->FilenameBox->setCompleter(
+        nullptr); // it would change a name that is typed, and take Enter for itself
+    ConnectControls();
+    Form_Load();
+}
+
+FileForm::~FileForm()
+{
+    m_forms.ddeServer.Stop();
+}
+
+void FileForm::ConnectControls()
+{
+    connect(m_ui->OKButton, &QPushButton::clicked, this, &FileForm::OKButton_Click);
+    connect(m_ui->CancelButton, &QPushButton::clicked, this, &FileForm::reject);
+    connect(m_ui->BrowseButton, &QPushButton::clicked, this, &FileForm::BrowseButton_Click);
+    connect(m_timer1, &QTimer::timeout, this, &FileForm::Timer1_Timer);
+}
+
+void FileForm::Form_Load()
+{
+    m_designWidth = width();
+    m_browseLeft = m_ui->BrowseButton->x();
+    m_nameWidth = m_ui->FilenameBox->width();
+    m_helpLeft = m_ui->HelpButton->x();
+    const FileFormView view = LoadFileForm(m_global.fileDialog, m_global.settings, m_seams);
+    setWindowTitle(PathText(view.caption));
+    m_ui->TitleLabel->setText(PathText(view.title));
+    m_ui->DefaultLabel->setText(PathText(view.defaultLabel));
+    m_ui->InfoButton->setVisible(view.showInfo);
+    m_ui->InfoButton->setEnabled(false); // until there is a form for the properties
+    m_ui->HelpButton->setEnabled(false); // until there is a page to show
+    if (!view.showSharing) {
+        HideSharing();
+    }
+    for (const std::string& name : view.recentFiles) {
+        m_names.push_back(name);
+        m_ui->FilenameBox->addItem(PathText(name));
+    }
+    SetName(view.fileName);
+    m_ui->FilenameBox->lineEdit()->selectAll();
+    m_ui->FilenameBox->setFocus();
+    m_remote.Reset();
+    // Somebody else may have the name, or nobody may be there to talk to: the form works without.
+    m_forms.ddeServer.Start([this](const std::string& command) { return Form_LinkExecute(command); });
+}
+
+// O.K. and Cancel take the place of the frame.
+void FileForm::HideSharing()
+{
+    m_ui->SharingFrame->hide();
+    const int gap = m_ui->CancelButton->x() - (m_ui->OKButton->x() + m_ui->OKButton->width());
+    const int shift = m_ui->CancelButton->width() + gap;
+    for (QWidget* button : {m_ui->OKButton, m_ui->CancelButton}) {
+        button->move(button->x() - shift, button->y());
+    }
+}
+
+void FileForm::Form_Resize()
+{
+    const int extra = std::max(0, width() - m_designWidth);
+    m_ui->BrowseButton->move(m_browseLeft + extra, m_ui->BrowseButton->y());
+    m_ui->HelpButton->move(m_helpLeft + extra, m_ui->HelpButton->y());
+    m_ui->FilenameBox->resize(m_nameWidth + extra, m_ui->FilenameBox->height());
+}
+
+void FileForm::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    if (m_designWidth > 0) {
+        Form_Resize();
+    }
+}
+
+void FileForm::SetName(const std::string& name)
+{
+    m_names.push_back(name);
+    m_ui->FilenameBox->setEditText(PathText(name));
+}
+
+// A name that was put into the box and not changed keeps its bytes, also where they are no valid text.
+std::string FileForm::NameInBox() const
+{
+    const QString text = m_ui->FilenameBox->currentText();
+    const auto found = std::find_if(m_names.rbegin(), m_names.rend(),
+                                    [&text](const std::string& name) { return PathText(name) == text; });
+    return found == m_names.rend() ? PathBytes(text) : *found;
+}
+
+void FileForm::OKButton_Click()
+{
+    if (AcceptFileName(m_global.fileDialog, NameInBox(), m_ui->ExclusiveOption->isChecked(),
+                       m_global.book.LockBook, m_seams) ||
+        m_seams.end.Ended()) {
+        QDialog::accept();
+    }
+}
+
+void FileForm::BrowseButton_Click()
+{
+    FileDialog& dialog = m_global.fileDialog;
+    dialog.ChosenFullPath = dialog.SearchSpec;
+    OpenForm(this, dialog, m_seams, m_forms.volumes, m_global.book.WorkDir).exec();
+    if (m_seams.end.Ended()) {
+        reject();
+        return;
+    }
+    std::string name = NameInBox();
+    TakeBrowsedFile(dialog, name, m_seams);
+    SetName(name);
+}
+
+bool FileForm::Form_LinkExecute(const std::string& command)
+{
+    const bool accepted = m_remote.LinkExecute(command);
+    if (m_remote.TimerEnabled()) {
+        m_timer1->start();
+    }
+    return accepted;
+}
+
+// Whether the form can take a click: it is shown, enabled, and no box or form stands over it.
+bool FileForm::Ready() const
+{
+    return isVisible() && isEnabled() && QApplication::activeModalWidget() == this;
+}
+
+void FileForm::Timer1_Timer()
+{
+    m_timer1->stop();
+    switch (m_remote.Timer(Ready(), m_seams.messages)) {
+    case RemoteCommands::Action::PushOk:
+        OKButton_Click();
+        break;
+    case RemoteCommands::Action::PushCancel:
+        reject();
+        break;
+    case RemoteCommands::Action::PushBrowse:
+        BrowseButton_Click();
+        break;
+    case RemoteCommands::Action::Beep:
+        QApplication::beep();
+        break;
+    case RemoteCommands::Action::None:
+        break;
+    }
+}
+
+void ShowFileForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms)
+{
+    FileForm form(parent, global, seams, forms);
+    if (!seams.end.Ended()) {
+        form.exec();
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "base/Seams.h"
+#include "files/FormSeams.h"
+#include "files/RemoteCommands.h"
+
+#include <QDialog>
+#include <QTimer>
+
+#include <memory>
+#include <vector>
+
+namespace Ui {
+class FileForm;
+}
+
+namespace ls {
+
+struct Global;
+
+/// The file form: asks for the name of a book to open or to save. While it is shown, other programs can press
+/// its buttons.
+class FileForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Told and answering by `global.fileDialog`, and by `global.book.LockBook` when it asks about sharing.
+    FileForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms);
+    ~FileForm() override;
+
+public Q_SLOTS:
+    void accept() override { OKButton_Click(); }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void ConnectControls();
+    void Form_Load();
+    void HideSharing();
+    void Form_Resize();
+    void OKButton_Click();
+    void BrowseButton_Click();
+    bool Form_LinkExecute(const std::string& command);
+    void Timer1_Timer();
+    [[nodiscard]] bool Ready() const;
+    [[nodiscard]] std::string NameInBox() const;
+    void SetName(const std::string& name);
+
+    std::unique_ptr<Ui::FileForm> m_ui;
+    Global& m_global;
+    Seams m_seams;
+    FormSeams m_forms;
+    RemoteCommands m_remote;
+    QTimer* m_timer1;
+    std::vector<std::string>
+        m_names; ///< of the list, and what was put into the box last, in the system's bytes
+    int m_designWidth = 0;
+    int m_browseLeft = 0;
+    int m_nameWidth = 0;
+    int m_helpLeft = 0;
+};
+
+} // namespace ls

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace ls {
+
+class DdeServer;
+class Volumes;
+
+/// What only the forms need from the running system.
+struct FormSeams
+{
+    Volumes& volumes;
+    DdeServer& ddeServer;
+};
+
+} // namespace ls

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/DdeServer.h"
+
+#include <memory>
+
+namespace ls {
+
+/// Execute strings over the session bus: name `org.lodestar.Advisor`, object `/FileForm`, method
+/// `Execute(s)`.
+///
+/// Without a bus, or where another instance of the program has the name, `Start` is false and nothing else
+/// changes.
+class DBusServer : public DdeServer
+{
+public:
+    DBusServer();
+    ~DBusServer() override;
+
+    bool Start(Handler handler) override;
+    void Stop() override;
+
+private:
+    class Link;
+    std::unique_ptr<Link> m_link;
+};
+
+} // namespace ls

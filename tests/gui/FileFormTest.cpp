@@ -1,0 +1,279 @@
+#include "files/FileForm.h"
+
+#include "app/Global.h"
+#include "base/DdeServer.h"
+#include "base/Volumes.h"
+#include "gui/Controls.h"
+#include "support/RecordingDde.h"
+#include "support/TestSeams.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+namespace ls {
+namespace {
+
+using Strings = std::vector<std::string>;
+using test::Find;
+
+struct FixedVolumes : Volumes
+{
+    std::vector<Volume> List() override { return {{"/", "/"}}; }
+};
+
+struct FileFormTest : testing::Test
+{
+    test::TestSeams world;
+    FixedVolumes volumes;
+    test::RecordingDde dde;
+    Global global;
+    std::unique_ptr<FileForm> form;
+
+    FileFormTest()
+    {
+        global.settings.RecentFiles[0] = "/books/A.IDA";
+        global.settings.RecentFiles[1] = "/books/B.IDA";
+        global.settings.RecentFileCount = 2;
+        global.fileDialog.FileMode = "R";
+        global.fileDialog.FileFormTitle = "Which book shall be opened?";
+        global.fileDialog.DefaultFolder = "/books";
+        global.fileDialog.FilePattern = "*.IDA";
+        global.fileDialog.InitialFileName = "/books/A.IDA";
+        global.fileDialog.ShowSharing = true;
+        world.files["/books/A.IDA"] = "";
+        world.files["/books/sub/Y.IDA"] = "";
+    }
+
+    void Load()
+    {
+        form = std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde});
+        test::ShowActive(*form);
+    }
+
+    [[nodiscard]] QString Name() const { return Find<QComboBox>(*form, "FilenameBox")->currentText(); }
+
+    [[nodiscard]] std::string Left(const char* control) const
+    {
+        return std::to_string(Find<QWidget>(*form, control)->x());
+    }
+};
+
+TEST_F(FileFormTest, openMode_showsCaptionsToolTipsAndRecentFiles)
+{
+    Load();
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Lodestar Advisor Open"));
+    EXPECT_EQ(Find<QLabel>(*form, "TitleLabel")->text(), QStringLiteral("Which book shall be opened?"));
+    EXPECT_EQ(Find<QLabel>(*form, "DefaultLabel")->text(), QStringLiteral("Default folder: /books"));
+    auto* names = Find<QComboBox>(*form, "FilenameBox");
+    EXPECT_EQ(names->count(), 2);
+    EXPECT_EQ(names->itemText(1), QStringLiteral("/books/B.IDA"));
+    EXPECT_EQ(Name(), QStringLiteral("/books/A.IDA"));
+    EXPECT_EQ(names->toolTip(),
+              QStringLiteral("Last saved files; can drag window border to stretch box width"));
+    EXPECT_EQ(Find<QPushButton>(*form, "BrowseButton")->toolTip(),
+              QStringLiteral("Click to pick disk, folder, and file"));
+    EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->text(), QStringLiteral("O.K."));
+    EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->toolTip(), QStringLiteral("Open file"));
+    EXPECT_EQ(Find<QPushButton>(*form, "CancelButton")->toolTip(), QStringLiteral("Don't open; close form"));
+    EXPECT_EQ(Find<QGroupBox>(*form, "SharingFrame")->title(), QStringLiteral("Use of file"));
+    EXPECT_EQ(Find<QPushButton>(*form, "HelpButton")->toolTip(), QStringLiteral("Show help page"));
+    EXPECT_TRUE(Find<QRadioButton>(*form, "SharedOption")->isChecked());
+    EXPECT_FALSE(Find<QPushButton>(*form, "InfoButton")->isVisible());
+    test::TakePicture(*form, "FileFormOpen");
+}
+
+TEST_F(FileFormTest, saveMode_showsInfoAndTheNameAlone)
+{
+    global.fileDialog.FileMode = "W";
+    global.fileDialog.ShowSharing = false;
+    global.fileDialog.InitialFileName = "Guide (001).IDA";
+    Load();
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("Lodestar Advisor Save"));
+    EXPECT_TRUE(Find<QPushButton>(*form, "InfoButton")->isVisible());
+    EXPECT_EQ(Find<QComboBox>(*form, "FilenameBox")->count(), 0);
+    EXPECT_EQ(Name(), QStringLiteral("Guide (001).IDA"));
+    EXPECT_FALSE(Find<QGroupBox>(*form, "SharingFrame")->isVisible());
+    test::TakePicture(*form, "FileFormSave");
+}
+
+TEST_F(FileFormTest, sharingHidden_shiftsOkAndCancelByOneButtonAndGap)
+{
+    Load();
+    const int ok = Find<QWidget>(*form, "OKButton")->x();
+    const int cancel = Find<QWidget>(*form, "CancelButton")->x();
+    global.fileDialog.ShowSharing = false;
+    Load();
+    EXPECT_EQ(Find<QWidget>(*form, "OKButton")->x(), ok - (cancel - ok));
+    EXPECT_EQ(Find<QWidget>(*form, "CancelButton")->x(), ok);
+}
+
+TEST_F(FileFormTest, ok_typedName_isTakenAndClosesTheForm)
+{
+    Load();
+    test::Type(*form, "FilenameBox", QStringLiteral("X.IDA"));
+    Find<QRadioButton>(*form, "ExclusiveOption")->click();
+    test::Press(*form, "OKButton");
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_TRUE(global.fileDialog.FileFormOK);
+    EXPECT_EQ(global.fileDialog.ChosenFile, "X.IDA");
+    EXPECT_EQ(global.fileDialog.ChosenFullPath, "/books/X.IDA");
+    EXPECT_TRUE(global.book.LockBook);
+}
+
+TEST_F(FileFormTest, enter_isOkAndEscapeIsCancel)
+{
+    Load();
+    QTest::keyClick(form->windowHandle(), Qt::Key_Return);
+    EXPECT_TRUE(global.fileDialog.FileFormOK);
+    EXPECT_EQ(global.fileDialog.ChosenFile, "/books/A.IDA");
+    Load();
+    QTest::keyClick(form->windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_FALSE(global.fileDialog.FileFormOK);
+    EXPECT_EQ(global.fileDialog.ChosenFile, "");
+}
+
+TEST_F(FileFormTest, ok_wildcard_staysWithItsMessage)
+{
+    Load();
+    test::Type(*form, "FilenameBox", QStringLiteral("*.IDA"));
+    test::Press(*form, "OKButton");
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(world.messages.Take(),
+              (Strings{"exclamation|Lodestar Advisor|Sorry, you cannot include a wildcard symbol "
+                       "in the filename."}));
+}
+
+TEST_F(FileFormTest, recentName_canBePicked)
+{
+    Load();
+    auto* names = Find<QComboBox>(*form, "FilenameBox");
+    names->setFocus();
+    QTest::keyClick(form->windowHandle(), Qt::Key_Down);
+    QTest::keyClick(form->windowHandle(), Qt::Key_Down);
+    EXPECT_EQ(Name(), QStringLiteral("/books/B.IDA"));
+}
+
+TEST_F(FileFormTest, recentNameThatIsNoText_keepsItsBytes)
+{
+    global.fileDialog.InitialFileName = "/books/\xE9.IDA";
+    Load();
+    test::Press(*form, "OKButton");
+    EXPECT_EQ(global.fileDialog.ChosenFile, "/books/\xE9.IDA");
+}
+
+TEST_F(FileFormTest, resize_widerMovesAndStretches_narrowerRestores)
+{
+    Load();
+    const QString design = QStringLiteral("%1 %2 %3");
+    const auto state = [&] {
+        return design.arg(Find<QWidget>(*form, "BrowseButton")->x())
+            .arg(Find<QWidget>(*form, "FilenameBox")->width())
+            .arg(Find<QWidget>(*form, "HelpButton")->x());
+    };
+    const QString before = state();
+    const int browse = Find<QWidget>(*form, "BrowseButton")->x();
+    const int name = Find<QWidget>(*form, "FilenameBox")->width();
+    const int help = Find<QWidget>(*form, "HelpButton")->x();
+    const QSize size = form->size();
+    form->resize(size + QSize(100, 0));
+    EXPECT_EQ(state(), design.arg(browse + 100).arg(name + 100).arg(help + 100));
+    form->resize(size - QSize(100, 0));
+    EXPECT_EQ(state(), before);
+    form->resize(size);
+    EXPECT_EQ(state(), before);
+}
+
+TEST_F(FileFormTest, tabOrder_goesAsTheEyeGoes)
+{
+    Load();
+    QStringList order;
+    for (int i = 0; i < 5; ++i) {
+        order.append(form->focusWidget()->objectName());
+        QTest::keyClick(form->windowHandle(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, (QStringList{QStringLiteral("FilenameBox"), QStringLiteral("BrowseButton"),
+                                  QStringLiteral("SharedOption"), QStringLiteral("OKButton"),
+                                  QStringLiteral("CancelButton")}));
+}
+
+struct RemoteCase
+{
+    const char* name;
+    const char* command;
+    bool closes;
+    bool ok;
+};
+
+struct FileFormRemote : FileFormTest, testing::WithParamInterface<RemoteCase>
+{
+};
+
+TEST_P(FileFormRemote, push_pressesTheButtonAfterTheCallReturned)
+{
+    Load();
+    ASSERT_TRUE(dde.handler);
+    EXPECT_TRUE(dde.handler(GetParam().command));
+    EXPECT_TRUE(form->isVisible()) << "the call returns before the button acts";
+    EXPECT_EQ(test::WaitFor([this] { return !form->isVisible(); }), GetParam().closes);
+    EXPECT_EQ(global.fileDialog.FileFormOK, GetParam().ok);
+}
+
+const RemoteCase RemoteCases[] = {
+    {"ok", "PUSH OKButton", true, true},
+    {"okLowerCase", "push okbutton", true, true},
+    {"cancel", "PUSH CancelButton", true, false},
+};
+
+std::string RemoteCaseName(const testing::TestParamInfo<RemoteCase>& info)
+{
+    return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, FileFormRemote, testing::ValuesIn(RemoteCases), RemoteCaseName);
+
+TEST_F(FileFormTest, push_whileDisabled_beepsAndBlocks)
+{
+    Load();
+    form->setEnabled(false);
+    EXPECT_TRUE(dde.handler("PUSH OKButton"));
+    QTest::qWait(50);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(dde.handler("PUSH OKButton")) << "the command is still pending";
+}
+
+TEST_F(FileFormTest, pushUnknownControl_saysHowAndAcceptsTheNext)
+{
+    Load();
+    EXPECT_TRUE(dde.handler("PUSH  OKBUTTON"));
+    ASSERT_TRUE(test::WaitFor([this] { return !world.messages.boxes.empty(); }));
+    EXPECT_EQ(world.messages.Take(),
+              (Strings{"exclamation|Lodestar Advisor|Invalid DDE PUSH command received.  Use a command "
+                       "toLodestar|FileForm in the format <<PUSH controlname>>."}));
+    EXPECT_TRUE(dde.handler("PUSH CancelButton"));
+    EXPECT_TRUE(test::WaitFor([this] { return !form->isVisible(); }));
+}
+
+TEST_F(FileFormTest, closed_takesNoMoreCommands)
+{
+    Load();
+    form.reset();
+    EXPECT_FALSE(dde.handler);
+}
+
+TEST_F(FileFormTest, otherMode_endsTheProgramSilently)
+{
+    global.fileDialog.FileMode = "X";
+    form = std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde});
+    EXPECT_TRUE(world.end.Ended());
+    EXPECT_TRUE(world.messages.boxes.empty());
+}
+
+} // namespace
+} // namespace ls
