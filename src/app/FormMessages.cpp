@@ -68,6 +68,29 @@ Reply EnterReply(Buttons buttons)
     return buttons == Buttons::OkCancel ? Reply::Cancel : RepliesOf(buttons).front();
 }
 
+// A line of a broken file may be as long as the file, and a box that lays it out would stand still for
+// minutes. The end of a text matters as much as its beginning: it says what went wrong.
+QString Shortened(const std::string& text)
+{
+    constexpr std::size_t longest = 2000; // bytes; about what a box can show at once
+    constexpr std::size_t tail = 500;
+    const auto isInsideCharacter = [&text](std::size_t at) {
+        return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
+    };
+    if (text.size() <= longest) {
+        return QString::fromStdString(text);
+    }
+    std::size_t head = longest - tail;
+    std::size_t rest = text.size() - tail;
+    while (head > 0 && isInsideCharacter(head)) {
+        --head;
+    }
+    while (rest < text.size() && isInsideCharacter(rest)) {
+        ++rest;
+    }
+    return QString::fromStdString(text.substr(0, head) + " ... " + text.substr(rest));
+}
+
 // The prompt is its edit's label: a lone "&" would be taken for the mark of a shortcut.
 void SetPrompt(QInputDialog& box, QString prompt)
 {
@@ -90,7 +113,7 @@ Reply FormMessages::ShowBox(const std::string& text, Icon icon, Buttons buttons,
     QMessageBox box(Window());
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(QString::fromStdString(title));
-    box.setText(QString::fromStdString(text));
+    box.setText(Shortened(text));
     box.setIcon(PictureOf(icon));
     const std::vector<Reply> replies = RepliesOf(buttons);
     for (const Reply reply : replies) {
@@ -109,7 +132,7 @@ std::optional<std::string> FormMessages::ShowInputBox(const std::string& prompt,
 {
     QInputDialog box(Window());
     box.setWindowTitle(QString::fromStdString(title));
-    SetPrompt(box, QString::fromStdString(prompt));
+    SetPrompt(box, Shortened(prompt));
     box.setTextValue(QString::fromStdString(initial));
     if (box.exec() != QDialog::Accepted) {
         return std::nullopt;

@@ -9,7 +9,8 @@ namespace ls {
 
 /// The messages of the desktop program: modal boxes over the form that is open.
 ///
-/// Texts are shown as they are ("<B>" is no markup here). Escape and the box's close button give the safe
+/// Texts are shown as they are ("<B>" is no markup here), but of more than 2,000 bytes only the beginning and
+/// the end. Escape and the box's close button give the safe
 /// answer. A fault may end the program while a box is open: whoever asked tests for that afterwards.
 class FormMessages : public Messages
 {

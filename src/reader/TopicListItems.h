@@ -6,7 +6,8 @@
 
 namespace ls {
 
-/// The entries of `TopicList`: their texts, and each topic's number as its item data. The whole list is set
+/// The entries of `TopicList`: the first 500 characters of their texts, and each topic's number as its item
+/// data. The whole list is set
 /// at once, so that a book of 30,000 topics fills it without delay.
 class TopicListItems : public QAbstractListModel
 {

@@ -141,6 +141,31 @@ TEST_F(FormMessagesTest, longTexts_areWrapped)
     EXPECT_LT(width, 700);
 }
 
+TEST_F(FormMessagesTest, hugeText_isCutInTheMiddleBetweenCharacters)
+{
+    std::string shown;
+    const auto show = [&](const std::string& text) {
+        modals.Do([&](QWidget& box) {
+            shown = LabelText(box);
+            box.close();
+        });
+        messages.MsgBox(text, Icon::Warning);
+        return shown;
+    };
+    const std::string whole = "begin" + std::string(1990, 'x') + "final";
+    EXPECT_EQ(show(whole), whole) << "2,000 bytes are shown";
+    EXPECT_EQ(show("begin" + std::string(3000, 'x') + "final"),
+              "begin" + std::string(1495, 'x') + " ... " + std::string(495, 'x') + "final");
+    std::string accents;
+    for (int i = 0; i < 3000; ++i) {
+        accents += "\xC3\xA9";
+    }
+    const std::string cut = show("x" + accents + "yy");
+    EXPECT_EQ(cut, "x" + accents.substr(0, 1498) + " ... " + accents.substr(0, 498) + "yy");
+    EXPECT_EQ(show("x" + accents + "y"),
+              "x" + accents.substr(0, 1498) + " ... " + accents.substr(0, 498) + "y");
+}
+
 TEST_F(FormMessagesTest, parent_isTheWindowThatWasSet)
 {
     QWidget window;

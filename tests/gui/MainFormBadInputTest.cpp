@@ -25,6 +25,20 @@ struct MainFormBadInputTest : MainFormFixture
         EXPECT_EQ(PaneText(), "b");
     }
 
+    // A file with a line of 100 MiB and a little more: what stands before its "w"s, and behind them.
+    std::string WriteHuge(const char* before, const char* behind)
+    {
+        QFile file(QString::fromStdString(Path("Huge.IDA")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(before);
+        const QByteArray piece(1024 * 1024, 'w');
+        for (int i = 0; i < 100; ++i) {
+            EXPECT_EQ(file.write(piece), piece.size());
+        }
+        file.write(behind);
+        return Path("Huge.IDA");
+    }
+
     [[nodiscard]] std::string OpenError(const std::string& name, const std::string& code) const
     {
         return "critical|Lodestar Advisor|Error opening <<" + Path(name) + ">> with code " + code;
@@ -63,16 +77,35 @@ TEST_F(MainFormBadInputTest, openLockedElsewhere_error70)
     ExpectUsable(script);
 }
 
+// Root may read everything: as long as one of these lives, the test runs as somebody else.
+class AsNobody
+{
+public:
+    AsNobody() : m_user(geteuid())
+    {
+        if (m_user == 0) {
+            EXPECT_EQ(seteuid(65534), 0);
+        }
+    }
+    ~AsNobody() { EXPECT_EQ(seteuid(m_user), 0); }
+    AsNobody(const AsNobody&) = delete;
+    AsNobody& operator=(const AsNobody&) = delete;
+
+private:
+    uid_t m_user;
+};
+
 TEST_F(MainFormBadInputTest, openWithoutPermission_error70)
 {
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "root may read everything";
-    }
     const std::string secret = Write("Secret.IDA", "LODESTAR BOOK V5.3\r\n[T]\r\n");
     QFile::setPermissions(QString::fromStdString(secret), QFileDevice::Permissions());
+    QFile::setPermissions(folder.path(), QFile::permissions(folder.path()) | QFileDevice::ExeOther);
     ModalScript script;
     script.Answer(Reply::Ok).Escape();
-    Start(secret);
+    {
+        const AsNobody user;
+        Start(secret);
+    }
     EXPECT_EQ(script.Seen(), (Strings{OpenError("Secret.IDA", "70: Permission denied"), TheFileForm}));
     ExpectUsable(script);
 }
@@ -142,6 +175,37 @@ INSTANTIATE_TEST_SUITE_P(
                     BadFile{"tooManyTopics", ManyTopics(), {"critical|Lodestar Advisor|Overflow"}, ""}),
     [](const testing::TestParamInfo<BadFile>& row) { return std::string(row.param.name); });
 
+TEST_F(MainFormBadInputTest, startWithUnixLineEnds_opensTheConvertedCopy)
+{
+    const std::string book = Write("Unix.IDA", "LODESTAR BOOK V5.3\n[T]\nbody\n[U]\nmore\n");
+    ModalScript script;
+    script.Answer(Reply::Yes);
+    Start(book);
+    EXPECT_EQ(script.Seen(), Strings{"question|Lodestar Advisor|<<" + book +
+                                     ">> has Unix line ends.  Do you want to open a converted copy?|YesNo"});
+    EXPECT_EQ(ItemTexts(), (Strings{"1. T", "2. U"}));
+    EXPECT_EQ(PaneText(), "body");
+    EXPECT_EQ(global.settings.RecentFiles[0], Path("Unix (001).IDA"));
+    ExpectUsable(script);
+}
+
+TEST_F(MainFormBadInputTest, openWithUnixLineEndsDeclined_goesOnWithTheOneEndlessLine)
+{
+    Start(WriteThree());
+    const std::string note = Write("Unix.TXT", "one\ntwo\n");
+    ModalScript script;
+    script.Do([note](QWidget& chooser) { ChooseFile(chooser, note); }).Answer(Reply::No).Answer(Reply::Ok);
+    Press(form, "OpenItem");
+    EXPECT_EQ(script.Seen(),
+              (Strings{TheFileForm,
+                       "question|Lodestar Advisor|<<" + note +
+                           ">> has Unix line ends.  Do you want to open a converted copy?|YesNo",
+                       AskPlain}));
+    EXPECT_EQ(PaneText(), "one\ntwo\n");
+    EXPECT_EQ(QFile::exists(QString::fromStdString(Path("Unix (001).IDA"))), false);
+    ExpectUsable(script);
+}
+
 TEST_F(MainFormBadInputTest, truncatedWhileOpen_saysSoAndStaysUsable)
 {
     Start(WriteThree());
@@ -174,22 +238,36 @@ TEST_F(MainFormBadInputTest, changedWhileOpen_saysSoAndStaysUsable)
 
 TEST_F(MainFormBadInputTest, hundredMebibyteLine_isCutAtTheLimitOfLines)
 {
-    QFile file(QString::fromStdString(Path("Huge.IDA")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("LODESTAR BOOK V5.3\r\n[T]\r\n");
-    const QByteArray piece(1024 * 1024, 'w');
-    for (int i = 0; i < 100; ++i) {
-        file.write(piece);
-    }
-    file.write("\r\n[Next]\r\nafter\r\n");
-    file.close();
     ModalScript script;
     script.Answer(Reply::Ok);
-    Start(Path("Huge.IDA"));
+    Start(WriteHuge("LODESTAR BOOK V5.3\r\n[T]\r\n", "\r\n[Next]\r\nafter\r\n"));
     EXPECT_EQ(script.Seen(), Strings{"critical|Lodestar Advisor|Overflow"});
     EXPECT_EQ(Get<QScrollBar>("VScroll1").maximum(), 32767);
     Press(form, "NextButton");
     EXPECT_EQ(PaneText(), "after");
+    ExpectUsable(script);
+}
+
+TEST_F(MainFormBadInputTest, hundredMebibyteHeader_isToldInShort)
+{
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Start(WriteHuge("LODESTAR BOOK V5.3 /TITLE=", "\r\n[T]\r\nbody\r\n"));
+    const std::string begin = "Invalid Lodestar Book header: <<LODESTAR BOOK V5.3 /TITLE=";
+    const std::string end = ">>.  Some information may not be loaded.";
+    EXPECT_EQ(script.Seen(),
+              Strings{"warning|Lodestar Advisor|" + begin + std::string(1500 - begin.size(), 'w') + " ... " +
+                      std::string(500 - end.size(), 'w') + end});
+    EXPECT_EQ(PaneText(), "body");
+    ExpectUsable(script);
+}
+
+TEST_F(MainFormBadInputTest, hundredMebibyteTitle_isListedInShortAndShown)
+{
+    ModalScript script;
+    Start(WriteHuge("LODESTAR BOOK V5.3\r\n[", "]\r\nbody\r\n"));
+    EXPECT_EQ(ItemTexts(), Strings{"1. " + std::string(497, 'w')});
+    EXPECT_EQ(PaneText(), "body");
     ExpectUsable(script);
 }
 
