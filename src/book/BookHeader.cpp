@@ -3,6 +3,9 @@
 #include "base/Text.h"
 #include "book/ParameterList.h"
 
+#include <cmath>
+#include <limits>
+
 namespace ls {
 
 namespace {
@@ -10,6 +13,13 @@ namespace {
 constexpr std::string_view Magic = "LODESTAR BOOK";
 constexpr std::size_t VersionLetter = 14; ///< where the "V" stands, counted from 0
 constexpr float FirstBookVersion = 4.0F;
+
+// A number that the version cannot hold counts as none.
+float VersionOf(std::string_view text)
+{
+    const double number = LeadingNumber(text);
+    return std::abs(number) <= std::numeric_limits<float>::max() ? static_cast<float>(number) : 0;
+}
 
 bool StoreField(BookHeader& header, const std::string& key, const std::string& value)
 {
@@ -46,7 +56,7 @@ bool ParseBookHeader(std::string_view line, BookHeader& header)
     }
     header.BookMagic = magic;
     if (magic.size() > VersionLetter + 1 && magic[VersionLetter] == 'V') {
-        header.BookVersion = static_cast<float>(LeadingNumber(magic.substr(VersionLetter + 1)));
+        header.BookVersion = VersionOf(magic.substr(VersionLetter + 1));
         header.BookMagic = Magic;
     }
     if (slash == std::string_view::npos) {
