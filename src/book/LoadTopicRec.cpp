@@ -1,4 +1,5 @@
 #include "base/LineCursor.h"
+#include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
 
@@ -106,12 +107,8 @@ void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
         return;
     }
     name = WithBrackets(name);
-    if (!book.File) {
-        name.clear();
-        number = 0;
-        return;
-    }
-    LineCursor cursor(*book.File);
+    NoFile noFile;
+    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
     LocateTopic(book, seams, cursor, name, number);
     if (name.empty()) {
         number = 0;

@@ -3,6 +3,7 @@
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
 #include "base/Messages.h"
+#include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
@@ -197,22 +198,6 @@ void PrepareFromFile(const Seams& seams, LineCursor& cursor, int width, ShownTop
     }
     ReportCut(seams, preparation, shown.name, body.Failed());
 }
-
-// The file of a book that was never saved: there is none.
-class NoFile : public BookFile
-{
-public:
-    FileError ReadAt(FilePos /*pos*/, char* /*buffer*/, std::size_t /*size*/, std::size_t& got) override
-    {
-        got = 0;
-        return {};
-    }
-    FileError Size(FilePos& size) override
-    {
-        size = 0;
-        return {};
-    }
-};
 
 } // namespace
 

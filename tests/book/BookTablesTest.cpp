@@ -96,7 +96,10 @@ TEST_F(BookTables, reset_clearsEverythingAndKeepsTheBounds)
     book.TopicRecs(5).Text = "edited";
     book.TopicRecs(6).Deleted = true;
     book.BookAuthor = "A";
+    const std::uint32_t order = book.TopicOrder;
     ResetBook(book);
+    EXPECT_NE(book.TopicOrder, order) << "answers of the advisor no longer count";
+    EXPECT_EQ(book.ScanEndPos, 0);
     EXPECT_EQ(book.BookStartPos, 0);
     EXPECT_EQ(book.StartTopic, "");
     EXPECT_EQ(book.CurrentTopicName, "");

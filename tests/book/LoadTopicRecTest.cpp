@@ -82,6 +82,14 @@ TEST_F(LoadTopicRecTest, load_unknownName_clearsNameAndNumber)
     EXPECT_EQ(world.messages.Take(), (Strings{"warning|Lodestar Advisor|Topic [Z] was not found."}));
 }
 
+TEST_F(LoadTopicRecTest, load_topicOfABookWithoutAFile_wasNotFound)
+{
+    book.TopicCount = 1;
+    book.TopicNames(1) = "[New]";
+    EXPECT_EQ(Load("New", 1), " 0");
+    EXPECT_EQ(world.messages.Take(), (Strings{"warning|Lodestar Advisor|Topic [New] was not found."}));
+}
+
 TEST_F(LoadTopicRecTest, load_editedTopic_isReplacedByTheFilesText)
 {
     ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
