@@ -73,36 +73,39 @@ bool StatementReader::ReadFilledLine(std::string& line)
     return false;
 }
 
-// Cuts one statement from IniLine, which reads on where a line is continued.
+// Reads one statement of IniLine from m_taken on, and the lines that continue it. It moves along the line
+// instead of cutting it, since a line may be as long as its file.
 Statement StatementReader::TakeStatement()
 {
     Statement statement;
-    std::size_t at = 0;
-    while (at < IniLine.size() && IniLine[at] != Separator) {
-        const char c = IniLine[at++];
-        const bool last = at == IniLine.size();
+    while (m_taken < IniLine.size() && IniLine[m_taken] != Separator) {
+        const char c = IniLine[m_taken++];
+        const bool last = m_taken == IniLine.size();
         if (c == Escape) {
             if (!last) { // at a line's end it escapes nothing and is dropped
-                Append(statement, IniLine[at++], true);
+                Append(statement, IniLine[m_taken++], true);
             }
         } else if (c == Continuation && last) {
+            m_taken = 0;
             if (!ReadFilledLine(IniLine)) {
                 return statement;
             }
-            at = 0;
         } else {
             Append(statement, c, false);
         }
     }
-    IniLine.erase(0, at + 1);
+    ++m_taken;
     return statement;
 }
 
 bool StatementReader::Next(Statement& statement)
 {
     for (;;) {
-        if (IniLine.empty() && !ReadFilledLine(IniLine)) {
-            return false;
+        if (m_taken >= IniLine.size()) {
+            m_taken = 0;
+            if (!ReadFilledLine(IniLine)) {
+                return false;
+            }
         }
         statement = TakeStatement().Part(0);
         if (!statement.text.empty()) {

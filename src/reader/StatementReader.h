@@ -56,7 +56,8 @@ private:
     FileError m_failed;
     std::string m_lines;                    ///< one line, or several that end with LF alone
     std::size_t m_next = std::string::npos; ///< where the next of them begins; npos: all are read
-    std::string IniLine;                    ///< what is left of the line being parsed
+    std::string IniLine;                    ///< the line being parsed
+    std::size_t m_taken = 0;                ///< how much of it is read
 };
 
 } // namespace ls

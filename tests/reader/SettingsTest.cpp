@@ -96,6 +96,7 @@ const StatementCase StatementCases[] = {
     {"lfAlone", "[TOP10FILES]\n*1; NAME=a\n\n*2; NAME=b", {"a", "b"}, {}},
     {"blanksAndEmptyLines", CrLf({"", "   [TOP10FILES]  ", "  ", "  *1 ;  NAME  =  a b  ", ""}), {"a b"}, {}},
     {"emptyStatements", Section + ";; NAME=a;;\r\n;", {"a"}, {}},
+    {"aMillionEmptyStatements", Section + std::string(1000000, ';') + "NAME=a", {"a"}, {}},
     {"escapedSemicolon", Section + "NAME=a~;b", {"a;b"}, {}},
     {"escapedTilde", Section + "NAME=a~~b", {"a~b"}, {}},
     {"escapedLetter", Section + "N~AME=~a", {"a"}, {}},
