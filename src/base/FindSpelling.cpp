@@ -1,22 +1,14 @@
 #include "base/FindSpelling.h"
 
+#include "base/CodePage.h"
+#include "base/Text.h"
+
 #include <algorithm>
 #include <vector>
 
 namespace ls {
 
 namespace {
-
-char LowerAscii(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool SameButForCase(const std::string& a, const std::string& b)
-{
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return LowerAscii(x) == LowerAscii(y); });
-}
 
 // The entry of `folder` that is `name` in another case; empty when there is none.
 std::string EntryNamed(FileSystem& files, const std::string& folder, const std::string& name)
@@ -25,9 +17,10 @@ std::string EntryNamed(FileSystem& files, const std::string& folder, const std::
     if (!files.List(folder.empty() ? files.CurrentFolder() : folder, entries).Ok()) {
         return {};
     }
+    const std::string wanted = WithoutCase(name);
     std::string best;
     for (const FolderEntry& entry : entries) {
-        if (SameButForCase(entry.name, name) && (best.empty() || entry.name < best)) {
+        if (WithoutCase(entry.name) == wanted && (best.empty() || entry.name < best)) {
             best = entry.name;
         }
     }
@@ -49,6 +42,21 @@ std::vector<std::string> LevelsOf(PathRules rules, const std::string& path, std:
 }
 
 } // namespace
+
+std::string WithoutCase(std::string_view path)
+{
+    if (const std::optional<std::string> text = ToBook(path)) {
+        return UpperCase(*text);
+    }
+    // Bytes that look like capitals of the code page may be parts of longer characters here.
+    std::string folded(path);
+    for (char& c : folded) {
+        if (c >= 'a' && c <= 'z') {
+            c = UpperCase(c);
+        }
+    }
+    return folded;
+}
 
 std::string FindSpelling(FileSystem& files, PathRules rules, const std::string& path)
 {

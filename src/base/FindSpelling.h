@@ -4,8 +4,13 @@
 #include "base/PathRules.h"
 
 #include <string>
+#include <string_view>
 
 namespace ls {
+
+/// A path with the differences of case taken out, for comparing: as people read it, letters with accents have
+/// no case either, as far as the code page knows them; in paths that it lacks characters of, only A to Z.
+[[nodiscard]] std::string WithoutCase(std::string_view path);
 
 /// The real spelling of a path that may be written in another case.
 ///

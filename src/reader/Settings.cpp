@@ -1,30 +1,12 @@
 #include "reader/Settings.h"
 
-#include "base/CodePage.h"
-#include "base/Text.h"
+#include "base/FindSpelling.h"
 
 #include <algorithm>
 
 namespace ls {
 
 namespace {
-
-// Paths are compared as people read them: letters with accents have no case either, as far as the code page
-// knows them. In other paths only the plain letters are folded, for bytes that look like capitals may be
-// parts of longer characters there.
-std::string WithoutCase(const std::string& path)
-{
-    if (const std::optional<std::string> text = ToBook(path)) {
-        return UpperCase(*text);
-    }
-    std::string folded = path;
-    for (char& c : folded) {
-        if (c >= 'a' && c <= 'z') {
-            c = UpperCase(c);
-        }
-    }
-    return folded;
-}
 
 // The index of the last entry that names `path`; -1 when none does.
 int EntryOf(const Settings& settings, const std::string& path)

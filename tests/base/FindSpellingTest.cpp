@@ -73,11 +73,28 @@ TEST_F(FindSpellingTest, find_doubledSeparators_arePassedOver)
     EXPECT_EQ(Find("/B//guide.ida"), "/b/Guide.IDA");
 }
 
-TEST_F(FindSpellingTest, find_accents_mustBeSpelledAsTheyAre)
+TEST_F(FindSpellingTest, find_accentsInOtherCase_areFound)
 {
-    files["/b/\xC3\x84.IDA"];
-    EXPECT_EQ(Find("/b/\xC3\xA4.ida"), "/b/\xC3\xA4.ida");
-    EXPECT_EQ(Find("/b/\xC3\x84.ida"), "/b/\xC3\x84.IDA");
+    files["/B\xC3\xBC"
+          "cher/\xC3\x84.IDA"];
+    EXPECT_EQ(Find("/B\xC3\x9C"
+                   "CHER/\xC3\xA4.ida"),
+              "/B\xC3\xBC"
+              "cher/\xC3\x84.IDA");
+}
+
+TEST_F(FindSpellingTest, find_lettersThatTheCodePageLacks_mustBeSpelledAsTheyAre)
+{
+    files["/b/\xD0\x9A.IDA"];
+    EXPECT_EQ(Find("/b/\xD0\x9A.ida"), "/b/\xD0\x9A.IDA");
+    EXPECT_EQ(Find("/b/\xD0\xBA.ida"), "/b/\xD0\xBA.ida");
+}
+
+TEST_F(FindSpellingTest, find_bytesThatAreNoText_areComparedAsTheyAre)
+{
+    files["/b/\xE9x.IDA"];
+    EXPECT_EQ(Find("/b/\xE9X.ida"), "/b/\xE9x.IDA");
+    EXPECT_EQ(Find("/b/\xC9X.ida"), "/b/\xC9X.ida");
 }
 
 TEST_F(FindSpellingTest, find_folderThatCannotBeListed_givesThePathBack)
