@@ -43,7 +43,7 @@ AdvisorDialog::AdvisorDialog(const Book& book, AdvisorTables& tables, const Seam
       m_cursor(OpenFile(book)), m_context{book, tables, seams, m_cursor}, m_inference(tables, seams),
       m_definitions(m_context, m_inference)
 {
-    m_tables.RuleCount = 0;
+    ClearRules(m_tables);
     m_cursor.Seek(book.LogicPos);
 }
 

@@ -25,6 +25,12 @@ void ForgetAnswers(AdvisorTables& tables)
     tables.AnswerCount = 0;
 }
 
+void ClearRules(AdvisorTables& tables)
+{
+    tables.RuleCount = 0;
+    tables.Index.Clear();
+}
+
 std::string Serialize(const AdvisorTables& tables)
 {
     const auto asIs = [](const std::string& text) { return text; };

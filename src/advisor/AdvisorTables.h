@@ -1,5 +1,6 @@
 #pragma once
 
+#include "advisor/RuleIndex.h"
 #include "base/Array1.h"
 #include "base/Count16.h"
 #include "base/FilePos.h"
@@ -43,6 +44,7 @@ struct AdvisorTables
 {
     Array1<std::string> LogicRules; ///< `VAR(VALUE)=A(X)B(Y)`, rewritten as answers come in
     Count16 RuleCount;
+    RuleIndex Index; ///< follows the rules; see ClearRules
 
     Array1<std::string> Targets; ///< 1 is the dialogue's goal, the last one the goal being pursued
     Count16 TargetCount;
@@ -71,6 +73,10 @@ struct AdvisorTables
 /// Forgets the answers of earlier dialogues. It happens by itself when the book or the order of its topics
 /// changed since they were given: their topic numbers would mean other topics.
 void ForgetAnswers(AdvisorTables& tables);
+
+/// Empties the rule table. Rules that were changed by anybody but the inference need it too, or a cleared
+/// `Index`, since the inference trusts its index.
+void ClearRules(AdvisorTables& tables);
 
 /// The whole state as text, a line for each element, for tests and traces.
 [[nodiscard]] std::string Serialize(const AdvisorTables& tables);

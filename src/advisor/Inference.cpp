@@ -7,8 +7,10 @@
 #include "base/ProgramEnd.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace ls {
 
@@ -16,9 +18,26 @@ namespace {
 
 constexpr std::string_view AdviceGoal = "AV";
 
-std::size_t Index(int number)
+std::size_t At(int number)
 {
     return static_cast<std::size_t>(number);
+}
+
+// The value of the first place where the rule's text holds the head "VAR(".
+std::optional<std::string_view> ValueIn(std::string_view rule, std::string_view head)
+{
+    const std::size_t at = rule.find(head);
+    const std::size_t from = at + head.size();
+    const std::size_t close = at == std::string_view::npos ? at : rule.find(')', from);
+    return close == std::string_view::npos ? std::nullopt : std::optional(rule.substr(from, close - from));
+}
+
+// The same without a search in the text.
+std::optional<std::string_view> ValueByTerms(const RuleIndex::Terms& terms, const RuleIndex::Matches& matches,
+                                             std::string_view rule)
+{
+    const RuleIndex::Term* const found = matches.Find(terms, terms.begin());
+    return found == terms.end() ? std::nullopt : std::optional(found->Value(rule));
 }
 
 std::string Fact(std::string_view var, std::string_view value)
@@ -42,6 +61,41 @@ void Inference::Overflow()
     ShowOverflow(m_seams.messages);
 }
 
+// The index, with all rules in it.
+RuleIndex& Inference::Index() const
+{
+    m_tables.Index.Follow(m_tables.LogicRules, m_tables.RuleCount);
+    return m_tables.Index;
+}
+
+// ReduceRule without a search in the text: a place where it finds "VAR(" is a term whose name ends in VAR.
+void Inference::ReduceByTerms(int number, const RuleIndex::Matches& matches, std::string_view var,
+                              std::string_view value)
+{
+    std::string& rule = m_tables.LogicRules(At(number));
+    RuleIndex& index = m_tables.Index;
+    const RuleIndex::Terms terms = index.TermsOf(number);
+    const RuleIndex::Term* const first = matches.Find(terms, terms.begin());
+    if (first == terms.end()) {
+        return;
+    }
+    const RuleIndex::Term* met = first;
+    while (met != terms.end() && met->Value(rule) != value) {
+        met = matches.Find(terms, met + 1);
+    }
+    if (first == terms.begin() || met == terms.end()) {
+        rule.clear();
+        return;
+    }
+    const std::size_t at = first->open - var.size();
+    rule.erase(at, first->close + 1 - at);
+    if (index.Name(first->name).size() == var.size()) {
+        index.Cut(number, *first);
+    } else { // the rest of the longer name joins what follows
+        index.Update(number, rule);
+    }
+}
+
 void Inference::ReduceRules(std::string_view var, std::string_view value)
 {
     if (value == m_tables.UnsureAnswer) {
@@ -49,16 +103,28 @@ void Inference::ReduceRules(std::string_view var, std::string_view value)
     }
     const std::string fact = Fact(var, value);
     const std::string_view head = std::string_view(fact).substr(0, var.size() + 1);
+    RuleIndex& index = Index();
+    const RuleIndex::Matches matches = index.NamesEndingIn(var);
+    const bool plainValue = !RuleIndex::HasMark(value);
     int kept = 0;
     for (int i = 1; i <= m_tables.RuleCount; ++i) {
-        std::string& rule = m_tables.LogicRules(Index(i));
-        ReduceRule(rule, head, fact);
+        std::string& rule = m_tables.LogicRules(At(i));
+        if (index.MayName(i, matches)) {
+            if (plainValue && index.HasTerms(i, matches)) {
+                ReduceByTerms(i, matches, var, value);
+            } else {
+                ReduceRule(rule, head, fact);
+                index.Update(i, rule);
+            }
+        }
         if (!rule.empty() && ++kept != i) {
-            m_tables.LogicRules(Index(kept)) = std::move(rule);
+            m_tables.LogicRules(At(kept)) = std::move(rule);
             rule.clear();
+            index.Move(i, kept);
         }
     }
     m_tables.RuleCount = kept;
+    index.Truncate(kept);
 }
 
 void Inference::ReportMalformed(const std::string& rule)
@@ -75,18 +141,21 @@ std::optional<Inference::Conclusion> Inference::FirstConclusion(int highestTarge
 {
     std::unordered_map<std::string_view, std::string_view> fired;
     const std::string* malformed = nullptr;
-    for (const std::string& rule : Counted(m_tables.LogicRules, m_tables.RuleCount)) {
+    const RuleIndex& index = Index();
+    for (int i = 1; i <= m_tables.RuleCount && malformed == nullptr; ++i) {
+        if (!index.Odd(i) && !index.Fired(i)) {
+            continue;
+        }
+        const std::string& rule = m_tables.LogicRules(At(i));
         const std::optional<LeftHandSide> left = ParseLeftHandSide(rule);
         if (!left) {
             malformed = &rule;
-            break;
-        }
-        if (HasFired(rule)) {
+        } else if (HasFired(rule)) {
             fired.emplace(left->var, left->value);
         }
     }
     for (int t = highestTarget; t >= 1; --t) {
-        const auto found = fired.find(m_tables.Targets(Index(t)));
+        const auto found = fired.find(m_tables.Targets(At(t)));
         if (found != fired.end()) {
             return Conclusion{t, std::string(found->first), std::string(found->second)};
         }
@@ -168,21 +237,37 @@ std::string Inference::RecordAnswer(const std::string& var, const std::string& v
 // False when a count passed its limit.
 bool Inference::CountCandidates(std::string_view goal)
 {
-    std::unordered_map<std::string_view, int> places; // names in rule texts, which do not change here
-    const auto take = [this, &places](std::string_view name) {
-        const auto [place, isNew] = places.emplace(name, m_tables.CandidateCount + 1);
-        if (!isNew) {
-            return m_tables.Candidates(Index(place->second)).Level.Add();
+    RuleIndex& index = Index();
+    const std::uint32_t goalName = index.NumberOf(goal);
+    std::vector<int> levels(index.NameCount()); // by the number of the name
+    std::vector<std::uint32_t> met;             // the names in the order in which they come
+    const auto take = [&levels, &met](std::uint32_t name) {
+        if (levels[name]++ == 0) {
+            met.push_back(name);
         }
-        return Append(m_tables.Candidates, m_tables.CandidateCount, Candidate{std::string(name), 1},
-                      AdvisorGrowthStep);
     };
-    for (const std::string& rule : Counted(m_tables.LogicRules, m_tables.RuleCount)) {
-        if (Concludes(rule, goal) && !ForEachConditionVar(rule, take)) {
-            return false;
+    for (int i = 1; i <= m_tables.RuleCount; ++i) {
+        if (index.Odd(i)) {
+            const std::string& rule = m_tables.LogicRules(At(i));
+            ForEachConditionVar(Concludes(rule, goal) ? rule : std::string_view(),
+                                [&](std::string_view name) {
+                                    const std::uint32_t number = index.NumberOf(name);
+                                    levels.resize(index.NameCount());
+                                    take(number);
+                                    return true;
+                                });
+            continue;
+        }
+        const RuleIndex::Terms terms = index.TermsOf(i);
+        if (terms.begin()->name == goalName) {
+            std::for_each(terms.begin() + 1, terms.end(), [&](const auto& term) { take(term.name); });
         }
     }
-    return true;
+    return std::all_of(met.begin(), met.end(), [&](std::uint32_t name) {
+        return levels[name] <= Count16::Max &&
+               Append(m_tables.Candidates, m_tables.CandidateCount,
+                      Candidate{index.Name(name), Count16(levels[name])}, AdvisorGrowthStep);
+    });
 }
 
 void Inference::BuildCandidates()
@@ -191,7 +276,7 @@ void Inference::BuildCandidates()
     if (m_tables.TargetCount == 0) {
         return;
     }
-    if (!CountCandidates(m_tables.Targets(Index(m_tables.TargetCount)))) {
+    if (!CountCandidates(m_tables.Targets(At(m_tables.TargetCount)))) {
         m_tables.CandidateCount = 0;
         Overflow();
     }
@@ -229,15 +314,23 @@ CollectedValues Inference::CollectValues(std::string_view var) const
     CollectedValues collected;
     ValueList values;
     const std::string head = std::string(var) + "(";
-    for (const std::string& rule : Counted(m_tables.LogicRules, m_tables.RuleCount)) {
-        collected.IsDerived = collected.IsDerived || Concludes(rule, var);
-        const std::size_t at = rule.find(head);
-        if (at == std::string::npos) {
+    const RuleIndex& index = Index();
+    const RuleIndex::Matches matches = index.NamesEndingIn(var);
+    for (int i = 1; i <= m_tables.RuleCount; ++i) {
+        if (!index.MayName(i, matches)) {
             continue;
         }
-        const std::size_t from = at + head.size();
-        const std::size_t close = rule.find(')', from);
-        if (close != std::string::npos && values.Add(std::string_view(rule).substr(from, close - from))) {
+        const std::string& rule = m_tables.LogicRules(At(i));
+        std::optional<std::string_view> value;
+        if (index.HasTerms(i, matches)) {
+            const RuleIndex::Terms terms = index.TermsOf(i);
+            collected.IsDerived = collected.IsDerived || index.Name(terms.begin()->name) == var;
+            value = ValueByTerms(terms, matches, rule);
+        } else {
+            collected.IsDerived = collected.IsDerived || Concludes(rule, var);
+            value = ValueIn(rule, head);
+        }
+        if (value && values.Add(*value)) {
             ++collected.Count;
         }
     }

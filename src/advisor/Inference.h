@@ -29,7 +29,8 @@ inline constexpr std::string_view UnsureWithoutRule = "unsure for a variable tha
 /// Reasons over the rules by rewriting their texts: each answer cuts out the conditions that it satisfies and
 /// empties the rules that it contradicts, and a rule fires when nothing is left behind its "=".
 ///
-/// Every operation is a few passes over the rule texts. An advice identifier is the value of the goal "AV",
+/// Every operation is a pass over the rules, in which the rules' index tells what there is to do; texts are
+/// searched only in rules of an odd form. An advice identifier is the value of the goal "AV",
 /// and `GOAL(VALUE)` for any other goal; empty stands for no advice.
 class Inference
 {
@@ -67,6 +68,9 @@ private:
     bool NoteConclusion(const std::string& var, const std::string& value, Count16 topic);
     void ReportMalformed(const std::string& rule);
     [[nodiscard]] bool IsTarget(const std::string& name) const;
+    RuleIndex& Index() const;
+    void ReduceByTerms(int number, const RuleIndex::Matches& matches, std::string_view var,
+                       std::string_view value);
     bool CountCandidates(std::string_view goal);
     void Overflow();
 

@@ -272,6 +272,7 @@ bool Loader::TakeQuestion(std::string_view line)
 
 bool Loader::NoteLoaded()
 {
+    m_tables.Index.Follow(m_tables.LogicRules, m_tables.RuleCount); // rather now than at the first answer
     if (m_tables.TargetCount == 0 &&
         !Append(m_tables.Targets, m_tables.TargetCount, std::string("AV"), TargetGrowthStep)) {
         return OverflowFails();

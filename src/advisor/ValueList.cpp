@@ -7,6 +7,7 @@ namespace ls {
 namespace {
 
 constexpr std::size_t Counted = 64;
+constexpr std::size_t Few = 8;
 
 std::string_view Tail(std::string_view text)
 {
@@ -58,7 +59,15 @@ bool ValueList::Holds(std::string_view value) const
 
 bool ValueList::Add(std::string_view value)
 {
-    if (!m_seen.emplace(value).second || Holds(value)) {
+    if (std::find(m_first.begin(), m_first.end(), value) != m_first.end()) {
+        return false;
+    }
+    if (m_first.size() < Few) {
+        m_first.emplace_back(value);
+    } else if (!m_seen.emplace(value).second) {
+        return false;
+    }
+    if (Holds(value)) {
         return false;
     }
     std::size_t at = m_text.size();

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <vector>
 
 namespace ls {
 
@@ -42,7 +43,8 @@ private:
 
     std::string m_text;
     std::multiset<std::size_t, FromTheEnd> m_ends; ///< where the commas of the text stand
-    std::unordered_set<std::string> m_seen;        ///< every value asked for: the text holds it since then
+    std::vector<std::string> m_first;       ///< the first values asked for; most variables have no more
+    std::unordered_set<std::string> m_seen; ///< the others: the text holds each since then
 };
 
 } // namespace ls

@@ -1,6 +1,7 @@
 #include "base/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -23,14 +24,12 @@ std::string_view Trim(std::string_view text)
     return TrimLeft(TrimRight(text));
 }
 
-char UpperCase(char c)
+namespace {
+
+constexpr char UpperCaseOf(unsigned char byte)
 {
-    const auto byte = static_cast<unsigned char>(c);
     if (byte >= 'a' && byte <= 'z') {
         return static_cast<char>(byte - 0x20);
-    }
-    if (byte < 0x9A) {
-        return c;
     }
     switch (byte) {
     case 0x9A: // s, oe and z with their accents lie 16 below
@@ -40,16 +39,32 @@ char UpperCase(char c)
     case 0xFF: // y with two dots has its capital in the other block
         return static_cast<char>(0x9F);
     case 0xF7: // the division sign is no letter
-        return c;
+        return static_cast<char>(byte);
     default:
-        return byte >= 0xE0 ? static_cast<char>(byte - 0x20) : c;
+        return static_cast<char>(byte >= 0xE0 ? byte - 0x20 : byte);
     }
+}
+
+constexpr std::array<char, 256> UpperCases = [] {
+    std::array<char, 256> table{};
+    for (std::size_t byte = 0; byte < table.size(); ++byte) {
+        table[byte] = UpperCaseOf(static_cast<unsigned char>(byte));
+    }
+    return table;
+}();
+
+} // namespace
+
+char UpperCase(char c)
+{
+    return UpperCases[static_cast<unsigned char>(c)];
 }
 
 std::string UpperCase(std::string_view text)
 {
     std::string upper(text);
-    std::transform(upper.begin(), upper.end(), upper.begin(), [](char c) { return UpperCase(c); });
+    std::transform(upper.begin(), upper.end(), upper.begin(),
+                   [](char c) { return UpperCases[static_cast<unsigned char>(c)]; });
     return upper;
 }
 

@@ -3,6 +3,7 @@
 #include "advisor/ValueList.h"
 
 #include <algorithm>
+#include <map>
 #include <random>
 
 namespace ls {
@@ -390,6 +391,33 @@ public:
         return values;
     }
 
+    Texts Candidates() const
+    {
+        Texts names;
+        std::map<std::string, int> levels;
+        const std::string goal = m_tables.Targets(static_cast<std::size_t>(int{m_tables.TargetCount}));
+        for (const std::string& rule : Rules(m_tables)) {
+            const std::size_t first = rule.find('(');
+            if (first == std::string::npos || rule.substr(0, first) != goal) {
+                continue;
+            }
+            std::size_t from = rule.find('=') + 1;
+            std::size_t open = 0;
+            while ((open = rule.find('(', from)) != std::string::npos) {
+                const std::string name = rule.substr(from, open - from);
+                if (++levels[name] == 1) {
+                    names.push_back(name);
+                }
+                const std::size_t close = rule.find(')', open);
+                from = close == std::string::npos ? rule.size() : close + 1;
+            }
+        }
+        for (std::string& name : names) {
+            name += " x" + std::to_string(levels[name]);
+        }
+        return names;
+    }
+
     Texts boxes;
 
 private:
@@ -471,6 +499,91 @@ TEST(InferenceModel, randomRules_giveWhatThePlainReadingGives)
         EXPECT_EQ(seams.messages.Take().size(), plain.boxes.size());
         ASSERT_FALSE(testing::Test::HasFailure()) << "round " << round;
     }
+}
+
+std::string RandomRules(std::mt19937& random, Texts& rules)
+{
+    std::string seen;
+    for (std::size_t i = 1 + random() % 12; i-- > 0;) {
+        std::string rule = RandomFact(random) + "=";
+        for (std::size_t j = random() % 5; j-- > 0;) {
+            rule += RandomFact(random) + (random() % 12 == 0 ? "," : "");
+        }
+        rules.push_back(rule);
+        seen += rule + "\n";
+    }
+    return seen;
+}
+
+// The engine keeps an index of the rules from one answer to the next; their texts must never differ from it.
+TEST(InferenceModel, answerAfterAnswer_givesWhatThePlainReadingGives)
+{
+    std::mt19937 random(20240711);
+    const Texts vars{"A", "B", "C", "BA", ",C", ",BA", "A)B", "AV", "1)B", "Z"};
+    const Texts values{"1", "2", "11", "", "1,2", "1)B(1", "X"};
+    for (int round = 0; round < 1500; ++round) {
+        Texts rules;
+        SCOPED_TRACE(RandomRules(random, rules));
+        test::TestSeams seams;
+        AdvisorTables tables = TablesOf(rules, {"AV", "BA", "B", "C"});
+        tables.UnsureAnswer = "? - unsure";
+        AdvisorTables plainTables = tables;
+        Inference engine(tables, seams.Get());
+        PlainModel plain(plainTables);
+        for (int answer = 0; answer < 6; ++answer) {
+            engine.BuildCandidates();
+            Texts candidates;
+            for (const Candidate& entry : Counted(tables.Candidates, tables.CandidateCount)) {
+                candidates.push_back(entry.Name + " x" + std::to_string(entry.Level));
+            }
+            ASSERT_EQ(candidates, plain.Candidates());
+            tables.CandidateCount = 0; // the plain reading keeps none
+            const std::string& var = vars[random() % vars.size()];
+            const std::string& value = values[random() % values.size()];
+            const std::string all = plain.Values(var);
+            ASSERT_EQ(engine.CollectValues(var).Values,
+                      !all.empty() && all.front() == ',' ? all.substr(1) : all);
+            ASSERT_EQ(engine.AssertFact(var, 1, value), plain.AssertFact(var, 1, value)) << var << value;
+            ASSERT_EQ(Serialize(tables), Serialize(plainTables)) << var << "(" << value << ")";
+            ASSERT_EQ(seams.messages.Take().size(), plain.boxes.size());
+            plain.boxes.clear();
+        }
+    }
+}
+
+TEST_F(InferenceTest, reduceRules_ruleTooLongForItsIndex_isRewrittenAllTheSame)
+{
+    const std::string padding(70000, 'P');
+    Set({"AV(1)=A(B)" + padding + "(Q)C(D)", "AV(2)=A(X)" + padding + "(Q)"}, {"AV"});
+    EXPECT_EQ(Candidates(), (Texts{"A x2", padding + " x2", "C x1"}));
+    EXPECT_EQ(engine.CollectValues("A").Values, "B,X,");
+    engine.ReduceRules("A", "B");
+    engine.ReduceRules(padding, "Q");
+    EXPECT_EQ(Rules(tables), (Texts{"AV(1)=C(D)"}));
+    EXPECT_EQ(Candidates(), (Texts{"C x1"}));
+    EXPECT_EQ(engine.AssertFact("C", 1, "D"), "1");
+}
+
+TEST_F(InferenceTest, reduceRules_cutLeavesTheHeadOfALongerName_thatJoinsTheNextOne)
+{
+    Set({"AV(1)=PAGE(X)M(Y)AGE(Z)"}, {"AV"});
+    engine.ReduceRules("AGE", "X");
+    EXPECT_EQ(Rules(tables), (Texts{"AV(1)=PM(Y)AGE(Z)"}));
+    EXPECT_EQ(Candidates(), (Texts{"PM x1", "AGE x1"}));
+    engine.ReduceRules("PM", "Y");
+    EXPECT_EQ(engine.AssertFact("AGE", 1, "Z"), "1");
+}
+
+TEST_F(InferenceTest, clearRules_forgetsTheIndexOfTheOldOnes)
+{
+    Set({"AV(1)=A(B)C(D)", "AV(2)=A(X)"}, {"AV"});
+    EXPECT_EQ(Candidates(), (Texts{"A x2", "C x1"}));
+    ClearRules(tables);
+    for (const char* rule : {"AV(3)=E(F)", "AV(4)=A(B)"}) {
+        ASSERT_TRUE(Append(tables.LogicRules, tables.RuleCount, std::string(rule), RuleGrowthStep));
+    }
+    EXPECT_EQ(Candidates(), (Texts{"E x1", "A x1"}));
+    EXPECT_EQ(engine.AssertFact("E", 1, "F"), "3");
 }
 
 TEST(ValueListModel, randomValues_giveWhatASearchInTheTextGives)

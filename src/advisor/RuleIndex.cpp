@@ -1,0 +1,168 @@
+#include "advisor/RuleIndex.h"
+
+#include <algorithm>
+#include <functional>
+#include <limits>
+
+namespace ls {
+
+namespace {
+
+bool IsMark(char c)
+{
+    return c == '(' || c == ')' || c == '=';
+}
+
+// The first bracket or "=" at or behind `from`, or the end of the text.
+std::size_t NextMark(std::string_view text, std::size_t from)
+{
+    while (from < text.size() && !IsMark(text[from])) {
+        ++from;
+    }
+    return from;
+}
+
+bool EndsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+} // namespace
+
+void RuleIndex::Clear()
+{
+    m_rows.clear();
+    m_terms.clear();
+    m_names.clear();
+    m_slots.clear();
+}
+
+void RuleIndex::Follow(const Array1<std::string>& rules, int count)
+{
+    const auto wanted = static_cast<std::size_t>(count);
+    if (wanted < m_rows.size()) {
+        Clear();
+    }
+    while (m_rows.size() < wanted) {
+        Row& row = m_rows.emplace_back();
+        Read(rules(m_rows.size()), row);
+    }
+}
+
+// Where the name is noted, or is to be.
+std::uint32_t& RuleIndex::SlotOf(std::string_view name)
+{
+    std::size_t at = std::hash<std::string_view>()(name) % m_slots.size();
+    while (m_slots[at] != 0 && m_names[m_slots[at] - 1] != name) {
+        at = (at + 1) % m_slots.size();
+    }
+    return m_slots[at];
+}
+
+void RuleIndex::MoreSlots()
+{
+    m_slots.assign(m_slots.empty() ? 64 : 2 * m_slots.size(), 0);
+    for (std::size_t i = 0; i < m_names.size(); ++i) {
+        SlotOf(m_names[i]) = static_cast<std::uint32_t>(i + 1);
+    }
+}
+
+std::uint32_t RuleIndex::NumberOf(std::string_view name)
+{
+    if (2 * m_names.size() >= m_slots.size()) {
+        MoreSlots();
+    }
+    std::uint32_t& slot = SlotOf(name);
+    if (slot == 0) {
+        m_names.emplace_back(name);
+        slot = static_cast<std::uint32_t>(m_names.size());
+    }
+    return slot - 1;
+}
+
+bool RuleIndex::HasMark(std::string_view text)
+{
+    return NextMark(text, 0) != text.size();
+}
+
+RuleIndex::Matches RuleIndex::NamesEndingIn(std::string_view var) const
+{
+    Matches matches;
+    matches.m_anywhere = HasMark(var);
+    matches.m_byName.resize(m_names.size());
+    for (std::size_t i = 0; i < m_names.size(); ++i) {
+        if (EndsWith(m_names[i], var)) {
+            matches.m_byName[i] = 1;
+            matches.m_mask |= std::uint64_t{1} << (i % 64);
+        }
+    }
+    return matches;
+}
+
+// False when the rule is odd.
+bool RuleIndex::ReadTerms(std::string_view rule, bool& trailing)
+{
+    m_read.clear();
+    if (rule.size() > std::numeric_limits<std::uint16_t>::max()) {
+        return false;
+    }
+    std::size_t from = 0;
+    for (;;) {
+        const std::size_t open = NextMark(rule, from);
+        if (open == rule.size()) {
+            trailing = from < open;
+            return !m_read.empty();
+        }
+        const std::size_t close = NextMark(rule, open + 1);
+        if (rule[open] != '(' || close == rule.size() || rule[close] != ')') {
+            return false;
+        }
+        m_read.push_back({NumberOf(rule.substr(from, open - from)), static_cast<std::uint16_t>(open),
+                          static_cast<std::uint16_t>(close)});
+        from = close + 1;
+        if (m_read.size() == 1) { // the conclusion
+            if (from == rule.size() || rule[from] != '=') {
+                return false;
+            }
+            ++from;
+        }
+    }
+}
+
+// A rule never gets longer, so its terms find room where they were; a new rule's go to the end.
+void RuleIndex::Read(std::string_view rule, Row& row)
+{
+    row.odd = !ReadTerms(rule, row.trailing);
+    const std::size_t count = row.odd ? 0 : m_read.size();
+    if (count > row.count) {
+        row.first = static_cast<std::uint32_t>(m_terms.size());
+        m_terms.resize(m_terms.size() + count);
+    }
+    row.count = static_cast<std::uint16_t>(count);
+    std::copy_n(m_read.begin(), count, m_terms.begin() + row.first);
+    MakeMask(row);
+}
+
+void RuleIndex::MakeMask(Row& row) const
+{
+    row.mask = 0;
+    for (std::size_t i = row.first; i < std::size_t{row.first} + row.count; ++i) {
+        row.mask |= std::uint64_t{1} << (m_terms[i].name % 64);
+    }
+}
+
+void RuleIndex::Cut(int rule, const Term& term)
+{
+    Row& row = m_rows[static_cast<std::size_t>(rule) - 1];
+    const std::size_t width = term.close + 1 - (term.open - m_names[term.name].size());
+    const auto end = m_terms.begin() + row.first + row.count;
+    const auto from = m_terms.begin() + (&term - m_terms.data());
+    std::transform(from + 1, end, from, [width](const Term& later) {
+        return Term{later.name, static_cast<std::uint16_t>(later.open - width),
+                    static_cast<std::uint16_t>(later.close - width)};
+    });
+    --row.count;
+    MakeMask(row);
+}
+
+} // namespace ls
