@@ -20,4 +20,7 @@ void BenchResize(const std::string& folder);
 /// Wraps lines of 25, 50 and 100 MiB.
 void BenchLines();
 
+/// Loads rule bases of 100 to 30,000 rules and holds a whole dialogue on each, beside CLIPS and SWI-Prolog.
+void BenchAdvisor(const std::string& folder);
+
 } // namespace ls::bench

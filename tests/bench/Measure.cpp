@@ -11,13 +11,13 @@
 
 namespace ls::bench {
 
-namespace {
-
 double MedianOf(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];
 }
+
+namespace {
 
 double MillisecondsOf(const timespec& time)
 {
@@ -102,6 +102,16 @@ void PrintRow(const std::string& what, const std::string& value, double ratio, d
     }
     if (limit > 0) {
         std::printf("  at most %.2f%s", limit, ratio <= limit ? "" : "  MISSED");
+    }
+    std::printf("\n");
+    std::fflush(stdout);
+}
+
+void PrintFaster(const std::string& what, const std::string& value, double times, double atLeast)
+{
+    std::printf("%-58s %14s  %6.1fx", what.c_str(), value.c_str(), times);
+    if (atLeast > 0) {
+        std::printf("  at least %.0fx%s", atLeast, times >= atLeast ? "" : "  MISSED");
     }
     std::printf("\n");
     std::fflush(stdout);

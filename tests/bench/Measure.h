@@ -3,8 +3,11 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace ls::bench {
+
+[[nodiscard]] double MedianOf(std::vector<double> values);
 
 /// Milliseconds of processor time that one call takes, commands that it waits for included. Files are in the
 /// page cache, so nothing else is waited for; a clock on the wall would count what others do on the machine.
@@ -30,6 +33,9 @@ struct Medians
 
 /// One line of the table. A limit of 0 means that there is none.
 void PrintRow(const std::string& what, const std::string& value, double ratio = 0, double limit = 0);
+
+/// The same for something that is to be at least so many times as fast as a peer; 0 asks for nothing.
+void PrintFaster(const std::string& what, const std::string& value, double times, double atLeast);
 [[nodiscard]] std::string Milliseconds(double value);
 
 /// Ends the program when something that a measurement rests on is not so: a fast wrong result is none.

@@ -13,7 +13,7 @@ int main(int argc, char** argv)
         return 0;
     }
     if (argc != 2 && argc != 3) {
-        std::fputs("usage: lsbench FOLDER [scan|show|resize|lines]\n", stderr);
+        std::fputs("usage: lsbench FOLDER [scan|show|resize|lines|advisor]\n", stderr);
         return 2;
     }
     const std::string only = argc == 3 ? argv[2] : "";
@@ -30,6 +30,9 @@ int main(int argc, char** argv)
     }
     if (wanted("lines")) {
         ls::bench::BenchLines();
+    }
+    if (wanted("advisor")) {
+        ls::bench::BenchAdvisor(first);
     }
     return 0;
 }
