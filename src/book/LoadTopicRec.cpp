@@ -2,8 +2,8 @@
 #include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
+#include "book/TopicEnd.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace ls {
@@ -42,21 +42,6 @@ private:
     FilePos m_end;
     FileError m_failed;
 };
-
-// Where a topic ends: at the next topic of the file, else where the scan stopped. A line in between that
-// begins with "[" but is no header ("[]", a line of a note) belongs to the topic and must not cut it short.
-FilePos EndOfTopic(const Book& book, int number)
-{
-    const FilePos own = book.TopicPos(static_cast<std::size_t>(number));
-    FilePos end = book.ScanEndPos;
-    for (int i = 1; i <= book.TopicCount; ++i) {
-        const FilePos pos = book.TopicPos(static_cast<std::size_t>(i));
-        if (pos > own) {
-            end = std::min(end, pos);
-        }
-    }
-    return end;
-}
 
 // The text up to the logic block or the topic's end; true when a logic block follows.
 bool ReadText(TopicReader& reader, std::string& text)

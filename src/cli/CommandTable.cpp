@@ -9,7 +9,8 @@ namespace ls {
 const std::vector<CommandSpec>& CommandTable()
 {
     static const std::vector<CommandSpec> table = {InfoCommand(), TopicsCommand(), XrefsCommand(),
-                                                   ShowCommand(), TextCommand(), AdviseCommand()};
+                                                   ShowCommand(), TextCommand(),   AdviseCommand(),
+                                                   SaveCommand()};
     return table;
 }
 

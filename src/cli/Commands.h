@@ -11,5 +11,6 @@ namespace ls {
 [[nodiscard]] CommandSpec XrefsCommand();
 [[nodiscard]] CommandSpec ShowCommand();
 [[nodiscard]] CommandSpec TextCommand();
+[[nodiscard]] CommandSpec SaveCommand();
 
 } // namespace ls

@@ -29,6 +29,7 @@ public:
     FileError RenameOver(const std::string& from, const std::string& to) override;
     FileError Remove(const std::string& path) override;
     bool Exists(const std::string& path) override { return m_files->Exists(path); }
+    bool SameFile(const std::string& a, const std::string& b) override { return m_files->SameFile(a, b); }
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override
     {
         return m_files->List(folder, entries); // looking for another spelling may fail without harm

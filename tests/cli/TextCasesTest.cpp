@@ -57,6 +57,22 @@ TEST_P(TextCase, info_asExpected)
     EXPECT_EQ(info["xref_count"].Int(), expected["xref_count"].Int());
 }
 
+TEST_P(TextCase, save_asExpected)
+{
+    const std::string expected = Folder + GetParam() + ".saved.IDA";
+    if (!std::filesystem::exists(expected)) {
+        EXPECT_EQ(Run({"save", "case.IDA", "out.IDA"}), 1);
+        EXPECT_EQ(m_expected["topics"].Items().size(), 0U)
+            << "only a book without topics has nothing to save";
+        return;
+    }
+    const Json saved = Of({"save", "out.IDA"});
+    EXPECT_EQ(files["/work/out.IDA"], test::ReadWholeFile(expected));
+    EXPECT_EQ(saved["size"].Int(), static_cast<int>(files["/work/out.IDA"].size()));
+    EXPECT_EQ(Run({"save", "out.IDA", "again.IDA"}), 0);
+    EXPECT_EQ(files["/work/again.IDA"], files["/work/out.IDA"]) << "a saved book is saved byte for byte";
+}
+
 TEST_P(TextCase, topics_asExpected)
 {
     const Json topics = Of({"topics"});

@@ -13,7 +13,7 @@ public:
     explicit WatchedFiles(std::unique_ptr<FileSystem> files) : m_files(std::move(files)) {}
 
     int reads = 0;
-    int failure = 0;      ///< the error number of every read from then on; 0 for none
+    int failure = 0;     ///< the error number of every read from then on; 0 for none
     int readsBefore = 0; ///< reads that still succeed before it
 
     FileError OpenForReading(const std::string& path, Sharing sharing,
@@ -39,6 +39,7 @@ public:
     }
     FileError Remove(const std::string& path) override { return m_files->Remove(path); }
     bool Exists(const std::string& path) override { return m_files->Exists(path); }
+    bool SameFile(const std::string& a, const std::string& b) override { return m_files->SameFile(a, b); }
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override
     {
         return m_files->List(folder, entries);

@@ -50,6 +50,19 @@ struct LinuxFileSystemTest : testing::Test
     }
 };
 
+TEST_F(LinuxFileSystemTest, sameFile_linksAndSpellings_areOneFile)
+{
+    const std::string a = folder.Write("a", "x");
+    const std::string b = folder.Write("b", "x");
+    std::filesystem::create_hard_link(a, a + ".hard");
+    std::filesystem::create_symlink(a, a + ".soft");
+    EXPECT_TRUE(files.SameFile(a, a));
+    EXPECT_TRUE(files.SameFile(a, a + ".hard"));
+    EXPECT_TRUE(files.SameFile(a + ".soft", a));
+    EXPECT_FALSE(files.SameFile(a, b));
+    EXPECT_FALSE(files.SameFile(a, a + ".none"));
+}
+
 TEST_F(LinuxFileSystemTest, readAt_positions_countFromOne)
 {
     ASSERT_EQ(Open(folder.Write("a", "abcdef")), FileError{});

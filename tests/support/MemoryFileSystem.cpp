@@ -174,6 +174,11 @@ bool MemoryFileSystem::Exists(const std::string& path)
     return m_files.count(full) != 0 || IsFolder(full);
 }
 
+bool MemoryFileSystem::SameFile(const std::string& a, const std::string& b)
+{
+    return Exists(a) && Full(a) == Full(b);
+}
+
 FileError MemoryFileSystem::List(const std::string& folder, std::vector<FolderEntry>& entries)
 {
     entries.clear();

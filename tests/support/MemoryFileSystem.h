@@ -26,6 +26,7 @@ public:
     FileError RenameOver(const std::string& from, const std::string& to) override;
     FileError Remove(const std::string& path) override;
     bool Exists(const std::string& path) override;
+    bool SameFile(const std::string& a, const std::string& b) override;
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override;
     std::string CurrentFolder() override { return currentFolder; }
 

@@ -191,6 +191,14 @@ bool LinuxFileSystem::Exists(const std::string& path)
     return CheckPath(path).Ok() && ::lstat(path.c_str(), &status) == 0;
 }
 
+bool LinuxFileSystem::SameFile(const std::string& a, const std::string& b)
+{
+    struct stat ofA = {};
+    struct stat ofB = {};
+    return stat(a.c_str(), &ofA) == 0 && stat(b.c_str(), &ofB) == 0 && ofA.st_dev == ofB.st_dev &&
+           ofA.st_ino == ofB.st_ino;
+}
+
 FileError LinuxFileSystem::List(const std::string& folder, std::vector<FolderEntry>& entries)
 {
     entries.clear();

@@ -27,6 +27,8 @@ public:
     /// A link that leads nowhere has its name, too.
     bool Exists(const std::string& path) override;
 
+    bool SameFile(const std::string& a, const std::string& b) override;
+
     /// "" is the current folder. A link to a folder counts as a folder, a name with a leading dot as hidden.
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override;
 

@@ -1,0 +1,51 @@
+#include "book/SaveBook.h"
+
+#include "base/FileSystem.h"
+#include "base/Messages.h"
+
+#include <memory>
+
+namespace ls {
+
+namespace {
+
+WriteOutcome Fail(const Seams& seams, const char* what, const FileError& failed)
+{
+    seams.messages.MsgBox(std::string(what) + " due to error #" + std::to_string(failed.number) + ": " +
+                              failed.description,
+                          Icon::Warning);
+    return WriteOutcome::Failed;
+}
+
+} // namespace
+
+std::string PartName(const std::string& path)
+{
+    return path + ".part";
+}
+
+WriteOutcome SaveBook(const Book& book, const Seams& seams, const std::string& path, Progress* progress)
+{
+    const std::string part = PartName(path);
+    std::unique_ptr<OutputFile> output;
+    if (FileError failed = seams.files.CreateNew(part, output); !failed.Ok()) {
+        return Fail(seams, "Failed to open output file", failed);
+    }
+    const WriteOutcome outcome = WriteBook(book, seams, *output, progress);
+    if (outcome == WriteOutcome::Cancelled) {
+        output.reset();
+        seams.files.Remove(part);
+    }
+    if (outcome != WriteOutcome::Written) {
+        return outcome;
+    }
+    if (FileError failed = output->Finish(); !failed.Ok()) {
+        return Fail(seams, "Failed to write", failed);
+    }
+    if (FileError failed = seams.files.RenameToNew(part, path); !failed.Ok()) {
+        return Fail(seams, "Failed to write", failed);
+    }
+    return WriteOutcome::Written;
+}
+
+} // namespace ls

@@ -1,0 +1,222 @@
+#include "book/WriteBook.h"
+
+#include "base/CodePage.h"
+#include "base/FileSystem.h"
+#include "base/LineCursor.h"
+#include "base/Messages.h"
+#include "base/Progress.h"
+#include "base/Text.h"
+#include "book/Book.h"
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace ls {
+
+namespace {
+
+constexpr std::string_view LineEnd = "\r\n";
+constexpr std::size_t BufferSize = 256 * 1024;
+
+// Where every topic of the file ends, worked out once: asking for each would be quadratic.
+class TopicEnds
+{
+public:
+    explicit TopicEnds(const Book& book)
+        : m_scanEnd(book.ScanEndPos),
+          m_positions(book.TopicPos.begin(), book.TopicPos.begin() + book.TopicCount)
+    {
+        std::sort(m_positions.begin(), m_positions.end());
+    }
+
+    [[nodiscard]] FilePos Of(FilePos own) const
+    {
+        const auto next = std::upper_bound(m_positions.begin(), m_positions.end(), own);
+        return next == m_positions.end() ? m_scanEnd : std::min(*next, m_scanEnd);
+    }
+
+private:
+    FilePos m_scanEnd;
+    std::vector<FilePos> m_positions;
+};
+
+class Writer
+{
+public:
+    Writer(const Book& book, const Seams& seams, OutputFile& output, Progress* progress)
+        : m_book(book), m_seams(seams), m_output(output), m_progress(progress), m_ends(book)
+    {
+        if (book.File) {
+            m_cursor = std::make_unique<LineCursor>(*book.File);
+        }
+        m_buffer.reserve(BufferSize + BufferSize / 4);
+    }
+
+    WriteOutcome Run()
+    {
+        PutLine(HeaderLine(m_book));
+        for (int number = 1; number <= m_book.TopicCount && m_outcome == WriteOutcome::Written; ++number) {
+            if (!m_book.TopicRecs(static_cast<std::size_t>(number)).Deleted) {
+                WriteTopic(static_cast<std::size_t>(number));
+            }
+        }
+        Flush();
+        return m_outcome;
+    }
+
+private:
+    void WriteTopic(std::size_t number)
+    {
+        const TopicRec& rec = m_book.TopicRecs(number);
+        const bool inFile = m_book.TopicPos(number) != 0 && m_cursor;
+        if (rec.Text.empty() && rec.Logic.empty() && inFile) {
+            if (FindHeader(number, true)) {
+                CopyLines(number);
+            }
+            return;
+        }
+        PutLine(m_book.TopicNames(number));
+        if (!rec.Text.empty()) {
+            PutLine(rec.Text);
+        }
+        if (!rec.Logic.empty()) {
+            PutLine(rec.Logic);
+        } else if (inFile && FindHeader(number, false)) {
+            CopyUntakenBlock(number);
+        }
+    }
+
+    // Stands behind the topic's header line, which is written when `put` is set. False after a message.
+    bool FindHeader(std::size_t number, bool put)
+    {
+        const FilePos pos = m_book.TopicPos(number);
+        if (m_cursor->Position() != pos) {
+            m_cursor->Seek(pos);
+        }
+        std::string_view line;
+        if (!Read(line)) {
+            return false;
+        }
+        if (Trim(line) != m_book.TopicNames(number)) {
+            Stop("Error looking up topic: " + FromBook(m_book.TopicNames(number)));
+            return false;
+        }
+        if (put) {
+            PutLine(line);
+        }
+        return true;
+    }
+
+    void CopyLines(std::size_t number)
+    {
+        const FilePos end = m_ends.Of(m_book.TopicPos(number));
+        std::string_view line;
+        while (m_cursor->Position() < end && m_outcome == WriteOutcome::Written && Read(line)) {
+            PutLine(line);
+        }
+    }
+
+    // A block that does not begin with "<IXML>" and "<LOGIC>" was never taken into the logic editor, so an
+    // empty `Logic` does not mean that the author removed it.
+    void CopyUntakenBlock(std::size_t number)
+    {
+        const FilePos end = m_ends.Of(m_book.TopicPos(number));
+        std::string_view line;
+        bool found = false;
+        while (!found && m_cursor->Position() < end && Read(line)) {
+            found = EqualsUpper(Trim(line), "<IXML>");
+        }
+        if (!found) {
+            return;
+        }
+        const std::string opening(line);
+        std::string_view next;
+        const bool more = m_cursor->Position() < end;
+        if (more && !Read(next)) {
+            return;
+        }
+        if (more && EqualsUpper(Trim(next), "<LOGIC>")) {
+            return;
+        }
+        PutLine(opening);
+        if (more) {
+            PutLine(next);
+            CopyLines(number);
+        }
+    }
+
+    bool Read(std::string_view& line)
+    {
+        const FileError failed = m_cursor->ReadLine(line);
+        if (!failed.Ok()) {
+            Stop("Failed to read original text due to error #" + std::to_string(failed.number) + ": " +
+                 failed.description);
+        }
+        return failed.Ok();
+    }
+
+    // Adds the line and its end; a full buffer goes to the file, and the progress is told.
+    void PutLine(std::string_view line)
+    {
+        m_buffer.append(line).append(LineEnd);
+        if (m_buffer.size() >= BufferSize) {
+            Flush();
+            TellProgress();
+        }
+    }
+
+    void Flush()
+    {
+        if (m_outcome != WriteOutcome::Written || m_buffer.empty()) {
+            return;
+        }
+        const FileError failed = m_output.Write(m_buffer);
+        m_written += static_cast<FilePos>(m_buffer.size());
+        m_buffer.clear();
+        if (!failed.Ok()) {
+            ShowWriteError(failed);
+            m_outcome = WriteOutcome::Failed;
+        }
+    }
+
+    void TellProgress()
+    {
+        if (m_progress != nullptr && m_outcome == WriteOutcome::Written &&
+            !m_progress->Step(m_written, std::max(m_written, m_book.ScanEndPos))) {
+            m_outcome = WriteOutcome::Cancelled;
+        }
+    }
+
+    void Stop(const std::string& message)
+    {
+        m_seams.messages.MsgBox(message, Icon::Warning);
+        m_outcome = WriteOutcome::Failed;
+    }
+
+    void ShowWriteError(const FileError& failed)
+    {
+        m_seams.messages.MsgBox("Failed to write due to error #" + std::to_string(failed.number) + ": " +
+                                    failed.description,
+                                Icon::Warning);
+    }
+
+    const Book& m_book;
+    Seams m_seams;
+    OutputFile& m_output;
+    Progress* m_progress;
+    TopicEnds m_ends;
+    std::unique_ptr<LineCursor> m_cursor;
+    std::string m_buffer;
+    FilePos m_written = 0;
+    WriteOutcome m_outcome = WriteOutcome::Written;
+};
+
+} // namespace
+
+WriteOutcome WriteBook(const Book& book, const Seams& seams, OutputFile& output, Progress* progress)
+{
+    return Writer(book, seams, output, progress).Run();
+}
+
+} // namespace ls
