@@ -121,10 +121,8 @@ void BookCommands::ShowScannedBook()
         }
         return;
     }
-    // The scan leaves its counter in `CurrentTopicNo`: of topics with one name it would select the last.
-    const bool named = !m_book.StartTopic.empty();
-    m_book.CurrentTopicName = named ? m_book.StartTopic : m_book.TopicNames(1);
-    m_book.CurrentTopicNo = named || m_book.TopicCount == 0 ? 0 : 1;
+    m_book.CurrentTopicName = m_book.StartTopic.empty() ? m_book.TopicNames(1) : m_book.StartTopic;
+    m_book.CurrentTopicNo = 0; // the scan counted in it: of topics with one name the last would be selected
     m_navigation.FillTopicList();
     m_navigation.GoToCurrentTopic();
 }

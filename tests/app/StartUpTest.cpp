@@ -137,6 +137,7 @@ TEST_F(StartUpTest, start_settingsFaultEndsTheProgram_opensNothing)
               Strings{"critical|Lodestar Advisor|The input file contains too many records to load."});
     EXPECT_TRUE(world.end.Ended());
     EXPECT_EQ(view.showings, 0);
+    EXPECT_EQ(world.files.opened, Strings{"LSAdvisor.INI shared"});
     EXPECT_FALSE(book.File);
 }
 

@@ -90,6 +90,17 @@ TEST_F(LoadTopicRecTest, load_topicOfABookWithoutAFile_wasNotFound)
     EXPECT_EQ(world.messages.Take(), (Strings{"warning|Lodestar Advisor|Topic [New] was not found."}));
 }
 
+TEST_F(LoadTopicRecTest, load_movedTopic_endsAtTheNextOneOfTheFile)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nin A\r\n[B]\r\nin B\r\n"));
+    std::swap(book.TopicNames(1), book.TopicNames(2));
+    std::swap(book.TopicPos(1), book.TopicPos(2));
+    EXPECT_EQ(Load("A", 2), "[A] 2");
+    EXPECT_EQ(book.TopicRecs(2).Text, "in A\r\n");
+    EXPECT_EQ(Load("B", 1), "[B] 1");
+    EXPECT_EQ(book.TopicRecs(1).Text, "in B\r\n");
+}
+
 TEST_F(LoadTopicRecTest, load_editedTopic_isReplacedByTheFilesText)
 {
     ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));

@@ -79,6 +79,14 @@ TEST_F(LocateTopicTest, locate_topicAddedInMemory_wasNotFound)
     EXPECT_EQ(world.messages.Take(), (Strings{"warning|Lodestar Advisor|Topic [New] was not found."}));
 }
 
+TEST_F(LocateTopicTest, locate_numberBehindTheTable_wasNotFound)
+{
+    EXPECT_EQ(Locate("A", 101), " 101 ");
+    EXPECT_EQ(Locate("A", -1), " -1 ");
+    EXPECT_EQ(world.messages.Take(), (Strings{"warning|Lodestar Advisor|Topic [A] was not found.",
+                                              "warning|Lodestar Advisor|Topic [A] was not found."}));
+}
+
 TEST_F(LocateTopicTest, locate_fileChangedSinceTheScan_isNoticed)
 {
     world.files["/work/Book.IDA"][22] = 'X';

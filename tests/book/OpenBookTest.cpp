@@ -149,6 +149,7 @@ TEST_P(OpenPlainText, open_noBook_cancelCloses)
     EXPECT_FALSE(Open(GetParam().bytes));
     EXPECT_EQ(world.messages.Take(), (Strings{NotABook}));
     EXPECT_EQ(book.File, nullptr);
+    EXPECT_EQ(book.OpenPath, "");
 }
 
 TEST_P(OpenPlainText, open_noBook_okShowsItAsText)

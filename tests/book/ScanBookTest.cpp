@@ -119,6 +119,18 @@ TEST_F(ScanBookTest, scan_readErrorInsideANote_endsTheProgram)
               (Strings{"critical|Lodestar Advisor|Error reading book file with code 57: Device I/O error"}));
 }
 
+TEST_F(ScanBookTest, scan_indexEnd_nothingBehindItIsRead)
+{
+    int reads = 0;
+    world.files.fail = [&reads](const std::string& operation) {
+        return operation.starts_with("read") && ++reads > 2 ? error::DeviceIo : 0;
+    };
+    EXPECT_TRUE(
+        Scan("LODESTAR BOOK V5.3\r\n[A]\r\n<INDEX>\r\n0,\"<END-INDEX>\",9\r\n" + std::string(100000, 'x')));
+    EXPECT_EQ(book.TopicCount, 0);
+    EXPECT_EQ(book.ScanEndPos, 26);
+}
+
 TEST_F(ScanBookTest, scan_progress_reportsPositionsOfTheFile)
 {
     struct Recorder : Progress

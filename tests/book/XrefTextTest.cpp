@@ -57,6 +57,7 @@ const NoteCase NoteCases[] = {
      "one\r\n\r\n\r\ntwo|next"},
     {"emptyLastPiece_addsNothing", "<XREF TOPIC=A>one\r\n</XREF>\r\nnext", "one|next"},
     {"endTagInLowerCase_isText", "<XREF TOPIC=A>one</xref>\r\ntwo</XREF>\r\nnext", "one</xref>\r\ntwo|next"},
+    {"endTagNeedsItsBracket", "<XREF TOPIC=A>one</XREF two</XREF>\r\nnext", "one</XREF two|next"},
     {"otherEnd_dropsItsLine", "<XREF TOPIC=A>one\r\ntwo <\\ x\r\nnext", "one|next"},
     {"otherEndOnTheOpeningLine", "<XREF TOPIC=A>one <\\\r\nnext", "|next"},
     {"endTagBeatsTheOtherEnd", "<XREF TOPIC=A>one <\\ two</XREF>\r\nnext", "one <\\ two|next"},

@@ -352,6 +352,7 @@ TEST_F(BookCommandsTest, new_accepted_forgetsTheBookAndClearsTheWindow)
     EXPECT_EQ(OnShow(), "");
     EXPECT_EQ(view.ItemTexts(), Strings{});
     EXPECT_EQ(view.selected, -1);
+    EXPECT_EQ(view.defaultButton, DefaultButton::GoTo);
     EXPECT_FALSE(book.File);
     EXPECT_EQ(book.BookPath, "");
     EXPECT_EQ(book.StartTopic, "");

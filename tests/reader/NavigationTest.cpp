@@ -282,6 +282,15 @@ TEST_F(NavigationTest, showAgain_newWidth_wrapsTheTopicOnShow)
     EXPECT_EQ(book.CurrentTopicName, "[A]");
 }
 
+TEST_F(NavigationTest, showAgain_logicMovedInTheFile_remembersItsNewPlace)
+{
+    Open(test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "<IXML>", "<LOGIC>"}));
+    world.files["/work/Book.IDA"] = test::CrLf({"LODESTAR BOOK V5.3", "[A]", "longer", "<IXML>", "<LOGIC>"});
+    navigation.ShowAgain();
+    EXPECT_EQ(OnShow(), "[A]|longer");
+    EXPECT_EQ(book.LogicPos, 42);
+}
+
 TEST_F(NavigationTest, showAgain_plainText_wrapsIt)
 {
     world.messages.replies = {Reply::Ok};

@@ -28,6 +28,17 @@ TEST_F(RecentFileNameTest, recentName_relativePathWithIniDir_isTheFullPath)
     EXPECT_EQ(book.BookPath, "Guide.IDA");
 }
 
+TEST_F(RecentFileNameTest, recentName_fullPathWithIniDir_staysAsGiven)
+{
+    global.settings.IniDir = "/ini";
+    world.files.AddFolder("/ini");
+    world.files["/work/Guide.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n";
+    Choose("/WORK/guide.ida");
+    commands.OpenItem_Click();
+    EXPECT_EQ(book.OpenPath, "/work/Guide.IDA");
+    EXPECT_EQ(global.settings.RecentFiles[0], "/WORK/guide.ida");
+}
+
 TEST_F(RecentFileNameTest, recentName_workDirAndIniDir_isThePathThatWasOpened)
 {
     global.settings.IniDir = "/ini";
