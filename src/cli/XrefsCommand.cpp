@@ -6,8 +6,8 @@
 #include "cli/Commands.h"
 #include "cli/JsonWriter.h"
 #include "cli/TerminalText.h"
+#include "reader/XrefLists.h"
 
-#include <functional>
 #include <ostream>
 #include <vector>
 
@@ -16,19 +16,6 @@ namespace ls {
 namespace {
 
 using XrefList = std::vector<const XrefRec*>;
-
-// The references that are `wanted`, in the table's order.
-XrefList Select(const Book& book, const std::function<bool(const XrefRec&)>& wanted)
-{
-    XrefList list;
-    for (int i = 1; i <= book.XrefCount; ++i) {
-        const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
-        if (wanted(xref)) {
-            list.push_back(&xref);
-        }
-    }
-    return list;
-}
 
 void WriteList(JsonWriter& json, std::string_view key, const XrefList& list)
 {
@@ -57,7 +44,10 @@ void WriteNote(CommandContext& context, const std::string& note, std::size_t ind
 
 Status WriteAll(CommandContext& context)
 {
-    const XrefList all = Select(context.TheBook(), [](const XrefRec&) { return true; });
+    XrefList all;
+    for (int i = 1; i <= context.TheBook().XrefCount; ++i) {
+        all.push_back(&context.TheBook().Xrefs(static_cast<std::size_t>(i)));
+    }
     if (context.Json()) {
         context.WriteJson([&all](JsonWriter& json) { WriteList(json, "xrefs", all); });
         return Status::Done;
@@ -83,12 +73,21 @@ void WriteGroup(CommandContext& context, std::string_view heading, const XrefLis
     }
 }
 
+// The records that a list of references stands for.
+XrefList Records(const Book& book, const std::vector<XrefEntry>& entries)
+{
+    XrefList list;
+    for (const XrefEntry& entry : entries) {
+        list.push_back(&book.Xrefs(static_cast<std::size_t>(entry.itemData)));
+    }
+    return list;
+}
+
 Status WriteBothWays(CommandContext& context, const std::string& title)
 {
-    const XrefList to =
-        Select(context.TheBook(), [&title](const XrefRec& xref) { return xref.FromTopic == title; });
-    const XrefList in =
-        Select(context.TheBook(), [&title](const XrefRec& xref) { return xref.ToTopic == title; });
+    const XrefLists lists = FindXrefs(context.TheBook(), title);
+    const XrefList to = Records(context.TheBook(), lists.to);
+    const XrefList in = Records(context.TheBook(), lists.in);
     if (context.Json()) {
         context.WriteJson([&to, &in](JsonWriter& json) {
             WriteList(json, "to", to);

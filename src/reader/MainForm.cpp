@@ -76,6 +76,7 @@ void MainForm::ConnectButtons()
     connect(m_ui->GoToButton, &QAbstractButton::clicked, this, &MainForm::GoToButton_Click);
     connect(m_ui->BackButton, &QAbstractButton::clicked, this, &MainForm::PrevTopic_Click);
     connect(m_ui->NextButton, &QAbstractButton::clicked, this, &MainForm::NextItem_Click);
+    connect(m_ui->XRButton, &QAbstractButton::clicked, this, &MainForm::XRButton_Click);
     connect(m_ui->DoneButton, &QAbstractButton::clicked, this, &MainForm::DoneButton_Click);
     connect(m_ui->TopicList, &QComboBox::currentIndexChanged, this, &MainForm::TopicList_Change);
     connect(m_ui->TopicList, &QComboBox::activated, this, &MainForm::TopicList_Change);
@@ -178,6 +179,11 @@ void MainForm::ShowAgain()
 void MainForm::GoToButton_Click()
 {
     Run([this] { m_navigation.GoToButton_Click(); });
+}
+
+void MainForm::XRButton_Click()
+{
+    Run([this] { m_navigation.XRButton_Click(); });
 }
 
 void MainForm::NextItem_Click()

@@ -51,6 +51,7 @@ private:
 
     void GoToButton_Click();
     void NextItem_Click();
+    void XRButton_Click();
     void PrevTopic_Click();
     void DoneButton_Click();
     void TopicList_Change();

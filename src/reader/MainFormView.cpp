@@ -5,6 +5,7 @@
 #include "base/CodePage.h"
 #include "files/FileChooser.h"
 #include "reader/ButtonIcons.h"
+#include "reader/XrefForm.h"
 #include "ui_MainForm.h"
 
 #include <QListView>
@@ -123,6 +124,11 @@ void MainFormView::SetDefault(DefaultButton button)
 void MainFormView::ShowFileForm()
 {
     ls::ShowFileForm(&m_form, m_global, m_seams, m_forms);
+}
+
+void MainFormView::ShowXrefForm()
+{
+    XrefForm(&m_form, m_global.book, m_seams).exec();
 }
 
 std::unique_ptr<Progress> MainFormView::WatchScan()

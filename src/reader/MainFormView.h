@@ -42,6 +42,7 @@ public:
     void ShowTopicControls(bool visible) override;
     void SetDefault(DefaultButton button) override;
     void ShowFileForm() override;
+    void ShowXrefForm() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override;
 
 private:

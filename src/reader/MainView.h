@@ -52,6 +52,9 @@ public:
     /// Shows the file form on the shared file-dialog variables and returns when it is closed.
     virtual void ShowFileForm() = 0;
 
+    /// Shows the cross-reference view for the topic on show and returns when it is closed.
+    virtual void ShowXrefForm() = 0;
+
     /// Told how far the scan of a long book has come, as long as the scan runs; nothing when nobody watches.
     [[nodiscard]] virtual std::unique_ptr<Progress> WatchScan() = 0;
 };

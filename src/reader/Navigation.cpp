@@ -100,6 +100,16 @@ void Navigation::GoToItem(int index)
     GoToButton_Click();
 }
 
+void Navigation::XRButton_Click()
+{
+    const std::string before = m_book.CurrentTopicName;
+    m_view.ShowXrefForm();
+    if (!m_seams.end.Ended() && m_book.CurrentTopicName != before) {
+        FillTopicList();
+        GoToCurrentTopic();
+    }
+}
+
 void Navigation::TopicList_Change()
 {
     m_view.SetDefault(DefaultButton::GoTo);

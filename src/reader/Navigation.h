@@ -34,6 +34,10 @@ public:
     void NextItem_Click();
     void PrevTopic_Click();
 
+    /// Shows the references of the topic on show, and goes to the topic that was chosen there. One that is on
+    /// show already is shown again: its bare title differs from the bracketed one.
+    void XRButton_Click();
+
     /// The user chose another entry of the list: nothing is on show until Go To.
     void TopicList_Change();
 

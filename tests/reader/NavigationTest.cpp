@@ -335,5 +335,43 @@ TEST_F(NavigationTest, goTo_moreLinesThanCanBeCounted_cutsThemAndTellsOnce)
     EXPECT_EQ(Boxes(), Strings{});
 }
 
+TEST_F(NavigationTest, xref_closedWithoutGo_changesNothing)
+{
+    OpenThree();
+    const int fills = view.fills;
+    navigation.XRButton_Click();
+    EXPECT_EQ(view.fills, fills);
+    EXPECT_EQ(OnShow(), "[A]|a");
+}
+
+TEST_F(NavigationTest, xref_go_selectsAndShowsThatTopic)
+{
+    OpenThree();
+    view.onXrefForm = [this] { book.CurrentTopicName = "C"; };
+    navigation.XRButton_Click();
+    EXPECT_EQ(OnShow(), "[C]|c");
+    EXPECT_EQ(view.selected, 2);
+    EXPECT_EQ(book.CurrentTopicNo, 3);
+}
+
+TEST_F(NavigationTest, xref_goToItself_showsItAgain)
+{
+    OpenThree();
+    const int showings = view.showings;
+    view.onXrefForm = [this] { book.CurrentTopicName = "A"; };
+    navigation.XRButton_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+    EXPECT_EQ(view.showings, showings + 1);
+}
+
+TEST_F(NavigationTest, xref_goToAMissingTopic_saysOnceThatItWasNotFound)
+{
+    OpenThree();
+    view.onXrefForm = [this] { book.CurrentTopicName = "Gone"; };
+    navigation.XRButton_Click();
+    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|Topic [Gone] was not found."});
+    EXPECT_EQ(OnShow(), "");
+}
+
 } // namespace
 } // namespace ls

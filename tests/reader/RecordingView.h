@@ -57,6 +57,12 @@ public:
             onFileForm();
         }
     }
+    void ShowXrefForm() override
+    {
+        if (onXrefForm) {
+            onXrefForm();
+        }
+    }
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override
     {
         ++scans;
@@ -89,6 +95,7 @@ public:
     int fileForms = 0;
     int scans = 0;
     std::function<void()> onFileForm; ///< what the user does in the file form
+    std::function<void()> onXrefForm; ///< what the user does in the cross-reference view
 };
 
 } // namespace ls::test

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ls {
+
+struct Book;
+
+/// One entry of a list of references.
+struct XrefEntry
+{
+    std::string topic; ///< the other topic's title
+    int itemData = 0;  ///< the number of its record in the book's table
+
+    friend bool operator==(const XrefEntry&, const XrefEntry&) = default;
+};
+
+/// The references of one topic both ways, in the order of the book's table. Doubles are kept, and a reference
+/// of a topic to itself stands in both lists.
+struct XrefLists
+{
+    std::vector<XrefEntry> to; ///< topics that it refers to
+    std::vector<XrefEntry> in; ///< topics that refer to it
+};
+
+/// The lists for a topic's bare title, compared with case.
+[[nodiscard]] XrefLists FindXrefs(const Book& book, std::string_view title);
+
+} // namespace ls
