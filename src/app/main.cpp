@@ -3,10 +3,9 @@
 #include "app/FormFont.h"
 #include "app/FormMessages.h"
 #include "app/Global.h"
-#include "platform/Console.h"
 #include "platform/DdeSeam.h"
+#include "platform/ReadCommandLine.h"
 #include "platform/SystemSeams.h"
-#include "reader/CommandLine.h"
 #include "reader/MainForm.h"
 
 #include <QApplication>
@@ -53,7 +52,7 @@ int main(int argc, char** argv)
     const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
     ls::MainForm form(global, seams, {*volumes, *ddeServer});
     messages.SetParent(&form);
-    form.Form_Load(ls::ParseArguments(ls::ProgramArguments(argc, argv), seams));
+    form.Form_Load(ls::ReadCommandLine(argc, argv, seams));
     if (!global.end.Ended()) {
         form.show();
         QApplication::exec();

@@ -79,7 +79,8 @@ public:
     /// Whether anything has this name. Takes no lock.
     virtual bool Exists(const std::string& path) = 0;
 
-    /// Whether two names lead to one file, however they are spelled or linked. False when either leads nowhere.
+    /// Whether two names lead to one file, however they are spelled or linked. False when either leads
+    /// nowhere.
     virtual bool SameFile(const std::string& a, const std::string& b) = 0;
 
     /// The entries of a folder, in the order in which the system gives them.

@@ -3,6 +3,7 @@
 #include "base/FileSystem.h"
 #include "base/PathRules.h"
 #include "base/Processes.h"
+#include "base/Registry.h"
 #include "base/Volumes.h"
 
 #include <memory>
@@ -14,6 +15,9 @@ namespace ls {
 
 /// The processes of the running system.
 [[nodiscard]] std::unique_ptr<Processes> MakeProcesses();
+
+/// What opens which type of file on the running system. `processes` outlives it.
+[[nodiscard]] std::unique_ptr<Registry> MakeRegistry(Processes& processes);
 
 /// The volumes of the running system.
 [[nodiscard]] std::unique_ptr<Volumes> MakeVolumes();

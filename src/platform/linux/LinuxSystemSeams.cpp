@@ -2,6 +2,7 @@
 
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxProcesses.h"
+#include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxVolumes.h"
 
 namespace ls {
@@ -14,6 +15,11 @@ std::unique_ptr<FileSystem> MakeFileSystem()
 std::unique_ptr<Processes> MakeProcesses()
 {
     return std::make_unique<LinuxProcesses>();
+}
+
+std::unique_ptr<Registry> MakeRegistry(Processes& processes)
+{
+    return std::make_unique<LinuxRegistry>(processes);
 }
 
 std::unique_ptr<Volumes> MakeVolumes()

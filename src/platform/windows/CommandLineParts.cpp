@@ -1,0 +1,45 @@
+#include "platform/windows/CommandLineParts.h"
+
+#include "base/SplitCommandLine.h"
+#include "base/Text.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace ls {
+
+std::string BehindProgramName(std::string_view line)
+{
+    bool quoted = false;
+    std::size_t at = 0;
+    while (at < line.size() && (quoted || (line[at] != ' ' && line[at] != '\t'))) {
+        quoted = quoted != (line[at] == '"');
+        ++at;
+    }
+    at = std::min(line.find_first_not_of(" \t", at), line.size());
+    return std::string(line.substr(at));
+}
+
+LaunchLine ToLaunchLine(std::string_view commandLine)
+{
+    const std::vector<std::string> words = SplitCommandLine(commandLine);
+    if (words.empty()) {
+        return {};
+    }
+    const std::string& program = words.front();
+    const std::size_t start = commandLine.find_first_not_of(' ');
+    const std::size_t quotes = commandLine[start] == '"' ? 2 : 0;
+    // A quote that is never closed: the program runs to the end.
+    const std::size_t end = std::min(start + program.size() + quotes, commandLine.size());
+    return {program, '"' + program + '"' + std::string(commandLine.substr(end))};
+}
+
+bool IsBatchFile(std::string_view program)
+{
+    // The system passes over dots and blanks at the end of a name.
+    const std::size_t last = program.find_last_not_of(" .");
+    const std::string name = UpperCase(program.substr(0, last == std::string_view::npos ? 0 : last + 1));
+    return name.ends_with(".BAT") || name.ends_with(".CMD");
+}
+
+} // namespace ls

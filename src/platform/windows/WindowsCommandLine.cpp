@@ -1,0 +1,15 @@
+#include "platform/ReadCommandLine.h"
+
+#include "platform/windows/CommandLineParts.h"
+#include "platform/windows/WideText.h"
+
+#include <windows.h>
+
+namespace ls {
+
+CommandLine ReadCommandLine(int /*argc*/, char** /*argv*/, const Seams& /*seams*/)
+{
+    return ParseCommandLine(BehindProgramName(FromWide(::GetCommandLineW())));
+}
+
+} // namespace ls

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "base/FileError.h"
+
+#include <string>
+
+#include <windows.h>
+
+namespace ls {
+
+/// The program's error for a code of `GetLastError`; `FileError{}` for 0.
+[[nodiscard]] FileError ErrorOfCode(DWORD code);
+
+/// As `ErrorOfCode`, for a call that named a path: the system says "access denied" (or, with a
+/// separator at its end, that the path is bad) also of a folder that is used as a file (75), and "path not
+/// found" also where the whole drive is missing (68).
+[[nodiscard]] FileError ErrorOfPath(DWORD code, const std::wstring& path);
+
+} // namespace ls

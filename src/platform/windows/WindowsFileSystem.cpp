@@ -1,0 +1,229 @@
+#include "platform/windows/WindowsFileSystem.h"
+
+#include "platform/windows/GrownText.h"
+#include "platform/windows/WidePath.h"
+#include "platform/windows/WideText.h"
+#include "platform/windows/WindowsBookFile.h"
+#include "platform/windows/WindowsError.h"
+#include "platform/windows/WindowsHandle.h"
+#include "platform/windows/WindowsOutputFile.h"
+
+#include <string_view>
+
+namespace ls {
+
+namespace {
+
+// A virus scanner or an indexer opens a file that was just closed, for a moment, and keeps it from being
+// renamed: then it is tried again, for about a second.
+constexpr int RenameTries = 20;
+constexpr DWORD RenamePause = 50;
+
+// Whatever is no file on a disk is closed again: reading from it could wait for ever.
+FileError CheckKind(const WindowsHandle& handle)
+{
+    return ::GetFileType(handle.Get()) == FILE_TYPE_DISK ? FileError{}
+                                                         : MakeFileError(error::DeviceUnavailable);
+}
+
+// Opens the file, or makes it; `handle` is open only on success.
+FileError OpenFile(const std::string& path, DWORD access, DWORD sharing, DWORD disposition,
+                   WindowsHandle& handle)
+{
+    std::wstring wide;
+    if (FileError bad = ToWidePath(path, wide); !bad.Ok()) {
+        return bad;
+    }
+    // A pipe that somebody else serves must not be able to act in this user's name.
+    constexpr DWORD flags = FILE_ATTRIBUTE_NORMAL | SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION;
+    handle =
+        WindowsHandle(::CreateFileW(wide.c_str(), access, sharing, nullptr, disposition, flags, nullptr));
+    if (!handle.IsOpen()) {
+        return ErrorOfPath(::GetLastError(), wide);
+    }
+    FileError kind = CheckKind(handle);
+    if (!kind.Ok()) {
+        handle.Close();
+    }
+    return kind;
+}
+
+// An "access denied" is told by the new name where that is a folder (75), else it stands as it is (70).
+FileError ErrorOfRename(DWORD code, const std::wstring& from, const std::wstring& to)
+{
+    return ErrorOfPath(code, code == ERROR_FILE_NOT_FOUND ? from : to);
+}
+
+FileError Rename(const std::string& from, const std::string& to, DWORD flags)
+{
+    std::wstring wideFrom;
+    std::wstring wideTo;
+    if (FileError bad = ToWidePath(from, wideFrom); !bad.Ok()) {
+        return bad;
+    }
+    if (FileError bad = ToWidePath(to, wideTo); !bad.Ok()) {
+        return bad;
+    }
+    DWORD code = ERROR_SHARING_VIOLATION;
+    for (int tries = 0; code == ERROR_SHARING_VIOLATION && tries < RenameTries; ++tries) {
+        ::Sleep(tries == 0 ? 0 : RenamePause);
+        code = ::MoveFileExW(wideFrom.c_str(), wideTo.c_str(), flags) != 0 ? 0 : ::GetLastError();
+    }
+    return code == 0 ? FileError{} : ErrorOfRename(code, wideFrom, wideTo);
+}
+
+// What tells a file from every other. Asking for no access at all succeeds also for a file that is locked.
+bool Identify(const std::string& path, BY_HANDLE_FILE_INFORMATION& information)
+{
+    std::wstring wide;
+    if (!ToWidePath(path, wide).Ok()) {
+        return false;
+    }
+    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const WindowsHandle handle(
+        ::CreateFileW(wide.c_str(), 0, sharing, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return handle.IsOpen() && ::GetFileInformationByHandle(handle.Get(), &information) != 0;
+}
+
+// "C:\BOOKS" and "C:\" are searched for "*" below them, "C:" for "*" in its current folder.
+std::string SearchPattern(const std::string& folder)
+{
+    const bool complete =
+        folder.empty() || folder.back() == '\\' || folder.back() == '/' || folder.back() == ':';
+    return folder + (complete ? "*" : "\\*");
+}
+
+class Search
+{
+public:
+    explicit Search(const std::wstring& pattern)
+        : m_handle(::FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &m_found, FindExSearchNameMatch,
+                                      nullptr, FIND_FIRST_EX_LARGE_FETCH))
+    {
+    }
+    ~Search()
+    {
+        if (IsOpen()) {
+            ::FindClose(m_handle);
+        }
+    }
+    Search(const Search&) = delete;
+    Search& operator=(const Search&) = delete;
+
+    [[nodiscard]] bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
+    [[nodiscard]] const WIN32_FIND_DATAW& Found() const { return m_found; }
+    bool Next() { return ::FindNextFileW(m_handle, &m_found) != 0; }
+
+private:
+    WIN32_FIND_DATAW m_found = {};
+    HANDLE m_handle;
+};
+
+void AddEntry(const WIN32_FIND_DATAW& found, std::vector<FolderEntry>& entries)
+{
+    const std::wstring_view name = found.cFileName;
+    if (name != L"." && name != L"..") {
+        entries.push_back({FromWide(name), (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+                           (found.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0});
+    }
+}
+
+} // namespace
+
+WindowsFileSystem::WindowsFileSystem()
+{
+    // A drive without a disk is an error that the program tells of, not a box of the system's own that hides
+    // behind the window.
+    ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+}
+
+FileError WindowsFileSystem::OpenForReading(const std::string& path, Sharing sharing,
+                                            std::unique_ptr<BookFile>& file)
+{
+    file.reset();
+    const DWORD mode =
+        sharing == Sharing::Locked ? 0 : FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    WindowsHandle handle;
+    if (FileError failed = OpenFile(path, GENERIC_READ, mode, OPEN_EXISTING, handle); !failed.Ok()) {
+        return failed;
+    }
+    file = std::make_unique<WindowsBookFile>(std::move(handle));
+    return {};
+}
+
+FileError WindowsFileSystem::CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file)
+{
+    file.reset();
+    WindowsHandle handle;
+    if (FileError failed = OpenFile(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_NEW, handle); !failed.Ok()) {
+        return failed;
+    }
+    file = std::make_unique<WindowsOutputFile>(std::move(handle));
+    return {};
+}
+
+FileError WindowsFileSystem::RenameToNew(const std::string& from, const std::string& to)
+{
+    return Rename(from, to, MOVEFILE_WRITE_THROUGH);
+}
+
+FileError WindowsFileSystem::RenameOver(const std::string& from, const std::string& to)
+{
+    return Rename(from, to, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+}
+
+FileError WindowsFileSystem::Remove(const std::string& path)
+{
+    std::wstring wide;
+    if (FileError bad = ToWidePath(path, wide); !bad.Ok()) {
+        return bad;
+    }
+    return ::DeleteFileW(wide.c_str()) != 0 ? FileError{} : ErrorOfPath(::GetLastError(), wide);
+}
+
+bool WindowsFileSystem::Exists(const std::string& path)
+{
+    std::wstring wide;
+    if (!ToWidePath(path, wide).Ok()) {
+        return false;
+    }
+    // A file that the system has for itself alone does not even tell what it is, but it is there.
+    return ::GetFileAttributesW(wide.c_str()) != INVALID_FILE_ATTRIBUTES ||
+           ::GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
+bool WindowsFileSystem::SameFile(const std::string& a, const std::string& b)
+{
+    BY_HANDLE_FILE_INFORMATION ofA = {};
+    BY_HANDLE_FILE_INFORMATION ofB = {};
+    return Identify(a, ofA) && Identify(b, ofB) && ofA.dwVolumeSerialNumber == ofB.dwVolumeSerialNumber &&
+           ofA.nFileIndexHigh == ofB.nFileIndexHigh && ofA.nFileIndexLow == ofB.nFileIndexLow;
+}
+
+FileError WindowsFileSystem::List(const std::string& folder, std::vector<FolderEntry>& entries)
+{
+    entries.clear();
+    std::wstring pattern;
+    if (FileError bad = ToWidePath(SearchPattern(folder), pattern); !bad.Ok()) {
+        return bad;
+    }
+    Search search(pattern);
+    if (!search.IsOpen()) {
+        // Every folder has at least its "."; only a drive's root can be quite empty.
+        const DWORD code = ::GetLastError();
+        return code == ERROR_FILE_NOT_FOUND ? FileError{} : ErrorOfPath(code, pattern);
+    }
+    do {
+        AddEntry(search.Found(), entries);
+    } while (search.Next());
+    const DWORD code = ::GetLastError();
+    return code == ERROR_NO_MORE_FILES ? FileError{} : ErrorOfPath(code, pattern);
+}
+
+std::string WindowsFileSystem::CurrentFolder()
+{
+    return FromWide(
+        GrownText([](wchar_t* buffer, DWORD size) { return ::GetCurrentDirectoryW(size, buffer); }));
+}
+
+} // namespace ls

@@ -1,0 +1,105 @@
+#include "platform/windows/WindowsRegistry.h"
+
+#include "platform/windows/WideText.h"
+
+#include <optional>
+
+#include <windows.h>
+
+namespace ls {
+
+namespace {
+
+constexpr REGSAM AllRights = KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_CREATE_SUB_KEY | KEY_ENUMERATE_SUB_KEYS |
+                             KEY_NOTIFY | KEY_CREATE_LINK;
+static_assert(AllRights == 0x3F);
+
+class WindowsRegistryKey : public RegistryKey
+{
+public:
+    explicit WindowsRegistryKey(HKEY key) : m_key(key) {}
+    ~WindowsRegistryKey() override { ::RegCloseKey(m_key); }
+    WindowsRegistryKey(const WindowsRegistryKey&) = delete;
+    WindowsRegistryKey& operator=(const WindowsRegistryKey&) = delete;
+
+    bool QueryType(const std::string& valueName, std::uint32_t& type, std::uint32_t& size) override;
+    bool QueryText(const std::string& valueName, std::string& buffer) override;
+
+private:
+    std::optional<std::string> Text(const std::string& valueName);
+
+    HKEY m_key;
+};
+
+// The bytes of a value as they are kept may lack the NUL that a text ends with, or have more than one.
+std::string WithoutNuls(std::string text)
+{
+    return text.substr(0, text.find('\0'));
+}
+
+std::optional<std::string> WindowsRegistryKey::Text(const std::string& valueName)
+{
+    std::string bytes;
+    LONG result = ERROR_MORE_DATA;
+    // Somebody may write a longer value between the question for its size and the one for its text.
+    for (int tries = 0; result == ERROR_MORE_DATA && tries < 5; ++tries) {
+        DWORD size = 0;
+        result = ::RegQueryValueExA(m_key, valueName.c_str(), nullptr, nullptr, nullptr, &size);
+        if (result != ERROR_SUCCESS) {
+            return std::nullopt;
+        }
+        bytes.assign(size, ' ');
+        result = ::RegQueryValueExA(m_key, valueName.c_str(), nullptr, nullptr,
+                                    reinterpret_cast<BYTE*>(bytes.data()), &size);
+        if (result == ERROR_SUCCESS) {
+            bytes.resize(size);
+        }
+    }
+    return result == ERROR_SUCCESS ? std::optional(FromAnsi(WithoutNuls(std::move(bytes)))) : std::nullopt;
+}
+
+bool WindowsRegistryKey::QueryType(const std::string& valueName, std::uint32_t& type, std::uint32_t& size)
+{
+    DWORD kind = 0;
+    DWORD bytes = 0;
+    if (::RegQueryValueExA(m_key, valueName.c_str(), nullptr, &kind, nullptr, &bytes) != ERROR_SUCCESS) {
+        return false;
+    }
+    type = kind;
+    size = bytes;
+    if (kind == RegSz || kind == RegExpandSz) {
+        // The size is that of the text as it is handed on: UTF-8 with one NUL.
+        const std::optional<std::string> text = Text(valueName);
+        size = text ? static_cast<std::uint32_t>(text->size() + 1) : size;
+    }
+    return true;
+}
+
+bool WindowsRegistryKey::QueryText(const std::string& valueName, std::string& buffer)
+{
+    const std::optional<std::string> text = Text(valueName);
+    if (!text || buffer.size() != text->size() + 1) {
+        return false;
+    }
+    buffer = *text + '\0';
+    return true;
+}
+
+} // namespace
+
+std::unique_ptr<RegistryKey> WindowsRegistry::Open(Root root, const std::string& path)
+{
+    const std::optional<std::string> name = ToAnsi(path);
+    if (!name) {
+        return nullptr;
+    }
+    const HKEY top = root == Root::CurrentUser ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+    HKEY key = nullptr;
+    LONG result = ::RegOpenKeyExA(top, name->c_str(), 0, AllRights, &key);
+    if (result == ERROR_ACCESS_DENIED) {
+        result = ::RegOpenKeyExA(top, name->c_str(), 0, KEY_QUERY_VALUE, &key);
+    }
+    return result == ERROR_SUCCESS ? std::make_unique<WindowsRegistryKey>(key) : nullptr;
+}
+
+} // namespace ls

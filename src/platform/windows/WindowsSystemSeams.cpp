@@ -1,0 +1,35 @@
+#include "platform/SystemSeams.h"
+
+#include "platform/windows/WindowsFileSystem.h"
+#include "platform/windows/WindowsProcesses.h"
+#include "platform/windows/WindowsRegistry.h"
+#include "platform/windows/WindowsVolumes.h"
+
+namespace ls {
+
+std::unique_ptr<FileSystem> MakeFileSystem()
+{
+    return std::make_unique<WindowsFileSystem>();
+}
+
+std::unique_ptr<Processes> MakeProcesses()
+{
+    return std::make_unique<WindowsProcesses>();
+}
+
+std::unique_ptr<Registry> MakeRegistry(Processes& /*processes*/)
+{
+    return std::make_unique<WindowsRegistry>();
+}
+
+std::unique_ptr<Volumes> MakeVolumes()
+{
+    return std::make_unique<WindowsVolumes>();
+}
+
+PathRules NativePaths()
+{
+    return WindowsPaths;
+}
+
+} // namespace ls

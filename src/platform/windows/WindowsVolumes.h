@@ -1,0 +1,15 @@
+#pragma once
+
+#include "base/Volumes.h"
+
+namespace ls {
+
+/// The drives of a Windows system, by their letters: "a:", "c: [SYSTEM]". Each leads to its own current
+/// folder.
+class WindowsVolumes : public Volumes
+{
+public:
+    std::vector<Volume> List() override;
+};
+
+} // namespace ls
