@@ -100,12 +100,6 @@ int NumberOfCode(DWORD code)
     }
 }
 
-bool IsFolder(const std::wstring& path)
-{
-    const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-}
-
 // Whether the path begins with the letter of a drive that this system does not have. A path in the long form
 // has its letter behind "\\?\".
 bool OnMissingDrive(const std::wstring& path)
@@ -133,10 +127,17 @@ FileError ErrorOfPath(DWORD code, const std::wstring& path)
     if (maybeFolder && IsFolder(path)) {
         return MakeFileError(error::PathFileAccess);
     }
-    if (code == ERROR_PATH_NOT_FOUND && OnMissingDrive(path)) {
+    const bool missing = code == ERROR_PATH_NOT_FOUND || code == ERROR_FILE_NOT_FOUND;
+    if (missing && OnMissingDrive(path)) {
         return MakeFileError(error::DeviceUnavailable);
     }
     return ErrorOfCode(code);
+}
+
+bool IsFolder(const std::wstring& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 } // namespace ls

@@ -12,8 +12,11 @@ namespace ls {
 [[nodiscard]] FileError ErrorOfCode(DWORD code);
 
 /// As `ErrorOfCode`, for a call that named a path: the system says "access denied" (or, with a
-/// separator at its end, that the path is bad) also of a folder that is used as a file (75), and "path not
-/// found" also where the whole drive is missing (68).
+/// separator at its end, that the path is bad) also of a folder that is used as a file (75), and "not found"
+/// also where the whole drive is missing (68).
 [[nodiscard]] FileError ErrorOfPath(DWORD code, const std::wstring& path);
+
+/// Whether a folder is there, also behind a link.
+[[nodiscard]] bool IsFolder(const std::wstring& path);
 
 } // namespace ls

@@ -78,8 +78,11 @@ FileError FindProgramFile(const std::string& name, std::wstring& program)
         return MakeFileError(error::FileNotFound);
     }
     program = SearchFile(folders, wide);
-    // Whether the file or its folder is missing makes no difference to who wanted to start it.
-    return program.empty() ? MakeFileError(error::FileNotFound) : FileError{};
+    if (program.empty()) {
+        // Whether the file or its folder is missing makes no difference to who wanted to start it.
+        return MakeFileError(error::FileNotFound);
+    }
+    return IsFolder(program) ? MakeFileError(error::PathFileAccess) : FileError{};
 }
 
 // Starts it with a normal window that may come to the front. The result is its process id, 0 for a failure.

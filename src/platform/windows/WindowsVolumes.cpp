@@ -26,9 +26,12 @@ std::string NameOfDisk(const std::wstring& root)
 // The full path of "C:" is the folder that is current on that drive; its root when there is none yet.
 std::string CurrentFolderOf(const std::wstring& drive)
 {
-    const std::wstring folder = GrownText([&drive](wchar_t* buffer, DWORD size) {
+    std::wstring folder = GrownText([&drive](wchar_t* buffer, DWORD size) {
         return ::GetFullPathNameW(drive.c_str(), size, buffer, nullptr);
     });
+    if (folder.size() > drive.size() + 1 && folder.back() == L'\\') {
+        folder.pop_back();
+    }
     return FromWide(folder.empty() ? drive + L'\\' : folder);
 }
 
