@@ -99,9 +99,29 @@ void BookCommands::ShowOpenedBook()
     m_book.BookFileNo = 2;
     AddRecentFile(m_settings, RecentFileName(m_book, m_settings, m_seams));
     SaveIniFile(m_settings, m_seams);
-    if (m_seams.end.Ended()) {
+    if (!m_seams.end.Ended()) {
+        ShowBook();
+    }
+}
+
+void BookCommands::OpenSaved()
+{
+    const std::string path = m_book.BookPath;
+    ForgetBook();
+    ClearView();
+    m_book.BookPath = path;
+    m_book.LockBook = true;
+    if (!OpenBook(m_book, m_seams)) {
+        ForgetBook();
         return;
     }
+    m_view.ShowExplainButton(!m_book.BookUrl.empty());
+    m_book.BookFileNo = 2;
+    ShowBook();
+}
+
+void BookCommands::ShowBook()
+{
     if (m_book.IsPlainText()) {
         ShowPlainText();
     } else {

@@ -31,6 +31,10 @@ public:
     /// Opens the book that the command line named in `BookPath`, at `StartTopic` when one was given.
     void OpenAtStart();
 
+    /// Opens the file that the book in memory was just saved into, which `BookPath` names, in its place:
+    /// locked for editing, nothing changed, the first topic on show. It is in the recent files already.
+    void OpenSaved();
+
     /// Forgets the open book, after asking.
     void NewItem_Click();
 
@@ -43,6 +47,7 @@ private:
     void OpenChosenFile();
     bool OpenBookPath();
     void ShowOpenedBook();
+    void ShowBook();
     void ShowScannedBook();
     void ShowPlainText();
     void ForgetBook();

@@ -33,7 +33,8 @@ MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
     : m_ui(std::make_unique<Ui::MainForm>()), m_global(global), m_seams(seams), m_layout(RememberDesign()),
       m_view(std::make_unique<MainFormView>(*this, *m_ui, global, m_seams, forms)),
       m_navigation(global.book, m_seams, *m_view),
-      m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation)
+      m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation),
+      m_save(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_commands)
 {
     ConnectButtons();
     ConnectItems();
@@ -87,6 +88,7 @@ void MainForm::ConnectItems()
 {
     connect(m_ui->NewItem, &QAction::triggered, this, &MainForm::NewItem_Click);
     connect(m_ui->OpenItem, &QAction::triggered, this, &MainForm::OpenItem_Click);
+    connect(m_ui->SaveItem, &QAction::triggered, this, &MainForm::SaveItem_Click);
     connect(m_ui->ExitItem, &QAction::triggered, this, &MainForm::DoneButton_Click);
     connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
     connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
@@ -214,6 +216,11 @@ void MainForm::NewItem_Click()
 void MainForm::OpenItem_Click()
 {
     Run([this] { m_commands.OpenItem_Click(); });
+}
+
+void MainForm::SaveItem_Click()
+{
+    Run([this] { m_save.SaveItem_Click(); });
 }
 
 void MainForm::VScroll1_Change()

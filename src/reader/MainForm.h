@@ -5,6 +5,7 @@
 #include "reader/BookCommands.h"
 #include "reader/MainLayout.h"
 #include "reader/Navigation.h"
+#include "reader/SaveItem.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -59,6 +60,7 @@ private:
     void VScroll1_Change();
     void NewItem_Click();
     void OpenItem_Click();
+    void SaveItem_Click();
     void AlphaItem_Click();
     void ContentsItem_Click();
 
@@ -72,6 +74,7 @@ private:
     std::unique_ptr<MainFormView> m_view;
     Navigation m_navigation;
     BookCommands m_commands;
+    SaveItem m_save;
     QTimer m_afterResize;
     bool m_activated = false;
     bool m_resizedMeanwhile = false;

@@ -140,4 +140,12 @@ std::unique_ptr<Progress> MainFormView::WatchScan()
     return std::make_unique<FormProgress>(&m_form, box);
 }
 
+std::unique_ptr<Progress> MainFormView::WatchSave(const std::string& path)
+{
+    ProgressBox box;
+    const std::string name = FromPath(NameOf(m_seams.paths, path));
+    box.label = QStringLiteral("Writing %1").arg(QString::fromStdString(name));
+    return std::make_unique<FormProgress>(&m_form, box);
+}
+
 } // namespace ls

@@ -44,6 +44,7 @@ public:
     void ShowFileForm() override;
     void ShowXrefForm() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override;
+    [[nodiscard]] std::unique_ptr<Progress> WatchSave(const std::string& path) override;
 
 private:
     void SetUpList();

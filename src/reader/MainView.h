@@ -5,6 +5,7 @@
 #include "render/ShowTopic.h"
 
 #include <memory>
+#include <string>
 
 namespace ls {
 
@@ -57,6 +58,9 @@ public:
 
     /// Told how far the scan of a long book has come, as long as the scan runs; nothing when nobody watches.
     [[nodiscard]] virtual std::unique_ptr<Progress> WatchScan() = 0;
+
+    /// The same for writing a book into the file `path`, which the user may cancel.
+    [[nodiscard]] virtual std::unique_ptr<Progress> WatchSave(const std::string& path) = 0;
 };
 
 } // namespace ls

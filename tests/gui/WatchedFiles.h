@@ -2,6 +2,8 @@
 
 #include "base/FileSystem.h"
 
+#include <chrono>
+#include <thread>
 #include <utility>
 
 namespace ls::test {
@@ -15,6 +17,7 @@ public:
     int reads = 0;
     int failure = 0;     ///< the error number of every read from then on; 0 for none
     int readsBefore = 0; ///< reads that still succeed before it
+    int pause = 0;       ///< milliseconds that each read takes, as on a slow disk
 
     FileError OpenForReading(const std::string& path, Sharing sharing,
                              std::unique_ptr<BookFile>& file) override
@@ -56,6 +59,7 @@ private:
         FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
         {
             ++m_owner.reads;
+            std::this_thread::sleep_for(std::chrono::milliseconds(m_owner.pause));
             if (m_owner.failure != 0 && m_owner.readsBefore-- <= 0) {
                 return MakeFileError(m_owner.failure);
             }

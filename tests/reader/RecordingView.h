@@ -68,6 +68,11 @@ public:
         ++scans;
         return nullptr;
     }
+    [[nodiscard]] std::unique_ptr<Progress> WatchSave(const std::string& path) override
+    {
+        saved = path;
+        return saveProgress ? saveProgress() : nullptr;
+    }
 
     [[nodiscard]] std::vector<std::string> ItemTexts() const
     {
@@ -94,6 +99,8 @@ public:
     int showings = 0;
     int fileForms = 0;
     int scans = 0;
+    std::string saved; ///< the file whose writing was watched last
+    std::function<std::unique_ptr<Progress>()> saveProgress;
     std::function<void()> onFileForm; ///< what the user does in the file form
     std::function<void()> onXrefForm; ///< what the user does in the cross-reference view
 };

@@ -1,0 +1,189 @@
+// The Save item of the real main window, on real files.
+
+#include "gui/MainFormFixture.h"
+
+#include <QProgressDialog>
+
+namespace ls {
+namespace {
+
+using test::ModalScript;
+using test::Press;
+
+constexpr const char* Saved = "information|Lodestar Advisor|File saved";
+constexpr const char* AskShared =
+    "warning|Lodestar Advisor|You did not have the input file locked for editing.  It is best to save only "
+    "if "
+    "you are sure that no other editing was started on this file since you opened it.  Continue to "
+    "save?|OKCancel";
+constexpr const char* AskType = "question|Lodestar Advisor|You did not specify a filetype as part of the "
+                                "name. Would you like me to add a "
+                                "type of .IDA?|YesNo";
+constexpr const char* TheFileForm = "form|FileForm|Lodestar Advisor Save";
+
+struct SaveItemFormTest : MainFormFixture
+{
+    // "Three.IDA", locked for editing and its second topic edited.
+    void StartEdited()
+    {
+        Start(WriteThree());
+        ModalScript script;
+        script.Do([this](QWidget& chooser) {
+            test::Find<QAbstractButton>(chooser, "ExclusiveOption")->click();
+            ChooseFile(chooser, Path("Three.IDA"));
+        });
+        Press(form, "OpenItem");
+        global.book.TopicRecs(2).Text = "edited\r\n";
+        global.book.BookChanged = true;
+    }
+
+    std::string Read(const std::string& name)
+    {
+        QFile file(QString::fromStdString(Path(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
+    }
+
+    static constexpr const char* EditedBook =
+        "LODESTAR BOOK V5.3\r\n[A]\r\na\r\n[B]\r\nedited\r\n\r\n[C]\r\nc\r\n";
+};
+
+TEST_F(SaveItemFormTest, save_nothingOpen_saysSo)
+{
+    ModalScript script;
+    script.Escape().Answer(Reply::Ok);
+    Start("");
+    Press(form, "SaveItem");
+    EXPECT_EQ(script.Seen(), (Strings{"form|FileForm|Lodestar Advisor Open",
+                                      "warning|Lodestar Advisor|I have nothing to save."}));
+}
+
+TEST_F(SaveItemFormTest, save_proposedName_isSavedAndOpen)
+{
+    StartEdited();
+    ModalScript script;
+    script
+        .Do([this](QWidget& chooser) {
+            EXPECT_EQ(test::Find<QComboBox>(chooser, "FilenameBox")->currentText().toStdString(),
+                      Path("Three (001).IDA"));
+            EXPECT_EQ(test::Find<QComboBox>(chooser, "FilenameBox")->count(), 0);
+            EXPECT_EQ(test::Find<QLabel>(chooser, "TitleLabel")->text(), QStringLiteral("Save the book as:"));
+            EXPECT_FALSE(test::Find<QWidget>(chooser, "SharingFrame")->isVisible());
+            test::TakePicture(chooser, "main-save");
+            Press(chooser, "OKButton");
+        })
+        .Answer(Reply::Ok);
+    Press(form, "SaveItem");
+    EXPECT_EQ(script.Seen(), (Strings{TheFileForm, Saved}));
+    EXPECT_EQ(Read("Three (001).IDA"), EditedBook);
+    EXPECT_EQ(Read("Three (001).IDA.part"), "(none)");
+    EXPECT_EQ(global.book.BookPath, Path("Three (001).IDA"));
+    EXPECT_FALSE(global.book.BookChanged);
+    EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. B", "3. C"}));
+    EXPECT_EQ(PaneText(), "a");
+    Press(form, "NextItem");
+    EXPECT_EQ(PaneText(), "edited|");
+    std::unique_ptr<BookFile> elsewhere;
+    EXPECT_EQ(files.OpenForReading(Path("Three (001).IDA"), Sharing::Shared, elsewhere).number,
+              error::PermissionDenied)
+        << "it is locked for editing";
+    EXPECT_EQ(files.OpenForReading(Path("Three.IDA"), Sharing::Locked, elsewhere), FileError{})
+        << "the old one is free";
+}
+
+TEST_F(SaveItemFormTest, save_openedSharedAndNoType_asksBoth)
+{
+    Start(WriteThree());
+    ModalScript script;
+    script.Answer(Reply::Ok)
+        .Do([](QWidget& chooser) { ChooseFile(chooser, "Out"); })
+        .Answer(Reply::Yes)
+        .Answer(Reply::Ok);
+    Press(form, "SaveItem");
+    EXPECT_EQ(script.Seen(), (Strings{AskShared, TheFileForm, AskType, Saved}));
+    EXPECT_EQ(Read("Out.IDA"), Read("Three.IDA"));
+    EXPECT_TRUE(global.book.LockBook);
+}
+
+TEST_F(SaveItemFormTest, save_existingName_refusesAndKeepsBoth)
+{
+    StartEdited();
+    Write("Out.IDA", "kept");
+    ModalScript script;
+    script.Do([](QWidget& chooser) { ChooseFile(chooser, "Out.IDA"); }).Answer(Reply::Ok);
+    Press(form, "SaveItem");
+    EXPECT_EQ(script.Seen(), (Strings{TheFileForm, "warning|Lodestar Advisor|The output file already exists, "
+                                                   "so I cannot save your book with this filename."}));
+    EXPECT_EQ(Read("Out.IDA"), "kept");
+    EXPECT_EQ(global.book.BookPath, Path("Three.IDA"));
+    EXPECT_EQ(global.book.TopicRecs(2).Text, "edited\r\n");
+    EXPECT_TRUE(global.book.BookChanged);
+}
+
+TEST_F(SaveItemFormTest, save_cancelledForm_changesNothing)
+{
+    StartEdited();
+    ModalScript script;
+    script.Escape();
+    Press(form, "SaveItem");
+    EXPECT_EQ(script.Seen(), Strings{TheFileForm});
+    EXPECT_TRUE(global.book.BookChanged);
+    EXPECT_EQ(PaneText(), "a");
+}
+
+TEST_F(SaveItemFormTest, save_readError_namesItAndTheEditsStay)
+{
+    StartEdited();
+    files.failure = error::DeviceIo;
+    files.readsBefore = 0;
+    ModalScript script;
+    script.Do([](QWidget& chooser) { ChooseFile(chooser, "Out.IDA"); }).Answer(Reply::Ok);
+    Press(form, "SaveItem");
+    EXPECT_EQ(script.Seen(),
+              (Strings{TheFileForm, "warning|Lodestar Advisor|Failed to read original text due to error #57: "
+                                    "Device I/O error"}));
+    EXPECT_EQ(Read("Out.IDA"), "(none)");
+    EXPECT_EQ(global.book.TopicRecs(2).Text, "edited\r\n");
+    EXPECT_TRUE(global.book.BookChanged);
+}
+
+TEST_F(SaveItemFormTest, save_slowDisk_showsABoxWhoseCancelRemovesThePart)
+{
+    std::string book = "LODESTAR BOOK V5.3\r\n[First]\r\nf\r\n";
+    for (int i = 0; i < 100; ++i) {
+        book += "[T]\r\n" + std::string(80000, 'x') + "\r\n";
+    }
+    Start(Write("Long.IDA", book));
+    global.book.LockBook = true;
+    global.book.BookChanged = true;
+    files.pause = 60;
+    ModalScript script;
+    script.Do([](QWidget& chooser) { ChooseFile(chooser, "Out.IDA"); }).Do([this](QWidget& box) {
+        EXPECT_EQ(box.objectName(), QStringLiteral("ProgressBox"));
+        EXPECT_EQ(box.findChild<QLabel*>()->text(), QStringLiteral("Writing Out.IDA"));
+        EXPECT_NE(Read("Out.IDA.part"), "(none)");
+        auto* cancel = box.findChild<QPushButton*>();
+        ASSERT_NE(cancel, nullptr);
+        QTest::mouseClick(cancel, Qt::LeftButton);
+    });
+    Press(form, "SaveItem");
+    files.pause = 0;
+    EXPECT_EQ(script.Seen(), (Strings{TheFileForm, "form|ProgressBox|Lodestar Advisor"}));
+    EXPECT_EQ(Read("Out.IDA"), "(none)");
+    EXPECT_EQ(Read("Out.IDA.part"), "(none)");
+    EXPECT_EQ(global.book.BookPath, Path("Long.IDA"));
+    EXPECT_TRUE(global.book.BookChanged);
+}
+
+TEST_F(SaveItemFormTest, save_missingFolder_saysSo)
+{
+    StartEdited();
+    ModalScript script;
+    script.Do([](QWidget& chooser) { ChooseFile(chooser, "none/Out.IDA"); }).Answer(Reply::Ok);
+    Press(form, "SaveItem");
+    EXPECT_EQ(script.Seen(),
+              (Strings{TheFileForm, "warning|Lodestar Advisor|Can't test for presence of output "
+                                    "file due to error #76: Path not found"}));
+}
+
+} // namespace
+} // namespace ls
