@@ -1,6 +1,7 @@
 #pragma once
 
 #include "advisor/AdvisorTables.h"
+#include "authoring/TopicFlags.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "files/FileDialog.h"
@@ -17,6 +18,7 @@ struct Global
     Settings settings;
     AdvisorTables advisor;
     FileDialog fileDialog;
+    TopicFlags topicFlags;
 };
 
 } // namespace ls

@@ -34,7 +34,8 @@ MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
       m_view(std::make_unique<MainFormView>(*this, *m_ui, global, m_seams, forms)),
       m_navigation(global.book, m_seams, *m_view),
       m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation),
-      m_save(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_commands)
+      m_save(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_commands),
+      m_topicCommands(global.book, global.topicFlags, m_seams, *m_view, m_navigation)
 {
     ConnectButtons();
     ConnectItems();
@@ -90,6 +91,9 @@ void MainForm::ConnectItems()
     connect(m_ui->OpenItem, &QAction::triggered, this, &MainForm::OpenItem_Click);
     connect(m_ui->SaveItem, &QAction::triggered, this, &MainForm::SaveItem_Click);
     connect(m_ui->ExitItem, &QAction::triggered, this, &MainForm::DoneButton_Click);
+    connect(m_ui->AddTopicItem, &QAction::triggered, this, &MainForm::AddTopicItem_Click);
+    connect(m_ui->DelTopicItem, &QAction::triggered, this, &MainForm::DelTopicItem_Click);
+    connect(m_ui->ReorderItem, &QAction::triggered, this, &MainForm::ReorderItem_Click);
     connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
     connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
     connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
@@ -221,6 +225,21 @@ void MainForm::OpenItem_Click()
 void MainForm::SaveItem_Click()
 {
     Run([this] { m_save.SaveItem_Click(); });
+}
+
+void MainForm::AddTopicItem_Click()
+{
+    Run([this] { m_topicCommands.AddTopicItem_Click(); });
+}
+
+void MainForm::DelTopicItem_Click()
+{
+    Run([this] { m_topicCommands.DelTopicItem_Click(); });
+}
+
+void MainForm::ReorderItem_Click()
+{
+    Run([this] { m_topicCommands.ReorderItem_Click(); });
 }
 
 void MainForm::VScroll1_Change()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "authoring/TopicCommands.h"
 #include "base/Seams.h"
 #include "files/FormSeams.h"
 #include "reader/BookCommands.h"
@@ -61,6 +62,9 @@ private:
     void NewItem_Click();
     void OpenItem_Click();
     void SaveItem_Click();
+    void AddTopicItem_Click();
+    void DelTopicItem_Click();
+    void ReorderItem_Click();
     void AlphaItem_Click();
     void ContentsItem_Click();
 
@@ -75,6 +79,7 @@ private:
     Navigation m_navigation;
     BookCommands m_commands;
     SaveItem m_save;
+    TopicCommands m_topicCommands;
     QTimer m_afterResize;
     bool m_activated = false;
     bool m_resizedMeanwhile = false;

@@ -2,6 +2,8 @@
 
 #include "app/FormProgress.h"
 #include "app/Global.h"
+#include "authoring/DelTopicForm.h"
+#include "authoring/MoveTopicsForm.h"
 #include "base/CodePage.h"
 #include "files/FileChooser.h"
 #include "reader/ButtonIcons.h"
@@ -129,6 +131,22 @@ void MainFormView::ShowFileForm()
 void MainFormView::ShowXrefForm()
 {
     XrefForm(&m_form, m_global.book, m_seams).exec();
+}
+
+// An added topic can be edited as soon as there is an editor.
+bool MainFormView::ShowTxEdForm()
+{
+    return false;
+}
+
+void MainFormView::ShowDelTopicForm()
+{
+    DelTopicForm(&m_form, m_global.book, m_global.topicFlags, Alphabetic()).exec();
+}
+
+void MainFormView::ShowMoveTopicsForm()
+{
+    MoveTopicsForm(&m_form, m_global.book, m_global.topicFlags, m_seams).exec();
 }
 
 std::unique_ptr<Progress> MainFormView::WatchScan()

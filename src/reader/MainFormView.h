@@ -43,6 +43,9 @@ public:
     void SetDefault(DefaultButton button) override;
     void ShowFileForm() override;
     void ShowXrefForm() override;
+    [[nodiscard]] bool ShowTxEdForm() override;
+    void ShowDelTopicForm() override;
+    void ShowMoveTopicsForm() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchSave(const std::string& path) override;
 

@@ -56,6 +56,15 @@ public:
     /// Shows the cross-reference view for the topic on show and returns when it is closed.
     virtual void ShowXrefForm() = 0;
 
+    /// Shows the text editor for the topic on show and returns when it is closed: true for Done.
+    [[nodiscard]] virtual bool ShowTxEdForm() = 0;
+
+    /// Shows the form that removes and restores topics and returns when it is closed.
+    virtual void ShowDelTopicForm() = 0;
+
+    /// Shows the form that moves topics and returns when it is closed.
+    virtual void ShowMoveTopicsForm() = 0;
+
     /// Told how far the scan of a long book has come, as long as the scan runs; nothing when nobody watches.
     [[nodiscard]] virtual std::unique_ptr<Progress> WatchScan() = 0;
 

@@ -13,53 +13,50 @@ namespace {
 
 constexpr std::string_view AfterNumber = ". ";
 
-// A topic that is shown, with what the list is sorted by.
-struct ShownName
+// A topic with what the list is sorted by.
+struct SortedName
 {
     std::string name;
     std::string upper;
     int number = 0;
 };
 
-std::vector<ShownName> NamesToShow(const Book& book)
+bool ComesBefore(const SortedName& a, const SortedName& b)
 {
-    std::vector<ShownName> names;
-    names.reserve(static_cast<std::size_t>(book.TopicCount));
+    if (const int order = a.upper.compare(b.upper); order != 0) {
+        return order < 0;
+    }
+    if (const int order = a.name.compare(b.name); order != 0) {
+        return order < 0;
+    }
+    return a.number < b.number;
+}
+
+std::string Title(const Book& book, int number)
+{
+    return WithoutBrackets(book.TopicNames(static_cast<std::size_t>(number)));
+}
+
+std::vector<int> NumbersToShow(const Book& book)
+{
+    std::vector<int> numbers;
     for (int number = 1; number <= book.TopicCount; ++number) {
-        const auto index = static_cast<std::size_t>(number);
-        if (!book.TopicRecs(index).Deleted) {
-            names.push_back({WithoutBrackets(book.TopicNames(index)), {}, number});
+        if (!book.TopicRecs(static_cast<std::size_t>(number)).Deleted) {
+            numbers.push_back(number);
         }
     }
-    return names;
+    return numbers;
 }
 
-// Without regard to case; names that differ only in case by their bytes, equal ones in the book's order.
-void SortByName(std::vector<ShownName>& names)
-{
-    for (ShownName& shown : names) {
-        shown.upper = UpperCase(shown.name);
-    }
-    std::sort(names.begin(), names.end(), [](const ShownName& a, const ShownName& b) {
-        if (const int order = a.upper.compare(b.upper); order != 0) {
-            return order < 0;
-        }
-        if (const int order = a.name.compare(b.name); order != 0) {
-            return order < 0;
-        }
-        return a.number < b.number;
-    });
-}
-
-int IndexToSelect(const Book& book, const std::vector<ShownName>& names)
+int IndexToSelect(const Book& book, const std::vector<int>& numbers)
 {
     const std::string wanted = WithoutBrackets(book.CurrentTopicName);
     int first = -1;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (names[i].name != wanted) {
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        if (Title(book, numbers[i]) != wanted) {
             continue;
         }
-        if (names[i].number == book.CurrentTopicNo) {
+        if (numbers[i] == book.CurrentTopicNo) {
             return static_cast<int>(i);
         }
         if (first < 0) {
@@ -69,31 +66,45 @@ int IndexToSelect(const Book& book, const std::vector<ShownName>& names)
     return first;
 }
 
-// "007. ": all numbers of one list are equally long, so that sorting them as texts keeps the book's order.
-std::string Numbered(std::size_t count, std::size_t width)
+} // namespace
+
+void SortByName(const Book& book, std::vector<int>& numbers)
 {
-    std::string number = std::to_string(count);
-    number.insert(0, width - std::min(width, number.size()), '0');
-    return number.append(AfterNumber);
+    std::vector<SortedName> names;
+    names.reserve(numbers.size());
+    for (const int number : numbers) {
+        std::string name = Title(book, number);
+        std::string upper = UpperCase(name);
+        names.push_back({std::move(name), std::move(upper), number});
+    }
+    std::sort(names.begin(), names.end(), ComesBefore);
+    std::transform(names.begin(), names.end(), numbers.begin(),
+                   [](const SortedName& sorted) { return sorted.number; });
 }
 
-} // namespace
+std::string ItemNumber(int number, std::size_t width)
+{
+    std::string text = std::to_string(number);
+    text.insert(0, width - std::min(width, text.size()), '0');
+    return text.append(AfterNumber);
+}
 
 TopicListModel FillTopicList(const Book& book, bool alphabetic)
 {
-    std::vector<ShownName> names = NamesToShow(book);
+    std::vector<int> numbers = NumbersToShow(book);
     if (alphabetic) {
-        SortByName(names);
+        SortByName(book, numbers);
     }
     TopicListModel list;
-    list.selected = IndexToSelect(book, names);
-    list.items.reserve(names.size());
+    list.selected = IndexToSelect(book, numbers);
+    list.items.reserve(numbers.size());
     // Deleted topics leave no gap in the numbering, but count for its width.
     const std::size_t width = std::to_string(static_cast<int>(book.TopicCount)).size();
-    for (ShownName& shown : names) {
-        std::string text = alphabetic ? std::string() : Numbered(list.items.size() + 1, width);
-        text.append(shown.name);
-        list.items.push_back({std::move(text), shown.number});
+    for (const int number : numbers) {
+        const int count = static_cast<int>(list.items.size()) + 1;
+        std::string text = alphabetic ? std::string() : ItemNumber(count, width);
+        text.append(Title(book, number));
+        list.items.push_back({std::move(text), number});
     }
     return list;
 }

@@ -63,6 +63,24 @@ public:
             onXrefForm();
         }
     }
+    [[nodiscard]] bool ShowTxEdForm() override
+    {
+        ++textForms;
+        return onTxEdForm && onTxEdForm();
+    }
+    void ShowDelTopicForm() override
+    {
+        ++delForms;
+        if (onDelTopicForm) {
+            onDelTopicForm();
+        }
+    }
+    void ShowMoveTopicsForm() override
+    {
+        if (onMoveTopicsForm) {
+            onMoveTopicsForm();
+        }
+    }
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override
     {
         ++scans;
@@ -103,6 +121,11 @@ public:
     std::function<std::unique_ptr<Progress>()> saveProgress;
     std::function<void()> onFileForm; ///< what the user does in the file form
     std::function<void()> onXrefForm; ///< what the user does in the cross-reference view
+    int textForms = 0;
+    int delForms = 0;
+    std::function<bool()> onTxEdForm;       ///< what the user does in the text editor; true for Done
+    std::function<void()> onDelTopicForm;   ///< what the user does in the form that removes topics
+    std::function<void()> onMoveTopicsForm; ///< what the user does in the form that moves topics
 };
 
 } // namespace ls::test

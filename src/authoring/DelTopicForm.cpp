@@ -1,0 +1,55 @@
+#include "authoring/DelTopicForm.h"
+
+#include "app/FormFont.h"
+#include "authoring/TopicChoices.h"
+#include "authoring/TopicFlags.h"
+#include "authoring/TopicTable.h"
+#include "base/CodePage.h"
+#include "book/Book.h"
+#include "ui_DelTopicForm.h"
+
+#include <vector>
+
+namespace ls {
+
+DelTopicForm::DelTopicForm(QWidget* parent, Book& book, TopicFlags& flags, bool alphabetic)
+    : QDialog(parent), m_ui(std::make_unique<Ui::DelTopicForm>()), m_book(book), m_flags(flags)
+{
+    setFont(FormFont());
+    m_ui->setupUi(this);
+    connect(m_ui->OKButton, &QPushButton::clicked, this, &DelTopicForm::OKButton_Click);
+    connect(m_ui->CancelButton, &QPushButton::clicked, this, &DelTopicForm::reject);
+    Form_Load(alphabetic);
+}
+
+DelTopicForm::~DelTopicForm() = default;
+
+// The list stands at the current topic, which the author is most likely to be after.
+void DelTopicForm::Form_Load(bool alphabetic)
+{
+    QListWidgetItem* current = nullptr;
+    for (const RemovalEntry& entry : RemovalEntries(m_book, alphabetic)) {
+        auto* item = new QListWidgetItem(QString::fromStdString(FromBook(entry.text)), m_ui->TopicListBox);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+        item->setCheckState(entry.checked ? Qt::Checked : Qt::Unchecked);
+        item->setData(Qt::UserRole, entry.itemData);
+        if (entry.itemData == m_book.CurrentTopicNo || current == nullptr) {
+            current = item;
+        }
+    }
+    m_ui->TopicListBox->setCurrentItem(current);
+}
+
+void DelTopicForm::OKButton_Click()
+{
+    std::vector<RemovalChoice> choices;
+    for (int row = 0; row < m_ui->TopicListBox->count(); ++row) {
+        const QListWidgetItem* item = m_ui->TopicListBox->item(row);
+        choices.push_back({item->data(Qt::UserRole).toInt(), item->checkState() == Qt::Checked});
+    }
+    SetRemoved(m_book, choices);
+    m_flags.TopicListStale = true;
+    accept();
+}
+
+} // namespace ls

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class DelTopicForm;
+}
+
+namespace ls {
+
+struct Book;
+struct TopicFlags;
+
+/// Removes and restores topics: every topic of the book with a box, checked when it is removed.
+class DelTopicForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// With the topics in the order of the main window's list. O.K. does what the boxes say and sets
+    /// `TopicListStale`; Cancel changes nothing.
+    DelTopicForm(QWidget* parent, Book& book, TopicFlags& flags, bool alphabetic);
+    ~DelTopicForm() override;
+
+private:
+    void Form_Load(bool alphabetic);
+    void OKButton_Click();
+
+    std::unique_ptr<Ui::DelTopicForm> m_ui;
+    Book& m_book;
+    TopicFlags& m_flags;
+};
+
+} // namespace ls

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/Seams.h"
+
+#include <optional>
+#include <string>
+
+namespace ls {
+
+struct Book;
+struct TopicFlags;
+class MainView;
+class Navigation;
+
+/// The commands of the main window that change which topics a book has, and their order. All is done in
+/// memory, and becomes permanent when the book is saved.
+class TopicCommands
+{
+public:
+    TopicCommands(Book& book, TopicFlags& flags, const Seams& seams, MainView& view, Navigation& navigation)
+        : m_book(book), m_flags(flags), m_seams(seams), m_view(view), m_navigation(navigation)
+    {
+    }
+
+    /// Asks for a name, adds a topic at the end of the book, and opens the text editor on it.
+    void AddTopicItem_Click();
+
+    /// Lets the user remove topics and restore removed ones. A topic on show that was removed leaves the
+    /// display.
+    void DelTopicItem_Click();
+
+    /// Lets the user move topics. After a move the list is refilled in either order: its entries stand for
+    /// other numbers.
+    void ReorderItem_Click();
+
+private:
+    [[nodiscard]] std::optional<std::string> AskForName();
+    void Refuse(const std::string& message);
+    void DropRemovedTopic();
+
+    Book& m_book;
+    TopicFlags& m_flags;
+    Seams m_seams;
+    MainView& m_view;
+    Navigation& m_navigation;
+};
+
+} // namespace ls

@@ -1,0 +1,68 @@
+// Add Topic of the real main window.
+
+#include "gui/MainFormFixture.h"
+
+#include <QLineEdit>
+
+namespace ls {
+namespace {
+
+struct AddTopicItemTest : MainFormFixture
+{
+};
+
+TEST_F(AddTopicItemTest, refusedName_saysSoAndChangesNothing)
+{
+    Start(WriteThree());
+    test::ModalScript script;
+    script.Enter(" A ");
+    script.Answer(Reply::Ok);
+    test::Press(form, "AddTopicItem");
+    EXPECT_EQ(script.Seen(), (Strings{"input|Lodestar Advisor|Topic Name:|",
+                                      "warning|Lodestar Advisor|Sorry, you already have a chapter with this "
+                                      "name."}));
+    EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. B", "3. C"}));
+    EXPECT_EQ(PaneText(), "a");
+    EXPECT_FALSE(global.book.BookChanged);
+}
+
+TEST_F(AddTopicItemTest, cancelled_changesNothing)
+{
+    Start(WriteThree());
+    test::ModalScript script;
+    script.Enter(std::nullopt);
+    test::Press(form, "AddTopicItem");
+    EXPECT_EQ(global.book.TopicCount, 3);
+}
+
+TEST_F(AddTopicItemTest, newName_isListedLastSelectedAndShown)
+{
+    Start(WriteThree());
+    test::ModalScript script;
+    script.Do([](QWidget& box) {
+        box.findChild<QLineEdit*>()->setText(QStringLiteral("Caf\u00E9"));
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    test::Press(form, "AddTopicItem");
+    EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. B", "3. C", "4. Caf\xC3\xA9"}));
+    EXPECT_EQ(Get<QComboBox>("TopicList").currentIndex(), 3);
+    EXPECT_EQ(PaneText(), "Insert text here.");
+    test::TakePicture(form, "AddTopic");
+    global.book.BookChanged = false; // else the window asks when it closes
+}
+
+TEST_F(AddTopicItemTest, nameWithAPastedLineEnd_isOneLine)
+{
+    Start(WriteThree());
+    test::ModalScript script;
+    script.Do([](QWidget& box) {
+        box.findChild<QLineEdit*>()->setText(QStringLiteral("One\nTwo\n"));
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    test::Press(form, "AddTopicItem");
+    EXPECT_EQ(global.book.TopicNames(4), "[One Two]");
+    global.book.BookChanged = false;
+}
+
+} // namespace
+} // namespace ls
