@@ -78,6 +78,7 @@ void MainForm::ConnectButtons()
     connect(m_ui->GoToButton, &QAbstractButton::clicked, this, &MainForm::GoToButton_Click);
     connect(m_ui->BackButton, &QAbstractButton::clicked, this, &MainForm::PrevTopic_Click);
     connect(m_ui->NextButton, &QAbstractButton::clicked, this, &MainForm::NextItem_Click);
+    connect(m_ui->AdvisorButton, &QAbstractButton::clicked, this, &MainForm::AdvisorButton_Click);
     connect(m_ui->XRButton, &QAbstractButton::clicked, this, &MainForm::XRButton_Click);
     connect(m_ui->DoneButton, &QAbstractButton::clicked, this, &MainForm::DoneButton_Click);
     connect(m_ui->TopicList, &QComboBox::currentIndexChanged, this, &MainForm::TopicList_Change);
@@ -185,6 +186,11 @@ void MainForm::ShowAgain()
 void MainForm::GoToButton_Click()
 {
     Run([this] { m_navigation.GoToButton_Click(); });
+}
+
+void MainForm::AdvisorButton_Click()
+{
+    Run([this] { m_navigation.AdvisorButton_Click(); });
 }
 
 void MainForm::XRButton_Click()

@@ -53,6 +53,7 @@ private:
 
     void GoToButton_Click();
     void NextItem_Click();
+    void AdvisorButton_Click();
     void XRButton_Click();
     void PrevTopic_Click();
     void DoneButton_Click();

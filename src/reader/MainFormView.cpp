@@ -1,5 +1,6 @@
 #include "reader/MainFormView.h"
 
+#include "advisor/AdvForm.h"
 #include "app/FormProgress.h"
 #include "app/Global.h"
 #include "authoring/DelTopicForm.h"
@@ -126,6 +127,11 @@ void MainFormView::SetDefault(DefaultButton button)
 void MainFormView::ShowFileForm()
 {
     ls::ShowFileForm(&m_form, m_global, m_seams, m_forms);
+}
+
+void MainFormView::ShowAdvForm()
+{
+    AdvForm(&m_form, m_global, m_seams).Run();
 }
 
 void MainFormView::ShowXrefForm()

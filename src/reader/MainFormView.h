@@ -46,6 +46,7 @@ public:
     [[nodiscard]] bool ShowTxEdForm() override;
     void ShowDelTopicForm() override;
     void ShowMoveTopicsForm() override;
+    void ShowAdvForm() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchSave(const std::string& path) override;
 

@@ -53,6 +53,9 @@ public:
     /// Shows the file form on the shared file-dialog variables and returns when it is closed.
     virtual void ShowFileForm() = 0;
 
+    /// Runs the advisor on the topic on show and returns when its window is closed.
+    virtual void ShowAdvForm() = 0;
+
     /// Shows the cross-reference view for the topic on show and returns when it is closed.
     virtual void ShowXrefForm() = 0;
 

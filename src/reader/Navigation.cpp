@@ -100,6 +100,13 @@ void Navigation::GoToItem(int index)
     GoToButton_Click();
 }
 
+void Navigation::AdvisorButton_Click()
+{
+    if (m_book.File && m_book.LogicPos > 0 && !m_book.CurrentTopicName.empty()) {
+        m_view.ShowAdvForm();
+    }
+}
+
 void Navigation::XRButton_Click()
 {
     const std::string before = m_book.CurrentTopicName;

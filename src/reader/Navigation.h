@@ -34,6 +34,9 @@ public:
     void NextItem_Click();
     void PrevTopic_Click();
 
+    /// Runs the advisor on the topic on show, where it has a logic block in the file.
+    void AdvisorButton_Click();
+
     /// Shows the references of the topic on show, and goes to the topic that was chosen there. One that is on
     /// show already is shown again: its bare title differs from the bracketed one.
     void XRButton_Click();

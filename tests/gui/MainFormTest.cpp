@@ -284,7 +284,7 @@ TEST_F(MainFormTest, topicButtons_followTheTopic)
     Press(form, "NextButton");
     EXPECT_FALSE(Visible("XRButton"));
     EXPECT_TRUE(Visible("AdvisorButton"));
-    EXPECT_FALSE(Get<QPushButton>("AdvisorButton").isEnabled());
+    EXPECT_TRUE(Get<QPushButton>("AdvisorButton").isEnabled());
     Select(0);
     EXPECT_FALSE(Visible("XRButton"));
     EXPECT_FALSE(Visible("AdvisorButton"));

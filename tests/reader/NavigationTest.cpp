@@ -335,6 +335,21 @@ TEST_F(NavigationTest, goTo_moreLinesThanCanBeCounted_cutsThemAndTellsOnce)
     EXPECT_EQ(Boxes(), Strings{});
 }
 
+TEST_F(NavigationTest, advisor_topicWithABlock_runsIt)
+{
+    Open(test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "<IXML>", "<LOGIC>"}));
+    navigation.AdvisorButton_Click();
+    EXPECT_EQ(view.advForms, 1);
+}
+
+TEST_F(NavigationTest, advisor_topicWithoutABlockOrNothingOnShow_doesNothing)
+{
+    navigation.AdvisorButton_Click();
+    OpenThree();
+    navigation.AdvisorButton_Click();
+    EXPECT_EQ(view.advForms, 0);
+}
+
 TEST_F(NavigationTest, xref_closedWithoutGo_changesNothing)
 {
     OpenThree();

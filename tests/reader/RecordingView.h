@@ -57,6 +57,7 @@ public:
             onFileForm();
         }
     }
+    void ShowAdvForm() override { ++advForms; }
     void ShowXrefForm() override
     {
         if (onXrefForm) {
@@ -116,6 +117,7 @@ public:
     int fills = 0;
     int showings = 0;
     int fileForms = 0;
+    int advForms = 0;
     int scans = 0;
     std::string saved; ///< the file whose writing was watched last
     std::function<std::unique_ptr<Progress>()> saveProgress;

@@ -1,0 +1,115 @@
+#include "advisor/AdvForm.h"
+
+#include "app/FormFont.h"
+#include "app/Global.h"
+#include "base/CodePage.h"
+#include "base/ProgramEnd.h"
+#include "ui_AdvForm.h"
+
+#include <QFontMetrics>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace ls {
+
+namespace {
+
+constexpr int LinesShownWhole = 15; // of a question, without scrolling
+
+// Lines end as the text box ends them; book text as its characters.
+QString Shown(const std::string& bookText)
+{
+    return QString::fromStdString(FromBook(bookText));
+}
+
+} // namespace
+
+AdvForm::AdvForm(QWidget* parent, Global& global, const Seams& seams)
+    : QDialog(parent), m_ui(std::make_unique<Ui::AdvForm>()), m_seams(seams),
+      m_dialog(global.book, global.advisor, m_seams, *this)
+{
+    setFont(FormFont());
+    m_ui->setupUi(this);
+    SetHeightForLines(LinesShownWhole);
+    connect(m_ui->NextButton, &QPushButton::clicked, this, &AdvForm::NextButton_Click);
+}
+
+AdvForm::~AdvForm() = default;
+
+// Everything but the text keeps its height; a display that is too low for the whole gets what it can hold.
+void AdvForm::SetHeightForLines(int lines)
+{
+    ensurePolished();
+    const QPlainTextEdit& text = *m_ui->MessageBox;
+    const QMargins frame = text.contentsMargins();
+    const int margin = static_cast<int>(text.document()->documentMargin());
+    const int wanted = lines * QFontMetrics(text.font()).lineSpacing() + 2 * margin + frame.top() +
+                       frame.bottom() + 2 * text.frameWidth();
+    const int others = layout()->minimumSize().height() - text.minimumSizeHint().height();
+    resize(width(), std::max(height(), wanted + others));
+}
+
+void AdvForm::Run()
+{
+    m_dialog.Form_Load();
+    if (!m_seams.end.Ended()) {
+        exec();
+    }
+}
+
+void AdvForm::ShowQuestion(const Question& question)
+{
+    ShowText(question.text);
+    m_choices = question.choices;
+    m_ui->AnswerCombo->clear();
+    for (const std::string& choice : m_choices) {
+        m_ui->AnswerCombo->addItem(Shown(choice));
+    }
+    m_ui->AnswerCombo->setCurrentIndex(0);
+    m_ui->AnswerCombo->setFocus();
+}
+
+void AdvForm::ShowAdvice(const std::string& /*identifier*/, const std::string& text)
+{
+    ShowText(text);
+    FocusNext(); // before the list with the focus goes
+    m_ui->AnswerCombo->hide();
+    m_ui->AnswerLabel->hide();
+}
+
+void AdvForm::ShowText(const std::string& text)
+{
+    m_ui->MessageBox->setPlainText(Shown(text));
+}
+
+void AdvForm::SetButtonCaption(const std::string& caption)
+{
+    m_ui->NextButton->setText(Shown(caption));
+    if (m_dialog.Over()) {
+        m_ui->AnswerCombo->setEnabled(false); // the only action left is the button
+        FocusNext();
+    }
+}
+
+void AdvForm::FocusNext()
+{
+    m_ui->NextButton->setFocus();
+}
+
+void AdvForm::Unload()
+{
+    accept();
+}
+
+void AdvForm::NextButton_Click()
+{
+    const int row = m_ui->AnswerCombo->currentIndex();
+    const bool chosen = row >= 0 && static_cast<std::size_t>(row) < m_choices.size();
+    m_dialog.NextButton_Click(chosen ? m_choices[static_cast<std::size_t>(row)] : std::string());
+    if (m_seams.end.Ended()) {
+        accept();
+    }
+}
+
+} // namespace ls
