@@ -92,6 +92,15 @@ TEST(TaggedTextLimit, longerText_isCutAtLastWholeLineThatFits)
     EXPECT_EQ(TextOf("<AV ID=GO>" + std::string(32000, 'x') + "</AV>"), std::string(32000, 'x'));
 }
 
+TEST(TaggedTextLimit, blanksOfALine_countThoughTheyAreTrimmed)
+{
+    const std::string line(31998, 'x');
+    EXPECT_EQ(TextOf("<AV ID=GO>" + line + "  </AV>"), line);
+    EXPECT_EQ(TextOf("<AV ID=GO>" + line + "   </AV>"), "???");
+    EXPECT_EQ(TextOf("<AV ID=GO>" + line + "\r\n   </AV>"), line + "???");
+    EXPECT_EQ(TextOf("<AV ID=GO>" + line + "</AV>" + std::string(9, 'y')), line);
+}
+
 class DefinitionsTest : public testing::Test
 {
 protected:
