@@ -81,7 +81,8 @@ void ClearRules(AdvisorTables& tables);
 /// The whole state as text, a line for each element, for tests and traces.
 [[nodiscard]] std::string Serialize(const AdvisorTables& tables);
 
-/// Adds an element to a table behind its count; false, and nothing changed, when the count is at its limit.
+/// Adds an element to a table behind its count; false, and nothing changed, when the count is at its limit. A
+/// full table becomes `step` elements larger.
 template <typename T>
 [[nodiscard]] bool Append(Array1<T>& table, Count16& count, T element, std::size_t step)
 {
@@ -89,7 +90,7 @@ template <typename T>
         return false;
     }
     const auto number = static_cast<std::size_t>(static_cast<int>(count));
-    table.Grow(number, step);
+    table.Grow(number, step - 1);
     table(number) = std::move(element);
     return true;
 }

@@ -233,8 +233,21 @@ TEST_F(InferenceTest, buildCandidates_growsInSteps)
     Set({rule}, {"AV"});
     engine.BuildCandidates();
     EXPECT_EQ(tables.CandidateCount, 21);
-    EXPECT_EQ(tables.Candidates.UpperBound(), 21U);
+    EXPECT_EQ(tables.Candidates.UpperBound(), 40U);
     EXPECT_EQ(Candidates().back(), "V21 x1");
+}
+
+TEST_F(InferenceTest, goalsAndAnswers_growInSteps)
+{
+    Set({"AV(GO)=X(1)Y(1)", "X(1)=Y(1)"}, {"AV"});
+    EXPECT_EQ(tables.LogicRules.UpperBound(), 50U);
+    for (int i = 1; i <= 10; ++i) {
+        EXPECT_EQ(tables.Targets.UpperBound(), 10U);
+        engine.RecordAnswer("X", "? - unsure", 1);
+    }
+    EXPECT_EQ(tables.Targets.UpperBound(), 20U);
+    engine.RecordAnswer("Z", "1", 1);
+    EXPECT_EQ(tables.Answers.UpperBound(), 20U);
 }
 
 TEST_F(InferenceTest, pickNextVariable_mostFrequentThenFirst)

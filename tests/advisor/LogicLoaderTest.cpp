@@ -369,6 +369,18 @@ std::string ManyLines(const std::string& line, int count)
     return text;
 }
 
+TEST_F(LogicLoaderTest, tables_growInSteps)
+{
+    world.Open("[A]\r\n<IXML>\r\n<LOGIC>\r\n" + ManyLines("AV(1)=A(B)", 51) + "<DEFINITIONS>\r\n" +
+               ManyLines("<Q ID=A>", 21));
+    world.Show("A");
+    ASSERT_TRUE(AdvisorReader(world).Load());
+    EXPECT_EQ(tables.LogicRules.UpperBound(), 100U);
+    EXPECT_EQ(tables.VarTopics.UpperBound(), 40U);
+    EXPECT_EQ(tables.LogicTopics.UpperBound(), 20U);
+    EXPECT_EQ(tables.Targets.UpperBound(), 10U);
+}
+
 TEST_F(LogicLoaderTest, rules_asManyAsFit_load)
 {
     world.Open("[A]\r\n<IXML>\r\n<LOGIC>\r\n" + ManyLines("AV(1)=A(B)", 32767) + "<DEFINITIONS>\r\n");
