@@ -125,10 +125,16 @@ private:
 bool ShowForAdvisor(Book& book, const Seams& seams, const std::string& title)
 {
     constexpr int anyWidth = 80; // the lines are not used
-    std::string name = ToBook(title).value_or(std::string());
+    const std::optional<std::string> bookTitle = ToBook(title);
+    book.LogicPos = 0;
+    if (!bookTitle && !book.IsPlainText()) {
+        // No topic can have a character in its name that no book can hold.
+        seams.messages.MsgBox("Topic [" + FromPath(title) + "] was not found.", Icon::Warning);
+        return false;
+    }
+    std::string name = bookTitle.value_or(std::string());
     Count16 number = 0;
     ShownTopic shown;
-    book.LogicPos = 0;
     if (book.IsPlainText() || ShowTopic(book, seams, name, number, anyWidth, shown) != ShowResult::Shown) {
         return false;
     }

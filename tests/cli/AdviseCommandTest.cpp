@@ -145,6 +145,32 @@ TEST_F(Advise, unknownTopic_isTold)
                    "]\n");
 }
 
+TEST_F(Advise, titleThatNoBookCanHold_isToldAsItWasGiven)
+{
+    EXPECT_EQ(Run({"advise", "a.IDA", "\xE6\x97\xA5"}), 1);
+    EXPECT_EQ(err, "warning: Topic [\xE6\x97\xA5] was not found.\n");
+    EXPECT_EQ(out, "Advisor: \xE6\x97\xA5\nThe topic has no advisor.\n");
+}
+
+TEST_F(Advise, readErrorAtAnyMoment_endsWithThree)
+{
+    int reads = 0;
+    int failing = 0; // the number of the first read that fails
+    files.fail = [&](const std::string& operation) {
+        const bool isRead = operation.rfind("read", 0) == 0;
+        reads += isRead ? 1 : 0;
+        return isRead && failing != 0 && reads >= failing ? error::DeviceIo : 0;
+    };
+    EXPECT_EQ(Run({"advise", "a.IDA", "Car Trouble", "--answers", "NO"}), 0);
+    const int all = reads;
+    ASSERT_GT(all, 3);
+    for (failing = 1; failing <= all; ++failing) {
+        reads = 0;
+        EXPECT_EQ(Run({"advise", "a.IDA", "Car Trouble", "--answers", "NO"}), 3) << failing;
+        EXPECT_NE(err.find("57"), std::string::npos) << failing << ": " << err;
+    }
+}
+
 TEST_F(Advise, failedLoad_endsWithOne)
 {
     EXPECT_EQ(Run({"advise", "a.IDA", "Broken"}), 1);
