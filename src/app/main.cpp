@@ -48,9 +48,10 @@ int main(int argc, char** argv)
     const std::unique_ptr<ls::Processes> processes = ls::MakeProcesses();
     ls::FormMessages messages(global.end);
     const std::unique_ptr<ls::Volumes> volumes = ls::MakeVolumes();
+    const std::unique_ptr<ls::Registry> registry = ls::MakeRegistry(*processes);
     const std::unique_ptr<ls::DdeServer> ddeServer = ls::MakeDdeServer();
     const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
-    ls::MainForm form(global, seams, {*volumes, *ddeServer});
+    ls::MainForm form(global, seams, {*volumes, *ddeServer, *registry});
     messages.SetParent(&form);
     form.Form_Load(ls::ReadCommandLine(argc, argv, seams));
     if (!global.end.Ended()) {

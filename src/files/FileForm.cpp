@@ -4,6 +4,7 @@
 #include "app/Global.h"
 #include "base/DdeServer.h"
 #include "base/ProgramEnd.h"
+#include "browser/HelpPages.h"
 #include "files/FileChooser.h"
 #include "files/FileFormRules.h"
 #include "files/OpenForm.h"
@@ -22,6 +23,7 @@ namespace ls {
 namespace {
 
 constexpr int TimerMilliseconds = 10;
+constexpr const char* HelpPage = "Lodestar_Open.htm";
 
 } // namespace
 
@@ -51,6 +53,7 @@ void FileForm::ConnectControls()
     connect(m_ui->OKButton, &QPushButton::clicked, this, &FileForm::OKButton_Click);
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &FileForm::reject);
     connect(m_ui->BrowseButton, &QPushButton::clicked, this, &FileForm::BrowseButton_Click);
+    connect(m_ui->HelpButton, &QPushButton::clicked, this, &FileForm::HelpButton_Click);
     connect(m_timer1, &QTimer::timeout, this, &FileForm::Timer1_Timer);
 }
 
@@ -66,7 +69,7 @@ void FileForm::Form_Load()
     m_ui->DefaultLabel->setText(PathText(view.defaultLabel));
     m_ui->InfoButton->setVisible(view.showInfo);
     m_ui->InfoButton->setEnabled(false); // until there is a form for the properties
-    m_ui->HelpButton->setEnabled(false); // until there is a page to show
+    m_ui->HelpButton->setEnabled(HasHelpPage(HelpPage, m_seams));
     if (!view.showSharing) {
         HideSharing();
     }
@@ -147,10 +150,24 @@ void FileForm::BrowseButton_Click()
     SetName(name);
 }
 
+void FileForm::HelpButton_Click()
+{
+    ShowHelpPage(HelpPage, m_seams, m_forms.registry, [this](const std::string& startPath) {
+        FileDialog browser; // the file that the form asks for is another matter
+        browser.FileMode = "R";
+        browser.ChosenFullPath = startPath;
+        OpenForm(this, browser, m_seams, m_forms.volumes, m_global.book.WorkDir).exec();
+        return browser.ChosenFullPath;
+    });
+    if (m_seams.end.Ended()) {
+        reject();
+    }
+}
+
 bool FileForm::Form_LinkExecute(const std::string& command)
 {
     const bool accepted = m_remote.LinkExecute(command);
-    if (m_remote.TimerEnabled()) {
+    if (accepted) { // a refused one must not put off the one that is pending
         m_timer1->start();
     }
     return accepted;

@@ -42,6 +42,7 @@ private:
     void Form_Resize();
     void OKButton_Click();
     void BrowseButton_Click();
+    void HelpButton_Click();
     bool Form_LinkExecute(const std::string& command);
     void Timer1_Timer();
     [[nodiscard]] bool Ready() const;

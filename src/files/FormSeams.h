@@ -3,6 +3,7 @@
 namespace ls {
 
 class DdeServer;
+class Registry;
 class Volumes;
 
 /// What only the forms need from the running system.
@@ -10,6 +11,7 @@ struct FormSeams
 {
     Volumes& volumes;
     DdeServer& ddeServer;
+    Registry& registry;
 };
 
 } // namespace ls

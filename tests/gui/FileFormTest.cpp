@@ -4,7 +4,9 @@
 #include "base/DdeServer.h"
 #include "base/Volumes.h"
 #include "gui/Controls.h"
+#include "gui/ModalScript.h"
 #include "support/RecordingDde.h"
+#include "support/RecordingRegistry.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QTimer>
 
 namespace ls {
 namespace {
@@ -32,6 +35,7 @@ struct FileFormTest : testing::Test
     test::TestSeams world;
     FixedVolumes volumes;
     test::RecordingDde dde;
+    test::RecordingRegistry registry;
     Global global;
     std::unique_ptr<FileForm> form;
 
@@ -52,7 +56,7 @@ struct FileFormTest : testing::Test
 
     void Load()
     {
-        form = std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde});
+        form = std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde, registry});
         test::ShowActive(*form);
     }
 
@@ -267,10 +271,68 @@ TEST_F(FileFormTest, closed_takesNoMoreCommands)
     EXPECT_FALSE(dde.handler);
 }
 
+TEST_F(FileFormTest, help_noPage_isDisabled)
+{
+    Load();
+    EXPECT_FALSE(Find<QPushButton>(*form, "HelpButton")->isEnabled());
+}
+
+TEST_F(FileFormTest, help_page_opensInTheBrowser)
+{
+    world.files["/program/Lodestar_Open.htm"] = "";
+    registry.RegisterForUser(".HTM", "page", "/usr/bin/web");
+    Load();
+    test::Press(*form, "HelpButton");
+    EXPECT_EQ(world.processes.started, Strings{"/usr/bin/web /program/Lodestar_Open.htm"});
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(FileFormTest, help_noBrowser_selectorFindsOneAndTheNameStays)
+{
+    world.files["/program/Lodestar_Open.htm"] = "";
+    world.files["/usr/bin/web"] = "";
+    Load();
+    world.messages.replies = {Reply::Yes};
+    test::ModalScript script;
+    script.Do([](QWidget& selector) {
+        test::Type(selector, "TextBox", QStringLiteral("/usr/bin/web"));
+        test::Press(selector, "OKButton");
+    });
+    test::Press(*form, "HelpButton");
+    EXPECT_EQ(script.Seen(), Strings{"form|OpenForm|LSAdvisor File Selector"});
+    EXPECT_EQ(world.processes.started, Strings{"/usr/bin/web /program/Lodestar_Open.htm"});
+    EXPECT_EQ(Name(), QStringLiteral("/books/A.IDA"));
+    EXPECT_EQ(global.fileDialog.ChosenFullPath, "");
+}
+
+TEST_F(FileFormTest, help_registryFault_closesTheForm)
+{
+    world.files["/program/Lodestar_Open.htm"] = "";
+    registry.keys["HKCU\\SOFTWARE\\Classes\\.HTM"] = std::nullopt;
+    Load();
+    test::Press(*form, "HelpButton");
+    EXPECT_TRUE(world.end.Ended());
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(FileFormTest, push_commandsThatAreRefused_doNotPutOffTheFirst)
+{
+    Load();
+    EXPECT_TRUE(dde.handler("PUSH CancelButton"));
+    QTimer hammer;
+    QObject::connect(&hammer, &QTimer::timeout, &hammer, [this] {
+        if (dde.handler) {
+            EXPECT_FALSE(dde.handler("PUSH CancelButton") && form->isVisible());
+        }
+    });
+    hammer.start(0);
+    EXPECT_TRUE(test::WaitFor([this] { return !form->isVisible(); }));
+}
+
 TEST_F(FileFormTest, otherMode_endsTheProgramSilently)
 {
     global.fileDialog.FileMode = "X";
-    form = std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde});
+    form = std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde, registry});
     EXPECT_TRUE(world.end.Ended());
     EXPECT_TRUE(world.messages.boxes.empty());
 }

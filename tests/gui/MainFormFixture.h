@@ -11,6 +11,7 @@
 #include "render/ReadingPane.h"
 #include "support/RecordingDde.h"
 #include "support/RecordingProcesses.h"
+#include "support/RecordingRegistry.h"
 #include "support/TestSeams.h"
 
 #include <QAbstractItemView>
@@ -157,7 +158,8 @@ protected:
     Seams seams{files, messages, processes, global.end, NativePaths()};
     std::unique_ptr<Volumes> volumes = MakeVolumes();
     test::RecordingDde dde;
-    MainForm form{global, seams, {*volumes, dde}};
+    test::RecordingRegistry registry;
+    MainForm form{global, seams, {*volumes, dde, registry}};
 };
 
 } // namespace ls

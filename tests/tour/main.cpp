@@ -30,7 +30,8 @@ bool TakeTour(const QDir& pictures, const std::vector<std::string>& arguments)
     const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
     const auto volumes = ls::MakeVolumes();
     const auto ddeServer = ls::MakeDdeServer();
-    ls::MainForm form(global, seams, {*volumes, *ddeServer});
+    const auto registry = ls::MakeRegistry(*processes);
+    ls::MainForm form(global, seams, {*volumes, *ddeServer, *registry});
     messages.SetParent(&form);
     ls::Tour tour(form, pictures);
     form.Form_Load(ls::ParseArguments(arguments, seams));
