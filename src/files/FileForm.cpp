@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QCompleter>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QStyle>
 
 #include <algorithm>
@@ -136,11 +137,26 @@ void FileForm::OKButton_Click()
     }
 }
 
+// Events go on while the selector reads its first folder, before it stands over this form: until it is closed
+// nothing here may act.
+void FileForm::ShowSelector(FileDialog& dialog)
+{
+    const QScopedValueRollback<bool> selecting(m_selecting, true);
+    OpenForm(this, dialog, m_seams, m_forms.volumes, m_global.book.WorkDir).exec();
+}
+
+void FileForm::reject()
+{
+    if (!m_selecting) {
+        QDialog::reject();
+    }
+}
+
 void FileForm::BrowseButton_Click()
 {
     FileDialog& dialog = m_global.fileDialog;
     dialog.ChosenFullPath = dialog.SearchSpec;
-    OpenForm(this, dialog, m_seams, m_forms.volumes, m_global.book.WorkDir).exec();
+    ShowSelector(dialog);
     if (m_seams.end.Ended()) {
         reject();
         return;
@@ -156,7 +172,7 @@ void FileForm::HelpButton_Click()
         FileDialog browser; // the file that the form asks for is another matter
         browser.FileMode = "R";
         browser.ChosenFullPath = startPath;
-        OpenForm(this, browser, m_seams, m_forms.volumes, m_global.book.WorkDir).exec();
+        ShowSelector(browser);
         return browser.ChosenFullPath;
     });
     if (m_seams.end.Ended()) {
@@ -176,7 +192,7 @@ bool FileForm::Form_LinkExecute(const std::string& command)
 // Whether the form can take a click: it is shown, enabled, and no box or form stands over it.
 bool FileForm::Ready() const
 {
-    return isVisible() && isEnabled() && QApplication::activeModalWidget() == this;
+    return isVisible() && isEnabled() && !m_selecting && QApplication::activeModalWidget() == this;
 }
 
 void FileForm::Timer1_Timer()

@@ -16,6 +16,7 @@ class FileForm;
 
 namespace ls {
 
+struct FileDialog;
 struct Global;
 
 /// The file form: asks for the name of a book to open or to save. While it is shown, other programs can press
@@ -31,6 +32,7 @@ public:
 
 public Q_SLOTS:
     void accept() override { OKButton_Click(); }
+    void reject() override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -43,6 +45,7 @@ private:
     void OKButton_Click();
     void BrowseButton_Click();
     void HelpButton_Click();
+    void ShowSelector(FileDialog& dialog);
     bool Form_LinkExecute(const std::string& command);
     void Timer1_Timer();
     [[nodiscard]] bool Ready() const;
@@ -56,7 +59,8 @@ private:
     RemoteCommands m_remote;
     QTimer* m_timer1;
     std::vector<std::string>
-        m_names; ///< of the list, and what was put into the box last, in the system's bytes
+        m_names;              ///< of the list, and what was put into the box last, in the system's bytes
+    bool m_selecting = false; ///< while the file selector is loaded and shown
     int m_designWidth = 0;
     int m_browseLeft = 0;
     int m_nameWidth = 0;

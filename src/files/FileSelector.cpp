@@ -26,6 +26,29 @@ void SortNames(std::vector<std::string>& names)
                    [](auto& entry) { return std::move(entry.second); });
 }
 
+struct Listing
+{
+    FileError failed;
+    std::vector<std::string> folders;
+    std::vector<std::string> files;
+};
+
+// What lies in a folder and is not hidden, sorted.
+Listing ListingOf(FileSystem& files, const std::string& folder)
+{
+    Listing listing;
+    std::vector<FolderEntry> entries;
+    listing.failed = files.List(folder, entries);
+    for (FolderEntry& entry : entries) {
+        if (!entry.hidden) {
+            (entry.isFolder ? listing.folders : listing.files).push_back(std::move(entry.name));
+        }
+    }
+    SortNames(listing.folders);
+    SortNames(listing.files);
+    return listing;
+}
+
 // "C:" of "C:\\Books"; nothing where there are no drives.
 std::string DriveOf(std::string_view path)
 {
@@ -126,19 +149,13 @@ bool FileSelector::SwitchDrive(const std::string& drive)
 // Reads what lies in a folder; on success it is the folder on show.
 FileError FileSelector::ReadFolder(const std::string& folder)
 {
-    std::vector<FolderEntry> entries;
-    if (FileError failed = m_seams.files.List(folder, entries); !failed.Ok()) {
-        return failed;
+    Listing listing;
+    m_run([&] { listing = ListingOf(m_seams.files, folder); });
+    if (!listing.failed.Ok()) {
+        return listing.failed;
     }
-    m_subfolders.clear();
-    m_allFiles.clear();
-    for (FolderEntry& entry : entries) {
-        if (!entry.hidden) {
-            (entry.isFolder ? m_subfolders : m_allFiles).push_back(std::move(entry.name));
-        }
-    }
-    SortNames(m_subfolders);
-    SortNames(m_allFiles);
+    m_subfolders = std::move(listing.folders);
+    m_allFiles = std::move(listing.files);
     m_folderPath = WithoutTrailingSeparator(m_seams.paths, folder);
     SelectDriveOf(m_folderPath);
     ListFolders();

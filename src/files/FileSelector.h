@@ -5,7 +5,9 @@
 #include "base/Volumes.h"
 #include "files/PathParts.h"
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ls {
@@ -33,6 +35,12 @@ public:
 
     /// `fileMode` "R" wants an existing file, "W" asks before one that exists.
     FileSelector(const Seams& seams, Volumes& volumes, std::string fileMode, std::string workDir);
+
+    /// Reads a folder, which may be large or far away; returns when that is done.
+    using RunWork = std::function<void(const std::function<void()>&)>;
+
+    /// Lets folders be read by `run` instead of directly, so that a form can stay alive meanwhile.
+    void ReadFoldersBy(RunWork run) { m_run = std::move(run); }
 
     /// Starts at a folder, a folder with a pattern, or a pattern alone; empty: `WorkDir`, else the current
     /// folder.
@@ -75,6 +83,7 @@ private:
     Seams m_seams;
     std::string m_fileMode;
     std::string m_workDir;
+    RunWork m_run = [](const std::function<void()>& work) { work(); };
 
     std::vector<Volume> m_volumes;
     std::vector<std::string> m_driveLabels;

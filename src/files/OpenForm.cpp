@@ -4,6 +4,7 @@
 #include "base/ProgramEnd.h"
 #include "files/FileDialog.h"
 #include "files/PathText.h"
+#include "files/RunBeside.h"
 #include "ui_OpenForm.h"
 
 #include <QApplication>
@@ -33,6 +34,7 @@ OpenForm::OpenForm(QWidget* parent, FileDialog& dialog, const Seams& seams, Volu
     m_ui->FileListBox->setModel(&m_files);
     ConnectControls();
     m_dialog.OverwriteConfirmed = false;
+    m_selector.ReadFoldersBy(RunBeside);
     m_selector.Load(m_dialog.ChosenFullPath);
     ShowSelector();
 }
@@ -76,12 +78,7 @@ void OpenForm::ShowSelector()
     m_folders.setStringList(folders);
     m_ui->DirsBox->setCurrentIndex(m_folders.index(current));
 
-    QStringList names;
-    names.reserve(static_cast<qsizetype>(m_selector.Files().size()));
-    for (const std::string& name : m_selector.Files()) {
-        names.append(PathText(name));
-    }
-    m_files.setStringList(names);
+    m_files.Show(m_selector.Files());
     ShowText();
 }
 

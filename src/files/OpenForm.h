@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/FileNames.h"
 #include "files/FileSelector.h"
 
 #include <QDialog>
@@ -50,7 +51,7 @@ private:
     Seams m_seams;
     FileSelector m_selector;
     QStringListModel m_folders;
-    QStringListModel m_files;
+    FileNames m_files;
     QElapsedTimer m_sinceFolderClick;
     bool m_filling = false; ///< while the lists are filled: no choice of the user's
 };

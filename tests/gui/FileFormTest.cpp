@@ -17,7 +17,10 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
+
+#include <atomic>
 
 namespace ls {
 namespace {
@@ -327,6 +330,30 @@ TEST_F(FileFormTest, push_commandsThatAreRefused_doNotPutOffTheFirst)
     });
     hammer.start(0);
     EXPECT_TRUE(test::WaitFor([this] { return !form->isVisible(); }));
+}
+
+TEST_F(FileFormTest, push_whileTheSelectorReadsItsFolder_beepsAndBlocks)
+{
+    Load();
+    std::atomic<bool> pushed = false;
+    QTimer::singleShot(0, form.get(), [this, &pushed] {
+        EXPECT_TRUE(dde.handler("PUSH CancelButton"));
+        QTimer::singleShot(50, form.get(), [&pushed] { pushed = true; });
+    });
+    world.files.fail = [&pushed](const std::string& operation) {
+        for (int i = 0; i < 5000 && operation == "list /books" && !pushed; ++i) {
+            QThread::msleep(1);
+        }
+        return 0;
+    };
+    test::ModalScript script;
+    script.Escape().Escape(); // the first does nothing: the selector is on its way
+    test::Press(*form, "BrowseButton");
+    world.files.fail = nullptr;
+    EXPECT_EQ(script.Seen(),
+              (Strings{"form|FileForm|Lodestar Advisor Open", "form|OpenForm|LSAdvisor File Selector"}));
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(dde.handler("PUSH CancelButton")) << "the first is still pending";
 }
 
 TEST_F(FileFormTest, otherMode_endsTheProgramSilently)

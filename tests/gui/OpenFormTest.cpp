@@ -12,7 +12,10 @@
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
+
+#include <atomic>
 
 namespace ls {
 namespace {
@@ -205,6 +208,27 @@ TEST_F(OpenFormTest, fileNameThatIsNoText_keepsItsBytes)
     ClickRow("FileListBox", 1);
     test::Press(*form, "OKButton");
     EXPECT_EQ(dialog.ChosenFullPath, "/work/\xE9t\xE9.IDA");
+}
+
+TEST_F(OpenFormTest, load_slowFolder_eventsGoOnMeanwhile)
+{
+    std::atomic<int> beats = 0;
+    QTimer heart;
+    QObject::connect(&heart, &QTimer::timeout, &heart, [&beats] { ++beats; });
+    heart.start(1);
+    int beatsSeen = 0;
+    world.files.fail = [&](const std::string& operation) { // called while the folder is read
+        const int before = beats;
+        for (int i = 0; i < 5000 && operation == "list /work" && beats < before + 3; ++i) {
+            QThread::msleep(1);
+        }
+        beatsSeen = beats - before;
+        return 0;
+    };
+    Open("/work/*.IDA");
+    world.files.fail = nullptr;
+    EXPECT_GE(beatsSeen, 3);
+    EXPECT_EQ(Rows("FileListBox"), QStringList{QStringLiteral("Guide.IDA")});
 }
 
 TEST_F(OpenFormTest, tabOrder_goesAsTheEyeGoes)

@@ -1,0 +1,28 @@
+#include "files/FileNames.h"
+
+#include "files/PathText.h"
+
+namespace ls {
+
+void FileNames::Show(const std::vector<std::string>& names)
+{
+    beginResetModel();
+    m_names = names;
+    endResetModel();
+}
+
+int FileNames::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_names.size());
+}
+
+QVariant FileNames::data(const QModelIndex& at, int role) const
+{
+    if (!checkIndex(at, CheckIndexOption::IndexIsValid) ||
+        (role != Qt::DisplayRole && role != Qt::EditRole)) {
+        return {};
+    }
+    return PathText(m_names[static_cast<std::size_t>(at.row())]);
+}
+
+} // namespace ls

@@ -1,0 +1,41 @@
+#include "files/RunBeside.h"
+
+#include <QEventLoop>
+#include <QThread>
+
+#include <exception>
+#include <memory>
+
+namespace ls {
+
+namespace {
+
+// Work that is done sooner lets no event in between. Together with what follows it stays below the tenth of a
+// second after which a program seems to hang.
+constexpr unsigned long PatienceMilliseconds = 40;
+
+} // namespace
+
+void RunBeside(const std::function<void()>& work)
+{
+    std::exception_ptr fault;
+    const std::unique_ptr<QThread> worker(QThread::create([&] {
+        try {
+            work();
+        } catch (...) {
+            fault = std::current_exception();
+        }
+    }));
+    QEventLoop loop;
+    QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    worker->start();
+    if (!worker->wait(PatienceMilliseconds)) {
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+        worker->wait();
+    }
+    if (fault) {
+        std::rethrow_exception(fault);
+    }
+}
+
+} // namespace ls
