@@ -99,7 +99,7 @@ private:
             return false;
         }
         if (Trim(line) != m_book.TopicNames(number)) {
-            Stop("Error looking up topic: " + FromBook(m_book.TopicNames(number)));
+            StopAtChange(number);
             return false;
         }
         if (put) {
@@ -114,6 +114,10 @@ private:
         std::string_view line;
         while (m_cursor->Position() < end && m_outcome == WriteOutcome::Written && Read(line)) {
             PutLine(line);
+        }
+        // A line that runs across the end that the scan saw: somebody changed the file.
+        if (m_outcome == WriteOutcome::Written && m_cursor->Position() != end) {
+            StopAtChange(number);
         }
     }
 
@@ -186,6 +190,11 @@ private:
             !m_progress->Step(m_written, std::max(m_written, m_book.ScanEndPos))) {
             m_outcome = WriteOutcome::Cancelled;
         }
+    }
+
+    void StopAtChange(std::size_t number)
+    {
+        Stop("Error looking up topic: " + FromBook(m_book.TopicNames(number)));
     }
 
     void Stop(const std::string& message)

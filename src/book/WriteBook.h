@@ -21,8 +21,9 @@ enum class WriteOutcome
 /// An unedited topic is copied from the book's file, character for character, each line ended by CR LF; an
 /// edited one is written from memory, its text and its logic block each followed by one more CR LF (a saved
 /// edited topic gains an empty line, which is kept). A block that the editors did not take is copied from the
-/// file behind the edited text. A topic whose header line is no longer where the scan saw it stops the
-/// writing: somebody changed the file. No end mark and no index are written. The caller finishes `output`.
+/// file behind the edited text. A topic whose header line is no longer where the scan saw it, or that no
+/// longer ends there, stops the writing: somebody changed the file. No end mark and no index are written. The
+/// caller finishes `output`.
 [[nodiscard]] WriteOutcome WriteBook(const Book& book, const Seams& seams, OutputFile& output,
                                      Progress* progress = nullptr);
 

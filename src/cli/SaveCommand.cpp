@@ -41,10 +41,16 @@ WriteOutcome Write(CommandContext& context, const std::string& path)
     const std::string whole = path + ".new";
     const WriteOutcome outcome =
         SaveBook(context.TheBook(), context.TheSeams(), whole, &context.TheProgress());
-    if (outcome == WriteOutcome::Written && !files.RenameOver(whole, path).Ok()) {
+    if (outcome != WriteOutcome::Written) {
+        return outcome;
+    }
+    if (const FileError failed = files.RenameOver(whole, path); !failed.Ok()) {
+        context.TheSeams().messages.MsgBox("Failed to write due to error #" + std::to_string(failed.number) +
+                                               ": " + failed.description,
+                                           Icon::Warning);
         return WriteOutcome::Failed;
     }
-    return outcome;
+    return WriteOutcome::Written;
 }
 
 Status WriteSize(CommandContext& context, const std::string& path)

@@ -14,6 +14,9 @@ void ReportScanMemory(const std::string& path);
 /// Shows the last topic of a large book against its first one.
 void BenchShow(const std::string& folder);
 
+/// Saves that book with one topic edited, against a copy of it by dd.
+void BenchSave(const std::string& folder);
+
 /// Shows a topic of 30,000 display lines again, as a step of a resize does, against a copy of its lines.
 void BenchResize(const std::string& folder);
 

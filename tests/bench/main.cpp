@@ -13,7 +13,7 @@ int main(int argc, char** argv)
         return 0;
     }
     if (argc != 2 && argc != 3) {
-        std::fputs("usage: lsbench FOLDER [scan|show|resize|lines|advisor]\n", stderr);
+        std::fputs("usage: lsbench FOLDER [scan|show|save|resize|lines|advisor]\n", stderr);
         return 2;
     }
     const std::string only = argc == 3 ? argv[2] : "";
@@ -24,6 +24,9 @@ int main(int argc, char** argv)
     }
     if (wanted("show")) {
         ls::bench::BenchShow(first);
+    }
+    if (wanted("save")) {
+        ls::bench::BenchSave(first);
     }
     if (wanted("resize")) {
         ls::bench::BenchResize(first);

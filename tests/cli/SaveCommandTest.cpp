@@ -50,6 +50,18 @@ TEST_F(Save, forcedWriteThatFails_keepsTheOldFile)
     EXPECT_EQ(files["/work/b.IDA"], "old");
 }
 
+TEST_F(Save, forcedNameThatCannotBeReplaced_saysSoAndKeepsBoth)
+{
+    files["/work/b.IDA"] = "old";
+    files.fail = [](const std::string& operation) {
+        return operation == "rename b.IDA.new b.IDA" ? error::PermissionDenied : 0;
+    };
+    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 3);
+    EXPECT_EQ(err, "warning: Failed to write due to error #70: Permission denied\n");
+    EXPECT_EQ(files["/work/b.IDA"], "old");
+    EXPECT_EQ(files["/work/b.IDA.new"], Book);
+}
+
 TEST_F(Save, inputItself_isNeverWrittenOver)
 {
     for (const char* force : {"--json", "--force"}) {

@@ -1,0 +1,268 @@
+// Saving on the real file system: on a disk that is full, and in a process that is killed while it saves.
+
+#include "book/Book.h"
+#include "book/BookLoader.h"
+#include "files/FileDialog.h"
+#include "files/FileFormRules.h"
+#include "platform/ChildProcess.h"
+#include "platform/linux/LinuxFileSystem.h"
+#include "reader/BookCommands.h"
+#include "reader/Navigation.h"
+#include "reader/RecordingView.h"
+#include "reader/SaveItem.h"
+#include "reader/Settings.h"
+#include "support/RecordingProcesses.h"
+#include "support/ScratchFolder.h"
+#include "support/TestSeams.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <thread>
+
+#include <sched.h>
+#include <sys/mount.h>
+
+namespace ls {
+namespace {
+
+using Strings = std::vector<std::string>;
+using Clock = std::chrono::steady_clock;
+
+constexpr int Topics = 300;
+constexpr const char* Saved = "information|Lodestar Advisor|File saved";
+constexpr const char* IniBefore = "LSADVISOR V5.3 INI\r\n[TOP10FILES]\r\n*1; NAME=/elsewhere/Old.IDA\r\n";
+
+std::string Read(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void Write(const std::string& path, const std::string& bytes)
+{
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+// A book of that many bytes a topic; its topic 2 reads "edited" when it was edited.
+std::string BookText(std::size_t bytesOfTopic, bool edited)
+{
+    std::string bytes = "LODESTAR BOOK V5.3\r\n";
+    for (int i = 1; i <= Topics; ++i) {
+        bytes += "[Topic " + std::to_string(i) + "]\r\n";
+        bytes += edited && i == 2 ? "edited\r\n\r\n" : std::string(bytesOfTopic, 'x') + "\r\n";
+    }
+    return bytes;
+}
+
+/// The main window's rules on real files: `input` is open, locked, and its second topic edited.
+struct RealWorld
+{
+    explicit RealWorld(const std::string& iniDir)
+    {
+        settings.IniDir = iniDir;
+        AddRecentFile(settings, "/elsewhere/Old.IDA");
+    }
+
+    bool OpenEdited(const std::string& input)
+    {
+        book.BookPath = input;
+        book.LockBook = true;
+        if (!OpenBook(book, seams) || !ScanBook(book, seams)) {
+            return false;
+        }
+        book.TopicRecs(2).Text = "edited\r\n";
+        book.BookChanged = true;
+        return true;
+    }
+
+    Strings SaveAs(const std::string& path)
+    {
+        view.onFileForm = [this, path] { AcceptFileName(dialog, path, false, book.LockBook, seams); };
+        save.SaveItem_Click();
+        return messages.Take();
+    }
+
+    ProgramEnd end;
+    LinuxFileSystem files;
+    test::RecordingMessages messages{end};
+    test::RecordingProcesses processes;
+    Seams seams{files, messages, processes, end, UnixPaths};
+    Book book;
+    Settings settings;
+    FileDialog dialog;
+    test::RecordingView view;
+    Navigation navigation{book, seams, view};
+    BookCommands commands{book, settings, dialog, seams, view, navigation};
+    SaveItem save{book, settings, dialog, seams, view, commands};
+};
+
+struct SaveForReal : testing::Test
+{
+    test::ScratchFolder folder;
+};
+
+// Saves onto a disk with ever more room: what is missing of a book of about 300 KiB, and then of the
+// settings. Gives what went wrong.
+std::string FillDisk(const std::string& input, const std::string& disk)
+{
+    constexpr std::size_t Page = 4096;
+    int full = 0;
+    int settingsFull = 0;
+    for (std::size_t room = 0;; room += Page) {
+        if (room > 200 * Page) {
+            return "the disk never had room enough";
+        }
+        Write(disk + "/LSAdvisor.INI", IniBefore);
+        Write(disk + "/filler", std::string((std::filesystem::space(disk).available / Page) * Page, 'f'));
+        std::filesystem::resize_file(disk + "/filler", std::filesystem::file_size(disk + "/filler") - room);
+        RealWorld world(disk);
+        if (!world.OpenEdited(input)) {
+            return "the book could not be opened";
+        }
+        const Strings boxes = world.SaveAs(disk + "/Out.IDA");
+        const bool saved = !boxes.empty() && boxes.front() == Saved;
+        if (saved != std::filesystem::exists(disk + "/Out.IDA")) {
+            return "said to be saved is not what is there, with room for " + std::to_string(room);
+        }
+        if (saved && Read(disk + "/Out.IDA") != BookText(1000, true)) {
+            return "the saved book is not whole";
+        }
+        const std::string ini = Read(disk + "/LSAdvisor.INI");
+        if (saved && boxes.size() == 1) {
+            return full > 10 && settingsFull > 0 ? "" : "the disk was not full often enough";
+        }
+        if (ini != IniBefore) {
+            return "the settings were not kept: " + ini;
+        }
+        if (saved) {
+            ++settingsFull;
+        } else {
+            ++full;
+            if (boxes != Strings{"warning|Lodestar Advisor|Failed to write due to error #61: Disk full"} ||
+                world.book.BookPath != input || !world.book.BookChanged ||
+                world.book.TopicRecs(2).Text != "edited\r\n") {
+                return "something was lost: " + (boxes.empty() ? "no box" : boxes.front());
+            }
+            std::filesystem::remove(disk + "/filler");
+            std::filesystem::remove(disk + "/Out.IDA.part");
+            if (world.SaveAs(disk + "/Again.IDA").front() != Saved ||
+                Read(disk + "/Again.IDA") != BookText(1000, true)) {
+                return "the book could not be saved after room was made";
+            }
+        }
+        for (const char* name : {"/filler", "/Out.IDA", "/Again.IDA"}) {
+            std::filesystem::remove(disk + name);
+        }
+    }
+}
+
+TEST_F(SaveForReal, save_diskFullAtAnyPoint_losesNothing)
+{
+    constexpr int CannotMount = 99;
+    const std::string disk = folder.MakeFolder("disk");
+    const std::string input = folder.Write("In.IDA", BookText(1000, false));
+    folder.Write("fault", "not reached");
+    const int result = test::RunInChild([&] {
+        if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount("none", disk.c_str(), "tmpfs", 0, "size=1m") != 0) {
+            return CannotMount;
+        }
+        Write(folder / "fault", FillDisk(input, disk));
+        return 0;
+    });
+    if (result == CannotMount) {
+        GTEST_SKIP() << "only root can mount a small disk";
+    }
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(folder.Read("fault"), "");
+    EXPECT_EQ(folder.Read("In.IDA"), BookText(1000, false));
+}
+
+/// A process that opens "In.IDA", edits it and saves it as "Out.IDA", and is killed meanwhile.
+struct KilledWhileSaving : SaveForReal
+{
+    static constexpr std::size_t BytesOfTopic = 40000; ///< the book has 12 MB
+
+    void SetUp() override
+    {
+        input = BookText(BytesOfTopic, false);
+        output = BookText(BytesOfTopic, true);
+        folder.Write("In.IDA", input);
+    }
+
+    // Starts it and kills it when `now` says so, or waits for its end.
+    void Round(const std::function<bool()>& now)
+    {
+        for (const char* name : {"Out.IDA", "Out.IDA.part", "LSAdvisor.INI.new"}) {
+            std::filesystem::remove(folder / name);
+        }
+        folder.Write("LSAdvisor.INI", IniBefore);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            RealWorld world(folder.Path());
+            const bool opened = world.OpenEdited(folder / "In.IDA");
+            ::_exit(opened && world.SaveAs(folder / "Out.IDA") == Strings{Saved} ? 0 : 1);
+        }
+        int status = 0;
+        while (!now() && ::waitpid(child, &status, WNOHANG) == 0) {
+            std::this_thread::sleep_for(std::chrono::microseconds(50));
+        }
+        ::kill(child, SIGKILL);
+        ::waitpid(child, &status, 0);
+    }
+
+    void ExpectAllWhole()
+    {
+        EXPECT_TRUE(folder.Read("In.IDA") == input) << "the book that was open is not whole";
+        if (folder.Has("Out.IDA")) {
+            EXPECT_TRUE(folder.Read("Out.IDA") == output) << "there is half a book";
+            EXPECT_FALSE(folder.Has("Out.IDA.part"));
+        }
+        const std::string ini = folder.Read("LSAdvisor.INI");
+        const std::string iniAfter = "LSADVISOR V5.3 INI\r\n[TOP10FILES]\r\n*1; NAME=" + folder / "Out.IDA" +
+                                     "\r\n*2; NAME=/elsewhere/Old.IDA\r\n";
+        EXPECT_TRUE(ini == IniBefore || ini == iniAfter) << ini;
+        EXPECT_TRUE(ini == IniBefore || folder.Has("Out.IDA"));
+    }
+
+    std::string input;
+    std::string output;
+};
+
+TEST_F(KilledWhileSaving, save_killedAtRandomPoints_everyFileIsWhole)
+{
+    const auto start = Clock::now();
+    Round([] { return false; });
+    const auto whole = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start);
+    ExpectAllWhole();
+    ASSERT_TRUE(folder.Has("Out.IDA")) << "nobody killed it";
+    std::minstd_rand random(20260101);
+    std::uniform_int_distribution<std::int64_t> points(0, whole.count());
+    for (int i = 0; i < 40 && !HasFailure(); ++i) {
+        const auto until = Clock::now() + std::chrono::microseconds(points(random));
+        Round([until] { return Clock::now() >= until; });
+        ExpectAllWhole();
+    }
+}
+
+TEST_F(KilledWhileSaving, save_killedInTheMiddleOfWriting_leavesAPartOnly)
+{
+    for (const std::uintmax_t size : {1U, 1000000U, 6000000U, 11000000U}) {
+        Round([this, size] {
+            std::error_code missing;
+            const std::uintmax_t written = std::filesystem::file_size(folder / "Out.IDA.part", missing);
+            return !missing && written >= size;
+        });
+        ExpectAllWhole();
+        EXPECT_NE(folder.Has("Out.IDA"), folder.Has("Out.IDA.part")) << size;
+    }
+}
+
+} // namespace
+} // namespace ls
