@@ -3,6 +3,8 @@
 #include "base/FileSystem.h"
 #include "platform/linux/FileDescriptor.h"
 
+#include <cstddef>
+
 namespace ls {
 
 /// A new file that is being written. The first failure stays: `Finish` tells it again.
@@ -17,7 +19,10 @@ public:
     FileError Finish() override;
 
 private:
+    void StartWriteback(std::size_t count);
+
     FileDescriptor m_descriptor;
+    std::size_t m_unstarted = 0; ///< bytes that the system was given and not yet told to write
     FileError m_failure;
 };
 
