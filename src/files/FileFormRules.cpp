@@ -9,6 +9,21 @@
 
 namespace ls {
 
+namespace {
+
+// Whether a path begins as `prefix` does, which is `folder` with its separator. Without drives, names that
+// differ only in case are two folders, unless the one is not there as it is spelled and the other is meant.
+bool LiesIn(const std::string& path, const std::string& prefix, const std::string& folder, const Seams& seams)
+{
+    if (path.size() <= prefix.size() || path.starts_with(prefix)) {
+        return path.size() > prefix.size();
+    }
+    return LowerCaseAscii(path.substr(0, prefix.size())) == LowerCaseAscii(prefix) &&
+           (seams.paths.drives || !seams.files.Exists(folder));
+}
+
+} // namespace
+
 FileFormView LoadFileForm(FileDialog& dialog, const Settings& settings, const Seams& seams)
 {
     FileFormView view;
@@ -67,9 +82,9 @@ void TakeBrowsedFile(FileDialog& dialog, std::string& text, const Seams& seams)
     }
     const std::string folder =
         dialog.DefaultFolder.empty() ? seams.files.CurrentFolder() : dialog.DefaultFolder;
-    const std::string prefix = LowerCaseAscii(JoinPath(seams.paths, folder, ""));
+    const std::string prefix = JoinPath(seams.paths, folder, "");
     const std::string& path = dialog.ChosenFullPath;
-    const bool below = path.size() > prefix.size() && LowerCaseAscii(path.substr(0, prefix.size())) == prefix;
+    const bool below = LiesIn(path, prefix, folder, seams);
     dialog.ChosenFile = below ? path.substr(prefix.size()) : path;
     dialog.BrowsedName = dialog.ChosenFile;
     text = dialog.ChosenFile;

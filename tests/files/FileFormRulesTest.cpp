@@ -178,10 +178,13 @@ TEST_F(FileFormRules, browse_fileBelowTheDefaultFolder_isNamedRelatively)
         {WindowsPaths, "c:\\books", "C:\\OTHER\\Y.IDA", "C:\\OTHER\\Y.IDA"},
         {WindowsPaths, "c:\\books", "C:\\BOOKS2\\Y.IDA", "C:\\BOOKS2\\Y.IDA"},
         {UnixPaths, "/books", "/books/sub/y.ida", "sub/y.ida"},
+        {UnixPaths, "/BOOKS", "/books/sub/y.ida", "sub/y.ida"}, // there is no /BOOKS
+        {UnixPaths, "/Both", "/both/y.ida", "/both/y.ida"},     // there is a /Both, too
         {UnixPaths, "", "/work/y.ida", "y.ida"},
         {UnixPaths, "/books", "/y.ida", "/y.ida"},
         {UnixPaths, "/books", "", "as it was"},
     };
+    world.files.AddFolder("/Both");
     for (const BrowseCase& row : rows) {
         world.paths = row.rules;
         dialog.DefaultFolder = row.defaultFolder;
