@@ -2,6 +2,7 @@
 
 #include "app/FormFont.h"
 #include "app/Global.h"
+#include "authoring/InfoForm.h"
 #include "base/DdeServer.h"
 #include "base/ProgramEnd.h"
 #include "browser/HelpPages.h"
@@ -55,6 +56,7 @@ void FileForm::ConnectControls()
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &FileForm::reject);
     connect(m_ui->BrowseButton, &QPushButton::clicked, this, &FileForm::BrowseButton_Click);
     connect(m_ui->HelpButton, &QPushButton::clicked, this, &FileForm::HelpButton_Click);
+    connect(m_ui->InfoButton, &QPushButton::clicked, this, &FileForm::InfoButton_Click);
     connect(m_timer1, &QTimer::timeout, this, &FileForm::Timer1_Timer);
 }
 
@@ -69,7 +71,6 @@ void FileForm::Form_Load()
     m_ui->TitleLabel->setText(PathText(view.title));
     m_ui->DefaultLabel->setText(PathText(view.defaultLabel));
     m_ui->InfoButton->setVisible(view.showInfo);
-    m_ui->InfoButton->setEnabled(false); // until there is a form for the properties
     m_ui->HelpButton->setEnabled(HasHelpPage(HelpPage, m_seams));
     if (!view.showSharing) {
         HideSharing();
@@ -175,6 +176,14 @@ void FileForm::HelpButton_Click()
         ShowSelector(browser);
         return browser.ChosenFullPath;
     });
+    if (m_seams.end.Ended()) {
+        reject();
+    }
+}
+
+void FileForm::InfoButton_Click()
+{
+    InfoForm(this, m_global.book, m_seams).exec();
     if (m_seams.end.Ended()) {
         reject();
     }

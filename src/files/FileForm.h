@@ -46,6 +46,7 @@ private:
     void BrowseButton_Click();
     void HelpButton_Click();
     void ShowSelector(FileDialog& dialog);
+    void InfoButton_Click();
     bool Form_LinkExecute(const std::string& command);
     void Timer1_Timer();
     [[nodiscard]] bool Ready() const;

@@ -35,7 +35,8 @@ MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
       m_navigation(global.book, m_seams, *m_view),
       m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation),
       m_save(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_commands),
-      m_topicCommands(global.book, global.topicFlags, m_seams, *m_view, m_navigation)
+      m_topicCommands(global.book, global.topicFlags, m_seams, *m_view, m_navigation),
+      m_editCommands(global.book, m_seams, *m_view, m_navigation)
 {
     ConnectButtons();
     ConnectItems();
@@ -95,6 +96,8 @@ void MainForm::ConnectItems()
     connect(m_ui->AddTopicItem, &QAction::triggered, this, &MainForm::AddTopicItem_Click);
     connect(m_ui->DelTopicItem, &QAction::triggered, this, &MainForm::DelTopicItem_Click);
     connect(m_ui->ReorderItem, &QAction::triggered, this, &MainForm::ReorderItem_Click);
+    connect(m_ui->EdTextItem, &QAction::triggered, this, &MainForm::EdTextItem_Click);
+    connect(m_ui->EditPropertiesOption, &QAction::triggered, this, &MainForm::EditPropertiesOption_Click);
     connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
     connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
     connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
@@ -246,6 +249,16 @@ void MainForm::DelTopicItem_Click()
 void MainForm::ReorderItem_Click()
 {
     Run([this] { m_topicCommands.ReorderItem_Click(); });
+}
+
+void MainForm::EdTextItem_Click()
+{
+    Run([this] { m_editCommands.EdTextItem_Click(); });
+}
+
+void MainForm::EditPropertiesOption_Click()
+{
+    Run([this] { m_editCommands.EditPropertiesOption_Click(); });
 }
 
 void MainForm::VScroll1_Change()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "authoring/EditCommands.h"
 #include "authoring/TopicCommands.h"
 #include "base/Seams.h"
 #include "files/FormSeams.h"
@@ -66,6 +67,8 @@ private:
     void AddTopicItem_Click();
     void DelTopicItem_Click();
     void ReorderItem_Click();
+    void EdTextItem_Click();
+    void EditPropertiesOption_Click();
     void AlphaItem_Click();
     void ContentsItem_Click();
 
@@ -81,6 +84,7 @@ private:
     BookCommands m_commands;
     SaveItem m_save;
     TopicCommands m_topicCommands;
+    EditCommands m_editCommands;
     QTimer m_afterResize;
     bool m_activated = false;
     bool m_resizedMeanwhile = false;

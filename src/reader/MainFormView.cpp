@@ -4,7 +4,9 @@
 #include "app/FormProgress.h"
 #include "app/Global.h"
 #include "authoring/DelTopicForm.h"
+#include "authoring/InfoForm.h"
 #include "authoring/MoveTopicsForm.h"
+#include "authoring/TxEdForm.h"
 #include "base/CodePage.h"
 #include "files/FileChooser.h"
 #include "reader/ButtonIcons.h"
@@ -139,12 +141,6 @@ void MainFormView::ShowXrefForm()
     XrefForm(&m_form, m_global.book, m_seams).exec();
 }
 
-// An added topic can be edited as soon as there is an editor.
-bool MainFormView::ShowTxEdForm()
-{
-    return false;
-}
-
 void MainFormView::ShowDelTopicForm()
 {
     DelTopicForm(&m_form, m_global.book, m_global.topicFlags, Alphabetic()).exec();
@@ -153,6 +149,16 @@ void MainFormView::ShowDelTopicForm()
 void MainFormView::ShowMoveTopicsForm()
 {
     MoveTopicsForm(&m_form, m_global.book, m_global.topicFlags, m_seams).exec();
+}
+
+bool MainFormView::ShowTxEdForm()
+{
+    return TxEdForm(&m_form, m_global.book, m_seams).exec() == QDialog::Accepted;
+}
+
+void MainFormView::ShowInfoForm()
+{
+    InfoForm(&m_form, m_global.book, m_seams).exec();
 }
 
 std::unique_ptr<Progress> MainFormView::WatchScan()

@@ -47,6 +47,7 @@ public:
     void ShowDelTopicForm() override;
     void ShowMoveTopicsForm() override;
     void ShowAdvForm() override;
+    void ShowInfoForm() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchSave(const std::string& path) override;
 

@@ -68,6 +68,9 @@ public:
     /// Shows the form that moves topics and returns when it is closed.
     virtual void ShowMoveTopicsForm() = 0;
 
+    /// Shows the book's properties and returns when they are closed.
+    virtual void ShowInfoForm() = 0;
+
     /// Told how far the scan of a long book has come, as long as the scan runs; nothing when nobody watches.
     [[nodiscard]] virtual std::unique_ptr<Progress> WatchScan() = 0;
 

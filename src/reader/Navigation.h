@@ -2,13 +2,13 @@
 
 #include "base/Count16.h"
 #include "base/Seams.h"
+#include "book/Book.h"
 #include "render/ShowTopic.h"
 
 #include <string>
 
 namespace ls {
 
-struct Book;
 class MainView;
 
 /// Which topic the main window shows: the topic list, Go To, next and previous, and what clears the display.
@@ -46,6 +46,9 @@ public:
 
     /// Empties the pane: no topic is on show.
     void ClearDisplay();
+
+    /// Shows the topic on show again after it was edited, from its first line.
+    void ShowTopicAgain() { Show(std::string(m_book.CurrentTopicName), m_book.CurrentTopicNo); }
 
     /// Shows the topic on show again at the pane's new width, from its first line, and without any message.
     /// What cannot be read again stays as it is on the pane.

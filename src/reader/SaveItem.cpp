@@ -82,6 +82,7 @@ bool SaveItem::AskForName()
     m_dialog.FilePattern = "*.IDA";
     m_dialog.InitialFileName = ProposedName(m_book, m_seams);
     m_view.ShowFileForm();
+    m_view.ShowExplainButton(!m_book.BookUrl.empty()); // "Save Info" may have changed the address
     return m_dialog.FileFormOK && !m_dialog.ChosenFile.empty() && !m_seams.end.Ended();
 }
 

@@ -109,6 +109,22 @@ TEST_F(FileFormTest, saveMode_showsInfoAndTheNameAlone)
     test::TakePicture(*form, "FileFormSave");
 }
 
+TEST_F(FileFormTest, saveInfo_editsThePropertiesOverTheForm)
+{
+    global.fileDialog.FileMode = "W";
+    global.fileDialog.ShowSharing = false;
+    Load();
+    test::ModalScript script;
+    script.Do([](QWidget& info) {
+        test::Type(info, "AuthorBox", QStringLiteral("A"));
+        test::Press(info, "OKBox");
+    });
+    test::Press(*form, "InfoButton");
+    EXPECT_EQ(script.Seen(), Strings{"form|InfoForm|LSAdvisor File Information"});
+    EXPECT_EQ(global.book.BookAuthor, "A");
+    EXPECT_TRUE(form->isVisible());
+}
+
 TEST_F(FileFormTest, sharingHidden_shiftsOkAndCancelByOneButtonAndGap)
 {
     Load();

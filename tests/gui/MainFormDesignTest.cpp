@@ -109,8 +109,7 @@ TEST_F(MainFormDesignTest, icons_atTwiceTheScale_areDrawnInFullSize)
 TEST_F(MainFormDesignTest, laterFeatures_areThereAndDisabled)
 {
     Start(WriteThree());
-    for (const char* name : {"EdTextItem", "AdviceEdItem", "EditPropertiesOption", "PrintItem", "ExportItem",
-                             "HelpItem", "AboutItem"}) {
+    for (const char* name : {"AdviceEdItem", "PrintItem", "ExportItem", "HelpItem", "AboutItem"}) {
         EXPECT_FALSE(Get<QAction>(name).isEnabled()) << name;
     }
 }

@@ -82,6 +82,12 @@ public:
             onMoveTopicsForm();
         }
     }
+    void ShowInfoForm() override
+    {
+        if (onInfoForm) {
+            onInfoForm();
+        }
+    }
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override
     {
         ++scans;
@@ -128,6 +134,7 @@ public:
     std::function<bool()> onTxEdForm;       ///< what the user does in the text editor; true for Done
     std::function<void()> onDelTopicForm;   ///< what the user does in the form that removes topics
     std::function<void()> onMoveTopicsForm; ///< what the user does in the form that moves topics
+    std::function<void()> onInfoForm;       ///< what the author does in the properties
 };
 
 } // namespace ls::test

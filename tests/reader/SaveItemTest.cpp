@@ -115,6 +115,15 @@ TEST_F(SaveItemTest, save_formCancelled_changesNothing)
     ExpectNothingLost();
 }
 
+TEST_F(SaveItemTest, save_addressEnteredInTheFormThenCancelled_showsTheExplainButton)
+{
+    OpenEdited();
+    view.onFileForm = [this] { book.BookUrl = "http://x"; };
+    save.SaveItem_Click();
+    EXPECT_TRUE(view.explainButton);
+    EXPECT_EQ(Boxes(), Strings());
+}
+
 TEST_F(SaveItemTest, save_formWithoutName_changesNothing)
 {
     OpenEdited();

@@ -1,0 +1,61 @@
+#include "authoring/EditCommands.h"
+
+#include "base/Messages.h"
+#include "base/ProgramEnd.h"
+#include "book/Book.h"
+#include "book/BookLoader.h"
+#include "reader/MainView.h"
+#include "reader/Navigation.h"
+
+#include <utility>
+
+namespace ls {
+
+void EditCommands::EdTextItem_Click()
+{
+    if (m_book.TopicCount == 0) {
+        m_seams.messages.MsgBox("There is nothing to edit.", Icon::Warning);
+        return;
+    }
+    if (m_book.CurrentTopicName.empty() || m_book.CurrentTopicNo == 0) {
+        m_seams.messages.MsgBox(
+            "Please display the topic first by choosing it from the list and clicking Go.", Icon::Warning);
+        return;
+    }
+    const auto number = static_cast<std::size_t>(m_book.CurrentTopicNo);
+    TopicRec before = m_book.TopicRecs(number);
+    if (!LoadTopicOnShow()) {
+        return;
+    }
+    if (!m_view.ShowTxEdForm()) {
+        m_book.TopicRecs(number) = std::move(before);
+    }
+    if (!m_seams.end.Ended()) {
+        m_navigation.ShowTopicAgain();
+    }
+}
+
+// Brings the topic into memory when it is not there yet. False after the message of one that cannot be read:
+// it stays on show, unedited.
+bool EditCommands::LoadTopicOnShow()
+{
+    const auto index = static_cast<std::size_t>(m_book.CurrentTopicNo);
+    const TopicRec& rec = m_book.TopicRecs(index);
+    if (!rec.Text.empty() || !rec.Logic.empty() || m_book.TopicPos(index) == 0) {
+        return true;
+    }
+    std::string name = m_book.CurrentTopicName;
+    Count16 number = m_book.CurrentTopicNo;
+    LoadTopicRec(m_book, m_seams, name, number);
+    return !name.empty() && !m_seams.end.Ended();
+}
+
+void EditCommands::EditPropertiesOption_Click()
+{
+    m_view.ShowInfoForm();
+    if (!m_seams.end.Ended()) {
+        m_view.ShowExplainButton(!m_book.BookUrl.empty());
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "base/Seams.h"
+
+namespace ls {
+
+struct Book;
+class MainView;
+class Navigation;
+
+/// The commands of the main window that edit the text of the topic on show and the properties of the book.
+class EditCommands
+{
+public:
+    EditCommands(Book& book, const Seams& seams, MainView& view, Navigation& navigation)
+        : m_book(book), m_seams(seams), m_view(view), m_navigation(navigation)
+    {
+    }
+
+    /// Lets the author edit the text of the topic on show, and shows the topic again. Cancel leaves the topic
+    /// as it was before the command, unedited if it was.
+    void EdTextItem_Click();
+
+    /// Lets the author edit the header fields.
+    void EditPropertiesOption_Click();
+
+private:
+    [[nodiscard]] bool LoadTopicOnShow();
+
+    Book& m_book;
+    Seams m_seams;
+    MainView& m_view;
+    Navigation& m_navigation;
+};
+
+} // namespace ls

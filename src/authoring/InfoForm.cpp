@@ -1,0 +1,42 @@
+#include "authoring/InfoForm.h"
+
+#include "app/FormFont.h"
+#include "authoring/Properties.h"
+#include "base/ProgramEnd.h"
+#include "ui_InfoForm.h"
+
+namespace ls {
+
+InfoForm::InfoForm(QWidget* parent, Book& book, const Seams& seams)
+    : QDialog(parent), m_ui(std::make_unique<Ui::InfoForm>()), m_book(book), m_seams(seams)
+{
+    setFont(FormFont());
+    m_ui->setupUi(this);
+    connect(m_ui->OKBox, &QPushButton::clicked, this, &InfoForm::OKBox_Click);
+    connect(m_ui->CancelBox, &QPushButton::clicked, this, &InfoForm::reject);
+    Form_Load();
+}
+
+InfoForm::~InfoForm() = default;
+
+void InfoForm::Form_Load()
+{
+    const Properties shown = LoadProperties(m_book);
+    m_ui->AuthorBox->setText(QString::fromStdString(shown.author));
+    m_ui->CopyrightBox->setText(QString::fromStdString(shown.copyright));
+    m_ui->WebURLBox->setText(QString::fromStdString(shown.webUrl));
+    m_ui->WebPostCheck->setChecked(shown.webPost);
+}
+
+void InfoForm::OKBox_Click()
+{
+    const Properties entered{m_ui->AuthorBox->text().toStdString(), m_ui->CopyrightBox->text().toStdString(),
+                             m_ui->WebURLBox->text().toStdString(), m_ui->WebPostCheck->isChecked()};
+    if (SaveProperties(m_book, m_seams, entered)) {
+        accept();
+    } else if (m_seams.end.Ended()) {
+        reject();
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "base/Seams.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class InfoForm;
+}
+
+namespace ls {
+
+struct Book;
+
+/// The properties form: the fields of the book's header line, which reach the file when the book is saved.
+class InfoForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    InfoForm(QWidget* parent, Book& book, const Seams& seams);
+    ~InfoForm() override;
+
+private:
+    void Form_Load();
+    void OKBox_Click();
+
+    std::unique_ptr<Ui::InfoForm> m_ui;
+    Book& m_book;
+    Seams m_seams;
+};
+
+} // namespace ls

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "base/Seams.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace Ui {
+class TxEdForm;
+}
+
+namespace ls {
+
+struct Book;
+
+/// The text editor for the topic on show, which the book holds in memory already. Done stores the text there.
+class TxEdForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    TxEdForm(QWidget* parent, Book& book, const Seams& seams);
+    ~TxEdForm() override;
+
+public Q_SLOTS:
+    /// Escape and the close button: a text that was changed is not dropped without asking.
+    void reject() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void ConnectButtons();
+    void ConnectItems();
+    void Form_Load();
+    void SaveButton_Click();
+    void CancelButton_Click();
+    void SymCombo_Click();
+    void WrapSelection(std::string_view openTag);
+    void InsertAround(const QString& before, const QString& after);
+    void FindItem_Click();
+    void FindNextItem_Click();
+    void GoToLine(int line);
+    [[nodiscard]] QString Text() const;
+
+    std::unique_ptr<Ui::TxEdForm> m_ui;
+    Book& m_book;
+    Seams m_seams;
+    std::string m_sought; ///< what Find Next looks for
+};
+
+} // namespace ls
