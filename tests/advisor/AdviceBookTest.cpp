@@ -211,16 +211,16 @@ TEST_F(AdviceBookTest, unsureOfTheSoil_asksSimplerQuestionsTwoDeep)
 {
     EXPECT_EQ(Play({{"A Sick Houseplant", {}}}).choices,
               (Texts{"YELLOW", "DROOPING", "BROWN-TIPS", "INSECTS"}));
-    EXPECT_EQ(Play({{"A Sick Houseplant", {"YELLOW"}}}).choices, (Texts{"? - unsure", "WET", "MOIST", "DRY"}));
+    EXPECT_EQ(Play({{"A Sick Houseplant", {"YELLOW"}}}).choices,
+              (Texts{"? - unsure", "WET", "MOIST", "DRY"}));
     EXPECT_EQ(Play({{"A Sick Houseplant", {"YELLOW", "? - unsure"}}}).choices,
               (Texts{"SOGGY", "COOL", "DUSTY"}));
     EXPECT_EQ(Play({{"A Sick Houseplant", {"YELLOW", "? - unsure", "COOL"}}}).choices,
               (Texts{"? - unsure", "HEAVY", "SLIGHT"}));
     EXPECT_EQ(Play({{"A Sick Houseplant", {"YELLOW", "? - unsure", "COOL", "? - unsure"}}}).choices,
               (Texts{"THIS-WEEK", "EARLIER"}));
-    EXPECT_EQ(
-        Play({{"A Sick Houseplant", {"YELLOW", "? - unsure", "COOL", "? - unsure", "EARLIER"}}}).advice,
-        "CURE(WATER)");
+    EXPECT_EQ(Play({{"A Sick Houseplant", {"YELLOW", "? - unsure", "COOL", "? - unsure", "EARLIER"}}}).advice,
+              "CURE(WATER)");
 }
 
 TEST_F(AdviceBookTest, answersOfTheWalk_packTheBagAtOnce)

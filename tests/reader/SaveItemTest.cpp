@@ -393,8 +393,7 @@ TEST_F(SaveItemTest, save_done_entersTheRecentFilesAndSavesTheSettingsOnce)
     EXPECT_EQ(world.files["/work/LSAdvisor.INI"],
               test::CrLf({"LSADVISOR V5.3 INI", "[TOP10FILES]", "*1; NAME=/work/Out.IDA",
                           "*2; NAME=/work/Book.IDA"}));
-    EXPECT_EQ(std::count(world.files.log.begin(), world.files.log.end(), "create LSAdvisor.INI.new"),
-              1);
+    EXPECT_EQ(std::count(world.files.log.begin(), world.files.log.end(), "create LSAdvisor.INI.new"), 1);
 }
 
 TEST_F(SaveItemTest, save_settingsFail_saysSoAndTheBookIsSavedAllTheSame)
