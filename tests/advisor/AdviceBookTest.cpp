@@ -2,6 +2,7 @@
 #include "advisor/AdvisorTables.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "render/ShowTopic.h"
 #include "support/Json.h"
 #include "support/TestSeams.h"
 
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <iterator>
 #include <set>
 
 namespace ls {
@@ -205,6 +207,42 @@ TEST_F(AdviceBookTest, everyAnswer_usedAgainInAnotherTopic_stillLeadsToAdvice)
             }
         }
     }
+}
+
+TEST_F(AdviceBookTest, topics_areShownWithTheButtonsThatTheyNeed)
+{
+    std::set<std::string> titles;
+    for (int i = 1; i <= book.TopicCount; ++i) {
+        std::string name = book.TopicNames(static_cast<std::size_t>(i));
+        titles.insert(name);
+        Count16 number = i;
+        ShownTopic shown;
+        ASSERT_EQ(ShowTopic(book, world.Get(), name, number, 77, shown), ShowResult::Shown);
+        EXPECT_TRUE(shown.xrefButton) << name;
+        EXPECT_GE(static_cast<int>(shown.lines.Count), 10) << name;
+        EXPECT_EQ(shown.advisorButton,
+                  std::count(std::begin(Advisors), std::end(Advisors), name.substr(1, name.size() - 2)) == 1)
+            << name;
+    }
+    EXPECT_EQ(titles.size(), 10U);
+    for (int i = 1; i <= book.XrefCount; ++i) {
+        const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
+        EXPECT_EQ(titles.count("[" + xref.ToTopic + "]"), 1U) << xref.FromTopic << " -> " << xref.ToTopic;
+        EXPECT_NE(xref.ToTopic, xref.FromTopic);
+        EXPECT_FALSE(xref.Text.empty()) << xref.FromTopic << " -> " << xref.ToTopic;
+    }
+    EXPECT_EQ(world.messages.boxes, Texts());
+}
+
+TEST_F(AdviceBookTest, bytes_areOfTheBooksCodePageWithCrLf)
+{
+    const std::string& bytes = world.files["/Advice.IDA"];
+    const auto count = [&bytes](char c) { return std::count(bytes.begin(), bytes.end(), c); };
+    EXPECT_EQ(count('\n'), count('\r'));
+    EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
+    EXPECT_NE(bytes.find("caf\xE9"), bytes.npos);
+    EXPECT_NE(bytes.find("20 \xB0"), bytes.npos);
+    EXPECT_EQ(bytes.find('\xC3'), bytes.npos) << "the book was saved as UTF-8";
 }
 
 TEST_F(AdviceBookTest, unsureOfTheSoil_asksSimplerQuestionsTwoDeep)
