@@ -2,11 +2,13 @@
 
 #include "app/FormFont.h"
 #include "app/Global.h"
+#include "app/RunGuarded.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
 #include "ui_AdvForm.h"
 
 #include <QFontMetrics>
+#include <QScreen>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -15,7 +17,8 @@ namespace ls {
 
 namespace {
 
-constexpr int LinesShownWhole = 15; // of a question, without scrolling
+constexpr int LinesShownWhole = 15;   // of a question, without scrolling
+constexpr int WindowTitleHeight = 40; // with the borders, on any desktop
 
 // Lines end as the text box ends them; book text as its characters.
 QString Shown(const std::string& bookText)
@@ -47,7 +50,9 @@ void AdvForm::SetHeightForLines(int lines)
     const int wanted = lines * QFontMetrics(text.font()).lineSpacing() + 2 * margin + frame.top() +
                        frame.bottom() + 2 * text.frameWidth();
     const int others = layout()->minimumSize().height() - text.minimumSizeHint().height();
-    resize(width(), std::max(height(), wanted + others));
+    const int least = layout()->minimumSize().height();
+    const int most = std::max(least, screen()->availableGeometry().height() - WindowTitleHeight);
+    resize(width(), std::min(std::max(height(), wanted + others), most));
 }
 
 void AdvForm::Run()
@@ -102,11 +107,13 @@ void AdvForm::Unload()
     accept();
 }
 
+// The event loop of the window cannot pass an exception on, so none may reach it from here.
 void AdvForm::NextButton_Click()
 {
     const int row = m_ui->AnswerCombo->currentIndex();
     const bool chosen = row >= 0 && static_cast<std::size_t>(row) < m_choices.size();
-    m_dialog.NextButton_Click(chosen ? m_choices[static_cast<std::size_t>(row)] : std::string());
+    const std::string answer = chosen ? m_choices[static_cast<std::size_t>(row)] : std::string();
+    RunGuarded([&] { m_dialog.NextButton_Click(answer); }, m_seams);
     if (m_seams.end.Ended()) {
         accept();
     }

@@ -1,8 +1,11 @@
 #include "advisor/AdvForm.h"
 
+#include "book/BookLoader.h"
 #include "gui/MainFormFixture.h"
+#include "render/ShowTopic.h"
 #include "support/Json.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QLabel>
@@ -10,6 +13,8 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+
+#include <new>
 
 namespace ls {
 namespace {
@@ -157,20 +162,143 @@ TEST_F(AdvFormTest, keyboardAlone_answersAndCloses)
 
 TEST_F(AdvFormTest, answerList_opensWithTheKeyboard)
 {
+    struct Row
+    {
+        Qt::Key key;
+        Qt::KeyboardModifier with;
+    };
     StartUmbrella();
     test::ModalScript script;
     script.Do([](QWidget& window) {
         EXPECT_TRUE(test::WaitFor([&window] { return window.isActiveWindow(); }));
-        QTest::keyClick(window.windowHandle(), Qt::Key_Down, Qt::AltModifier);
-        EXPECT_NE(QApplication::activePopupWidget(), nullptr);
-        if (QApplication::activePopupWidget() != nullptr) {
-            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        for (const Row& row : {Row{Qt::Key_Down, Qt::AltModifier}, Row{Qt::Key_F4, Qt::NoModifier},
+                               Row{Qt::Key_Space, Qt::NoModifier}}) {
+            QTest::keyClick(window.windowHandle(), row.key, row.with);
+            QWidget* list = QApplication::activePopupWidget();
+            EXPECT_NE(list, nullptr) << row.key;
+            if (list != nullptr) {
+                QTest::keyClick(list, Qt::Key_Escape);
+            }
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << row.key;
+            EXPECT_TRUE(window.isVisible());
         }
-        EXPECT_TRUE(window.isVisible());
-        QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
-        EXPECT_FALSE(window.isVisible()) << "Escape closes";
+        window.close();
     });
     test::Press(form, "AdvisorButton");
+}
+
+TEST_F(AdvFormTest, answerList_choiceTakenInItByKeys_isTheAnswer)
+{
+    StartUmbrella();
+    test::ModalScript script;
+    script.Do([](QWidget& window) {
+        EXPECT_TRUE(test::WaitFor([&window] { return window.isActiveWindow(); }));
+        QTest::keyClick(window.windowHandle(), Qt::Key_Space);
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+        auto* view = Find<QComboBox>(window, "AnswerCombo")->view();
+        QTest::keyClick(view, Qt::Key_Down);
+        QTest::keyClick(view, Qt::Key_Down);
+        QTest::keyClick(view, Qt::Key_Return);
+        EXPECT_EQ(Find<QComboBox>(window, "AnswerCombo")->currentText(), QStringLiteral("GREY"));
+        QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+        EXPECT_EQ(Text(window), QStringLiteral("How is your mood?"));
+        EXPECT_EQ(window.focusWidget(), Find<QComboBox>(window, "AnswerCombo"));
+        QTest::keyClick(window.windowHandle(), Qt::Key_Question);
+        EXPECT_EQ(Find<QComboBox>(window, "AnswerCombo")->currentText(), QStringLiteral("? - unsure"));
+        window.close();
+    });
+    test::Press(form, "AdvisorButton");
+}
+
+TEST_F(AdvFormTest, escape_leavesAtAnyTimeAndKeepsWhatWasAnswered)
+{
+    StartUmbrella();
+    test::ModalScript script;
+    script.Do([](QWidget& window) {
+        EXPECT_TRUE(test::WaitFor([&window] { return window.isActiveWindow(); }));
+        Answer(window, 2);
+        Find<QComboBox>(window, "AnswerCombo")->setCurrentIndex(2); // chosen, but not confirmed by Next
+        QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+        EXPECT_FALSE(window.isVisible());
+    });
+    test::Press(form, "AdvisorButton");
+    EXPECT_EQ(global.advisor.AnswerCount, 1);
+    EXPECT_TRUE(form.isVisible());
+    script.Answer(Reply::Yes);
+    script.Do([](QWidget& window) {
+        EXPECT_EQ(Text(window), QStringLiteral("How is your mood?"));
+        window.close();
+    });
+    test::Press(form, "AdvisorButton");
+    script.Answer(Reply::No);
+    script.Do([](QWidget& window) {
+        EXPECT_EQ(Text(window), QStringLiteral("How is the sky?\nLook <B>up</B>."));
+        window.close();
+    });
+    test::Press(form, "AdvisorButton");
+    EXPECT_EQ(global.advisor.AnswerCount, 0);
+}
+
+TEST_F(AdvFormTest, controls_haveNamesLabelsAndTabOrder)
+{
+    StartUmbrella();
+    test::ModalScript script;
+    script.Do([](QWidget& window) {
+        auto* text = Find<QPlainTextEdit>(window, "MessageBox");
+        auto* list = Find<QComboBox>(window, "AnswerCombo");
+        auto* next = Find<QPushButton>(window, "NextButton");
+        EXPECT_EQ(Find<QLabel>(window, "IntroLabel")->buddy(), text);
+        EXPECT_EQ(Find<QLabel>(window, "AnswerLabel")->buddy(), list);
+        EXPECT_EQ(text->accessibleName(), QStringLiteral("Question or advice"));
+        EXPECT_EQ(list->accessibleName(), QStringLiteral("Your Answer"));
+        EXPECT_TRUE(text->isReadOnly());
+        EXPECT_FALSE(list->isEditable());
+        EXPECT_TRUE(next->isDefault());
+        EXPECT_TRUE(test::WaitFor([&window] { return window.isActiveWindow(); }));
+        for (QWidget* control : std::initializer_list<QWidget*>{next, text, list}) {
+            QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+            EXPECT_EQ(window.focusWidget(), control);
+        }
+        window.close();
+    });
+    test::Press(form, "AdvisorButton");
+}
+
+TEST_F(AdvFormTest, anotherBook_isNotOfferedTheAnswersOfThisOne)
+{
+    StartUmbrella();
+    test::ModalScript script;
+    const auto answerOnce = [](QWidget& window) {
+        EXPECT_EQ(Text(window), QStringLiteral("How is the sky?\nLook <B>up</B>."));
+        Answer(window, 2);
+        window.close();
+    };
+    script.Do(answerOnce);
+    test::Press(form, "AdvisorButton");
+    ASSERT_EQ(global.advisor.AnswerCount, 1);
+    Open(script, Path("Advisor.IDA"));
+    script.Do(answerOnce); // no box before it
+    test::Press(form, "AdvisorButton");
+}
+
+TEST_F(AdvFormTest, advisorButton_isThereOnlyForATopicWithLogic)
+{
+    StartUmbrella();
+    EXPECT_TRUE(Visible("AdvisorButton"));
+    EXPECT_TRUE(Get<QPushButton>("AdvisorButton").isEnabled());
+    test::ModalScript script;
+    script.Answer(Reply::Ok);
+    test::Press(form, "NewItem");
+    EXPECT_FALSE(Visible("AdvisorButton"));
+    Open(script, WriteThree());
+    EXPECT_FALSE(Visible("AdvisorButton"));
+    script.Do([this](QWidget& chooser) {
+        ChooseFile(chooser, Write("Plain.TXT", test::CrLf({"Plain", "<IXML>", "<LOGIC>"})));
+    });
+    script.Answer(Reply::Ok); // view it as a single topic text file
+    test::Press(form, "OpenItem");
+    EXPECT_FALSE(Visible("AdvisorButton"));
+    EXPECT_EQ(PaneText(), "Plain|<IXML>|<LOGIC>");
 }
 
 TEST_F(AdvFormTest, secondRun_offersTheAnswersAgainAndOpensOnTheAdvice)
@@ -266,6 +394,35 @@ TEST_F(AdvFormTest, question15Lines_showsWhole_longerOnesScroll)
     test::Press(form, "AdvisorButton");
 }
 
+TEST_F(AdvFormTest, longQuestion_isReadAndAnsweredByKeys)
+{
+    std::string lines = "1";
+    for (int i = 2; i <= 60; ++i) {
+        lines += "\r\n" + std::to_string(i);
+    }
+    Start(Write("Sixty.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[Weather]", "text", "<IXML>", "<LOGIC>",
+                                         "TARGET A", "A(1)=B(1)", "A(2)=B(2)", "<DEFINITIONS>"}) +
+                                 "<Q ID=B>" + lines + "</Q>\r\n<Q ID=A></Q>\r\n<AV ID=A(1)>One.</AV>\r\n"));
+    test::ModalScript script;
+    script.Do([](QWidget& window) {
+        EXPECT_TRUE(test::WaitFor([&window] { return window.isActiveWindow(); }));
+        QTest::keyClick(window.windowHandle(), Qt::Key_1);
+        auto* text = Find<QPlainTextEdit>(window, "MessageBox");
+        QTest::keyClick(window.windowHandle(), Qt::Key_Q, Qt::AltModifier);
+        EXPECT_EQ(window.focusWidget(), text);
+        EXPECT_EQ(text->verticalScrollBar()->value(), 0);
+        QTest::keyClick(window.windowHandle(), Qt::Key_PageDown);
+        EXPECT_GT(text->verticalScrollBar()->value(), 0);
+        QTest::keyClick(window.windowHandle(), Qt::Key_End, Qt::ControlModifier);
+        EXPECT_EQ(text->verticalScrollBar()->value(), text->verticalScrollBar()->maximum());
+        QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+        EXPECT_EQ(Text(window), QStringLiteral("One."));
+        QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+        EXPECT_FALSE(window.isVisible());
+    });
+    test::Press(form, "AdvisorButton");
+}
+
 TEST_F(AdvFormTest, resize_givesTheTextTheExtraSpace)
 {
     StartUmbrella();
@@ -312,6 +469,30 @@ TEST_F(AdvFormTest, bookTruncatedWhileItAsks_endsInAMessageNotInACrash)
     EXPECT_FALSE(global.end.Ended());
 }
 
+TEST_F(AdvFormTest, adviceBook_stainAskedAgain_opensOnItsAdviceBehindTheBox)
+{
+    QFile::copy(QString::fromUtf8(LS_SAMPLES "/Advice.IDA"), QString::fromStdString(Path("Advice.IDA")));
+    Start(Path("Advice.IDA"), "A Stain on the Cloth");
+    test::ModalScript script;
+    QString advice;
+    script.Do([&advice](QWidget& window) {
+        Answer(window, 2); // below the empty item and "? - unsure"
+        Answer(window, 1);
+        advice = Text(window);
+        test::Press(window, "NextButton");
+    });
+    script.Answer(Reply::Ok);
+    test::Press(form, "AdvisorButton");
+    EXPECT_GT(advice.size(), 40);
+    script.Answer(Reply::Yes);
+    script.Answer(Reply::Ok);
+    script.Do([&advice](QWidget& window) {
+        EXPECT_EQ(Text(window), advice);
+        window.close();
+    });
+    test::Press(form, "AdvisorButton");
+}
+
 TEST_F(AdvFormTest, adviceBook_plantAdvisorThroughTheWindow_endsInAdvice)
 {
     QFile::copy(QString::fromUtf8(LS_SAMPLES "/Advice.IDA"), QString::fromStdString(Path("Advice.IDA")));
@@ -328,6 +509,46 @@ TEST_F(AdvFormTest, adviceBook_plantAdvisorThroughTheWindow_endsInAdvice)
         window.close();
     });
     test::Press(form, "AdvisorButton");
+}
+
+// Nothing thrown may reach the window's event loop: it would end the program without a word.
+TEST(AdvFormFaults, memoryRunsOutWhileAnswering_isReportedAndTheWindowStays)
+{
+    test::TestSeams world;
+    const std::string farAway(200'000, 'x'); // beyond what was read so far
+    world.files["/far.IDA"] =
+        test::CrLf({"LODESTAR BOOK V5.3", "[Near]", "<IXML>", "<LOGIC>", "DEFINE B@Far", "AV(GO)=A(1)B(1)",
+                    "AV(STAY)=A(2)B(2)", "AV(WAIT)=A(1)B(2)", "<DEFINITIONS>", "<Q ID=A>A?</Q>",
+                    "</DEFINITIONS>", "</IXML>", "[Between]"}) +
+        farAway + test::CrLf({"", "[Far]", "<IXML>", "<LOGIC>", "<DEFINITIONS>", "<Q ID=B>B?</Q>"});
+    Global global;
+    global.book.BookPath = "/far.IDA";
+    ASSERT_TRUE(OpenBook(global.book, world.Get()));
+    ASSERT_TRUE(ScanBook(global.book, world.Get()));
+    ShownTopic shown;
+    global.book.CurrentTopicName = "Near";
+    global.book.CurrentTopicNo = 0;
+    ASSERT_EQ(ShowTopic(global.book, world.Get(), global.book.CurrentTopicName, global.book.CurrentTopicNo,
+                        80, shown),
+              ShowResult::Shown);
+    global.book.LogicPos = shown.logicPos;
+    test::ModalScript script;
+    script.Do([&world](QWidget& window) {
+        EXPECT_EQ(Find<QPlainTextEdit>(window, "MessageBox")->toPlainText(), QStringLiteral("A?"));
+        world.files.fail = [](const std::string& operation) -> int {
+            if (operation.rfind("read", 0) == 0) {
+                throw std::bad_alloc();
+            }
+            return 0;
+        };
+        Find<QComboBox>(window, "AnswerCombo")->setCurrentIndex(1);
+        test::Press(window, "NextButton");
+        EXPECT_TRUE(window.isVisible());
+        window.close();
+    });
+    AdvForm(nullptr, global, world.Get()).Run();
+    EXPECT_EQ(world.messages.Take(), Strings{"critical|Lodestar Advisor|Out of memory"});
+    EXPECT_FALSE(world.end.Ended());
 }
 
 } // namespace
