@@ -64,17 +64,24 @@ Tour::Tour(QWidget& window, const QDir& pictures) : m_window(window), m_pictures
 
 bool Tour::Take()
 {
-    const Step steps[] = {
-        {"open", &Tour::LookAtOpenBook},     {"pick", &Tour::PickTopic},
-        {"topic", &Tour::GoToPickedTopic},   {"page", &Tour::ScrollByPage},
-        {"end", &Tour::ScrollToEnd},         {"next", &Tour::ShowNextTopic},
-        {"menu", &Tour::OpenIndexMenu},      {"alphabetic", &Tour::SortByAlphabet},
-        {"contents", &Tour::SortByContents}, {"wide", &Tour::WidenWindow},
-    };
-    for (std::size_t i = 0; i < std::size(steps); ++i)
-        if (!TakeStep(steps[i], static_cast<int>(i) + 1))
-            return false;
-    return true;
+    return TakeSteps({
+        {"open", &Tour::LookAtOpenBook},
+        {"pick", &Tour::PickTopic},
+        {"topic", &Tour::GoToPickedTopic},
+        {"page", &Tour::ScrollByPage},
+        {"end", &Tour::ScrollToEnd},
+        {"next", &Tour::ShowNextTopic},
+        {"menu", &Tour::OpenIndexMenu},
+        {"alphabetic", &Tour::SortByAlphabet},
+        {"contents", &Tour::SortByContents},
+        {"wide", &Tour::WidenWindow},
+    });
+}
+
+bool Tour::TakeSteps(std::initializer_list<Step> steps)
+{
+    return std::all_of(steps.begin(), steps.end(),
+                       [this](const Step& step) { return TakeStep(step, ++m_taken); });
 }
 
 bool Tour::TakeStep(const Step& step, int number)
@@ -85,6 +92,11 @@ bool Tour::TakeStep(const Step& step, int number)
     QTest::qWait(SettleMs);
     if (!SavePicture(name) && fault.isEmpty())
         fault = QStringLiteral("the picture cannot be saved");
+    return Report(name, fault);
+}
+
+bool Tour::Report(const QString& name, const Fault& fault)
+{
     if (fault.isEmpty())
         Say(QStringLiteral("ok      %1").arg(name));
     else
@@ -102,7 +114,7 @@ bool Tour::SavePicture(const QString& name) const
 void Tour::LookForBox() const
 {
     const QWidget* box = QApplication::activeModalWidget();
-    if (box == nullptr)
+    if (box == nullptr || box == m_advisor)
         return;
     Say(QStringLiteral("FAILED  an unexpected box: %1").arg(TextOf(*box)));
     if (!SavePicture(QStringLiteral("99-unexpected-box")))

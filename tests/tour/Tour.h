@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <initializer_list>
+
 class QComboBox;
 class QScrollBar;
 class QWidget;
@@ -24,6 +26,10 @@ public:
 
     /// Takes all steps. Each is reported in a line on standard output; the first that fails ends the tour.
     [[nodiscard]] bool Take();
+
+    /// The same for a book that opened on a topic with an advisor: answers its questions, "? - unsure" where
+    /// that is offered and the first value elsewhere, until there is an advice.
+    [[nodiscard]] bool TakeAdvisor();
 
 private:
     /// What a step found wrong; empty when all is well.
@@ -47,7 +53,18 @@ private:
     Fault SortByContents();
     Fault WidenWindow();
 
+    Fault LookAtAdvisorTopic();
+    Fault LookAtQuestion();
+    Fault OpenAnswers();
+    Fault PickAnswer();
+    Fault PressNext();
+    Fault LookAtAdvice();
+    Fault CloseAdvisor();
+
+    [[nodiscard]] bool WalkAdvisor();
+    [[nodiscard]] bool TakeSteps(std::initializer_list<Step> steps);
     [[nodiscard]] bool TakeStep(const Step& step, int number);
+    [[nodiscard]] static bool Report(const QString& name, const Fault& fault);
     [[nodiscard]] bool SavePicture(const QString& name) const;
     void LookForBox() const;
 
@@ -64,6 +81,8 @@ private:
     QPointer<QComboBox> m_list;
     QPointer<QScrollBar> m_bar;
     QPointer<ReadingPane> m_pane;
+    QPointer<QWidget> m_advisor; ///< its window, while it is open
+    int m_taken = 0;             ///< steps so far
 };
 
 } // namespace ls

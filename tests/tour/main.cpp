@@ -40,7 +40,9 @@ bool TakeTour(const QDir& pictures, const std::vector<std::string>& arguments)
         std::puts("FAILED  the window does not become active");
         return false;
     }
-    return tour.Take() && !global.end.Ended();
+    const auto* advisor = form.findChild<QWidget*>(QStringLiteral("AdvisorButton"));
+    const bool asked = advisor != nullptr && advisor->isVisible();
+    return (asked ? tour.TakeAdvisor() : tour.Take()) && !global.end.Ended();
 }
 
 } // namespace
