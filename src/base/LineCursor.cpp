@@ -12,6 +12,19 @@ namespace {
 constexpr std::size_t FirstBlock = 16 * 1024;
 constexpr std::size_t LastBlock = 256 * 1024;
 
+constexpr std::size_t Chunk = 4 * 1024;
+
+// Whether each CR of the bytes stands before an LF; one byte behind them is looked at too. No branch in the
+// loop, so that many bytes are tested at a time.
+bool EachCrHasLf(const char* bytes, std::size_t size)
+{
+    unsigned bare = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        bare |= static_cast<unsigned>(bytes[i] == '\r') & static_cast<unsigned>(bytes[i + 1] != '\n');
+    }
+    return bare == 0;
+}
+
 } // namespace
 
 LineCursor::LineCursor(BookFile& file) : m_file(&file) {}
@@ -104,6 +117,32 @@ FileError LineCursor::ReadLine(std::string_view& line)
     FileError failed = ReadLine(m_line);
     line = m_line;
     return failed;
+}
+
+std::string_view LineCursor::ReadCrLfLines(FilePos end)
+{
+    if ((m_next == m_size && !Fill()) || end <= Position()) {
+        return {};
+    }
+    const auto wanted = static_cast<std::size_t>(end - Position());
+    const std::string_view bytes(m_block.get() + m_next, std::min(m_size - m_next, wanted));
+    const std::size_t first = bytes.find('\r');
+    if (first == std::string_view::npos || first + 1 >= bytes.size() || bytes[first + 1] != '\n') {
+        return {}; // a file without LF is not to be tested a chunk for each line
+    }
+    std::size_t good = 0;
+    while (good + 1 < bytes.size()) {
+        const std::size_t size = std::min(Chunk, bytes.size() - good - 1);
+        if (!EachCrHasLf(bytes.data() + good, size)) {
+            break;
+        }
+        good += size;
+    }
+    // The byte behind the good ones was looked at: it may be the LF of the last line.
+    const std::size_t lineEnd = bytes.substr(0, std::min(good + 1, bytes.size())).rfind("\r\n");
+    const std::size_t size = lineEnd == std::string_view::npos ? 0 : lineEnd + 2;
+    m_next += size;
+    return bytes.substr(0, size);
 }
 
 FileError LineCursor::SkipLine()

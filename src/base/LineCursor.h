@@ -37,6 +37,11 @@ public:
     /// The same without a copy: the line is valid until the cursor's next call.
     FileError ReadLine(std::string_view& line);
 
+    /// Passes several whole lines that all end in CR LF, before `end`, and gives their bytes, line ends
+    /// included; valid until the cursor's next call. Nothing is passed, and the result is empty, where the
+    /// next line is not like that, lies across a block's end, or cannot be read: `ReadLine` then does.
+    std::string_view ReadCrLfLines(FilePos end);
+
     /// Passes over whole lines until the next one begins with `first` or `second`, or the file ends. The
     /// position must be at the start of a line. Nothing is copied, so a line of any length costs no memory.
     FileError SkipToLineBeginning(char first, char second);

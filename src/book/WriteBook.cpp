@@ -50,7 +50,7 @@ public:
         if (book.File) {
             m_cursor = std::make_unique<LineCursor>(*book.File);
         }
-        m_buffer.reserve(BufferSize + BufferSize / 4);
+        m_buffer.reserve(2 * BufferSize);
     }
 
     WriteOutcome Run()
@@ -112,8 +112,12 @@ private:
     {
         const FilePos end = m_ends.Of(m_book.TopicPos(number));
         std::string_view line;
-        while (m_cursor->Position() < end && m_outcome == WriteOutcome::Written && Read(line)) {
-            PutLine(line);
+        while (m_cursor->Position() < end && m_outcome == WriteOutcome::Written) {
+            if (const std::string_view lines = m_cursor->ReadCrLfLines(end); !lines.empty()) {
+                Put(lines);
+            } else if (Read(line)) {
+                PutLine(line);
+            }
         }
         // A line that runs across the end that the scan saw: somebody changed the file.
         if (m_outcome == WriteOutcome::Written && m_cursor->Position() != end) {
@@ -160,10 +164,16 @@ private:
         return failed.Ok();
     }
 
-    // Adds the line and its end; a full buffer goes to the file, and the progress is told.
     void PutLine(std::string_view line)
     {
-        m_buffer.append(line).append(LineEnd);
+        m_buffer.append(line);
+        Put(LineEnd);
+    }
+
+    // A full buffer goes to the file, and the progress is told.
+    void Put(std::string_view bytes)
+    {
+        m_buffer.append(bytes);
         if (m_buffer.size() >= BufferSize) {
             Flush();
             TellProgress();

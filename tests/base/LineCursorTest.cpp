@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace ls {
 namespace {
 
@@ -325,6 +327,78 @@ TEST(LineCursor, position_past2GiB_isExact)
     EXPECT_EQ(line, "text");
     EXPECT_EQ(cursor.Position(), 5'000'000'011);
     EXPECT_TRUE(cursor.AtEnd());
+}
+
+TEST_F(LineCursorTest, readCrLfLines_severalLines_givesThemAsTheyStand)
+{
+    Open("a\r\n\r\nb\nc\r\nrest");
+    LineCursor cursor(*file);
+    EXPECT_EQ(cursor.ReadCrLfLines(100), "a\r\n\r\nb\nc\r\n");
+    EXPECT_EQ(cursor.Position(), 11);
+    EXPECT_EQ(cursor.ReadCrLfLines(100), "") << "a line without its end";
+    EXPECT_EQ(cursor.Position(), 11);
+}
+
+TEST_F(LineCursorTest, readCrLfLines_end_isNotPassed)
+{
+    Open("a\r\nb\r\nc\r\n");
+    LineCursor cursor(*file);
+    EXPECT_EQ(cursor.ReadCrLfLines(7), "a\r\nb\r\n");
+    EXPECT_EQ(cursor.ReadCrLfLines(7), "");
+    EXPECT_EQ(cursor.ReadCrLfLines(9), "") << "the line ends behind it";
+    EXPECT_EQ(cursor.Position(), 7);
+}
+
+TEST_F(LineCursorTest, readCrLfLines_crAlone_isLeftToReadLine)
+{
+    Open("a\rb\r\nc\r\n");
+    LineCursor cursor(*file);
+    EXPECT_EQ(cursor.ReadCrLfLines(100), "");
+    std::string line;
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "a");
+    EXPECT_EQ(cursor.ReadCrLfLines(100), "b\r\nc\r\n");
+}
+
+TEST_F(LineCursorTest, readCrLfLines_readError_isLeftToReadLine)
+{
+    Open("a\r\n");
+    LineCursor cursor(*file);
+    files.fail = [](const std::string&) { return error::DeviceIo; };
+    EXPECT_EQ(cursor.ReadCrLfLines(100), "");
+    std::string line;
+    EXPECT_EQ(cursor.ReadLine(line).number, error::DeviceIo);
+}
+
+// Whatever the line ends and wherever the blocks end: both ways of reading give the same lines.
+TEST_F(LineCursorTest, readCrLfLines_anyBytes_givesTheLinesOfReadLine)
+{
+    std::minstd_rand random(7);
+    for (int round = 0; round < 60; ++round) {
+        const int bareIn = round % 3 == 0 ? 3 : 4000; // one CR of so many lacks its LF
+        std::string bytes;
+        while (bytes.size() < 60000) {
+            bytes.append(random() % 200, 'x').append(random() % 9 == 0 ? "\n" : "").append("\r");
+            bytes += random() % static_cast<unsigned>(bareIn) == 0 ? "" : "\n";
+        }
+        Open(bytes);
+        std::string expected;
+        for (const std::string& line : Lines()) {
+            expected += line + "\r\n";
+        }
+        LineCursor cursor(*file);
+        std::string got;
+        std::string line;
+        while (!cursor.AtEnd()) {
+            const std::string_view lines = cursor.ReadCrLfLines(static_cast<FilePos>(bytes.size()) + 1);
+            if (lines.empty()) {
+                ASSERT_TRUE(cursor.ReadLine(line).Ok());
+                got += line + "\r\n";
+            }
+            got += lines;
+        }
+        ASSERT_TRUE(got == expected) << round;
+    }
 }
 
 } // namespace
