@@ -17,9 +17,7 @@ void EditCommands::EdTextItem_Click()
         m_seams.messages.MsgBox("There is nothing to edit.", Icon::Warning);
         return;
     }
-    if (m_book.CurrentTopicName.empty() || m_book.CurrentTopicNo == 0) {
-        m_seams.messages.MsgBox(
-            "Please display the topic first by choosing it from the list and clicking Go.", Icon::Warning);
+    if (!IsTopicOnShow(Icon::Warning)) {
         return;
     }
     const auto number = static_cast<std::size_t>(m_book.CurrentTopicNo);
@@ -33,6 +31,51 @@ void EditCommands::EdTextItem_Click()
     if (!m_seams.end.Ended()) {
         m_navigation.ShowTopicAgain();
     }
+}
+
+void EditCommands::AdviceEdItem_Click()
+{
+    if (m_book.IsPlainText()) {
+        m_seams.messages.MsgBox(
+            "To edit advice, you must be editing an idea file rather than a plain text file.",
+            Icon::Exclamation);
+        return;
+    }
+    if (m_book.TopicCount == 0) {
+        m_seams.messages.MsgBox("There is no topic to edit.", Icon::Exclamation);
+        return;
+    }
+    if (!IsTopicOnShow(Icon::Exclamation)) {
+        return;
+    }
+    const auto number = static_cast<std::size_t>(m_book.CurrentTopicNo);
+    TopicRec before = m_book.TopicRecs(number);
+    const bool loaded = LoadTopicOnShow() && LoadUntakenLogic();
+    if (!loaded || !m_view.ShowLgEdForm()) {
+        m_book.TopicRecs(number) = std::move(before);
+    }
+}
+
+// False after a message when no topic is displayed.
+bool EditCommands::IsTopicOnShow(Icon icon)
+{
+    const bool shown = !m_book.CurrentTopicName.empty() && m_book.CurrentTopicNo != 0;
+    if (!shown) {
+        m_seams.messages.MsgBox(
+            "Please display the topic first by choosing it from the list and clicking Go.", icon);
+    }
+    return shown;
+}
+
+// A block of the file that does not begin with "<IXML>" and "<LOGIC>" is not in the topic's record. Done
+// would put the editor's block in its place, so the editor must come up with it. False after a message.
+bool EditCommands::LoadUntakenLogic()
+{
+    const auto index = static_cast<std::size_t>(m_book.CurrentTopicNo);
+    if (!m_book.TopicRecs(index).Logic.empty() || m_book.TopicPos(index) == 0) {
+        return true;
+    }
+    return LoadLogicFromFile(m_book, m_seams, m_book.CurrentTopicNo, m_book.TopicRecs(index).Logic);
 }
 
 // Brings the topic into memory when it is not there yet. False after the message of one that cannot be read:

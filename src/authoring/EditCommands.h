@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Messages.h"
 #include "base/Seams.h"
 
 namespace ls {
@@ -21,11 +22,17 @@ public:
     /// as it was before the command, unedited if it was.
     void EdTextItem_Click();
 
+    /// Lets the author edit the logic block of the topic on show. Cancel leaves the topic as it was before
+    /// the command, as above.
+    void AdviceEdItem_Click();
+
     /// Lets the author edit the header fields.
     void EditPropertiesOption_Click();
 
 private:
+    [[nodiscard]] bool IsTopicOnShow(Icon icon);
     [[nodiscard]] bool LoadTopicOnShow();
+    [[nodiscard]] bool LoadUntakenLogic();
 
     Book& m_book;
     Seams m_seams;

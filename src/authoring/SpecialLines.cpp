@@ -1,6 +1,6 @@
 #include "authoring/SpecialLines.h"
 
-#include "base/CodePage.h"
+#include "authoring/Quoted.h"
 #include "base/FileSystem.h"
 #include "base/LineCursor.h"
 #include "base/Text.h"
@@ -14,7 +14,6 @@ namespace ls {
 namespace {
 
 constexpr std::size_t NamedLines = 5;
-constexpr std::size_t NamedLength = 60;
 
 // A text in memory that reads like a book's file, so that the book's own reader of notes can judge it.
 class TextFile : public BookFile
@@ -82,6 +81,8 @@ std::optional<LineMeaning> MeaningOf(std::string_view line)
     return std::nullopt;
 }
 
+} // namespace
+
 std::string_view Consequence(LineMeaning meaning)
 {
     switch (meaning) {
@@ -100,13 +101,6 @@ std::string_view Consequence(LineMeaning meaning)
     }
     return "opens a cross reference that does not end: it would swallow the topics behind it";
 }
-
-std::string Shortened(const std::string& line)
-{
-    return FromBook(line.size() > NamedLength ? line.substr(0, NamedLength) + "..." : line);
-}
-
-} // namespace
 
 std::vector<SpecialLine> FindSpecialLines(std::string_view text)
 {
@@ -142,7 +136,7 @@ std::string SpecialLinesQuestion(const std::vector<SpecialLine>& lines)
 {
     std::string question = "Not everything here would be text when the saved book is opened again:\n";
     for (std::size_t i = 0; i < std::min(lines.size(), NamedLines); ++i) {
-        question += "\nLine " + std::to_string(lines[i].line) + ", \"" + Shortened(lines[i].text) + "\", ";
+        question += "\nLine " + std::to_string(lines[i].line) + ", " + Quoted(lines[i].text) + ", ";
         question.append(Consequence(lines[i].meaning)).append(".");
     }
     if (lines.size() > NamedLines) {

@@ -28,6 +28,9 @@ struct SpecialLine
 /// Inside a cross reference's note only "<IXML>" counts: the scan takes every other line as note.
 [[nodiscard]] std::vector<SpecialLine> FindSpecialLines(std::string_view text);
 
+/// What becomes of such a line: "would start a new topic".
+[[nodiscard]] std::string_view Consequence(LineMeaning meaning);
+
 /// What the author is asked before such lines are kept, as UTF-8; it names the first five of them.
 [[nodiscard]] std::string SpecialLinesQuestion(const std::vector<SpecialLine>& lines);
 

@@ -51,4 +51,10 @@ void ShowFetchError(const Seams& seams, const std::string& name, const FileError
 void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& number,
                   std::string* plainText = nullptr);
 
+/// The logic block of a topic as it stands in the file, from its "<IXML>" line on, whatever follows that
+/// line; its lines end in CR LF, and `logic` stays as it is where the topic has no block. False after a
+/// message.
+[[nodiscard]] bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number,
+                                     std::string& logic);
+
 } // namespace ls

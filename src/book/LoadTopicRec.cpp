@@ -115,4 +115,33 @@ void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
     rec.Logic = std::move(logic);
 }
 
+bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number, std::string& logic)
+{
+    std::string name = book.TopicNames(static_cast<std::size_t>(number));
+    NoFile noFile;
+    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LocateTopic(book, seams, cursor, name, number);
+    if (name.empty()) {
+        return false;
+    }
+    TopicReader reader(cursor, EndOfTopic(book, number));
+    std::string text;
+    std::string block;
+    if (ReadText(reader, text)) {
+        block.append(LogicOpening).append(LineEnd);
+        std::string line;
+        while (reader.Next(line)) {
+            block.append(line).append(LineEnd);
+        }
+    }
+    if (!reader.Failed().Ok()) {
+        ShowFetchError(seams, name, reader.Failed());
+        return false;
+    }
+    if (!block.empty()) {
+        logic = std::move(block);
+    }
+    return true;
+}
+
 } // namespace ls

@@ -1,0 +1,401 @@
+#include "authoring/LogicBlockReader.h"
+
+#include "authoring/LogicTags.h"
+#include "authoring/Quoted.h"
+#include "base/Text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ls::logic {
+
+namespace {
+
+constexpr std::size_t None = std::string_view::npos;
+constexpr std::size_t ShownLength = 32000; // of an entry's text; the advisor cuts what is longer
+
+bool IsBlank(std::string_view text)
+{
+    return Trim(text).empty();
+}
+
+// The lines of a text as a book's file has them: a lone LF is an ordinary character.
+class Lines
+{
+public:
+    explicit Lines(std::string_view text) : m_text(text) {}
+
+    bool Next(std::string_view& line)
+    {
+        if (m_next >= m_text.size()) {
+            return false;
+        }
+        const std::size_t end = std::min(m_text.find('\r', m_next), m_text.size());
+        line = m_text.substr(m_next, end - m_next);
+        m_next = end + (m_text.substr(end).starts_with(LineEnd) ? 2 : 1);
+        ++m_number;
+        return true;
+    }
+
+    [[nodiscard]] int Number() const { return m_number; }
+
+private:
+    std::string_view m_text;
+    std::size_t m_next = 0;
+    int m_number = 0;
+};
+
+// The text of an entry as it is collected piece by piece.
+class EntryText
+{
+public:
+    void Add(std::string_view piece, bool last)
+    {
+        m_cut = m_cut || m_text.size() + piece.size() > ShownLength;
+        piece = Trim(piece);
+        if (!m_text.empty() && !(last && piece.empty())) {
+            m_text += LineEnd;
+        }
+        m_text += piece;
+    }
+
+    // Whether the advisor shows less of it than what would be left after blanks around its lines are gone.
+    [[nodiscard]] bool CutByBlanks() const { return m_cut && m_text.size() <= ShownLength; }
+
+    // On lines of its own, one that begins with "[" would start a topic. A blank in front keeps it text.
+    [[nodiscard]] std::string Take()
+    {
+        if (!OnOwnLines(m_text) || m_text.find('[') == None) {
+            return std::move(m_text);
+        }
+        std::string guarded;
+        for (std::size_t i = 0; i < m_text.size(); ++i) {
+            const bool lineStart = i == 0 || (i >= 2 && m_text[i - 1] == '\n' && m_text[i - 2] == '\r');
+            guarded.append(m_text[i] == '[' && lineStart ? " " : "").append(1, m_text[i]);
+        }
+        return guarded;
+    }
+
+private:
+    std::string m_text;
+    bool m_cut = false;
+};
+
+class Reader
+{
+public:
+    Reader(std::string_view text, std::string& logicText, std::vector<LostPart>& lost)
+        : m_empty(text.empty()), m_lines(text), m_logicText(logicText), m_lost(lost)
+    {
+    }
+
+    std::vector<LogicEntry> Run()
+    {
+        if (!m_empty && FindLogic() && ReadLogic()) {
+            ReadDefinitions();
+        }
+        LoseRest();
+        return std::move(m_entries);
+    }
+
+private:
+    // A tag that opens an entry in the line at hand.
+    struct Opening
+    {
+        bool question = false;
+        std::size_t at = None;
+        std::size_t identifier = None;
+        std::size_t close = None; ///< its ">"
+    };
+
+    bool NextLine();
+    bool FindLogic();
+    bool ReadLogic();
+    void CloseWithoutDefinitions(std::vector<std::string_view>& lines);
+    void ReadDefinitions();
+    void TakeLine();
+    void TakeEntries();
+    [[nodiscard]] Opening FindOpening() const;
+    [[nodiscard]] Opening OpeningAt(std::size_t at, const EntryTags& tags) const;
+    void ReadEntry(const Opening& opening);
+    bool ReadEntryText(LogicEntry& entry, const EntryTags& tags);
+    void EndDefinitions(std::size_t end);
+    void LoseRest();
+    void Lose(std::string what) { m_lost.push_back({m_lines.Number(), std::move(what)}); }
+    void LoseText(std::string_view text)
+    {
+        if (!IsBlank(text)) {
+            Lose("The text " + Quoted(Trim(text)) + " would be dropped.");
+        }
+    }
+
+    bool m_empty;
+    Lines m_lines;
+    std::string& m_logicText;
+    std::vector<LostPart>& m_lost;
+    std::vector<LogicEntry> m_entries;
+
+    std::string_view m_line; ///< the line at hand
+    std::string m_upper;     ///< the same in upper case
+    std::size_t m_at = 0;    ///< how far it is read
+    bool m_ended = false;    ///< the definitions, or the whole block, are over
+    bool m_stopped = false;  ///< a line begins with "[": it is not read
+};
+
+// The next line; false at the end of the block, which a line beginning with "[" is too.
+bool Reader::NextLine()
+{
+    if (m_ended || !m_lines.Next(m_line)) {
+        m_ended = true;
+        return false;
+    }
+    m_upper = UpperCase(m_line);
+    m_at = 0;
+    m_stopped = m_line.starts_with('[');
+    m_ended = m_stopped;
+    return !m_stopped;
+}
+
+bool Reader::FindLogic()
+{
+    bool first = true;
+    while (NextLine()) {
+        const std::string_view trimmed = Trim(m_upper);
+        if (trimmed == LogicOpening) {
+            return true;
+        }
+        if (!(first && trimmed == BlockOpening)) {
+            LoseText(m_line);
+        }
+        first = false;
+    }
+    Lose("There is no \"<LOGIC>\" line; one would be added.");
+    return false;
+}
+
+// Whether the line opens the definitions: a rule's blanks do not count, so "A=< DEFINITIONS >" does.
+bool OpensDefinitions(std::string_view trimmedUpper)
+{
+    if (trimmedUpper.find('<') == None) {
+        return false;
+    }
+    if (trimmedUpper.starts_with('*') || trimmedUpper.find('=') == None) {
+        return trimmedUpper.find(DefinitionsOpening) != None;
+    }
+    std::string rule(trimmedUpper);
+    rule.erase(std::remove(rule.begin(), rule.end(), ' '), rule.end());
+    return rule.find(DefinitionsOpening) != None;
+}
+
+// The builder puts "</LOGIC>" right behind a logic text of one or two characters: it is taken off a comment.
+std::string_view WithoutRunInTag(std::string_view line)
+{
+    const bool runIn =
+        line.starts_with('*') && line.ends_with(LogicClosing) && line.size() <= LogicClosing.size() + 2;
+    return runIn ? line.substr(0, line.size() - LogicClosing.size()) : line;
+}
+
+// What stands between "</LOGIC>" and the definitions counts for the advisor as logic.
+bool Reader::ReadLogic()
+{
+    std::vector<std::string_view> lines;
+    bool found = false;
+    std::size_t closed = None; // how many lines stood before "</LOGIC>"
+    while (NextLine()) {
+        const std::string_view trimmed = Trim(m_upper);
+        found = OpensDefinitions(trimmed);
+        if (found) {
+            if (trimmed != DefinitionsOpening) {
+                Lose("The line " + Quoted(Trim(m_line)) + " would become \"<DEFINITIONS>\".");
+            }
+            break;
+        }
+        if (trimmed == LogicClosing) {
+            closed = std::min(closed, lines.size());
+        } else {
+            lines.push_back(WithoutRunInTag(TrimRight(m_line)));
+        }
+    }
+    while (closed != None && lines.size() > closed && lines.back().empty()) {
+        lines.pop_back();
+    }
+    if (!found) {
+        CloseWithoutDefinitions(lines);
+    }
+    for (const std::string_view line : lines) {
+        m_logicText.append(line).append(LineEnd);
+    }
+    return found;
+}
+
+void Reader::CloseWithoutDefinitions(std::vector<std::string_view>& lines)
+{
+    Lose("There is no \"<DEFINITIONS>\" line; one would be added.");
+    const auto last =
+        std::find_if(lines.rbegin(), lines.rend(), [](std::string_view line) { return !line.empty(); });
+    if (last != lines.rend() && EqualsUpper(Trim(*last), BlockClosing)) {
+        lines.erase(last.base() - 1, lines.end());
+    }
+}
+
+void Reader::ReadDefinitions()
+{
+    while (NextLine()) {
+        TakeLine();
+    }
+}
+
+void Reader::TakeLine()
+{
+    const std::string_view trimmed = Trim(m_upper);
+    if (trimmed.empty() || trimmed == BlockClosing) {
+        return;
+    }
+    if (trimmed.find(DefinitionsClosing) != None) {
+        m_ended = true;
+        if (trimmed != DefinitionsClosing) {
+            Lose("The line " + Quoted(Trim(m_line)) + " would become \"</DEFINITIONS>\".");
+        }
+    } else if (trimmed.starts_with('[')) {
+        Lose("The line " + Quoted(Trim(m_line)) +
+             ", which hides the questions behind it from the advisor, would be dropped.");
+    } else if (trimmed.starts_with('*')) {
+        Lose("The comment " + Quoted(Trim(m_line)) + " would be dropped.");
+    } else {
+        TakeEntries();
+    }
+}
+
+// All entries that begin in the line at hand, or in the line in which one of them ends.
+void Reader::TakeEntries()
+{
+    int begun = m_lines.Number();
+    while (!m_ended) {
+        const bool comment = TrimLeft(m_upper).starts_with('*'); // an entry's last line can look like one
+        const Opening opening = comment ? Opening() : FindOpening();
+        LoseText(m_line.substr(m_at, opening.at == None ? None : opening.at - m_at));
+        if (opening.at == None) {
+            return;
+        }
+        const bool atLineStart = begun == m_lines.Number() && IsBlank(m_line.substr(0, opening.at));
+        if (opening.question && !atLineStart) {
+            Lose("The question for " +
+                 Quoted(m_line.substr(opening.identifier, opening.close - opening.identifier)) +
+                 " does not begin its line, so the advisor passes over it; it would be put on a line of its "
+                 "own.");
+        }
+        ReadEntry(opening);
+    }
+}
+
+Reader::Opening Reader::FindOpening() const
+{
+    for (std::size_t at = m_upper.find('<', m_at); at != None; at = m_upper.find('<', at + 1)) {
+        for (const EntryTags& tags : {QuestionTags, AdviceTags}) {
+            if (m_upper.compare(at, tags.opening.size(), tags.opening) == 0) {
+                return OpeningAt(at, tags);
+            }
+        }
+    }
+    return {};
+}
+
+// An identifier ends at the first ">", save one inside parentheses: `INCOME(>1000)`.
+Reader::Opening Reader::OpeningAt(std::size_t at, const EntryTags& tags) const
+{
+    Opening opening;
+    opening.question = tags.opening == QuestionTags.opening;
+    opening.identifier = at + tags.opening.size();
+    opening.close = m_line.find('>', opening.identifier);
+    if (opening.close == None) {
+        return {};
+    }
+    const std::string_view identifier = m_line.substr(opening.identifier, opening.close - opening.identifier);
+    const std::size_t open = identifier.find('(');
+    if (!opening.question && open != None && identifier.find(')', open) == None) {
+        const std::size_t end = m_line.find(")>", opening.close);
+        opening.close = end == None ? opening.close : end + 1;
+    }
+    opening.at = at;
+    return opening;
+}
+
+void Reader::ReadEntry(const Opening& opening)
+{
+    const EntryTags& tags = opening.question ? QuestionTags : AdviceTags;
+    LogicEntry entry;
+    entry.question = opening.question;
+    entry.identifier = m_line.substr(opening.identifier, opening.close - opening.identifier);
+    entry.raw = m_line.substr(opening.at, opening.close + 1 - opening.at);
+    entry.line = m_lines.Number();
+    m_at = opening.close + 1;
+    const std::string name =
+        (entry.question ? "The question for " : "The advice for ") + Quoted(entry.identifier);
+    if (!ReadEntryText(entry, tags)) {
+        m_lost.push_back({entry.line, name + " has no " + Quoted(tags.closing) + "; one would be added."});
+        entry.raw.append(LineEnd).append(tags.closing);
+    }
+    m_entries.push_back(std::move(entry));
+}
+
+// Reads up to the closing tag and stands behind it; false when the definitions end before it. An entry's own
+// lines may begin with "*".
+bool Reader::ReadEntryText(LogicEntry& entry, const EntryTags& tags)
+{
+    EntryText text;
+    bool closed = false;
+    for (bool first = true; first || NextLine(); first = false) {
+        const std::size_t end = m_upper.find(DefinitionsClosing, m_at);
+        const std::size_t closing = std::min(m_line.find(tags.closing, m_at), end);
+        closed = closing != end;
+        const std::string_view piece = m_line.substr(m_at, closing == None ? None : closing - m_at);
+        text.Add(piece, closing != None);
+        entry.raw.append(first ? "" : LineEnd).append(piece);
+        m_at = closing == None ? m_line.size() : closing + (closed ? tags.closing.size() : 0);
+        if (end != None) {
+            EndDefinitions(end);
+        }
+        if (closing != None) {
+            break;
+        }
+    }
+    if (text.CutByBlanks()) {
+        m_lost.push_back({entry.line, "The text of " + Quoted(entry.identifier) +
+                                          ", which the advisor cuts because of its blanks, would be shown "
+                                          "whole."});
+    }
+    entry.text = text.Take();
+    entry.raw.append(closed ? tags.closing : "");
+    return closed;
+}
+
+// The line at hand holds the end of the definitions behind an entry's text.
+void Reader::EndDefinitions(std::size_t end)
+{
+    m_ended = true;
+    LoseText(m_line.substr(m_at, end - m_at));
+    LoseText(m_line.substr(end + DefinitionsClosing.size()));
+}
+
+// Nothing behind the definitions belongs to the block but its closing tag.
+void Reader::LoseRest()
+{
+    if (m_stopped) {
+        LoseText(m_line);
+    }
+    while (m_lines.Next(m_line)) {
+        if (!EqualsUpper(Trim(m_line), BlockClosing)) {
+            LoseText(m_line);
+        }
+    }
+}
+
+} // namespace
+
+std::vector<LogicEntry> ReadLogicBlock(std::string_view text, std::string& logicText,
+                                       std::vector<LostPart>& lost)
+{
+    return Reader(text, logicText, lost).Run();
+}
+
+} // namespace ls::logic

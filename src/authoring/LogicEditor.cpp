@@ -1,0 +1,419 @@
+#include "authoring/LogicEditor.h"
+
+#include "authoring/LogicFaults.h"
+#include "authoring/TopicText.h"
+#include "base/CodePage.h"
+#include "base/Count16.h"
+#include "base/Messages.h"
+#include "base/Text.h"
+#include "book/Book.h"
+
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+// A name as the advisor compares it. The names in the lists are book text already, so it always has one.
+std::string KeyOf(const std::string& utf8)
+{
+    return UpperCase(ToBook(utf8).value_or(utf8));
+}
+
+template <typename Item>
+Item* At(std::vector<Item>& items, int index)
+{
+    return index >= 0 && index < static_cast<int>(items.size()) ? &items[static_cast<std::size_t>(index)]
+                                                                : nullptr;
+}
+
+template <typename Item>
+void Erase(std::vector<Item>& items, int index)
+{
+    items.erase(items.begin() + index);
+}
+
+// The entry to select after one was deleted: the one behind it, else the last.
+int After(int deleted, std::size_t left)
+{
+    return deleted < static_cast<int>(left) ? deleted : static_cast<int>(left) - 1;
+}
+
+void Refuse(const Seams& seams, const char* text)
+{
+    seams.messages.MsgBox(text, Icon::Exclamation);
+}
+
+// Takes what is in a box, unless only its line ends were put another way. True when it was something new.
+bool Store(std::string& stored, const std::string& inBox)
+{
+    std::string text = WithCrLf(inBox);
+    if (text == stored || text == WithCrLf(stored)) {
+        return false;
+    }
+    stored = std::move(text);
+    return true;
+}
+
+} // namespace
+
+bool LogicEditor::Form_Load()
+{
+    const auto topic = static_cast<std::size_t>(static_cast<int>(m_book.CurrentTopicNo));
+    const LogicBlock block = ParseLogicBlock(m_book.TopicRecs(topic).Logic);
+    if (block.variables.size() > static_cast<std::size_t>(Count16::Max)) {
+        ShowOverflow(m_seams.messages);
+        return false;
+    }
+    Fill(block);
+    m_view.SetText(LogicBox::Logic, m_logicText);
+    std::vector<std::string> names;
+    names.reserve(m_variables.size());
+    for (const Variable& variable : m_variables) {
+        names.push_back(variable.name);
+    }
+    m_view.SetVariables(names);
+    Show(m_variables.empty() ? -1 : 0, 0);
+    return true;
+}
+
+void LogicEditor::Fill(const LogicBlock& block)
+{
+    m_logicText = FromBook(block.logicText);
+    m_bareEntries = block.bareEntries;
+    m_lost = block.lost;
+    m_variables.clear();
+    m_keys.clear();
+    auto choice = block.choices.begin(); // those of one variable lie together, in the variables' order
+    for (const LogicVariable& read : block.variables) {
+        Variable variable;
+        variable.name = FromBook(read.name);
+        variable.question = FromBook(read.question);
+        for (; choice != block.choices.end() && choice->variable == read.name; ++choice) {
+            variable.choices.push_back({FromBook(choice->choice), FromBook(choice->advice)});
+            variable.choiceKeys.insert(UpperCase(choice->choice));
+        }
+        m_keys.insert(UpperCase(read.name));
+        m_variables.push_back(std::move(variable));
+    }
+}
+
+LogicEditor::Variable* LogicEditor::Selected()
+{
+    return At(m_variables, m_variable);
+}
+
+LogicEditor::Choice* LogicEditor::SelectedChoice()
+{
+    Variable* variable = Selected();
+    return variable == nullptr ? nullptr : At(variable->choices, m_choice);
+}
+
+void LogicEditor::StoreTexts()
+{
+    m_changed = Store(m_logicText, m_view.Text(LogicBox::Logic)) || m_changed;
+    VQuestionBox_LostFocus();
+    VCAnswerBox_LostFocus();
+}
+
+void LogicEditor::VQuestionBox_LostFocus()
+{
+    if (Variable* variable = Selected()) {
+        m_changed = Store(variable->question, m_view.Text(LogicBox::Question)) || m_changed;
+    }
+}
+
+void LogicEditor::VCAnswerBox_LostFocus()
+{
+    if (Choice* choice = SelectedChoice()) {
+        m_changed = Store(choice->advice, m_view.Text(LogicBox::Advice)) || m_changed;
+    }
+}
+
+// Selects a variable and one of its choices (0: the first, if there is any) and shows what belongs to them.
+void LogicEditor::Show(int variable, int choice)
+{
+    m_variable = variable;
+    m_choice = -1;
+    m_view.SelectVariable(variable);
+    const Variable* selected = Selected();
+    m_view.SetText(LogicBox::Question, selected == nullptr ? std::string() : selected->question);
+    m_view.Enable(LogicBox::Question, selected != nullptr);
+    std::vector<std::string> names;
+    if (selected != nullptr) {
+        names.reserve(selected->choices.size());
+        for (const Choice& entry : selected->choices) {
+            names.push_back(entry.name);
+        }
+    }
+    m_view.SetChoices(names);
+    ShowChoice(names.empty() ? -1 : choice);
+}
+
+void LogicEditor::ShowChoice(int choice)
+{
+    m_choice = choice;
+    m_view.SelectChoice(choice);
+    const Choice* selected = SelectedChoice();
+    m_view.SetText(LogicBox::Advice, selected == nullptr ? std::string() : selected->advice);
+    m_view.Enable(LogicBox::Advice, selected != nullptr);
+}
+
+void LogicEditor::VarCombo_Click(int index)
+{
+    StoreTexts();
+    if (index != m_variable) {
+        Show(index, 0);
+    }
+}
+
+void LogicEditor::AnswerCombo_Click(int index)
+{
+    StoreTexts();
+    if (index != m_choice) {
+        ShowChoice(index);
+    }
+}
+
+// A trimmed name; nothing when the author cancels or leaves it empty, and after the warning about a character
+// that books cannot hold.
+std::optional<std::string> LogicEditor::AskName(const std::string& prompt)
+{
+    const std::optional<std::string> typed = m_seams.messages.InputBox(prompt, std::string(AppTitle), {});
+    if (!typed || Trim(*typed).empty()) {
+        return std::nullopt;
+    }
+    Unmapped unmapped;
+    if (!ToBook(*typed, &unmapped)) {
+        ShowUnmapped(m_seams, "The name", unmapped.character);
+        return std::nullopt;
+    }
+    return std::string(Trim(*typed));
+}
+
+void LogicEditor::VarAddButton_Click()
+{
+    StoreTexts();
+    std::optional<std::string> name = AskName("Type the name for the variable to be added.");
+    if (!name) {
+        return;
+    }
+    if (m_keys.count(KeyOf(*name)) != 0) {
+        Refuse(m_seams, "There is already a variable with this name.");
+        return;
+    }
+    if (m_variables.size() >= static_cast<std::size_t>(Count16::Max)) {
+        ShowOverflow(m_seams.messages);
+        return;
+    }
+    m_keys.insert(KeyOf(*name));
+    m_view.AppendVariable(*name);
+    m_variables.emplace_back();
+    m_variables.back().name = std::move(*name);
+    m_changed = true;
+    Show(static_cast<int>(m_variables.size()) - 1, 0);
+}
+
+void LogicEditor::VarDelButton_Click()
+{
+    StoreTexts();
+    const Variable* variable = Selected();
+    if (variable == nullptr) {
+        Refuse(m_seams, "To delete a variable, first you must pick it from the list.");
+        return;
+    }
+    const int deleted = m_variable;
+    m_keys.erase(KeyOf(variable->name));
+    Erase(m_variables, deleted);
+    m_changed = true;
+    m_view.RemoveVariable(deleted);
+    Show(After(deleted, m_variables.size()), 0);
+}
+
+void LogicEditor::AddAnsButton_Click()
+{
+    StoreTexts();
+    if (Selected() == nullptr) {
+        Refuse(m_seams, "Before adding a choice, first select a variable.");
+        return;
+    }
+    std::optional<std::string> name = AskName("Type the choice to be added.");
+    Variable* variable = Selected();
+    if (!name || variable == nullptr) {
+        return;
+    }
+    if (!variable->choiceKeys.insert(KeyOf(*name)).second) {
+        Refuse(m_seams, "There is already a choice with this name.");
+        return;
+    }
+    m_view.AppendChoice(*name);
+    variable->choices.push_back({std::move(*name), {}});
+    m_changed = true;
+    ShowChoice(static_cast<int>(variable->choices.size()) - 1);
+}
+
+void LogicEditor::DelAnsButton_Click()
+{
+    StoreTexts();
+    Variable* variable = Selected();
+    if (variable == nullptr || variable->choices.empty()) {
+        Refuse(m_seams, "Before deleting a choice, choose a variable that has some.");
+        return;
+    }
+    const Choice* choice = SelectedChoice();
+    if (choice == nullptr) {
+        Refuse(m_seams, "To delete a choice, first you must pick it from the list.");
+        return;
+    }
+    const int deleted = m_choice;
+    variable->choiceKeys.erase(KeyOf(choice->name));
+    Erase(variable->choices, deleted);
+    m_changed = true;
+    m_view.RemoveChoice(deleted);
+    ShowChoice(After(deleted, variable->choices.size()));
+}
+
+void LogicEditor::KeywordInsertButton_Click(const std::string& keyword)
+{
+    if (keyword.empty()) {
+        Refuse(m_seams, "To insert a keyword into the text box, first pick a keyword from the list.");
+        return;
+    }
+    m_view.InsertIntoLogic(keyword);
+}
+
+void LogicEditor::InsertButton_Click()
+{
+    const Variable* variable = Selected();
+    if (variable == nullptr) {
+        Refuse(m_seams, "To insert a variable name into the text box, first pick a variable from the list.");
+        return;
+    }
+    m_view.InsertIntoLogic(variable->name);
+}
+
+void LogicEditor::InsAdvButton_Click()
+{
+    const Choice* choice = SelectedChoice();
+    if (choice == nullptr) {
+        Refuse(m_seams,
+               "To insert a choice, you must first select a variable and achoice from the pick lists.");
+        return;
+    }
+    m_view.InsertIntoLogic(Selected()->name + "(" + choice->name + ")=");
+}
+
+void LogicEditor::ShowSpecItem_Click()
+{
+    StoreTexts();
+    const std::optional<LogicBlock> block = WritableBlock();
+    const std::optional<std::string> text = block ? BuildLogicBlock(*block, m_seams) : std::nullopt;
+    if (text) {
+        m_view.ShowSpecification(FromBook(*text));
+    }
+}
+
+bool LogicEditor::SaveButton_Click()
+{
+    StoreTexts();
+    const std::optional<LogicBlock> block = WritableBlock();
+    std::optional<std::string> text = block ? BuildLogicBlock(*block, m_seams) : std::nullopt;
+    if (!text || !MayLose() || !MayMisread(*block)) {
+        return false;
+    }
+    const auto topic = static_cast<std::size_t>(static_cast<int>(m_book.CurrentTopicNo));
+    m_book.TopicRecs(topic).Logic = std::move(*text);
+    m_book.BookChanged = true;
+    m_seams.messages.MsgBox("The changes will not take effect until you save the file.", Icon::Information);
+    return true;
+}
+
+bool LogicEditor::Changed()
+{
+    StoreTexts();
+    return m_changed;
+}
+
+std::optional<LogicBlock> LogicEditor::Block()
+{
+    StoreTexts();
+    return ToBookText(nullptr);
+}
+
+bool LogicEditor::MayLose()
+{
+    return m_lost.empty() ||
+           m_seams.messages.MsgBox(LostPartsQuestion(m_lost), Icon::Question, Buttons::OkCancel) == Reply::Ok;
+}
+
+bool LogicEditor::MayMisread(const LogicBlock& block)
+{
+    const std::vector<LogicFault> faults = FindLogicFaults(block);
+    if (faults.empty() || m_seams.messages.MsgBox(LogicFaultsQuestion(faults), Icon::Question,
+                                                  Buttons::OkCancel) == Reply::Ok) {
+        return true;
+    }
+    const LogicFault& first = faults.front();
+    GoTo(first.box, first.variable, first.choice, first.line);
+    return false;
+}
+
+void LogicEditor::GoTo(LogicBox box, int variable, int choice, int line)
+{
+    if (variable >= 0) {
+        Show(variable, choice < 0 ? 0 : choice);
+    }
+    m_view.GoTo(box, line);
+}
+
+// The block as book text, or the warning about the first character that books cannot hold, with the caret
+// there.
+std::optional<LogicBlock> LogicEditor::WritableBlock()
+{
+    Unwritable unwritable{};
+    std::optional<LogicBlock> block = ToBookText(&unwritable);
+    if (!block) {
+        ShowUnmapped(m_seams, unwritable.where, unwritable.character);
+        GoTo(unwritable.box, unwritable.variable, unwritable.choice, unwritable.line);
+    }
+    return block;
+}
+
+std::optional<LogicBlock> LogicEditor::ToBookText(Unwritable* unwritable) const
+{
+    LogicBlock block;
+    bool ok = true;
+    const auto take = [&ok, unwritable](const std::string& utf8, std::string& text, LogicBox box,
+                                        int variable, int choice, const std::string& owner) {
+        Unmapped unmapped;
+        std::optional<std::string> taken = ok ? ToBook(utf8, &unmapped) : std::nullopt;
+        if (taken) {
+            text = std::move(*taken);
+        } else if (ok && unwritable != nullptr) {
+            *unwritable = {box,           variable,
+                           choice,        "Line " + std::to_string(unmapped.line) + " of " + owner,
+                           unmapped.line, unmapped.character};
+        }
+        ok = ok && taken.has_value();
+    };
+    take(m_logicText, block.logicText, LogicBox::Logic, -1, -1, "the logic text");
+    for (std::size_t v = 0; v < m_variables.size() && ok; ++v) {
+        const Variable& variable = m_variables[v];
+        const auto place = static_cast<int>(v);
+        LogicVariable& written = block.variables.emplace_back();
+        written.name = ToBook(variable.name).value_or(std::string());
+        take(variable.question, written.question, LogicBox::Question, place, -1,
+             "the question for \"" + variable.name + "\"");
+        for (std::size_t c = 0; c < variable.choices.size() && ok; ++c) {
+            LogicChoice& entry = block.choices.emplace_back();
+            entry.variable = written.name;
+            entry.choice = ToBook(variable.choices[c].name).value_or(std::string());
+            take(variable.choices[c].advice, entry.advice, LogicBox::Advice, place, static_cast<int>(c),
+                 "the advice for \"" + variable.name + "(" + variable.choices[c].name + ")\"");
+        }
+    }
+    block.bareEntries = m_bareEntries;
+    return ok ? std::optional(std::move(block)) : std::nullopt;
+}
+
+} // namespace ls

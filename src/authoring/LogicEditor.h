@@ -1,0 +1,119 @@
+#pragma once
+
+#include "authoring/LogicBlock.h"
+#include "authoring/LogicView.h"
+#include "base/Seams.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+namespace ls {
+
+struct Book;
+
+/// What `KeywordCombo` lists.
+inline constexpr std::array<const char*, 3> LogicKeywords = {"ASSUME", "TARGET", "DEFINE"};
+
+/// The rules of the logic editor: it edits the logic block in memory of the topic on show, which the command
+/// has brought there. The form hands it its events, and shows what it says through the view.
+///
+/// The texts in the boxes belong to the selected variable and the selected choice. They are stored before
+/// anything else is selected, added, removed, shown or saved, so no event order can lose one.
+class LogicEditor
+{
+public:
+    LogicEditor(Book& book, const Seams& seams, LogicView& view) : m_book(book), m_seams(seams), m_view(view)
+    {
+    }
+
+    /// Takes the block apart, fills the boxes and lists, and selects the first variable. False after the
+    /// "Overflow" box for a block with more than 32,767 variables: the form must not open then.
+    [[nodiscard]] bool Form_Load();
+
+    /// The author chose an entry of a list.
+    void VarCombo_Click(int index);
+    void AnswerCombo_Click(int index);
+
+    void VQuestionBox_LostFocus();
+    void VCAnswerBox_LostFocus();
+
+    void VarAddButton_Click();
+    void VarDelButton_Click();
+    void AddAnsButton_Click();
+    void DelAnsButton_Click();
+
+    /// F2, F3, F4. The keyword is the text of `KeywordCombo`, empty when none is chosen.
+    void KeywordInsertButton_Click(const std::string& keyword);
+    void InsertButton_Click();
+    void InsAdvButton_Click();
+
+    void ShowSpecItem_Click();
+
+    /// Done: true when the block was stored and the form is to close.
+    ///
+    /// A character that books cannot hold is named in a warning. What was read and cannot be kept, and what
+    /// was typed and would not be read back, is named in one question each; declined, the editor stays open.
+    [[nodiscard]] bool SaveButton_Click();
+
+    /// Whether anything differs from what was loaded; for `MayDropText` when the window is closed otherwise.
+    [[nodiscard]] bool Changed();
+
+    /// The block as it would be written now, as book text; nothing when a text holds a character that books
+    /// cannot hold. No message is shown.
+    [[nodiscard]] std::optional<LogicBlock> Block();
+
+private:
+    struct Choice
+    {
+        std::string name;
+        std::string advice;
+    };
+    struct Variable
+    {
+        std::string name;
+        std::string question;
+        std::vector<Choice> choices;
+        std::unordered_set<std::string> choiceKeys; ///< the names as the advisor compares them
+    };
+    struct Unwritable
+    {
+        LogicBox box;
+        int variable;
+        int choice;
+        std::string where; ///< "Line 3 of the logic text"
+        int line;
+        char32_t character;
+    };
+
+    void Fill(const LogicBlock& block);
+    [[nodiscard]] Variable* Selected();
+    [[nodiscard]] Choice* SelectedChoice();
+    void StoreTexts();
+    void Show(int variable, int choice);
+    void ShowChoice(int choice);
+    void GoTo(LogicBox box, int variable, int choice, int line);
+    [[nodiscard]] std::optional<std::string> AskName(const std::string& prompt);
+    [[nodiscard]] std::optional<LogicBlock> ToBookText(Unwritable* unwritable) const;
+    [[nodiscard]] std::optional<LogicBlock> WritableBlock();
+    [[nodiscard]] bool MayLose();
+    [[nodiscard]] bool MayMisread(const LogicBlock& block);
+
+    Book& m_book;
+    Seams m_seams;
+    LogicView& m_view;
+
+    std::string m_logicText;
+    std::vector<Variable> m_variables;
+    std::unordered_set<std::string> m_keys; ///< the variables' names as the advisor compares them
+    std::vector<BareEntry> m_bareEntries;
+    std::vector<LostPart> m_lost;
+    int m_variable = -1;
+    int m_choice = -1;
+    bool m_changed = false;
+};
+
+} // namespace ls

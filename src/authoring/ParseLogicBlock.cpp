@@ -1,0 +1,141 @@
+#include "authoring/LogicBlock.h"
+
+#include "authoring/LogicBlockReader.h"
+#include "authoring/LogicTags.h"
+#include "authoring/Quoted.h"
+#include "base/Text.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+using logic::LogicEntry;
+
+// An identifier of the form VAR(CHOICE).
+struct Identifier
+{
+    std::string_view variable;
+    std::string_view choice;
+};
+
+bool IsWhole(std::string_view part)
+{
+    return !part.empty() && Trim(part) == part;
+}
+
+// Sorts the entries of a block into its tables.
+class Tables
+{
+public:
+    explicit Tables(LogicBlock& block) : m_block(block) {}
+
+    void Fill(std::vector<LogicEntry>& entries)
+    {
+        for (const LogicEntry& entry : entries) {
+            if (entry.question) {
+                m_asked.insert(UpperCase(entry.identifier));
+            }
+        }
+        for (LogicEntry& entry : entries) {
+            if (entry.question) {
+                TakeQuestion(entry);
+            } else if (const std::optional<Identifier> identifier = Split(entry.identifier)) {
+                TakeChoice(entry, *identifier);
+            } else {
+                TakeBare(entry);
+            }
+        }
+        GroupChoices();
+    }
+
+private:
+    [[nodiscard]] std::optional<Identifier> Split(std::string_view identifier) const
+    {
+        const std::size_t open = identifier.find('(');
+        if (open == std::string_view::npos || identifier.back() != ')') {
+            return std::nullopt;
+        }
+        const Identifier parts = {identifier.substr(0, open),
+                                  identifier.substr(open + 1, identifier.size() - open - 2)};
+        const bool known = IsWhole(parts.variable) || m_asked.count(UpperCase(parts.variable)) != 0;
+        return known && IsWhole(parts.choice) ? std::optional(parts) : std::nullopt;
+    }
+
+    void TakeQuestion(LogicEntry& entry)
+    {
+        const std::string key = UpperCase(entry.identifier);
+        if (!m_places.emplace(key, m_block.variables.size()).second) {
+            Lose(entry.line, "The second question for " + Quoted(entry.identifier) +
+                                 " would be dropped; the advisor asks the first.");
+            return;
+        }
+        m_lastQuestion = entry.line;
+        m_block.variables.push_back({std::move(entry.identifier), std::move(entry.text), true});
+    }
+
+    void TakeChoice(LogicEntry& entry, const Identifier& identifier)
+    {
+        if (!m_identifiers.insert(UpperCase(entry.identifier)).second) {
+            Lose(entry.line, "The second advice for " + Quoted(entry.identifier) +
+                                 " would be dropped; the advisor shows the first.");
+            return;
+        }
+        const std::string key = UpperCase(identifier.variable);
+        if (m_asked.count(key) == 0 && m_places.emplace(key, m_block.variables.size()).second) {
+            m_block.variables.push_back({std::string(identifier.variable), {}, false});
+        }
+        m_block.choices.push_back({key, std::string(identifier.choice), std::move(entry.text)});
+    }
+
+    // Which of two equal entries is shown depends on the question asked last, as long as one stands between
+    // them. Behind all questions the first is shown always.
+    void TakeBare(LogicEntry& entry)
+    {
+        const auto [earlier, first] = m_bare.emplace(UpperCase(entry.identifier), entry.line);
+        if (!first && m_lastQuestion > earlier->second) {
+            Lose(entry.line, "The second advice for " + Quoted(entry.identifier) +
+                                 " would move behind all questions, where the first is shown.");
+        }
+        m_block.bareEntries.push_back({std::move(entry.identifier), std::move(entry.raw)});
+    }
+
+    // Until here a choice holds its variable's key.
+    void GroupChoices()
+    {
+        const auto place = [this](const LogicChoice& choice) { return m_places.at(choice.variable); };
+        std::stable_sort(
+            m_block.choices.begin(), m_block.choices.end(),
+            [&place](const LogicChoice& a, const LogicChoice& b) { return place(a) < place(b); });
+        for (LogicChoice& choice : m_block.choices) {
+            choice.variable = m_block.variables[place(choice)].name;
+        }
+    }
+
+    void Lose(int line, std::string what) { m_block.lost.push_back({line, std::move(what)}); }
+
+    LogicBlock& m_block;
+    std::unordered_set<std::string> m_asked;               ///< variables that have a question entry
+    std::unordered_map<std::string, std::size_t> m_places; ///< of the variables in their list
+    std::unordered_set<std::string> m_identifiers;         ///< of the choices
+    std::unordered_map<std::string, int> m_bare;           ///< the line of each first one
+    int m_lastQuestion = 0;                                ///< its line
+};
+
+} // namespace
+
+LogicBlock ParseLogicBlock(std::string_view text)
+{
+    LogicBlock block;
+    std::vector<LogicEntry> entries = logic::ReadLogicBlock(text, block.logicText, block.lost);
+    Tables(block).Fill(entries);
+    std::stable_sort(block.lost.begin(), block.lost.end(),
+                     [](const LostPart& a, const LostPart& b) { return a.line < b.line; });
+    return block;
+}
+
+} // namespace ls
