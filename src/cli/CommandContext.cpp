@@ -36,7 +36,8 @@ Opening CommandContext::OpenTheBook()
     m_book.BookPath = m_arguments->Operands().front();
     if (!OpenBook(m_book, m_seams)) {
         const bool declined = !m_messages.All().empty() && m_messages.All().back().asked;
-        if (declined) {
+        const auto isPlain = [](const OptionSpec& option) { return option.name == PlainOption.name; };
+        if (declined && std::any_of(m_command->options.begin(), m_command->options.end(), isPlain)) {
             m_environment->err << "lsbook: --plain takes it as plain text.\n";
         }
         return declined ? Opening::Declined : Opening::Failed;
@@ -168,7 +169,9 @@ void CommandContext::ReportUntoldError()
         return;
     }
     const std::string tail = std::to_string(failed.number) + ": " + failed.description;
-    const auto tells = [&tail](const CliMessages::Shown& box) { return box.text.ends_with(tail); };
+    const auto tells = [&tail](const CliMessages::Shown& box) {
+        return box.text.ends_with(tail) || box.text.ends_with(tail + ".");
+    };
     if (std::none_of(m_messages.All().begin(), m_messages.All().end(), tells)) {
         m_messages.MsgBox("Error reading <<" + FromPath(m_files.FailedPath()) + ">> with code " + tail,
                           Icon::Critical);

@@ -5,6 +5,7 @@
 namespace ls {
 
 /// Each command tells its place in the table; its file holds the rest.
+[[nodiscard]] CommandSpec ExportCommand();
 [[nodiscard]] CommandSpec AdviseCommand();
 [[nodiscard]] CommandSpec InfoCommand();
 [[nodiscard]] CommandSpec TopicsCommand();

@@ -5,6 +5,7 @@
 #include "app/RunGuarded.h"
 #include "app/StartUp.h"
 #include "reader/MainFormView.h"
+#include "render/ExportItem.h"
 #include "ui_MainForm.h"
 
 #include <QAbstractItemView>
@@ -100,6 +101,7 @@ void MainForm::ConnectItems()
     connect(m_ui->EditPropertiesOption, &QAction::triggered, this, &MainForm::EditPropertiesOption_Click);
     connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
     connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
+    connect(m_ui->ExportItem, &QAction::triggered, this, &MainForm::ExportItem_Click);
     connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
     connect(m_ui->ContentsItem, &QAction::triggered, this, &MainForm::ContentsItem_Click);
 }
@@ -259,6 +261,11 @@ void MainForm::EdTextItem_Click()
 void MainForm::EditPropertiesOption_Click()
 {
     Run([this] { m_editCommands.EditPropertiesOption_Click(); });
+}
+
+void MainForm::ExportItem_Click()
+{
+    Run([this] { ls::ExportItem_Click(m_global.book, m_seams); });
 }
 
 void MainForm::VScroll1_Change()

@@ -69,6 +69,7 @@ private:
     void ReorderItem_Click();
     void EdTextItem_Click();
     void EditPropertiesOption_Click();
+    void ExportItem_Click();
     void AlphaItem_Click();
     void ContentsItem_Click();
 

@@ -3,7 +3,7 @@
 #include "base/Messages.h"
 #include "book/Book.h"
 #include "reader/MainView.h"
-#include "reader/QuietMessages.h"
+#include "base/QuietMessages.h"
 
 namespace ls {
 

@@ -2,6 +2,8 @@
 
 #include "CliFixture.h"
 
+#include "base/CodePage.h"
+
 #include <algorithm>
 #include <filesystem>
 
@@ -114,6 +116,18 @@ TEST_P(TextCase, show_asExpected)
         EXPECT_EQ(shown["xref_button"].Bool(), expected["xref_button"].Bool());
         EXPECT_EQ(shown["advisor_button"].Bool(), expected["advisor_button"].Bool());
         EXPECT_EQ(shown["logic_pos"].Int(), expected["logic_pos"].Int());
+    }
+}
+
+TEST_P(TextCase, export_asExpected)
+{
+    ASSERT_FALSE(m_expected["export"].IsNull());
+    for (const Json& expected : m_expected["export"].Items()) {
+        const std::string number = std::to_string(expected["number"].Int());
+        SCOPED_TRACE("topic " + number);
+        EXPECT_EQ(Of({"export", "--number", number})["html"].String(), expected["html"].String());
+        Of({"export", "--number", number, "-o", "out.htm", "--force"});
+        EXPECT_EQ(FromBook(files["/work/out.htm"]), expected["html"].String());
     }
 }
 

@@ -109,7 +109,7 @@ TEST_F(Usage, plainBookWithoutATopic_isRefusedOnceItProvesABook)
 
 TEST_F(Usage, titleAndNumber_excludeEachOther)
 {
-    for (const std::string command : {"show", "text", "xrefs"}) {
+    for (const std::string command : {"show", "text", "xrefs", "export"}) {
         EXPECT_EQ(Run({command, "a.IDA", "Start", "--number", "1"}), 2);
         EXPECT_EQ(err, "lsbook " + command + ": TITLE and --number exclude each other\nTry \"lsbook help " +
                            command + "\".\n");
@@ -118,7 +118,7 @@ TEST_F(Usage, titleAndNumber_excludeEachOther)
 
 TEST_F(Usage, emptyTitle_isRefused)
 {
-    for (const std::string command : {"show", "text", "xrefs"}) {
+    for (const std::string command : {"show", "text", "xrefs", "export"}) {
         EXPECT_EQ(Run({command, "a.IDA", ""}), 2);
         EXPECT_EQ(err, "lsbook " + command + ": TITLE is empty\nTry \"lsbook help " + command + "\".\n");
     }

@@ -1,0 +1,93 @@
+#include "base/ReplaceFile.h"
+
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr int MaxNames = 99;
+
+class Replacement : public OutputFile
+{
+public:
+    Replacement(FileSystem& files, std::string path, std::string newPath, std::unique_ptr<OutputFile> file)
+        : m_files(&files), m_path(std::move(path)), m_newPath(std::move(newPath)), m_file(std::move(file))
+    {
+    }
+    ~Replacement() override { Drop(); }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+
+    FileError Write(std::string_view bytes) override
+    {
+        return m_file ? m_file->Write(bytes) : MakeFileError(error::BadFileNumber);
+    }
+
+    FileError Finish() override
+    {
+        if (!m_file) {
+            return MakeFileError(error::BadFileNumber);
+        }
+        FileError failed = m_file->Finish();
+        if (failed.Ok()) {
+            failed = m_files->RenameOver(m_newPath, m_path);
+        }
+        if (failed.Ok()) {
+            m_file.reset();
+        } else {
+            Drop();
+        }
+        return failed;
+    }
+
+private:
+    void Drop()
+    {
+        if (m_file) {
+            m_file.reset(); // a file that is open cannot be removed everywhere
+            m_files->Remove(m_newPath);
+        }
+    }
+
+    FileSystem* m_files;
+    std::string m_path;
+    std::string m_newPath;
+    std::unique_ptr<OutputFile> m_file; ///< none once it has its name, or is dropped
+};
+
+// A name beside `path` that nobody has: ".new", ".new2", ... What a crash or the user left there is kept.
+std::string FreeNameBeside(FileSystem& files, const std::string& path)
+{
+    std::string name = path + ".new";
+    for (int number = 2; number <= MaxNames && files.Exists(name); ++number) {
+        name = path + ".new" + std::to_string(number);
+    }
+    return name;
+}
+
+// A new name would be given over a folder's or a device's head, so these are looked at first.
+FileError CheckReplaceable(FileSystem& files, const std::string& path)
+{
+    std::unique_ptr<BookFile> old;
+    return files.SameFile(path, path) ? files.OpenForReading(path, Sharing::Shared, old) : FileError{};
+}
+
+} // namespace
+
+FileError OpenToReplace(FileSystem& files, const std::string& path, std::unique_ptr<OutputFile>& file)
+{
+    file.reset();
+    if (FileError refused = CheckReplaceable(files, path); !refused.Ok()) {
+        return refused;
+    }
+    const std::string newPath = FreeNameBeside(files, path);
+    std::unique_ptr<OutputFile> newFile;
+    if (FileError failed = files.CreateNew(newPath, newFile); !failed.Ok()) {
+        return failed;
+    }
+    file = std::make_unique<Replacement>(files, path, newPath, std::move(newFile));
+    return {};
+}
+
+} // namespace ls
