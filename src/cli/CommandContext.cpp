@@ -33,7 +33,14 @@ CommandContext::CommandContext(const CommandSpec& command, const Arguments& argu
 
 Opening CommandContext::OpenTheBook()
 {
-    m_book.BookPath = m_arguments->Operands().front();
+    return OpenTheBook(m_arguments->Operands().front());
+}
+
+Opening CommandContext::OpenTheBook(const std::string& path)
+{
+    CloseBook(m_book);
+    ResetBook(m_book);
+    m_book.BookPath = path;
     if (!OpenBook(m_book, m_seams)) {
         const bool declined = !m_messages.All().empty() && m_messages.All().back().asked;
         const auto isPlain = [](const OptionSpec& option) { return option.name == PlainOption.name; };

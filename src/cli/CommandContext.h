@@ -46,6 +46,9 @@ public:
     /// Opens the book that the first operand names, and scans it unless it is taken as plain text.
     [[nodiscard]] Opening OpenTheBook();
 
+    /// The same for another one of several books; the one before it is closed.
+    [[nodiscard]] Opening OpenTheBook(const std::string& path);
+
     /// Whether a topic is named at all; else reports the wrong usage. To be asked before the book is opened.
     [[nodiscard]] bool NamesTopic();
 

@@ -10,7 +10,7 @@ const std::vector<CommandSpec>& CommandTable()
 {
     static const std::vector<CommandSpec> table = {InfoCommand(),   TopicsCommand(), XrefsCommand(),
                                                    ShowCommand(),   TextCommand(),   ExportCommand(),
-                                                   AdviseCommand(), SaveCommand()};
+                                                   AdviseCommand(), SaveCommand(),   CheckCommand()};
     return table;
 }
 

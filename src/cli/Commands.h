@@ -7,6 +7,7 @@ namespace ls {
 /// Each command tells its place in the table; its file holds the rest.
 [[nodiscard]] CommandSpec ExportCommand();
 [[nodiscard]] CommandSpec AdviseCommand();
+[[nodiscard]] CommandSpec CheckCommand();
 [[nodiscard]] CommandSpec InfoCommand();
 [[nodiscard]] CommandSpec TopicsCommand();
 [[nodiscard]] CommandSpec XrefsCommand();

@@ -1,0 +1,94 @@
+#include "check/BlockStore.h"
+
+#include "base/CodePage.h"
+#include "base/LineCursor.h"
+#include "base/Text.h"
+#include "book/Book.h"
+#include "check/LogicBlockReader.h"
+#include "render/TopicBody.h"
+
+#include <string_view>
+
+namespace ls {
+
+namespace {
+
+// Looks for "<IXML>" in a topic's lines and reads the block behind it.
+std::unique_ptr<LogicBlock> ReadBlock(TopicBody& body, int topic)
+{
+    std::unique_ptr<LogicBlockReader> reader;
+    std::string_view line;
+    for (int number = 1; body.Next(line) && (line.empty() || line.front() != '['); ++number) {
+        if (reader) {
+            reader->Take(line, number);
+        } else if (EqualsUpper(Trim(line), "<IXML>")) {
+            reader = std::make_unique<LogicBlockReader>(topic, number);
+        }
+    }
+    return reader ? std::make_unique<LogicBlock>(reader->Finish()) : nullptr;
+}
+
+} // namespace
+
+std::unique_ptr<LogicBlock> ReadLogicText(const std::string& text, int topic)
+{
+    TextBody body(text);
+    return ReadBlock(body, topic);
+}
+
+void BlockStore::Put(LogicBlock block)
+{
+    const int topic = block.topic;
+    m_blocks[topic] = std::make_unique<LogicBlock>(std::move(block));
+}
+
+const LogicBlock* BlockStore::Find(int topic)
+{
+    const auto found = m_blocks.find(topic);
+    if (found != m_blocks.end() || HasWholeBook()) {
+        return found == m_blocks.end() ? nullptr : found->second.get();
+    }
+    return m_blocks.emplace(topic, Read(topic)).first->second.get();
+}
+
+std::unique_ptr<LogicBlock> BlockStore::Read(int topic) const
+{
+    const auto number = static_cast<std::size_t>(topic);
+    if (topic < 1 || topic > m_book.TopicCount) {
+        return nullptr;
+    }
+    const TopicRec& rec = m_book.TopicRecs(number);
+    return rec.Logic.empty() ? ReadFile(topic) : ReadLogicText(rec.Logic, topic);
+}
+
+std::unique_ptr<LogicBlock> BlockStore::ReadFile(int topic) const
+{
+    const FilePos pos = m_book.TopicPos(static_cast<std::size_t>(topic));
+    if (!m_book.File || pos == 0) {
+        return nullptr;
+    }
+    LineCursor cursor(*m_book.File);
+    cursor.Seek(pos);
+    FileBody body(cursor);
+    std::string_view header;
+    return body.Next(header) ? ReadBlock(body, topic) : nullptr;
+}
+
+int BlockStore::TopicNumber(const std::string& title)
+{
+    if (m_numbers.empty()) {
+        for (int i = 1; i <= m_book.TopicCount; ++i) {
+            const std::string& name = m_book.TopicNames(static_cast<std::size_t>(i));
+            m_numbers.emplace(UpperCase(WithoutBrackets(name)), i);
+        }
+    }
+    const auto found = m_numbers.find(title);
+    return found == m_numbers.end() ? 0 : found->second;
+}
+
+std::string BlockStore::Title(int topic) const
+{
+    return FromBook(WithoutBrackets(m_book.TopicNames(static_cast<std::size_t>(topic))));
+}
+
+} // namespace ls

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "base/FileError.h"
+#include "base/Seams.h"
+#include "check/Finding.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ls {
+
+struct Book;
+class Progress;
+
+/// Everything in the book's file that would surprise its author, by line. Nothing is shown on the way.
+///
+/// The book is open and scanned. What was edited in memory and not saved does not count: the lines are those
+/// of the file. When the file cannot be read to its end `failed` tells, and the list ends there; a cancelled
+/// check gives what was found so far.
+[[nodiscard]] std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* progress,
+                                             FileError& failed);
+
+/// The same for the text of one topic's logic block, "<IXML>" first, as an editor holds it: lines count in
+/// that text. Blocks that it leads to are taken as they were edited, else from the file. `topic` is the
+/// number of the topic that the text belongs to.
+[[nodiscard]] std::vector<Finding> CheckLogicText(const Book& book, const Seams& seams, int topic,
+                                                  const std::string& text);
+
+} // namespace ls

@@ -1,0 +1,156 @@
+#include "base/CodePage.h"
+#include "check/BlockRules.h"
+
+#include <algorithm>
+#include <deque>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace ls {
+
+namespace {
+
+// From a variable to what its rules ask for, and the rule that does.
+struct Step
+{
+    std::string to;
+    PlacedRule by;
+};
+
+using Steps = std::unordered_map<std::string, std::vector<Step>>;
+
+Steps StepsOf(const RuleBase& base)
+{
+    Steps steps;
+    for (const VariableUse& variable : base.Variables()) {
+        std::unordered_set<std::string> known;
+        for (const PlacedRule& placed : variable.conclusions) {
+            for (const BlockTerm& term : placed.rule->conditions) {
+                const VariableUse* const to = base.Find(term.var);
+                if (to != nullptr && !to->conclusions.empty() && known.insert(term.var).second) {
+                    steps[variable.name].push_back({term.var, placed});
+                }
+            }
+        }
+    }
+    return steps;
+}
+
+// The shortest way from a variable back to itself, without it at its end; empty when there is none.
+std::vector<std::string> CircleFrom(const std::string& start, const Steps& steps)
+{
+    std::unordered_map<std::string, std::string> cameFrom;
+    std::deque<std::string> open{start};
+    while (!open.empty()) {
+        const std::string at = open.front();
+        open.pop_front();
+        const auto next = steps.find(at);
+        if (next == steps.end()) {
+            continue;
+        }
+        for (const Step& step : next->second) {
+            if (step.to == start) {
+                std::vector<std::string> way{at};
+                while (way.back() != start) {
+                    way.push_back(cameFrom[way.back()]);
+                }
+                std::reverse(way.begin(), way.end());
+                return way;
+            }
+            if (cameFrom.emplace(step.to, at).second) {
+                open.push_back(step.to);
+            }
+        }
+    }
+    return {};
+}
+
+// The variables from which one can come back: what is left when those without a way on, or without a way to
+// them, are taken away one after the other.
+std::unordered_set<std::string> Suspects(const Steps& steps)
+{
+    std::unordered_map<std::string, int> waysIn;
+    for (const auto& [from, list] : steps) {
+        waysIn[from];
+        for (const Step& step : list) {
+            ++waysIn[step.to];
+        }
+    }
+    std::vector<std::string> free;
+    for (const auto& [name, ways] : waysIn) {
+        if (ways == 0) {
+            free.push_back(name);
+        }
+    }
+    while (!free.empty()) {
+        const std::string name = free.back();
+        free.pop_back();
+        waysIn.erase(name);
+        const auto next = steps.find(name);
+        if (next == steps.end()) {
+            continue;
+        }
+        for (const Step& step : next->second) {
+            if (--waysIn[step.to] == 0) {
+                free.push_back(step.to);
+            }
+        }
+    }
+    std::unordered_set<std::string> left;
+    for (const auto& [name, ways] : waysIn) {
+        left.insert(name);
+    }
+    return left;
+}
+
+std::string PathText(const std::vector<std::string>& circle)
+{
+    std::string text;
+    for (const std::string& name : circle) {
+        text += FromBook(name) + " -> ";
+    }
+    return text + FromBook(circle.front());
+}
+
+// The first rule of the own block that is a step of the circle; 0 when other topics hold all of it.
+int LineOf(const RuleBase& base, const std::vector<std::string>& circle)
+{
+    int line = 0;
+    for (std::size_t i = 0; i < circle.size(); ++i) {
+        const std::string& to = circle[(i + 1) % circle.size()];
+        for (const PlacedRule& placed : base.Find(circle[i])->conclusions) {
+            const std::vector<BlockTerm>& terms = placed.rule->conditions;
+            if (placed.block == &base.Own() && (line == 0 || placed.rule->line < line) &&
+                std::any_of(terms.begin(), terms.end(), [&](const BlockTerm& t) { return t.var == to; })) {
+                line = placed.rule->line;
+            }
+        }
+    }
+    return line;
+}
+
+} // namespace
+
+void CheckCircles(const RuleBase& base, Findings& findings)
+{
+    const Steps steps = StepsOf(base);
+    const std::unordered_set<std::string> suspects = Suspects(steps);
+    std::unordered_set<std::string> told;
+    for (const VariableUse& variable : base.Variables()) {
+        if (suspects.count(variable.name) == 0 || told.count(variable.name) != 0) {
+            continue;
+        }
+        const std::vector<std::string> circle = CircleFrom(variable.name, steps);
+        const int line = circle.empty() ? 0 : LineOf(base, circle);
+        if (line == 0) {
+            continue; // a topic that holds the circle reports it
+        }
+        told.insert(circle.begin(), circle.end());
+        findings.Error("circular-definition", line,
+                       "The definition " + PathText(circle) +
+                           " is circular and ends the program when the reader cannot answer the question on "
+                           "the way: remove one of its conditions.");
+    }
+}
+
+} // namespace ls

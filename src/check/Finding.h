@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+namespace ls {
+
+/// An error keeps something from working as it is written; a warning works, but not as it was meant.
+enum class Severity
+{
+    Error,
+    Warning,
+};
+
+/// One thing in a book that would surprise its author. Texts are UTF-8.
+struct Finding
+{
+    std::string file;  ///< the book's path as it was given; empty for a text that is still being edited
+    int line = 0;      ///< from 1, as an editor counts the lines of the file or text
+    std::string topic; ///< the title without brackets; empty outside of the topics
+    Severity severity = Severity::Error;
+    std::string rule; ///< a short name that never changes, e.g. "no-question"
+    std::string text; ///< one sentence: what happens to the reader, and how to mend it
+
+    friend bool operator==(const Finding&, const Finding&) = default;
+};
+
+/// "error" or "warning".
+[[nodiscard]] constexpr const char* SeverityWord(Severity severity)
+{
+    return severity == Severity::Error ? "error" : "warning";
+}
+
+} // namespace ls

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "check/Finding.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ls {
+
+/// Collects what the rules find. All texts given to it are UTF-8.
+class Findings
+{
+public:
+    explicit Findings(std::string file) : m_file(std::move(file)) {}
+
+    /// From now on findings belong to the topic of that title (without brackets).
+    void InTopic(std::string title) { m_topic = std::move(title); }
+
+    void Error(std::string_view rule, int line, std::string text)
+    {
+        Add(Severity::Error, rule, line, std::move(text));
+    }
+    void Warning(std::string_view rule, int line, std::string text)
+    {
+        Add(Severity::Warning, rule, line, std::move(text));
+    }
+
+    /// How many errors there are so far.
+    [[nodiscard]] int ErrorCount() const { return m_errors; }
+
+    /// All findings by line, those of one line in the order in which they were found. The collection is
+    /// empty afterwards.
+    [[nodiscard]] std::vector<Finding> TakeSorted();
+
+private:
+    void Add(Severity severity, std::string_view rule, int line, std::string text);
+
+    std::string m_file;
+    std::string m_topic;
+    int m_errors = 0;
+    std::vector<Finding> m_list;
+};
+
+/// Book text between quotation marks, as a finding names a piece of the book.
+[[nodiscard]] std::string Quoted(std::string_view bookText);
+
+} // namespace ls

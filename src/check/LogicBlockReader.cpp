@@ -1,0 +1,278 @@
+#include "check/LogicBlockReader.h"
+
+#include "advisor/Definitions.h"
+#include "base/Text.h"
+
+#include <algorithm>
+#include <unordered_set>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr auto None = std::string_view::npos;
+constexpr std::string_view QuestionOpening = "<Q ID=";
+constexpr std::string_view AdviceOpening = "<AV ID=";
+
+bool Contains(std::string_view text, std::string_view part)
+{
+    return text.find(part) != None;
+}
+
+void Fault(BlockRule& rule, RuleFault fault)
+{
+    if (rule.fault == RuleFault::None || fault < rule.fault) {
+        rule.fault = fault;
+    }
+}
+
+// What stands before the "=" is to be `VAR(VALUE)`.
+void ReadConclusion(std::string_view source, BlockRule& rule)
+{
+    std::vector<BlockTerm> terms;
+    RuleFault fault = RuleFault::None;
+    std::string stray;
+    ReadTerms(source, terms, fault, stray);
+    if (fault != RuleFault::None || terms.size() != 1) {
+        rule.fault = RuleFault::Conclusion;
+    }
+    if (!terms.empty()) {
+        rule.conclusion = terms.front();
+    }
+}
+
+} // namespace
+
+void LogicBlockReader::Take(std::string_view line, int number)
+{
+    const std::string_view trimmed = Trim(line);
+    switch (m_part) {
+    case Part::BeforeLogic:
+        TakeBeforeLogic(trimmed, number);
+        break;
+    case Part::Logic:
+        TakeLogic(trimmed, number);
+        break;
+    case Part::Definitions:
+        TakeDefinitions(line, number);
+        break;
+    case Part::Behind:
+        if (m_block.textBehind == 0 && !trimmed.empty()) {
+            m_block.textBehind = number;
+        }
+        break;
+    }
+    m_first = false;
+}
+
+void LogicBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
+{
+    if (EqualsUpper(trimmed, "<LOGIC>")) {
+        m_part = Part::Logic;
+        m_block.logicLine = number;
+        m_block.logicIsNext = m_first;
+    } else if (EqualsUpper(trimmed, "</IXML>")) {
+        m_block.blockEnd = number; // the loader reads on: a later "<LOGIC>" would still count
+    }
+}
+
+void LogicBlockReader::TakeLogic(std::string_view trimmed, int number)
+{
+    std::string line = UpperCase(trimmed);
+    const bool comment = !line.empty() && line.front() == '*';
+    const bool rule = !comment && Contains(line, "=");
+    std::string squeezed = line;
+    if (rule) {
+        squeezed.erase(std::remove(squeezed.begin(), squeezed.end(), ' '), squeezed.end());
+    }
+    if (Contains(squeezed, "<DEFINITIONS>")) {
+        m_part = Part::Definitions;
+        m_block.definitionsLine = number;
+        m_block.definitionsAlone = line == "<DEFINITIONS>";
+    } else if (line == "</LOGIC>") {
+        m_block.logicEnd = number;
+    } else if (line == "</IXML>") {
+        m_block.blockEnd = number;
+        m_part = Part::Behind;
+    } else if (rule) {
+        TakeRule(line, std::move(squeezed), number);
+    } else if (!comment && !line.empty()) {
+        TakeCommand(std::move(line), number);
+    }
+}
+
+void LogicBlockReader::TakeCommand(std::string line, int number)
+{
+    BlockCommand command;
+    command.line = number;
+    const std::size_t blank = line.find(' ');
+    const std::string word = line.substr(0, blank);
+    command.argument = blank == None ? std::string() : line.substr(blank + 1);
+    command.text = std::move(line);
+    if (word == "ASSUME") {
+        command.kind = BlockCommand::Kind::Assume;
+        RuleFault fault = RuleFault::None;
+        ReadTerms(command.argument, command.terms, fault, command.stray);
+        if (fault == RuleFault::Brackets) {
+            command.stray = command.argument;
+        } else if (command.stray.empty() && Contains(command.argument, " ")) {
+            command.stray = " ";
+        }
+        m_assumption = command.argument;
+        m_assumedTerms = command.terms;
+    } else if (word == "TARGET") {
+        command.kind = BlockCommand::Kind::Target;
+    } else if (word == "DEFINE") {
+        command.kind = BlockCommand::Kind::Define;
+        const std::size_t at = command.argument.find('@');
+        if (at != None) {
+            command.var = command.argument.substr(0, at);
+            command.title = Trim(std::string_view(command.argument).substr(at + 1));
+        }
+    }
+    m_block.commands.push_back(std::move(command));
+}
+
+void LogicBlockReader::TakeRule(const std::string& line, std::string squeezed, int number)
+{
+    BlockRule rule;
+    rule.line = number;
+    squeezed.insert(squeezed.find('=') + 1, m_assumption);
+    rule.text = std::move(squeezed);
+    rule.conditions = m_assumedTerms;
+    rule.assumed = m_assumedTerms.size();
+    const std::size_t equals = line.find('=');
+    const std::size_t second = line.find('=', equals + 1);
+    const std::string_view source(line);
+    ReadConclusion(source.substr(0, equals), rule);
+    RuleFault fault = RuleFault::None;
+    ReadTerms(source.substr(equals + 1, second == None ? None : second - equals - 1), rule.conditions, fault,
+              rule.stray);
+    if (fault != RuleFault::None) {
+        Fault(rule, fault);
+    }
+    if (second != None) {
+        Fault(rule, RuleFault::Equals);
+    }
+    m_block.rules.push_back(std::move(rule));
+}
+
+void LogicBlockReader::TakeDefinitions(std::string_view line, int number)
+{
+    const std::string_view trimmed = Trim(line);
+    const std::string upper = UpperCase(line);
+    const std::string_view upperTrimmed = Trim(upper);
+    const bool opens = upperTrimmed.starts_with(QuestionOpening) || upperTrimmed.starts_with(AdviceOpening);
+    const bool ends = upperTrimmed == "</DEFINITIONS>" || upperTrimmed == "</IXML>";
+    if (!trimmed.empty() && trimmed.front() == '[' && m_block.bracketLine == 0) {
+        m_block.bracketLine = number;
+        m_registers = false;
+    }
+    if (upperTrimmed == "</DEFINITIONS>" && m_block.definitionsEnd == 0) {
+        m_block.definitionsEnd = number;
+        m_searched = false;
+    }
+    std::size_t from = 0;
+    if (m_open && !opens && !ends) {
+        from = TakeText(line, 0);
+    } else if (m_open) {
+        m_block.entries.back().hasText = true; // what stands from here on runs into it
+        m_open = false;
+    }
+    const bool comment = from == 0 && !upperTrimmed.empty() && upperTrimmed.front() == '*';
+    if (from != None && !comment) {
+        OpenEntries(line, upper, from, number);
+        if (from == 0 && !opens && !m_open && m_block.targetInDefinitions == 0 &&
+            upperTrimmed.starts_with("TARGET ")) {
+            m_block.targetInDefinitions = number;
+        }
+    }
+    m_registers = m_registers && !Contains(upperTrimmed, "</DEFINITIONS>");
+    if (upperTrimmed == "</IXML>") {
+        m_block.blockEnd = number;
+        m_part = Part::Behind;
+    }
+}
+
+void LogicBlockReader::OpenEntries(std::string_view line, const std::string& upper, std::size_t from,
+                                   int number)
+{
+    const std::size_t start = upper.find_first_not_of(' ');
+    while (from != None) {
+        const std::size_t question = upper.find(QuestionOpening, from);
+        const std::size_t advice = upper.find(AdviceOpening, from);
+        const std::size_t at = std::min(question, advice);
+        const std::size_t close = at == None ? None : upper.find('>', at);
+        if (close == None) {
+            return;
+        }
+        BlockEntry entry;
+        entry.line = number;
+        entry.question = question == at;
+        const std::size_t idFrom = at + (entry.question ? QuestionOpening : AdviceOpening).size();
+        entry.id = upper.substr(idFrom, close - idFrom);
+        entry.registered = entry.question && at == start && m_registers;
+        entry.searched = m_searched;
+        m_block.entries.push_back(std::move(entry));
+        m_open = true;
+        m_length = 0;
+        from = TakeText(line, close + 1);
+    }
+}
+
+// Takes text of the open entry; gives the place behind its closing tag, or none while it stays open.
+std::size_t LogicBlockReader::TakeText(std::string_view line, std::size_t from)
+{
+    BlockEntry& entry = m_block.entries.back();
+    const std::string_view closing = entry.question ? "</Q>" : "</AV>";
+    const std::size_t end = line.find(closing, from);
+    std::string_view piece = line.substr(from, end == None ? None : end - from);
+    entry.tooLong = entry.tooLong || m_length + piece.size() > MaxEntryText;
+    entry.closedInLowerCase = entry.closedInLowerCase || (end == None && Contains(UpperCase(piece), closing));
+    piece = Trim(piece);
+    entry.hasText = entry.hasText || !piece.empty();
+    m_length += piece.size() + (m_length == 0 || (end != None && piece.empty()) ? 0 : 2);
+    entry.closed = end != None;
+    m_open = !entry.closed;
+    return end == None ? None : end + closing.size();
+}
+
+// `A(X) AND B(Y)`: the loader reads a variable "ANDB". When nothing knows that name but "B" is known, the
+// word is too much.
+void LogicBlockReader::ResolveStrayWords()
+{
+    std::unordered_set<std::string> known;
+    for (const BlockEntry& entry : m_block.entries) {
+        if (entry.question) {
+            known.insert(entry.id);
+        }
+    }
+    for (const BlockCommand& command : m_block.commands) {
+        known.insert(command.var);
+    }
+    for (const BlockRule& rule : m_block.rules) {
+        known.insert(rule.conclusion.var);
+    }
+    for (BlockRule& rule : m_block.rules) {
+        for (BlockTerm& term : rule.conditions) {
+            const std::size_t last = term.words.find_last_of(" &+|:");
+            if (last == None || known.count(term.var) != 0 || known.count(term.words.substr(last + 1)) == 0) {
+                continue;
+            }
+            term.var = term.words.substr(last + 1);
+            if (rule.fault == RuleFault::None) {
+                rule.fault = RuleFault::Stray;
+                rule.stray = Trim(std::string_view(term.words).substr(0, last + 1));
+            }
+        }
+    }
+}
+
+LogicBlock LogicBlockReader::Finish()
+{
+    ResolveStrayWords();
+    return std::move(m_block);
+}
+
+} // namespace ls

@@ -1,0 +1,182 @@
+#include "base/CodePage.h"
+#include "check/BlockRules.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <unordered_map>
+
+namespace ls {
+
+namespace {
+
+using TermSet = std::set<std::pair<std::string, std::string>>;
+
+TermSet ConditionsOf(const BlockRule& rule)
+{
+    TermSet terms;
+    for (const BlockTerm& term : rule.conditions) {
+        terms.emplace(term.var, term.value);
+    }
+    return terms;
+}
+
+std::string Fact(const std::string& var, const std::string& value)
+{
+    return FromBook(var + "(" + value + ")");
+}
+
+// The rule asks for two values of one variable.
+bool CheckContradiction(const BlockRule& rule, const TermSet& conditions, Findings& findings)
+{
+    const auto twice =
+        std::adjacent_find(conditions.begin(), conditions.end(), [](const auto& a, const auto& b) {
+            return a.first == b.first && a.second != b.second;
+        });
+    if (twice == conditions.end()) {
+        return false;
+    }
+    findings.Warning(
+        "contradictory-rule", rule.line,
+        "The rule can never fire, since " + Fact(twice->first, twice->second) + " and " +
+            Fact(twice->first, std::next(twice)->second) +
+            " never hold together for any reader: remove one of them (ASSUME puts conditions in, "
+            "too).");
+    return true;
+}
+
+// An answer takes out the first place of a condition only; the second is asked again.
+void CheckDoubledCondition(const BlockRule& rule, const TermSet& conditions, Findings& findings)
+{
+    if (conditions.size() == rule.conditions.size()) {
+        return;
+    }
+    std::set<std::pair<std::string, std::string>> known;
+    for (const BlockTerm& term : rule.conditions) {
+        if (!known.emplace(term.var, term.value).second) {
+            findings.Warning("doubled-condition", rule.line,
+                             "The rule has the condition " + Fact(term.var, term.value) +
+                                 " twice, so the reader is asked for " + FromBook(term.var) +
+                                 " again: remove one of them (ASSUME puts conditions in, too).");
+            return;
+        }
+    }
+}
+
+// Finds, for each rule, an earlier rule for the same variable that needs no more than it does.
+class Earlier
+{
+public:
+    // The earlier rule, nullptr when there is none. The rule then counts as an earlier one.
+    const BlockRule* Take(const BlockRule& rule, const TermSet& conditions)
+    {
+        Group& group = m_groups[rule.conclusion.var];
+        const BlockRule* const found = group.Find(conditions);
+        group.Add(rule, conditions);
+        return found;
+    }
+
+private:
+    // A rule stands under its least condition: a set that holds all of its conditions holds that one.
+    struct Group
+    {
+        const BlockRule* withoutConditions = nullptr;
+        std::map<std::pair<std::string, std::string>, std::vector<std::pair<TermSet, const BlockRule*>>>
+            byLeast;
+
+        const BlockRule* Find(const TermSet& conditions) const
+        {
+            if (withoutConditions != nullptr) {
+                return withoutConditions;
+            }
+            for (const auto& term : conditions) {
+                const auto list = byLeast.find(term);
+                if (list == byLeast.end()) {
+                    continue;
+                }
+                std::size_t tries = 0;
+                for (const auto& [needed, rule] : list->second) {
+                    if (++tries > MostTries) {
+                        break;
+                    }
+                    if (std::includes(conditions.begin(), conditions.end(), needed.begin(), needed.end())) {
+                        return rule;
+                    }
+                }
+            }
+            return nullptr;
+        }
+
+        void Add(const BlockRule& rule, const TermSet& conditions)
+        {
+            if (!conditions.empty()) {
+                byLeast[*conditions.begin()].emplace_back(conditions, &rule);
+            } else if (withoutConditions == nullptr) {
+                withoutConditions = &rule;
+            }
+        }
+    };
+
+    static constexpr std::size_t MostTries = 2000; ///< keeps a base of tens of thousands of rules quick
+
+    std::unordered_map<std::string, Group> m_groups;
+};
+
+void ReportEarlier(const BlockRule& rule, const TermSet& conditions, const BlockRule& earlier,
+                   Findings& findings)
+{
+    const std::string line = std::to_string(earlier.line);
+    if (earlier.conclusion.value == rule.conclusion.value && ConditionsOf(earlier) == conditions) {
+        findings.Warning("doubled-rule", rule.line,
+                         "The rule says the same as the one in line " + line +
+                             " and changes nothing for the reader: remove one of them.");
+        return;
+    }
+    findings.Warning(
+        "preceded-rule", rule.line,
+        "The rule in line " + line + " concludes " + FromBook(rule.conclusion.var) +
+            " whenever this one could, so no reader comes to this one: move it before that line, "
+            "or add a condition there.");
+}
+
+// A condition on a value that no rule concludes, of a variable that the reader is never asked for.
+void CheckConcluded(const RuleBase& base, const BlockRule& rule, Findings& findings)
+{
+    for (const BlockTerm& term : rule.conditions) {
+        const VariableUse* const use = base.Find(term.var);
+        if (use == nullptr || use->conclusions.empty() || base.Question(term.var) == nullptr ||
+            base.HasQuestionText(term.var) ||
+            std::any_of(use->conclusions.begin(), use->conclusions.end(), [&](const PlacedRule& placed) {
+                return placed.rule->conclusion.value == term.value;
+            })) {
+            continue;
+        }
+        findings.Warning("value-not-concluded", rule.line,
+                         "The rule can never fire, since " + FromBook(term.var) +
+                             " is never asked and no rule concludes " + Fact(term.var, term.value) +
+                             ": add such a rule, or a question that the reader can answer.");
+    }
+}
+
+} // namespace
+
+void CheckOverlaps(const RuleBase& base, Findings& findings)
+{
+    Earlier earlier;
+    for (const BlockRule& rule : base.Own().rules) {
+        if (rule.fault != RuleFault::None) {
+            continue;
+        }
+        const TermSet conditions = ConditionsOf(rule);
+        if (CheckContradiction(rule, conditions, findings)) {
+            continue;
+        }
+        CheckDoubledCondition(rule, conditions, findings);
+        CheckConcluded(base, rule, findings);
+        if (const BlockRule* const other = earlier.Take(rule, conditions)) {
+            ReportEarlier(rule, conditions, *other, findings);
+        }
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,142 @@
+#include "check/RuleBase.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace ls {
+
+namespace {
+
+// Books whose topics all lead to one another would otherwise be gone through once for each topic.
+constexpr std::size_t MostBlocks = 200;
+
+} // namespace
+
+RuleBase::RuleBase(const LogicBlock& own, BlockStore& store)
+    : m_own(&own), m_store(&store), m_target(own.Target())
+{
+    FollowDefines();
+    for (const LogicBlock* block : m_blocks) {
+        Register(*block);
+        for (const BlockRule& rule : block->rules) {
+            AddRule(*block, rule);
+        }
+    }
+}
+
+void RuleBase::FollowDefines()
+{
+    std::unordered_set<int> known{m_own->topic};
+    m_blocks.push_back(m_own);
+    for (std::size_t i = 0; i < m_blocks.size(); ++i) {
+        for (const BlockCommand& command : m_blocks[i]->commands) {
+            const int topic = command.title.empty() ? 0 : m_store->TopicNumber(command.title);
+            const LogicBlock* const block =
+                topic == 0 || !known.insert(topic).second ? nullptr : m_store->Find(topic);
+            if (block != nullptr && m_blocks.size() < MostBlocks) {
+                m_blocks.push_back(block);
+            }
+        }
+    }
+}
+
+// The commands stand before the entries, and the first registration counts.
+void RuleBase::Register(const LogicBlock& block)
+{
+    for (const BlockCommand& command : block.commands) {
+        const int topic = command.title.empty() ? 0 : m_store->TopicNumber(command.title);
+        if (topic != 0) {
+            m_questions.emplace(command.var, Registration{topic, command.line, true});
+        }
+    }
+    for (const BlockEntry& entry : block.entries) {
+        if (entry.registered) {
+            m_questions.emplace(entry.id, Registration{block.topic, entry.line, false});
+        }
+    }
+}
+
+VariableUse& RuleBase::Use(const std::string& name)
+{
+    const auto [at, added] = m_numbers.emplace(name, m_variables.size());
+    if (added) {
+        m_variables.emplace_back().name = name;
+    }
+    return m_variables[at->second];
+}
+
+void RuleBase::AddRule(const LogicBlock& block, const BlockRule& rule)
+{
+    const auto name = [&](const std::string& var) -> VariableUse& {
+        VariableUse& use = Use(var);
+        if (&block == m_own && use.line == 0) {
+            use.line = rule.line;
+        }
+        if (use.rules.empty() || use.rules.back().rule != &rule) {
+            use.rules.push_back({&block, &rule});
+        }
+        return use;
+    };
+    if (!rule.conclusion.var.empty()) {
+        name(rule.conclusion.var).conclusions.push_back({&block, &rule});
+    }
+    for (const BlockTerm& term : rule.conditions) {
+        if (term.var.empty()) {
+            continue;
+        }
+        VariableUse& use = name(term.var);
+        use.condition = true;
+        if (&block == m_own && use.conditionLine == 0) {
+            use.conditionLine = rule.line;
+        }
+    }
+}
+
+const VariableUse* RuleBase::Find(const std::string& name) const
+{
+    const auto found = m_numbers.find(name);
+    return found == m_numbers.end() ? nullptr : &m_variables[found->second];
+}
+
+const Registration* RuleBase::Question(const std::string& name) const
+{
+    const auto found = m_questions.find(name);
+    return found == m_questions.end() ? nullptr : &found->second;
+}
+
+bool RuleBase::HasQuestionText(const std::string& name) const
+{
+    const Registration* const registration = Question(name);
+    if (registration == nullptr) {
+        return false;
+    }
+    const LogicBlock* const block =
+        registration->topic == m_own->topic ? m_own : m_store->Find(registration->topic);
+    const BlockEntry* const entry = block == nullptr ? nullptr : block->FindEntry(true, name);
+    return entry != nullptr && entry->hasText;
+}
+
+std::vector<std::string> RuleBase::Values(const VariableUse& variable) const
+{
+    std::vector<std::string> values;
+    std::unordered_set<std::string> known;
+    for (const PlacedRule& placed : variable.rules) {
+        const std::string* const value = ValueIn(*placed.rule, variable.name);
+        if (value != nullptr && known.insert(*value).second) {
+            values.push_back(*value);
+        }
+    }
+    return values;
+}
+
+const std::string* ValueIn(const BlockRule& rule, const std::string& variable)
+{
+    if (rule.conclusion.var == variable) {
+        return &rule.conclusion.value;
+    }
+    const auto found = std::find_if(rule.conditions.begin(), rule.conditions.end(),
+                                    [&](const BlockTerm& term) { return term.var == variable; });
+    return found == rule.conditions.end() ? nullptr : &found->value;
+}
+
+} // namespace ls

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "book/Book.h"
+#include "check/Finding.h"
+#include "support/TestSeams.h"
+
+#include <string>
+#include <vector>
+
+namespace ls::test {
+
+/// A book and what `check` is to find in it, from a data file.
+struct CheckCase
+{
+    std::string name; ///< the rule that it is about first; "near RULE ..." for one that must not trigger it
+    std::string book; ///< bytes
+    std::vector<std::string> findings; ///< "line: severity: rule: text"
+};
+
+/// All cases of tests/data/check. In a file "== NAME" begins a case, "--" ends its book, and the findings
+/// follow. A book that begins with a topic gets a header line; "{XX}" stands for a byte, and a line that
+/// ends in "{}" is joined with the next one.
+[[nodiscard]] std::vector<CheckCase> ReadCheckCases();
+
+/// A book in memory, open and scanned.
+struct CheckedBook
+{
+    explicit CheckedBook(const std::string& bytes);
+
+    TestSeams seams;
+    Book book;
+};
+
+/// Findings as the data files have them.
+[[nodiscard]] std::vector<std::string> Lines(const std::vector<Finding>& findings);
+
+/// The findings of a book.
+[[nodiscard]] std::vector<std::string> FindingsOf(const std::string& bytes);
+
+} // namespace ls::test
