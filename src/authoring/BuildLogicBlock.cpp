@@ -53,7 +53,7 @@ void AppendLogic(std::string& out, std::string_view logicText)
 std::optional<std::string> BuildLogicBlock(const LogicBlock& block, const Seams& seams)
 {
     if (block.logicText.empty()) {
-        seams.messages.MsgBox("There is no logic information to save.", Icon::Exclamation);
+        seams.messages.MsgBox(NoLogicMessage, Icon::Exclamation);
         return std::nullopt;
     }
     std::string out;

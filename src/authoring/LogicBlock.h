@@ -65,11 +65,14 @@ struct LogicBlock
 /// the order of its lines, so that nothing goes silently.
 [[nodiscard]] LogicBlock ParseLogicBlock(std::string_view text);
 
+/// What is said where there are no logic lines to build a block from.
+inline constexpr char NoLogicMessage[] = "There is no logic information to save.";
+
 /// The block's text: the logic lines as they stand, then each variable with its choices, then the bare
 /// entries. A text of 60 characters and more, or of several lines, stands on lines of its own between its
 /// tags. Choices whose variable is not listed are left out.
 ///
-/// Empty logic lines are refused with "There is no logic information to save."; nothing is returned then.
+/// Empty logic lines are refused with `NoLogicMessage`; nothing is returned then.
 [[nodiscard]] std::optional<std::string> BuildLogicBlock(const LogicBlock& block, const Seams& seams);
 
 /// What the author is asked before such parts are dropped, as UTF-8; it names the first five of them.

@@ -119,8 +119,9 @@ private:
     [[nodiscard]] Opening OpeningAt(std::size_t at, const EntryTags& tags) const;
     void ReadEntry(const Opening& opening);
     bool ReadEntryText(LogicEntry& entry, const EntryTags& tags);
-    void EndDefinitions(std::size_t end);
+    bool NextEntryLine();
     void LoseRest();
+    void LoseHiding();
     void Lose(std::string what) { m_lost.push_back({m_lines.Number(), std::move(what)}); }
     void LoseText(std::string_view text)
     {
@@ -188,11 +189,12 @@ bool OpensDefinitions(std::string_view trimmedUpper)
 }
 
 // The builder puts "</LOGIC>" right behind a logic text of one or two characters: it is taken off a comment.
-std::string_view WithoutRunInTag(std::string_view line)
+void CutRunInTag(std::vector<std::string_view>& lines)
 {
-    const bool runIn =
-        line.starts_with('*') && line.ends_with(LogicClosing) && line.size() <= LogicClosing.size() + 2;
-    return runIn ? line.substr(0, line.size() - LogicClosing.size()) : line;
+    if (lines.size() == 1 && lines[0].starts_with('*') && lines[0].ends_with(LogicClosing) &&
+        lines[0].size() <= LogicClosing.size() + 2) {
+        lines[0] = TrimRight(lines[0].substr(0, lines[0].size() - LogicClosing.size()));
+    }
 }
 
 // What stands between "</LOGIC>" and the definitions counts for the advisor as logic.
@@ -213,8 +215,11 @@ bool Reader::ReadLogic()
         if (trimmed == LogicClosing) {
             closed = std::min(closed, lines.size());
         } else {
-            lines.push_back(WithoutRunInTag(TrimRight(m_line)));
+            lines.push_back(TrimRight(m_line));
         }
+    }
+    if (closed == None) {
+        CutRunInTag(lines);
     }
     while (closed != None && lines.size() > closed && lines.back().empty()) {
         lines.pop_back();
@@ -245,25 +250,35 @@ void Reader::ReadDefinitions()
     }
 }
 
+// The advisor stops registering questions at any line that holds "</DEFINITIONS>", but goes on to find texts
+// up to the line that is nothing else.
 void Reader::TakeLine()
 {
     const std::string_view trimmed = Trim(m_upper);
     if (trimmed.empty() || trimmed == BlockClosing) {
         return;
     }
-    if (trimmed.find(DefinitionsClosing) != None) {
+    if (trimmed == DefinitionsClosing) {
         m_ended = true;
-        if (trimmed != DefinitionsClosing) {
-            Lose("The line " + Quoted(Trim(m_line)) + " would become \"</DEFINITIONS>\".");
+        return;
+    }
+    const bool hides = trimmed.starts_with('[') || trimmed.find(DefinitionsClosing) != None;
+    if (hides) {
+        LoseHiding();
+    }
+    if (trimmed.starts_with('*')) {
+        if (!hides) {
+            Lose("The comment " + Quoted(Trim(m_line)) + " would be dropped.");
         }
-    } else if (trimmed.starts_with('[')) {
-        Lose("The line " + Quoted(Trim(m_line)) +
-             ", which hides the questions behind it from the advisor, would be dropped.");
-    } else if (trimmed.starts_with('*')) {
-        Lose("The comment " + Quoted(Trim(m_line)) + " would be dropped.");
-    } else {
+    } else if (!hides || HoldsOpening(m_upper)) {
         TakeEntries();
     }
+}
+
+void Reader::LoseHiding()
+{
+    Lose("The line " + Quoted(Trim(m_line)) +
+         ", which hides the questions behind it from the advisor, would not be kept as it is.");
 }
 
 // All entries that begin in the line at hand, or in the line in which one of them ends.
@@ -273,7 +288,10 @@ void Reader::TakeEntries()
     while (!m_ended) {
         const bool comment = TrimLeft(m_upper).starts_with('*'); // an entry's last line can look like one
         const Opening opening = comment ? Opening() : FindOpening();
-        LoseText(m_line.substr(m_at, opening.at == None ? None : opening.at - m_at));
+        const std::size_t end = std::min(opening.at, m_line.size());
+        if (Trim(std::string_view(m_upper).substr(m_at, end - m_at)) != DefinitionsClosing) {
+            LoseText(m_line.substr(m_at, end - m_at));
+        }
         if (opening.at == None) {
             return;
         }
@@ -343,21 +361,12 @@ void Reader::ReadEntry(const Opening& opening)
 bool Reader::ReadEntryText(LogicEntry& entry, const EntryTags& tags)
 {
     EntryText text;
-    bool closed = false;
-    for (bool first = true; first || NextLine(); first = false) {
-        const std::size_t end = m_upper.find(DefinitionsClosing, m_at);
-        const std::size_t closing = std::min(m_line.find(tags.closing, m_at), end);
-        closed = closing != end;
+    std::size_t closing = None;
+    for (bool first = true; closing == None && (first || NextEntryLine()); first = false) {
+        closing = m_line.find(tags.closing, m_at);
         const std::string_view piece = m_line.substr(m_at, closing == None ? None : closing - m_at);
         text.Add(piece, closing != None);
         entry.raw.append(first ? "" : LineEnd).append(piece);
-        m_at = closing == None ? m_line.size() : closing + (closed ? tags.closing.size() : 0);
-        if (end != None) {
-            EndDefinitions(end);
-        }
-        if (closing != None) {
-            break;
-        }
     }
     if (text.CutByBlanks()) {
         m_lost.push_back({entry.line, "The text of " + Quoted(entry.identifier) +
@@ -365,26 +374,34 @@ bool Reader::ReadEntryText(LogicEntry& entry, const EntryTags& tags)
                                           "whole."});
     }
     entry.text = text.Take();
-    entry.raw.append(closed ? tags.closing : "");
-    return closed;
+    if (closing == None) {
+        return false;
+    }
+    entry.raw.append(tags.closing);
+    m_at = closing + tags.closing.size();
+    if (m_lines.Number() != entry.line && m_upper.find(DefinitionsClosing, m_at) != None) {
+        LoseHiding();
+    }
+    return true;
 }
 
-// The line at hand holds the end of the definitions behind an entry's text.
-void Reader::EndDefinitions(std::size_t end)
+// The next line of an entry that is still open; false when the definitions end there.
+bool Reader::NextEntryLine()
 {
-    m_ended = true;
-    LoseText(m_line.substr(m_at, end - m_at));
-    LoseText(m_line.substr(end + DefinitionsClosing.size()));
+    m_ended = !NextLine() || Trim(m_upper) == DefinitionsClosing;
+    return !m_ended;
 }
 
 // Nothing behind the definitions belongs to the block but its closing tag.
 void Reader::LoseRest()
 {
     if (m_stopped) {
-        LoseText(m_line);
+        Lose("The advisor reads no further than " + Quoted(Trim(m_line)) +
+             "; that line and all behind it would be dropped.");
     }
     while (m_lines.Next(m_line)) {
-        if (!EqualsUpper(Trim(m_line), BlockClosing)) {
+        const std::string_view trimmed = Trim(m_line);
+        if (!EqualsUpper(trimmed, BlockClosing) && !(m_stopped && EqualsUpper(trimmed, DefinitionsClosing))) {
             LoseText(m_line);
         }
     }

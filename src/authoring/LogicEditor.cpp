@@ -73,7 +73,7 @@ bool LogicEditor::Form_Load()
         names.push_back(variable.name);
     }
     m_view.SetVariables(names);
-    Show(m_variables.empty() ? -1 : 0, 0);
+    Show(-1, -1);
     return true;
 }
 
@@ -366,10 +366,14 @@ void LogicEditor::GoTo(LogicBox box, int variable, int choice, int line)
     m_view.GoTo(box, line);
 }
 
-// The block as book text, or the warning about the first character that books cannot hold, with the caret
-// there.
+// The block as book text; without logic lines the refusal, and else the warning about the first character
+// that books cannot hold, with the caret there.
 std::optional<LogicBlock> LogicEditor::WritableBlock()
 {
+    if (m_logicText.empty()) {
+        Refuse(m_seams, NoLogicMessage);
+        return std::nullopt;
+    }
     Unwritable unwritable{};
     std::optional<LogicBlock> block = ToBookText(&unwritable);
     if (!block) {

@@ -30,8 +30,8 @@ public:
     {
     }
 
-    /// Takes the block apart, fills the boxes and lists, and selects the first variable. False after the
-    /// "Overflow" box for a block with more than 32,767 variables: the form must not open then.
+    /// Takes the block apart and fills the boxes and lists; nothing is selected. False after the "Overflow"
+    /// box for a block with more than 32,767 variables: the form must not open then.
     [[nodiscard]] bool Form_Load();
 
     /// The author chose an entry of a list.

@@ -118,7 +118,7 @@ private:
 
     void CheckEntry(const EntryTags& tags, std::string_view identifier, std::string_view text)
     {
-        CheckIdentifier(tags, identifier);
+        CheckIdentifier(identifier);
         if (text.size() > ShownLength) {
             Add(0, m_owner + " has more than 32,000 characters: the advisor would show its beginning only.");
         }
@@ -135,8 +135,7 @@ private:
                 AddLine(number, line, "would end it");
             } else if (Contains(upper, DefinitionsClosing)) {
                 AddLine(number, line, "would end the definitions");
-            } else if ((Contains(upper, QuestionTags.opening) || Contains(upper, AdviceTags.opening)) &&
-                       !(ownLines && upper.starts_with('*'))) {
+            } else if (HoldsOpening(upper) && !(ownLines && upper.starts_with('*'))) {
                 AddLine(number, line, "would open another entry");
             } else if (ownLines && upper.starts_with('[') && !line.starts_with('[')) {
                 AddLine(number, line, "would hide the questions behind it from the advisor");
@@ -145,19 +144,25 @@ private:
     }
 
     // A question's name ends at the first ">"; a choice's may hold one as long as its parenthesis is open.
-    void CheckIdentifier(const EntryTags& tags, std::string_view identifier)
+    void CheckIdentifier(std::string_view identifier)
     {
         const std::size_t close = identifier.find('>');
-        if (close == None) {
-            return;
-        }
         const std::string_view before = identifier.substr(0, close);
         const std::size_t open = before.find('(');
-        const bool inside = tags.opening == AdviceTags.opening && open != None &&
-                            !Contains(before.substr(open), ")") && !Contains(identifier.substr(close), ")>");
-        if (!inside) {
+        const bool advice = m_place.box == LogicBox::Advice;
+        const bool inside = advice && open != None && !Contains(before.substr(open), ")") &&
+                            !Contains(identifier.substr(before.size()), ")>");
+        if (close != None && !inside) {
             Add(0, m_owner + " would be read as that for " + Quoted(before) + ", since \">\" ends a name.");
+        } else if (advice && identifier.find('(') != VariableName().size()) {
+            Add(0, m_owner + " would be read as that for a choice of " +
+                       Quoted(identifier.substr(0, identifier.find('('))) + ", since \"(\" ends its name.");
         }
+    }
+
+    [[nodiscard]] const std::string& VariableName() const
+    {
+        return m_block.variables[static_cast<std::size_t>(m_place.variable)].name;
     }
 
     const LogicBlock& m_block;

@@ -31,4 +31,11 @@ inline constexpr std::size_t OwnLinesLength = 60;
     return text.size() >= OwnLinesLength || text.find(LineEnd) != std::string_view::npos;
 }
 
+/// Whether a line in upper case, or several, hold the beginning of an entry.
+[[nodiscard]] inline bool HoldsOpening(std::string_view upper)
+{
+    return upper.find(QuestionTags.opening) != std::string_view::npos ||
+           upper.find(AdviceTags.opening) != std::string_view::npos;
+}
+
 } // namespace ls::logic

@@ -28,6 +28,18 @@ bool IsWhole(std::string_view part)
     return !part.empty() && Trim(part) == part;
 }
 
+// Whether a line behind the entry's first one begins with "[" after its blanks.
+bool HidesQuestions(std::string_view raw)
+{
+    for (std::size_t end = raw.find(logic::LineEnd); end != std::string_view::npos;
+         end = raw.find(logic::LineEnd, end + 1)) {
+        if (TrimLeft(raw.substr(end + logic::LineEnd.size())).starts_with('[')) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // Sorts the entries of a block into its tables.
 class Tables
 {
@@ -39,6 +51,7 @@ public:
         for (const LogicEntry& entry : entries) {
             if (entry.question) {
                 m_asked.insert(UpperCase(entry.identifier));
+                m_finalQuestion = entry.line;
             }
         }
         for (LogicEntry& entry : entries) {
@@ -74,7 +87,7 @@ private:
                                  " would be dropped; the advisor asks the first.");
             return;
         }
-        m_lastQuestion = entry.line;
+        m_questionBefore = entry.line;
         m_block.variables.push_back({std::move(entry.identifier), std::move(entry.text), true});
     }
 
@@ -97,9 +110,18 @@ private:
     void TakeBare(LogicEntry& entry)
     {
         const auto [earlier, first] = m_bare.emplace(UpperCase(entry.identifier), entry.line);
-        if (!first && m_lastQuestion > earlier->second) {
+        if (!first && m_questionBefore > earlier->second) {
             Lose(entry.line, "The second advice for " + Quoted(entry.identifier) +
                                  " would move behind all questions, where the first is shown.");
+        }
+        if (HidesQuestions(entry.raw) && entry.line < m_finalQuestion) {
+            Lose(entry.line, "The advice for " + Quoted(entry.identifier) +
+                                 " holds a line beginning with \"[\", which hides the questions behind it "
+                                 "from the advisor; it would move behind all questions.");
+        }
+        if (logic::HoldsOpening(UpperCase(entry.text))) {
+            Lose(entry.line, "The advice for " + Quoted(entry.identifier) +
+                                 " holds another entry, which would move with it behind all questions.");
         }
         m_block.bareEntries.push_back({std::move(entry.identifier), std::move(entry.raw)});
     }
@@ -123,7 +145,8 @@ private:
     std::unordered_map<std::string, std::size_t> m_places; ///< of the variables in their list
     std::unordered_set<std::string> m_identifiers;         ///< of the choices
     std::unordered_map<std::string, int> m_bare;           ///< the line of each first one
-    int m_lastQuestion = 0;                                ///< its line
+    int m_finalQuestion = 0;                               ///< the line of the last question of all
+    int m_questionBefore = 0;                              ///< the line of the last one that was taken
 };
 
 } // namespace

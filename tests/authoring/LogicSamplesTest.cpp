@@ -1,0 +1,122 @@
+#include "LogicMeaning.h"
+#include "authoring/LogicFaults.h"
+#include "book/WriteBook.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace ls {
+namespace {
+
+using test::AdvisorWorld;
+using test::Meaning;
+
+std::string Bytes(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}
+
+/// Opens a book that stands in memory.
+void OpenBytes(AdvisorWorld& world, const std::string& bytes)
+{
+    world.seams.files[world.path] = bytes;
+    world.book.BookPath = world.path;
+    ASSERT_TRUE(OpenBook(world.book, world.seams.Get()));
+    ASSERT_TRUE(ScanBook(world.book, world.seams.Get()));
+}
+
+std::string SavedBytes(AdvisorWorld& world)
+{
+    std::unique_ptr<OutputFile> file;
+    EXPECT_TRUE(world.seams.files.CreateNew("/out.IDA", file).Ok());
+    EXPECT_EQ(WriteBook(world.book, world.seams.Get(), *file), WriteOutcome::Written);
+    EXPECT_TRUE(file->Finish().Ok());
+    return world.seams.files["/out.IDA"];
+}
+
+/// Brings a topic's block into memory; empty when it has none.
+std::string LoadLogicOf(AdvisorWorld& world, int topic)
+{
+    std::string name = world.book.TopicNames(static_cast<std::size_t>(topic));
+    Count16 number = topic;
+    LoadTopicRec(world.book, world.seams.Get(), name, number);
+    return world.book.TopicRecs(static_cast<std::size_t>(topic)).Logic;
+}
+
+struct Seen
+{
+    int blocks = 0;
+    int clean = 0;
+};
+
+/// Takes each block of a book apart, puts the built one in its place, saves, and compares what the advisor
+/// loads from both files.
+void CheckBook(const std::string& bytes, Seen& seen)
+{
+    AdvisorWorld original;
+    OpenBytes(original, bytes);
+    for (int topic = 1; topic <= original.book.TopicCount; ++topic) {
+        AdvisorWorld edited;
+        OpenBytes(edited, bytes);
+        const std::string text = LoadLogicOf(edited, topic);
+        if (text.empty()) {
+            continue;
+        }
+        ++seen.blocks;
+        const LogicBlock block = ParseLogicBlock(text);
+        const std::optional<std::string> built = BuildLogicBlock(block, edited.seams.Get());
+        if (!built) {
+            edited.seams.messages.Take();
+            continue;
+        }
+        edited.book.TopicRecs(static_cast<std::size_t>(topic)).Logic = *built;
+        if (!block.lost.empty() || !FindLogicFaults(block).empty()) {
+            continue;
+        }
+        ++seen.clean;
+        AdvisorWorld reopened;
+        OpenBytes(reopened, SavedBytes(edited));
+        const std::vector<std::string> tags = test::TagsOf(block);
+        EXPECT_EQ(MeaningOfTopic(original, topic, tags),
+                  WithoutPlaceholders(MeaningOfTopic(reopened, topic, tags), block))
+            << text << "\nbuilt as\n"
+            << *built;
+        EXPECT_EQ(ParseLogicBlock(LoadLogicOf(reopened, topic)).choices, block.choices);
+    }
+}
+
+TEST(BooksThroughTheLogicEditor, samples_meanTheSame)
+{
+    Seen seen;
+    for (const auto& entry : std::filesystem::directory_iterator(LS_SAMPLES)) {
+        if (entry.path().extension() == ".IDA") {
+            SCOPED_TRACE(entry.path().filename().string());
+            CheckBook(Bytes(entry.path()), seen);
+        }
+    }
+    EXPECT_GT(seen.blocks, 3);
+    // One topic has comments between its definitions, on which its way to its advice depends.
+    EXPECT_EQ(seen.clean, seen.blocks - 1);
+}
+
+TEST(BooksThroughTheLogicEditor, cases_meanTheSameWhereNothingIsAsked)
+{
+    Seen seen;
+    for (const auto& entry : std::filesystem::directory_iterator(LS_TEST_DATA "/cases/advisor")) {
+        if (entry.path().extension() == ".IDA") {
+            SCOPED_TRACE(entry.path().filename().string());
+            CheckBook(Bytes(entry.path()), seen);
+        }
+    }
+    EXPECT_GT(seen.blocks, 100);
+    EXPECT_GT(seen.clean, seen.blocks / 8);
+}
+
+} // namespace
+} // namespace ls
