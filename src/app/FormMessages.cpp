@@ -113,7 +113,7 @@ Reply FormMessages::ShowBox(const std::string& text, Icon icon, Buttons buttons,
     QMessageBox box(Window());
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(QString::fromStdString(title));
-    box.setText(Shortened(text));
+    box.setText(Shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     box.setIcon(PictureOf(icon));
     const std::vector<Reply> replies = RepliesOf(buttons);
     for (const Reply reply : replies) {

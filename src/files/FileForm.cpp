@@ -10,6 +10,7 @@
 #include "files/FileFormRules.h"
 #include "files/OpenForm.h"
 #include "files/PathText.h"
+#include "files/ProgramSelector.h"
 #include "ui_FileForm.h"
 
 #include <QApplication>
@@ -170,11 +171,8 @@ void FileForm::BrowseButton_Click()
 void FileForm::HelpButton_Click()
 {
     ShowHelpPage(HelpPage, m_seams, m_forms.registry, [this](const std::string& startPath) {
-        FileDialog browser; // the file that the form asks for is another matter
-        browser.FileMode = "R";
-        browser.ChosenFullPath = startPath;
-        ShowSelector(browser);
-        return browser.ChosenFullPath;
+        const QScopedValueRollback<bool> selecting(m_selecting, true);
+        return SelectProgram(this, m_seams, m_forms, m_global.book.WorkDir, startPath);
     });
     if (m_seams.end.Ended()) {
         reject();

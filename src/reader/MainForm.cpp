@@ -4,6 +4,10 @@
 #include "app/Global.h"
 #include "app/RunGuarded.h"
 #include "app/StartUp.h"
+#include "browser/About.h"
+#include "browser/HelpPages.h"
+#include "browser/WebReferral.h"
+#include "files/ProgramSelector.h"
 #include "reader/MainFormView.h"
 #include "render/ExportItem.h"
 #include "ui_MainForm.h"
@@ -21,6 +25,7 @@ namespace ls {
 
 namespace {
 
+constexpr const char* HelpPage = "Lodestar_Reader.htm";
 constexpr int AfterResizeMilliseconds = 60; // how long a window that is being dragged must rest
 
 int Pixels(double length)
@@ -31,7 +36,8 @@ int Pixels(double length)
 } // namespace
 
 MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
-    : m_ui(std::make_unique<Ui::MainForm>()), m_global(global), m_seams(seams), m_layout(RememberDesign()),
+    : m_ui(std::make_unique<Ui::MainForm>()), m_global(global), m_seams(seams), m_forms(forms),
+      m_layout(RememberDesign()),
       m_view(std::make_unique<MainFormView>(*this, *m_ui, global, m_seams, forms)),
       m_navigation(global.book, m_seams, *m_view),
       m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation),
@@ -82,6 +88,7 @@ void MainForm::ConnectButtons()
     connect(m_ui->NextButton, &QAbstractButton::clicked, this, &MainForm::NextItem_Click);
     connect(m_ui->AdvisorButton, &QAbstractButton::clicked, this, &MainForm::AdvisorButton_Click);
     connect(m_ui->XRButton, &QAbstractButton::clicked, this, &MainForm::XRButton_Click);
+    connect(m_ui->ExplainButton, &QAbstractButton::clicked, this, &MainForm::ExplainButton_Click);
     connect(m_ui->DoneButton, &QAbstractButton::clicked, this, &MainForm::DoneButton_Click);
     connect(m_ui->TopicList, &QComboBox::currentIndexChanged, this, &MainForm::TopicList_Change);
     connect(m_ui->TopicList, &QComboBox::activated, this, &MainForm::TopicList_Change);
@@ -104,6 +111,9 @@ void MainForm::ConnectItems()
     connect(m_ui->ExportItem, &QAction::triggered, this, &MainForm::ExportItem_Click);
     connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
     connect(m_ui->ContentsItem, &QAction::triggered, this, &MainForm::ContentsItem_Click);
+    connect(m_ui->HelpItem, &QAction::triggered, this, &MainForm::HelpItem_Click);
+    connect(m_ui->AboutItem, &QAction::triggered, this, &MainForm::AboutItem_Click);
+    m_ui->HelpItem->setEnabled(HasHelpPage(HelpPage, m_seams));
 }
 
 // Every command goes through here. One that is still running, with a box or form of its own open, is never
@@ -266,6 +276,27 @@ void MainForm::EditPropertiesOption_Click()
 void MainForm::ExportItem_Click()
 {
     Run([this] { ls::ExportItem_Click(m_global.book, m_seams); });
+}
+
+void MainForm::ExplainButton_Click()
+{
+    Run([this] {
+        ShowWebReferral(m_global.book, m_seams, m_forms.registry, m_global.book.CurrentTopicName);
+    });
+}
+
+void MainForm::HelpItem_Click()
+{
+    Run([this] {
+        ShowHelpPage(HelpPage, m_seams, m_forms.registry, [this](const std::string& startPath) {
+            return SelectProgram(this, m_seams, m_forms, m_global.book.WorkDir, startPath);
+        });
+    });
+}
+
+void MainForm::AboutItem_Click()
+{
+    Run([this] { ShowAbout(m_global.book, m_seams); });
 }
 
 void MainForm::VScroll1_Change()

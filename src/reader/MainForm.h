@@ -70,6 +70,9 @@ private:
     void EdTextItem_Click();
     void EditPropertiesOption_Click();
     void ExportItem_Click();
+    void ExplainButton_Click();
+    void HelpItem_Click();
+    void AboutItem_Click();
     void AlphaItem_Click();
     void ContentsItem_Click();
 
@@ -79,6 +82,7 @@ private:
     std::unique_ptr<Ui::MainForm> m_ui;
     Global& m_global;
     Seams m_seams;
+    FormSeams m_forms;
     MainLayout m_layout;
     std::unique_ptr<MainFormView> m_view;
     Navigation m_navigation;

@@ -1,0 +1,18 @@
+#include "files/ProgramSelector.h"
+
+#include "files/FileDialog.h"
+#include "files/OpenForm.h"
+
+namespace ls {
+
+std::string SelectProgram(QWidget* parent, const Seams& seams, const FormSeams& forms,
+                          const std::string& workDir, const std::string& startPath)
+{
+    FileDialog dialog; // the file that a form may be asking for is another matter
+    dialog.FileMode = "R";
+    dialog.ChosenFullPath = startPath;
+    OpenForm(parent, dialog, seams, forms.volumes, workDir).exec();
+    return dialog.ChosenFullPath;
+}
+
+} // namespace ls

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "base/Seams.h"
+#include "files/FormSeams.h"
+
+#include <string>
+
+class QWidget;
+
+namespace ls {
+
+/// Shows the file selector over `parent`, in open mode at `startPath`, to pick a program. Gives its path;
+/// empty when the user cancels. `workDir` is the default folder.
+std::string SelectProgram(QWidget* parent, const Seams& seams, const FormSeams& forms,
+                          const std::string& workDir, const std::string& startPath);
+
+} // namespace ls

@@ -1,0 +1,120 @@
+// What the real main window shows in a web browser: help and the author's web site; and its About box.
+
+#include "gui/MainFormFixture.h"
+
+namespace ls {
+namespace {
+
+using test::ModalScript;
+using test::Press;
+
+struct BrowserItemsTest : MainFormFixture
+{
+    BrowserItemsTest() { registry.RegisterForUser(".HTM", "page", "/usr/bin/web"); }
+
+    std::string WriteBook(const std::string& header)
+    {
+        return Write("Sample.IDA", "LODESTAR BOOK V5.3" + header + "\r\n[A]\r\na\r\n[B]\r\nb\r\n");
+    }
+
+    std::string Read(const std::string& name)
+    {
+        QFile file(QString::fromStdString(Path(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
+    }
+};
+
+// The main window of a program whose help lies beside it: where that is counts when the window is made.
+struct HelpItemTest : BrowserItemsTest
+{
+    std::string WriteHelp()
+    {
+        processes.programFolder = Path("");
+        return Write("Lodestar_Reader.htm", "");
+    }
+    const std::string page = WriteHelp();
+    MainForm window{global, seams, {*volumes, dde, registry}};
+};
+
+TEST_F(HelpItemTest, help_showsTheReadersPage)
+{
+    window.Form_Load({});
+    Press(window, "HelpItem");
+    EXPECT_EQ(processes.started, Strings{"/usr/bin/web " + page});
+}
+
+TEST_F(HelpItemTest, help_noBrowser_selectorFindsOne)
+{
+    registry.keys.clear();
+    Write("web", "");
+    window.Form_Load({});
+    ModalScript script;
+    script.Answer(Reply::Ok).Answer(Reply::Yes).Do([this](QWidget& selector) {
+        test::Type(selector, "TextBox", QString::fromStdString(Path("web")));
+        test::Press(selector, "OKButton");
+    });
+    Press(window, "HelpItem");
+    ASSERT_EQ(script.Seen().size(), 3U);
+    EXPECT_EQ(script.Seen()[2], "form|OpenForm|LSAdvisor File Selector");
+    EXPECT_EQ(processes.started, Strings{Path("web") + " " + page});
+}
+
+TEST_F(BrowserItemsTest, help_noPageBesideTheProgram_isDisabled)
+{
+    EXPECT_FALSE(Get<QAction>("HelpItem").isEnabled());
+}
+
+TEST_F(BrowserItemsTest, explain_bookThatTakesComments_postsTheTopicOnShow)
+{
+    Start(WriteBook(" /AUTHOR=\"Ann\" /URL=\"ann.example\" /POST=\"yes\""), "B");
+    Press(form, "ExplainButton");
+    EXPECT_EQ(processes.started, Strings{"/usr/bin/web " + Path("Lodestar_Ideas_Temp.htm")});
+    EXPECT_NE(Read("Lodestar_Ideas_Temp.htm").find(" VALUE=\"Sample: B\">"), std::string::npos);
+    EXPECT_EQ(PaneText(), "b");
+}
+
+TEST_F(BrowserItemsTest, explain_otherBook_asksFirst)
+{
+    Start(WriteBook(" /AUTHOR=\"Ann\" /URL=\"http://ann.example\""));
+    {
+        ModalScript script;
+        script.Answer(Reply::Cancel);
+        Press(form, "ExplainButton");
+        EXPECT_EQ(
+            script.Seen(),
+            Strings{
+                "none|Lodestar Advisor|To start your web browser and access the web site for the book you "
+                "are viewing, click O.K. below.  The author of this book, Ann, or the author's publisher, "
+                "have posted information at this web site: \nhttp://ann.example|OKCancel"});
+    }
+    EXPECT_EQ(processes.started, Strings{});
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Press(form, "ExplainButton");
+    EXPECT_EQ(processes.started, Strings{"/usr/bin/web http://ann.example"});
+}
+
+TEST_F(BrowserItemsTest, explain_addressGoneMeanwhile_endsTheProgram)
+{
+    Start(WriteBook(" /URL=\"http://ann.example\""));
+    global.book.BookUrl.clear();
+    Press(form, "ExplainButton");
+    EXPECT_TRUE(global.end.Ended());
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(BrowserItemsTest, about_tellsOfTheProgramAndTheBook)
+{
+    Start(WriteBook(" /AUTHOR=\"Ann\" /COPYRIGHT=\"2026\""));
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    Press(form, "AboutItem");
+    EXPECT_EQ(
+        script.Seen(),
+        Strings{"information|Lodestar Advisor|Lodestar Advisor, version 5.3. Copyright (c) 2026 The Lodestar "
+                "Advisor authors. It is available at http://www.lodestar-ideas.example/\n\nThe book you are "
+                "viewing was written by Ann, copyright 2026"});
+}
+
+} // namespace
+} // namespace ls
