@@ -11,6 +11,7 @@ namespace ls {
 [[nodiscard]] CommandSpec InfoCommand();
 [[nodiscard]] CommandSpec TopicsCommand();
 [[nodiscard]] CommandSpec XrefsCommand();
+[[nodiscard]] CommandSpec PagesCommand();
 [[nodiscard]] CommandSpec ShowCommand();
 [[nodiscard]] CommandSpec TextCommand();
 [[nodiscard]] CommandSpec SaveCommand();

@@ -1,8 +1,8 @@
 #include "base/CodePage.h"
-#include "base/Processes.h"
 #include "cli/CommandContext.h"
 #include "cli/Commands.h"
 #include "cli/JsonWriter.h"
+#include "cli/RunOutput.h"
 #include "cli/TerminalSurface.h"
 #include "render/DrawLines.h"
 #include "render/RunList.h"
@@ -36,13 +36,6 @@ void Draw(const CommandContext& context, TextSurface& surface, const ShownTopic&
     DrawRows(surface, shown.lines, first, std::min(rows, shown.lines.Count - first + 1), version);
 }
 
-bool Styled(const CommandContext& context)
-{
-    Processes& processes = context.Env().processes;
-    return context.Env().outIsTerminal && processes.Environment("NO_COLOR").empty() &&
-           processes.Environment("TERM") != "dumb";
-}
-
 void WriteTopicJson(CommandContext& context, const ShownTopic& shown)
 {
     context.WriteJson(
@@ -58,22 +51,6 @@ void WriteTopicJson(CommandContext& context, const ShownTopic& shown)
             json.Key("logic_pos").Number(shown.logicPos);
         },
         true);
-}
-
-void WriteRun(JsonWriter& json, const Run& run)
-{
-    json.BeginObject();
-    json.Key("text").BookText(run.text);
-    json.Key("bold").Bool(run.bold);
-    json.Key("italic").Bool(run.italic);
-    json.Key("underline").Bool(run.underline);
-    json.Key("colour").BeginArray();
-    json.Number(std::int64_t{run.colour.red});
-    json.Number(std::int64_t{run.colour.green});
-    json.Number(std::int64_t{run.colour.blue});
-    json.EndArray();
-    json.Key("end_row").Bool(run.endRow);
-    json.EndObject();
 }
 
 // A run as a line for people: "12:5 b-u #7f0000 |Title|", and "end" where it ends its row.
@@ -108,8 +85,8 @@ void WriteRuns(CommandContext& context, const ShownTopic& shown)
 
 void WriteDrawn(CommandContext& context, const ShownTopic& shown)
 {
-    TerminalSurface surface(context.Env().out,
-                            {context.Env().outIsTerminal, Styled(context), WidthOf(context), Count16::Max});
+    TerminalSurface surface(context.Env().out, {context.Env().outIsTerminal, ShowsStyles(context.Env()),
+                                                WidthOf(context), Count16::Max});
     Draw(context, surface, shown, context.TheBook().BookVersion);
     surface.EndRow();
 }

@@ -1,7 +1,6 @@
 #include "render/DrawLines.h"
 
 #include "render/DisplayLines.h"
-#include "render/Markup.h"
 #include "render/Rounding.h"
 #include "render/TextSurface.h"
 
@@ -22,9 +21,7 @@ void SetPlain(TextSurface& surface)
     surface.SetColour(Black);
 }
 
-// Prints one display line. A line that ends in a tag with nothing before it in its last print, such as one of
-// tags only, leaves the row open: the next line goes on in it, which is kept.
-void DrawMarkup(TextSurface& surface, std::string_view line, std::string& buffer)
+void DrawMarkup(TextSurface& surface, std::string_view line, std::string& buffer, TagColours colours)
 {
     MarkupReader reader(line);
     for (;;) {
@@ -41,7 +38,7 @@ void DrawMarkup(TextSurface& surface, std::string_view line, std::string& buffer
             if (!piece.before.empty()) {
                 surface.Print(piece.before, reader.AtEnd());
             }
-            ApplyTag(surface, piece.name);
+            ApplyTag(surface, piece.name, colours);
             break;
         }
         if (reader.AtEnd()) {
@@ -79,11 +76,17 @@ void DrawRows(TextSurface& surface, const DisplayLines& lines, int firstLine, in
     std::string buffer;
     for (int number = first; number <= last; ++number) {
         surface.BeginLine(number);
-        if (bookVersion < MarkupVersion) {
-            surface.Print(lines(number), true);
-        } else {
-            DrawMarkup(surface, lines(number), buffer);
-        }
+        DrawLine(surface, lines(number), bookVersion, buffer);
+    }
+}
+
+void DrawLine(TextSurface& surface, std::string_view line, float bookVersion, std::string& buffer,
+              TagColours colours)
+{
+    if (bookVersion < MarkupVersion) {
+        surface.Print(line, true);
+    } else {
+        DrawMarkup(surface, line, buffer, colours);
     }
 }
 

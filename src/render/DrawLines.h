@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/Markup.h"
+
 #include <string>
 #include <string_view>
 
@@ -16,6 +18,12 @@ void DrawLines(TextSurface& surface, const DisplayLines& lines, int firstLine, f
 
 /// Draws `rows` lines from `firstLine` on, however many rows the surface has.
 void DrawRows(TextSurface& surface, const DisplayLines& lines, int firstLine, int rows, float bookVersion);
+
+/// Prints one display line where the surface's position stands, in the styles that are in force. One that
+/// ends in a tag with nothing before it, such as a line of tags only, leaves its row open, which is kept.
+/// `buffer` is room to work in, kept by whoever draws many lines.
+void DrawLine(TextSurface& surface, std::string_view line, float bookVersion, std::string& buffer,
+              TagColours colours = TagColours::Applied);
 
 /// The whole topic as plain text, one display line a row, tags removed and entities resolved, rows parted by
 /// "\n".

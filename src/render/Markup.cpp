@@ -81,7 +81,7 @@ char EntityCharacter(std::string_view name)
     return name == "AMP" ? '&' : '?';
 }
 
-void ApplyTag(TextSurface& surface, std::string_view name)
+void ApplyTag(TextSurface& surface, std::string_view name, TagColours colours)
 {
     for (const TagEffect& tag : Tags) {
         if (tag.name != name) {
@@ -96,7 +96,7 @@ void ApplyTag(TextSurface& surface, std::string_view name)
         if (tag.underline) {
             surface.SetUnderline(*tag.underline);
         }
-        if (tag.colour) {
+        if (tag.colour && colours == TagColours::Applied) {
             surface.SetColour(*tag.colour);
         }
         return;

@@ -49,8 +49,15 @@ private:
 /// The character that an entity shows: "<", ">" or "&"; "?" for an unknown one. Names are compared with case.
 [[nodiscard]] char EntityCharacter(std::string_view name);
 
+/// Whether tags set colours, or styles only.
+enum class TagColours
+{
+    Applied,
+    LeftOut
+};
+
 /// Sets the styles and the colour that a tag stands for; an unknown one does nothing. Names are compared with
 /// case. The end of a heading switches its styles off whoever switched them on.
-void ApplyTag(TextSurface& surface, std::string_view name);
+void ApplyTag(TextSurface& surface, std::string_view name, TagColours colours = TagColours::Applied);
 
 } // namespace ls

@@ -16,7 +16,7 @@ const std::string NoBook = Declined + "lsbook: --plain takes it as plain text.\n
 // Each command as it is asked for the file "/work/x".
 const std::vector<Strings> Commands = {
     {"info", "x"},      {"topics", "x"},    {"xrefs", "x"},       {"xrefs", "x", "A"},
-    {"show", "x", "A"}, {"text", "x", "A"}, {"export", "x", "A"},
+    {"show", "x", "A"}, {"text", "x", "A"}, {"export", "x", "A"}, {"pages", "x", "A"},
 };
 
 class Faults : public test::CliFixture
@@ -136,7 +136,7 @@ TEST_F(Faults, plainFilesOfAnyKind_areTakenByEveryCommand)
         "<", "[EOF]\r\n<INDEX>\r\n"};
     for (const std::string& content : contents) {
         files["/work/x"] = content;
-        for (const std::string command : {"info", "topics", "xrefs", "show", "text"}) {
+        for (const std::string command : {"info", "topics", "xrefs", "show", "text", "pages"}) {
             SCOPED_TRACE(command + " of " + std::to_string(content.size()) + " bytes");
             EXPECT_EQ(Run({command, "x", "--plain", "--json"}), 0);
             EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
