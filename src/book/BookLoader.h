@@ -41,14 +41,18 @@ bool ScanBook(Book& book, const Seams& seams, Progress* progress = nullptr);
 void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::string& name,
                  Count16& number);
 
+/// The message for a topic that the book does not have; `key` is its title in brackets.
+void ShowNotFound(const Seams& seams, const std::string& key);
+
 /// The message for a topic that cannot be read.
 void ShowFetchError(const Seams& seams, const std::string& name, const FileError& failed);
 
 /// Brings a topic's text and logic block from the file into its `TopicRec`, ready to be edited.
 ///
-/// On failure (after `LocateTopic`'s message) `name` is empty and `number` 0. A plain text file is read
-/// whole; it has no table, and its text is put into `plainText` when that is given.
-void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& number,
+/// On failure (after `LocateTopic`'s message, or that of a read error) the topic stays unedited, `name` is
+/// empty and `number` 0, and the answer is false. A plain text file is read whole; it has no table, and its
+/// text is put into `plainText` when that is given.
+bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& number,
                   std::string* plainText = nullptr);
 
 /// The logic block of a topic as it stands in the file, from its "<IXML>" line on, whatever follows that

@@ -1,3 +1,4 @@
+#include "base/CodePage.h"
 #include "base/LineCursor.h"
 #include "base/NoFile.h"
 #include "base/Text.h"
@@ -70,26 +71,33 @@ std::string ReadLogic(TopicReader& reader)
     return logic;
 }
 
-void LoadPlainText(Book& book, std::string* plainText)
+bool LoadPlainText(Book& book, const Seams& seams, std::string* plainText)
 {
     if (plainText == nullptr || !book.File) {
-        return;
+        return false;
     }
     plainText->clear();
     LineCursor cursor(*book.File);
     std::string line;
-    while (!cursor.AtEnd() && cursor.ReadLine(line).Ok()) {
+    while (!cursor.AtEnd()) {
+        if (const FileError failed = cursor.ReadLine(line); !failed.Ok()) {
+            // Half a file would pass for the whole.
+            plainText->clear();
+            // The file has no topic that the message could name.
+            ShowFetchError(seams, ToBook(FromPath(book.BookPath)).value_or(std::string()), failed);
+            return false;
+        }
         plainText->append(TrimRight(line)).append(LineEnd);
     }
+    return true;
 }
 
 } // namespace
 
-void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& number, std::string* plainText)
+bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& number, std::string* plainText)
 {
     if (book.IsPlainText()) {
-        LoadPlainText(book, plainText);
-        return;
+        return LoadPlainText(book, seams, plainText);
     }
     name = WithBrackets(name);
     NoFile noFile;
@@ -97,7 +105,7 @@ void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
     LocateTopic(book, seams, cursor, name, number);
     if (name.empty()) {
         number = 0;
-        return;
+        return false;
     }
     TopicReader reader(cursor, EndOfTopic(book, number));
     std::string text;
@@ -108,11 +116,12 @@ void LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
         ShowFetchError(seams, name, reader.Failed());
         name.clear();
         number = 0;
-        return;
+        return false;
     }
     TopicRec& rec = book.TopicRecs(static_cast<std::size_t>(number));
     rec.Text = std::move(text);
     rec.Logic = std::move(logic);
+    return true;
 }
 
 bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number, std::string& logic)

@@ -18,13 +18,12 @@ int FindTopic(const Book& book, const std::string& key)
     return found == end ? 0 : static_cast<int>(found - book.TopicNames.begin()) + 1;
 }
 
-void Fail(const Seams& seams, std::string& name, const std::string& message)
-{
-    seams.messages.MsgBox(message, Icon::Warning);
-    name.clear();
-}
-
 } // namespace
+
+void ShowNotFound(const Seams& seams, const std::string& key)
+{
+    seams.messages.MsgBox("Topic " + FromBook(key) + " was not found.", Icon::Warning);
+}
 
 void ShowFetchError(const Seams& seams, const std::string& name, const FileError& failed)
 {
@@ -45,7 +44,8 @@ void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::
     const bool inTable = number > 0 && static_cast<std::size_t>(number) <= book.TopicPos.UpperBound();
     const FilePos pos = inTable ? book.TopicPos(static_cast<std::size_t>(number)) : 0;
     if (pos == 0) {
-        Fail(seams, name, "Topic " + FromBook(key) + " was not found.");
+        ShowNotFound(seams, key);
+        name.clear();
         return;
     }
     cursor.Seek(pos);
@@ -55,7 +55,8 @@ void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::
         ShowFetchError(seams, name, failed);
         name.clear();
     } else if (Trim(line) != key) {
-        Fail(seams, name, "Error looking up topic: " + FromBook(key));
+        seams.messages.MsgBox("Error looking up topic: " + FromBook(key), Icon::Warning);
+        name.clear();
     }
 }
 

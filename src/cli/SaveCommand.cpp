@@ -59,7 +59,7 @@ Status WriteSize(CommandContext& context, const std::string& path)
     FilePos size = 0;
     if (!context.TheSeams().files.OpenForReading(path, Sharing::Shared, file).Ok() ||
         !file->Size(size).Ok()) {
-        return Status::FileFault;
+        return context.GiveUp(); // the error that was met is told, and decides the status
     }
     if (context.Json()) {
         context.WriteJson([size](JsonWriter& json) { json.Key("size").Number(size); });

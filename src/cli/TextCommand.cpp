@@ -22,12 +22,11 @@ Status Load(CommandContext& context, TopicRec& rec)
         return status;
     }
     Book& book = context.TheBook();
-    LoadTopicRec(book, context.TheSeams(), name, number, &rec.Text);
+    if (!LoadTopicRec(book, context.TheSeams(), name, number, &rec.Text)) {
+        return Status::Fault;
+    }
     if (book.IsPlainText()) {
         return Status::Done;
-    }
-    if (number == 0) {
-        return Status::Fault;
     }
     rec = book.TopicRecs(static_cast<std::size_t>(number));
     return Status::Done;

@@ -146,8 +146,29 @@ TEST_F(LoadTopicRecTest, load_plainTextFile_readsTheWholeFile)
     std::string name;
     Count16 number;
     std::string text;
-    LoadTopicRec(book, world.Get(), name, number, &text);
+    EXPECT_TRUE(LoadTopicRec(book, world.Get(), name, number, &text));
     EXPECT_EQ(text, "Plain\r\n[A]\r\n<IXML>\r\nx\r\n");
+}
+
+TEST_F(LoadTopicRecTest, load_readErrorInAPlainTextFile_saysSoAndGivesNoHalf)
+{
+    world.messages.replies = {Reply::Ok};
+    ASSERT_TRUE(Open("Plain\r\n" + std::string(40000, 'x') + "\r\n"));
+    world.messages.Take();
+    int reads = 0;
+    world.files.fail = [&reads](const std::string& operation) {
+        return operation.starts_with("read") && ++reads > 1 ? error::DeviceIo : 0;
+    };
+    std::string name;
+    Count16 number;
+    std::string text = "before";
+    EXPECT_FALSE(LoadTopicRec(book, world.Get(), name, number, &text));
+    EXPECT_EQ(world.messages.Take(), Strings{"warning|Lodestar Advisor|Failed to fetch topic "
+                                             "/work/Book.IDA due to error #57: Device I/O error"});
+    EXPECT_EQ(text, "");
+    world.files.fail = nullptr;
+    EXPECT_TRUE(LoadTopicRec(book, world.Get(), name, number, &text));
+    EXPECT_EQ(text.size(), 40009U);
 }
 
 } // namespace

@@ -115,6 +115,23 @@ TEST_F(Faults, readErrorInTheTopic_isToldWithItsName)
     }
 }
 
+TEST_F(Faults, readErrorInAPlainTextFile_isToldAndGivesNoHalf)
+{
+    files["/work/x"] = "plain\r\n" + std::string(40000, 'x') + "\r\n";
+    int reads = 0;
+    files.fail = [&reads](const std::string& operation) {
+        return operation.starts_with("read x") && ++reads > 2 ? 57 : 0;
+    };
+    EXPECT_EQ(Run({"text", "x", "--plain"}), 3);
+    EXPECT_NE(err.find("warning: Failed to fetch topic x due to error #57: Device I/O error\n"),
+              std::string::npos)
+        << err;
+    EXPECT_EQ(out, "");
+    reads = 0;
+    EXPECT_EQ(Run({"text", "x", "--plain", "--json"}), 3);
+    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 2U) << "the question and the error";
+}
+
 TEST_F(Faults, readErrorThatNoBoxTells_isToldByTheProgram)
 {
     files["/work/x"] = test::SmallBook();

@@ -62,6 +62,17 @@ TEST_F(Save, forcedNameThatCannotBeReplaced_saysSoAndKeepsBoth)
     EXPECT_EQ(files["/work/b.IDA.new"], Book);
 }
 
+TEST_F(Save, savedFileThatCannotBeRead_isToldAlsoAsJson)
+{
+    files.fail = [](const std::string& operation) {
+        return operation == "open b.IDA" ? error::PermissionDenied : 0;
+    };
+    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--json"}), 3);
+    EXPECT_EQ(err, "critical: Error reading <<b.IDA>> with code 70: Permission denied\n");
+    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
+    EXPECT_EQ(files["/work/b.IDA"], Book);
+}
+
 TEST_F(Save, inputItself_isNeverWrittenOver)
 {
     for (const char* force : {"--json", "--force"}) {
