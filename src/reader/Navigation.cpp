@@ -1,11 +1,29 @@
 #include "reader/Navigation.h"
 
 #include "base/Messages.h"
+#include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookLoader.h"
 #include "reader/MainView.h"
 #include "base/QuietMessages.h"
 
+#include <algorithm>
+
 namespace ls {
+
+namespace {
+
+// Whether a name that the list lacks is a removed topic's. A look-up would find that one, since its text
+// still stands in the file, but it is not to be shown.
+bool IsRemoved(const Book& book, const std::string& name)
+{
+    const std::string title = WithoutBrackets(name);
+    const auto end = book.TopicNames.begin() + book.TopicCount;
+    return std::any_of(book.TopicNames.begin(), end,
+                       [&title](const std::string& header) { return WithoutBrackets(header) == title; });
+}
+
+} // namespace
 
 void Navigation::FillTopicList()
 {
@@ -45,10 +63,13 @@ void Navigation::GoToCurrentTopic()
 {
     const bool missing = !m_book.IsPlainText() && !m_book.CurrentTopicName.empty() &&
                          m_view.ItemCount() > 0 && m_view.SelectedItem() < 0;
-    if (missing) {
-        Show(m_book.CurrentTopicName, 0);
-    } else {
+    if (!missing) {
         GoToButton_Click();
+    } else if (IsRemoved(m_book, m_book.CurrentTopicName)) {
+        ShowNotFound(m_seams, WithBrackets(m_book.CurrentTopicName));
+        ClearDisplay();
+    } else {
+        Show(m_book.CurrentTopicName, 0);
     }
 }
 

@@ -28,7 +28,8 @@ public:
     void GoToButton_Click();
 
     /// Shows `CurrentTopicName` after the list was filled: its entry as if Go To were clicked; a name that is
-    /// not in the list is looked up, so that the look-up's message names it.
+    /// not in the list is looked up, so that the look-up's message names it. A removed topic counts as not
+    /// there.
     void GoToCurrentTopic();
 
     void NextItem_Click();

@@ -388,5 +388,30 @@ TEST_F(NavigationTest, xref_goToAMissingTopic_saysOnceThatItWasNotFound)
     EXPECT_EQ(OnShow(), "");
 }
 
+TEST_F(NavigationTest, xref_goToARemovedTopic_doesNotShowIt)
+{
+    OpenThree();
+    book.TopicRecs(2).Deleted = true;
+    navigation.FillTopicList();
+    view.onXrefForm = [this] { book.CurrentTopicName = "B"; };
+    navigation.XRButton_Click();
+    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|Topic [B] was not found."});
+    EXPECT_EQ(OnShow(), "");
+    EXPECT_EQ(book.CurrentTopicName, "");
+    book.TopicRecs(2).Deleted = false;
+    navigation.XRButton_Click();
+    EXPECT_EQ(OnShow(), "[B]|b") << "restored, it is";
+}
+
+TEST_F(NavigationTest, xref_goToTheOneOfTwoThatIsNotRemoved_showsThatOne)
+{
+    Open(test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "[B]", "b", "[B]", "second"}));
+    book.TopicRecs(2).Deleted = true;
+    navigation.FillTopicList();
+    view.onXrefForm = [this] { book.CurrentTopicName = "B"; };
+    navigation.XRButton_Click();
+    EXPECT_EQ(OnShow(), "[B]|second");
+}
+
 } // namespace
 } // namespace ls
