@@ -14,7 +14,7 @@ namespace ls {
 void EditCommands::EdTextItem_Click()
 {
     if (m_book.TopicCount == 0) {
-        m_seams.messages.MsgBox("There is nothing to edit.", Icon::Warning);
+        RefuseToEdit();
         return;
     }
     if (!IsTopicOnShow(Icon::Warning)) {
@@ -89,16 +89,25 @@ bool EditCommands::LoadTopicOnShow()
     }
     std::string name = m_book.CurrentTopicName;
     Count16 number = m_book.CurrentTopicNo;
-    LoadTopicRec(m_book, m_seams, name, number);
-    return !name.empty() && !m_seams.end.Ended();
+    return LoadTopicRec(m_book, m_seams, name, number) && !m_seams.end.Ended();
 }
 
+// A plain text file has no header, and is never saved: whatever were entered would only be lost.
 void EditCommands::EditPropertiesOption_Click()
 {
+    if (m_book.IsPlainText()) {
+        RefuseToEdit();
+        return;
+    }
     m_view.ShowInfoForm();
     if (!m_seams.end.Ended()) {
         m_view.ShowExplainButton(!m_book.BookUrl.empty());
     }
+}
+
+void EditCommands::RefuseToEdit()
+{
+    m_seams.messages.MsgBox("There is nothing to edit.", Icon::Warning);
 }
 
 } // namespace ls

@@ -26,13 +26,14 @@ public:
     /// the command, as above.
     void AdviceEdItem_Click();
 
-    /// Lets the author edit the header fields.
+    /// Lets the author edit the header fields, also before a new book has its first topic.
     void EditPropertiesOption_Click();
 
 private:
     [[nodiscard]] bool IsTopicOnShow(Icon icon);
     [[nodiscard]] bool LoadTopicOnShow();
     [[nodiscard]] bool LoadUntakenLogic();
+    void RefuseToEdit();
 
     Book& m_book;
     Seams m_seams;

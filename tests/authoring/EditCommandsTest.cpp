@@ -220,5 +220,26 @@ TEST_F(EditCommandsTest, properties_explainButtonFollowsTheAddress)
     EXPECT_FALSE(view.explainButton);
 }
 
+TEST_F(EditCommandsTest, properties_plainTextFile_hasNothingToEdit)
+{
+    world.messages.replies = {Reply::Ok};
+    Open("just text\r\n", "/work/x.txt");
+    Boxes();
+    bool shown = false;
+    view.onInfoForm = [&shown] { shown = true; };
+    edit.EditPropertiesOption_Click();
+    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|There is nothing to edit."});
+    EXPECT_FALSE(shown);
+}
+
+TEST_F(EditCommandsTest, properties_noBook_areThoseOfANewOne)
+{
+    bool shown = false;
+    view.onInfoForm = [&shown] { shown = true; };
+    edit.EditPropertiesOption_Click();
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(Boxes(), Strings{});
+}
+
 } // namespace
 } // namespace ls
