@@ -93,7 +93,7 @@ std::string ClosingTag(std::string_view openTag)
 std::optional<std::string> SymbolToInsert(std::string_view symbol, const Seams& seams)
 {
     if (symbol.empty()) {
-        seams.messages.MsgBox("First pick a symbol from the list.", Icon::Warning);
+        seams.messages.MsgBox("First pick a symbol from the list.", Icon::Exclamation);
         return std::nullopt;
     }
     if (symbol == "<") {

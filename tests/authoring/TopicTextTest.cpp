@@ -170,7 +170,8 @@ TEST(Markup, noSymbol_reminds)
 {
     test::TestSeams world;
     EXPECT_EQ(SymbolToInsert("", world.Get()), std::nullopt);
-    EXPECT_EQ(world.messages.Take(), Strings{"warning|Lodestar Advisor|First pick a symbol from the list."});
+    EXPECT_EQ(world.messages.Take(),
+              Strings{"exclamation|Lodestar Advisor|First pick a symbol from the list."});
 }
 
 TEST(MayDropText, asksOnlyWhenTheTextWasChanged)

@@ -12,8 +12,8 @@ namespace {
 
 Strings SampleBooks()
 {
-    Strings paths{LS_SAMPLES "/Guide.IDA"};
-    for (const char* folder : {LS_TEST_DATA "/cases/text", LS_TEST_DATA "/cases/advisor"}) {
+    Strings paths;
+    for (const char* folder : {LS_SAMPLES, LS_TEST_DATA "/cases/text", LS_TEST_DATA "/cases/advisor"}) {
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {
             if (entry.path().extension() == ".IDA") {
                 paths.push_back(entry.path().string());

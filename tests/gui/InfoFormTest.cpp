@@ -131,6 +131,17 @@ TEST_F(InfoFormTest, valueThatWouldBeMisread_asksAndStaysOpen)
     EXPECT_EQ(book.BookAuthor, "A\"/B");
 }
 
+TEST_F(InfoFormTest, longValues_areKeptWhole)
+{
+    const std::string author(40000, 'a');
+    book.BookAuthor = book.BookCopyright = book.BookUrl = author;
+    Load();
+    test::Press(*form, "OKBox");
+    EXPECT_EQ(book.BookAuthor, author);
+    EXPECT_EQ(book.BookCopyright, author);
+    EXPECT_EQ(book.BookUrl, author);
+}
+
 TEST_F(InfoFormTest, tabOrder_goesAsTheEyeGoes)
 {
     Load();

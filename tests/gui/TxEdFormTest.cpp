@@ -254,7 +254,7 @@ TEST_F(TxEdFormTest, insertButton_insertsTheChosenSymbolAgain)
 {
     Load("");
     test::Press(*form, "InsertButton");
-    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|First pick a symbol from the list."});
+    EXPECT_EQ(Boxes(), Strings{"exclamation|Lodestar Advisor|First pick a symbol from the list."});
     EXPECT_EQ(Text(), "");
     PickSymbol(1);
     test::Press(*form, "InsertButton");
