@@ -37,6 +37,18 @@ struct SaveItemFormTest : MainFormFixture
         global.book.BookChanged = true;
     }
 
+    // "Long.IDA" of 8 MB, locked for editing and marked as changed.
+    void StartLong()
+    {
+        std::string book = "LODESTAR BOOK V5.3\r\n[First]\r\nf\r\n";
+        for (int i = 0; i < 100; ++i) {
+            book += "[T]\r\n" + std::string(80000, 'x') + "\r\n";
+        }
+        Start(Write("Long.IDA", book));
+        global.book.LockBook = true;
+        global.book.BookChanged = true;
+    }
+
     std::string Read(const std::string& name)
     {
         QFile file(QString::fromStdString(Path(name)));
@@ -148,13 +160,7 @@ TEST_F(SaveItemFormTest, save_readError_namesItAndTheEditsStay)
 
 TEST_F(SaveItemFormTest, save_slowDisk_showsABoxWhoseCancelRemovesThePart)
 {
-    std::string book = "LODESTAR BOOK V5.3\r\n[First]\r\nf\r\n";
-    for (int i = 0; i < 100; ++i) {
-        book += "[T]\r\n" + std::string(80000, 'x') + "\r\n";
-    }
-    Start(Write("Long.IDA", book));
-    global.book.LockBook = true;
-    global.book.BookChanged = true;
+    StartLong();
     files.pause = 60;
     ModalScript script;
     script.Do([](QWidget& chooser) { ChooseFile(chooser, "Out.IDA"); }).Do([this](QWidget& box) {
@@ -163,6 +169,7 @@ TEST_F(SaveItemFormTest, save_slowDisk_showsABoxWhoseCancelRemovesThePart)
         EXPECT_NE(Read("Out.IDA.part"), "(none)");
         auto* cancel = box.findChild<QPushButton*>();
         ASSERT_NE(cancel, nullptr);
+        test::TakePicture(box, "main-save-progress");
         QTest::mouseClick(cancel, Qt::LeftButton);
     });
     Press(form, "SaveItem");
@@ -172,6 +179,28 @@ TEST_F(SaveItemFormTest, save_slowDisk_showsABoxWhoseCancelRemovesThePart)
     EXPECT_EQ(Read("Out.IDA.part"), "(none)");
     EXPECT_EQ(global.book.BookPath, Path("Long.IDA"));
     EXPECT_TRUE(global.book.BookChanged);
+}
+
+TEST_F(SaveItemFormTest, save_slowDiskWaitedFor_isSavedAndTheBoxGoes)
+{
+    StartLong();
+    files.pause = 40;
+    ModalScript script;
+    QPointer<QWidget> progress;
+    script.Do([](QWidget& chooser) { ChooseFile(chooser, "Out.IDA"); })
+        .Do([&](QWidget& box) {
+            progress = &box;
+            EXPECT_EQ(QApplication::activeModalWidget(), &box) << "nothing else can be worked meanwhile";
+            files.pause = 0;
+        })
+        .Do([&](QWidget& box) {
+            EXPECT_TRUE(progress.isNull());
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+    Press(form, "SaveItem");
+    EXPECT_EQ(script.Seen(), (Strings{TheFileForm, "form|ProgressBox|Lodestar Advisor", Saved}));
+    EXPECT_EQ(Read("Out.IDA"), Read("Long.IDA"));
+    EXPECT_FALSE(global.book.BookChanged);
 }
 
 TEST_F(SaveItemFormTest, save_missingFolder_saysSo)

@@ -1,0 +1,203 @@
+#pragma once
+
+#include "gui/MainFormFixture.h"
+
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+namespace ls {
+
+/// What `EditTopicOnShow` types.
+inline constexpr const char* TypedLine = "A line that was typed";
+
+/// The real window in the hands of an author, on real files.
+struct AuthorFixture : MainFormFixture
+{
+    std::string Read(const std::string& path)
+    {
+        QFile file(QString::fromStdString(path));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
+        return file.readAll().toStdString();
+    }
+
+    /// The program starts, and the user picks that file and locks it for editing.
+    void StartWith(const std::string& path)
+    {
+        test::ModalScript script;
+        script.Do([path](QWidget& chooser) {
+            test::Find<QAbstractButton>(chooser, "ExclusiveOption")->click();
+            ChooseFile(chooser, path);
+        });
+        Start("");
+    }
+
+    /// The program starts without a book.
+    void StartWithoutBook()
+    {
+        test::ModalScript script;
+        script.Escape();
+        Start("");
+    }
+
+    /// Saves under the name that is offered, which is to be that one, and says what came in the end.
+    void Save(const std::string& name)
+    {
+        test::ModalScript script;
+        script
+            .Do([this, name](QWidget& chooser) {
+                const std::string offered =
+                    test::Find<QComboBox>(chooser, "FilenameBox")->currentText().toStdString();
+                EXPECT_EQ(offered.substr(offered.rfind('/') + 1), name);
+                test::Press(chooser, "OKButton");
+            })
+            .Answer(Reply::Ok);
+        test::Press(form, "SaveItem");
+        EXPECT_EQ(script.Seen(), (Strings{"form|FileForm|Lodestar Advisor Save",
+                                          "information|Lodestar Advisor|File saved"}));
+        EXPECT_EQ(global.book.BookPath, Path(name)) << "the program goes on in the new file";
+        EXPECT_TRUE(global.book.LockBook);
+        EXPECT_FALSE(global.book.BookChanged);
+        EXPECT_EQ(Get<QComboBox>("TopicList").currentIndex(), 0);
+    }
+
+    /// The open book is opened once more, as a user of the next day would.
+    void OpenAgain()
+    {
+        test::ModalScript script;
+        Open(script, global.book.BookPath);
+        EXPECT_EQ(script.Seen().size(), 1U);
+    }
+
+    void GoTo(int index)
+    {
+        Select(index);
+        test::Press(form, "GoToButton");
+    }
+
+    /// Types in front of the topic on show, makes that bold with the button, and presses Done.
+    void EditTopicOnShow()
+    {
+        test::ModalScript script;
+        script.Do([](QWidget& editor) {
+            auto* box = test::Find<QPlainTextEdit>(editor, "MainTxBox");
+            QTest::keyClick(box, Qt::Key_Home, Qt::ControlModifier);
+            QTest::keyClick(box, Qt::Key_Return);
+            QTest::keyClick(box, Qt::Key_Up);
+            QTest::keyClicks(box, QString::fromLatin1(TypedLine));
+            QTest::keyClick(box, Qt::Key_Home, Qt::ShiftModifier);
+            test::Press(editor, "BButton");
+            test::Press(editor, "SaveButton");
+        });
+        test::Press(form, "EdTextItem");
+        EXPECT_EQ(script.Seen(), Strings{"form|TxEdForm|Topic Text Edit"});
+    }
+
+    /// Every line of the topic on show, with what is bold in brackets, by scrolling through it.
+    Strings ShownText()
+    {
+        auto& bar = Get<QScrollBar>("VScroll1");
+        Strings lines;
+        for (int top = bar.minimum(); top <= bar.maximum(); ++top) {
+            bar.setValue(top);
+            std::string line;
+            for (const auto& run : Get<ReadingPane>("MsgPic").Runs()) {
+                if (run.row == 1) {
+                    line += run.bold ? "[" + run.text + "]" : run.text;
+                }
+            }
+            lines.push_back(line);
+        }
+        bar.setValue(bar.minimum());
+        return lines;
+    }
+
+    /// What every topic is in the file of the open book, from its header line on.
+    Strings TopicBytes()
+    {
+        const Book& book = global.book;
+        const std::string bytes = Read(book.OpenPath);
+        Strings topics;
+        for (std::size_t i = 1; i <= static_cast<std::size_t>(book.TopicCount); ++i) {
+            const bool last = i == static_cast<std::size_t>(book.TopicCount);
+            const FilePos from = book.TopicPos(i);
+            const FilePos end = last ? book.ScanEndPos : book.TopicPos(i + 1);
+            topics.push_back(
+                bytes.substr(static_cast<std::size_t>(from - 1), static_cast<std::size_t>(end - from)));
+        }
+        return topics;
+    }
+
+    /// The bytes that a topic in memory is to be saved as.
+    std::string EditedBytes(std::size_t number)
+    {
+        const TopicRec& rec = global.book.TopicRecs(number);
+        return global.book.TopicNames(number) + "\r\n" + rec.Text + "\r\n" +
+               (rec.Logic.empty() ? "" : rec.Logic + "\r\n");
+    }
+
+    /// Checks or unchecks the boxes of those rows in the form that removes topics.
+    void ToggleRemoved(const std::vector<int>& rows)
+    {
+        test::ModalScript script;
+        script.Do([&rows](QWidget& removal) {
+            auto* list = test::Find<QListWidget>(removal, "TopicListBox");
+            for (const int row : rows) {
+                list->setCurrentRow(row);
+                QTest::keyClick(list, Qt::Key_Space);
+            }
+            test::Press(removal, "OKButton");
+        });
+        test::Press(form, "DelTopicItem");
+    }
+
+    /// Moves the topic of that row (-1 for the last one) to the start.
+    void MoveToStart(int row)
+    {
+        test::ModalScript script;
+        script.Do([row](QWidget& move) {
+            auto* from = test::Find<QListWidget>(move, "MoveFromList");
+            from->setCurrentRow(row < 0 ? from->count() - 1 : row);
+            test::Press(move, "DoneButton");
+            test::Find<QListWidget>(move, "MoveToList")->setCurrentRow(0);
+            test::Press(move, "DoneButton");
+        });
+        test::Press(form, "ReorderItem");
+    }
+
+    /// Add Topic, that name, that text, Done.
+    void Add(const std::string& name, const QString& text)
+    {
+        test::ModalScript script;
+        script.Enter(name).Do([text](QWidget& editor) {
+            EXPECT_EQ(test::Find<QPlainTextEdit>(editor, "MainTxBox")->toPlainText(),
+                      QStringLiteral("Insert text here."));
+            test::Type(editor, "MainTxBox", text);
+            test::Press(editor, "SaveButton");
+        });
+        test::Press(form, "AddTopicItem");
+    }
+
+    void EnterProperties()
+    {
+        test::ModalScript script;
+        script.Do([](QWidget& info) {
+            test::Type(info, "AuthorBox", QStringLiteral("Ann Author"));
+            test::Type(info, "CopyrightBox", QStringLiteral("2001 A/B"));
+            test::Type(info, "WebURLBox", QStringLiteral("http://localhost/a?b=c"));
+            test::Find<QAbstractButton>(info, "WebPostCheck")->setChecked(true);
+            test::Press(info, "OKBox");
+        });
+        test::Press(form, "EditPropertiesOption");
+    }
+
+    Strings Titles()
+    {
+        Strings titles;
+        for (const std::string& item : ItemTexts()) {
+            titles.push_back(item.substr(item.find(". ") + 2));
+        }
+        return titles;
+    }
+};
+
+} // namespace ls
