@@ -1,7 +1,7 @@
 #include "authoring/LogicBlockReader.h"
 
 #include "authoring/LogicTags.h"
-#include "authoring/Quoted.h"
+#include "base/Quoted.h"
 #include "base/Text.h"
 
 #include <algorithm>

@@ -84,6 +84,7 @@ void LogicEditor::Fill(const LogicBlock& block)
     m_lost = block.lost;
     m_variables.clear();
     m_keys.clear();
+    m_changed = false;
     auto choice = block.choices.begin(); // those of one variable lie together, in the variables' order
     for (const LogicVariable& read : block.variables) {
         Variable variable;

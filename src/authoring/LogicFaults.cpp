@@ -1,10 +1,10 @@
 #include "authoring/LogicFaults.h"
 
 #include "authoring/LogicTags.h"
-#include "authoring/Quoted.h"
 #include "authoring/SpecialLines.h"
 #include "base/CodePage.h"
 #include "base/Messages.h"
+#include "base/Quoted.h"
 #include "base/Text.h"
 
 #include <algorithm>

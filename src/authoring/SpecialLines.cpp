@@ -1,8 +1,8 @@
 #include "authoring/SpecialLines.h"
 
-#include "authoring/Quoted.h"
 #include "base/FileSystem.h"
 #include "base/LineCursor.h"
+#include "base/Quoted.h"
 #include "base/Text.h"
 #include "book/XrefText.h"
 

@@ -1,7 +1,5 @@
 #include "check/Findings.h"
 
-#include "base/CodePage.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -19,13 +17,6 @@ std::vector<Finding> Findings::TakeSorted()
                      [](const Finding& a, const Finding& b) { return a.line < b.line; });
     m_errors = 0;
     return std::exchange(m_list, {});
-}
-
-std::string Quoted(std::string_view bookText)
-{
-    constexpr std::size_t longest = 60;
-    const bool cut = bookText.size() > longest;
-    return "\"" + FromBook(bookText.substr(0, longest)) + (cut ? "..." : "") + "\"";
 }
 
 } // namespace ls

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Quoted.h"
 #include "check/Finding.h"
 
 #include <string>
@@ -41,8 +42,5 @@ private:
     int m_errors = 0;
     std::vector<Finding> m_list;
 };
-
-/// Book text between quotation marks, as a finding names a piece of the book.
-[[nodiscard]] std::string Quoted(std::string_view bookText);
 
 } // namespace ls

@@ -1,4 +1,4 @@
-#include "authoring/Quoted.h"
+#include "base/Quoted.h"
 
 #include "base/CodePage.h"
 
