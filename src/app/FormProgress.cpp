@@ -1,5 +1,7 @@
 #include "app/FormProgress.h"
 
+#include "app/FormFont.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -13,6 +15,7 @@ namespace {
 
 constexpr int BarLength = 1000;
 constexpr int MillisecondsBetweenMoves = 50;
+constexpr int BoxWidth = 360; // as narrow as its label, it would cut its title
 
 int BarPosition(std::int64_t done, std::int64_t total)
 {
@@ -52,6 +55,8 @@ void FormProgress::Open()
 {
     m_dialog = std::make_unique<QProgressDialog>(m_window);
     m_dialog->setObjectName(QStringLiteral("ProgressBox"));
+    m_dialog->setFont(FormFont());
+    m_dialog->setMinimumWidth(BoxWidth);
     m_dialog->setWindowTitle(QStringLiteral("Lodestar Advisor"));
     m_dialog->setWindowModality(Qt::ApplicationModal);
     auto* label = new QLabel(m_box.label);
