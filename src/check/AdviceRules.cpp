@@ -24,7 +24,7 @@ std::string WrongIdentifier(const std::string& target, const std::string& value)
 }
 
 // The block in whose definitions the advice is searched; nullptr when that is no block of the book.
-const LogicBlock* AdviceHome(const RuleBase& base)
+const CheckedBlock* AdviceHome(const RuleBase& base)
 {
     const Registration* const question = base.Question(base.Target());
     if (base.Target() == DefaultGoal || question == nullptr || question->topic == base.Own().topic) {
@@ -41,7 +41,7 @@ int TargetLine(const RuleBase& base)
 
 void CheckRuleForTarget(const RuleBase& base, Findings& findings)
 {
-    const LogicBlock& own = base.Own();
+    const CheckedBlock& own = base.Own();
     const bool concluded = std::any_of(own.rules.begin(), own.rules.end(), [&](const BlockRule& rule) {
         return rule.conclusion.var == base.Target();
     });
@@ -70,7 +70,7 @@ void CheckTargetQuestion(const RuleBase& base, Findings& findings)
 
 void CheckAdviceText(const RuleBase& base, Findings& findings)
 {
-    const LogicBlock* const home = AdviceHome(base);
+    const CheckedBlock* const home = AdviceHome(base);
     if (home == nullptr) {
         return;
     }

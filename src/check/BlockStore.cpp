@@ -4,7 +4,7 @@
 #include "base/LineCursor.h"
 #include "base/Text.h"
 #include "book/Book.h"
-#include "check/LogicBlockReader.h"
+#include "check/CheckedBlockReader.h"
 #include "render/TopicBody.h"
 
 #include <string_view>
@@ -14,35 +14,35 @@ namespace ls {
 namespace {
 
 // Looks for "<IXML>" in a topic's lines and reads the block behind it.
-std::unique_ptr<LogicBlock> ReadBlock(TopicBody& body, int topic)
+std::unique_ptr<CheckedBlock> ReadBlock(TopicBody& body, int topic)
 {
-    std::unique_ptr<LogicBlockReader> reader;
+    std::unique_ptr<CheckedBlockReader> reader;
     std::string_view line;
     for (int number = 1; body.Next(line) && (line.empty() || line.front() != '['); ++number) {
         if (reader) {
             reader->Take(line, number);
         } else if (EqualsUpper(Trim(line), "<IXML>")) {
-            reader = std::make_unique<LogicBlockReader>(topic, number);
+            reader = std::make_unique<CheckedBlockReader>(topic, number);
         }
     }
-    return reader ? std::make_unique<LogicBlock>(reader->Finish()) : nullptr;
+    return reader ? std::make_unique<CheckedBlock>(reader->Finish()) : nullptr;
 }
 
 } // namespace
 
-std::unique_ptr<LogicBlock> ReadLogicText(const std::string& text, int topic)
+std::unique_ptr<CheckedBlock> ReadLogicText(const std::string& text, int topic)
 {
     TextBody body(text);
     return ReadBlock(body, topic);
 }
 
-void BlockStore::Put(LogicBlock block)
+void BlockStore::Put(CheckedBlock block)
 {
     const int topic = block.topic;
-    m_blocks[topic] = std::make_unique<LogicBlock>(std::move(block));
+    m_blocks[topic] = std::make_unique<CheckedBlock>(std::move(block));
 }
 
-const LogicBlock* BlockStore::Find(int topic)
+const CheckedBlock* BlockStore::Find(int topic)
 {
     const auto found = m_blocks.find(topic);
     if (found != m_blocks.end() || HasWholeBook()) {
@@ -51,7 +51,7 @@ const LogicBlock* BlockStore::Find(int topic)
     return m_blocks.emplace(topic, Read(topic)).first->second.get();
 }
 
-std::unique_ptr<LogicBlock> BlockStore::Read(int topic) const
+std::unique_ptr<CheckedBlock> BlockStore::Read(int topic) const
 {
     const auto number = static_cast<std::size_t>(topic);
     if (topic < 1 || topic > m_book.TopicCount) {
@@ -61,7 +61,7 @@ std::unique_ptr<LogicBlock> BlockStore::Read(int topic) const
     return rec.Logic.empty() ? ReadFile(topic) : ReadLogicText(rec.Logic, topic);
 }
 
-std::unique_ptr<LogicBlock> BlockStore::ReadFile(int topic) const
+std::unique_ptr<CheckedBlock> BlockStore::ReadFile(int topic) const
 {
     const FilePos pos = m_book.TopicPos(static_cast<std::size_t>(topic));
     if (!m_book.File || pos == 0) {

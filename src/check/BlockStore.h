@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/LogicBlock.h"
+#include "check/CheckedBlock.h"
 
 #include <memory>
 #include <string>
@@ -24,10 +24,10 @@ public:
     /// The book must outlive the store.
     BlockStore(const Book& book, BlockSource source) : m_book(book), m_source(source) {}
 
-    void Put(LogicBlock block);
+    void Put(CheckedBlock block);
 
     /// The block of a topic; nullptr when it has none.
-    [[nodiscard]] const LogicBlock* Find(int topic);
+    [[nodiscard]] const CheckedBlock* Find(int topic);
 
     /// The topic that a DEFINE with this title (upper case) means: the first of that title without regard to
     /// case; 0 when there is none.
@@ -40,20 +40,23 @@ public:
     [[nodiscard]] bool HasWholeBook() const { return m_source == BlockSource::Given; }
 
     /// All blocks that are there, by topic.
-    [[nodiscard]] const std::unordered_map<int, std::unique_ptr<LogicBlock>>& All() const { return m_blocks; }
+    [[nodiscard]] const std::unordered_map<int, std::unique_ptr<CheckedBlock>>& All() const
+    {
+        return m_blocks;
+    }
 
 private:
-    [[nodiscard]] std::unique_ptr<LogicBlock> Read(int topic) const;
-    [[nodiscard]] std::unique_ptr<LogicBlock> ReadFile(int topic) const;
+    [[nodiscard]] std::unique_ptr<CheckedBlock> Read(int topic) const;
+    [[nodiscard]] std::unique_ptr<CheckedBlock> ReadFile(int topic) const;
 
     const Book& m_book;
     BlockSource m_source;
-    std::unordered_map<int, std::unique_ptr<LogicBlock>> m_blocks; ///< nullptr: looked for in vain
-    std::unordered_map<std::string, int> m_numbers;                ///< by title in upper case
+    std::unordered_map<int, std::unique_ptr<CheckedBlock>> m_blocks; ///< nullptr: looked for in vain
+    std::unordered_map<std::string, int> m_numbers;                  ///< by title in upper case
 };
 
 /// The block in a text that begins with "<IXML>", parted by CR LF, its lines counted from 1; nothing when the
 /// text holds no such line.
-[[nodiscard]] std::unique_ptr<LogicBlock> ReadLogicText(const std::string& text, int topic);
+[[nodiscard]] std::unique_ptr<CheckedBlock> ReadLogicText(const std::string& text, int topic);
 
 } // namespace ls

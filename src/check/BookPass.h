@@ -2,7 +2,7 @@
 
 #include "base/FileError.h"
 #include "base/LineCursor.h"
-#include "check/LogicBlockReader.h"
+#include "check/CheckedBlockReader.h"
 
 #include <cstdint>
 #include <optional>
@@ -38,7 +38,7 @@ private:
     FilePos m_size = 0;
     FilePos m_nextReport = 0;
     int m_topic = 0;
-    std::optional<LogicBlockReader> m_block;
+    std::optional<CheckedBlockReader> m_block;
 };
 
 } // namespace ls

@@ -14,14 +14,14 @@ namespace ls {
 namespace {
 
 // The blocks in the order of their lines, so that equal books give equal lists.
-std::vector<const LogicBlock*> InOrder(const BlockStore& store)
+std::vector<const CheckedBlock*> InOrder(const BlockStore& store)
 {
-    std::vector<const LogicBlock*> blocks;
+    std::vector<const CheckedBlock*> blocks;
     for (const auto& [topic, block] : store.All()) {
         blocks.push_back(block.get());
     }
     std::sort(blocks.begin(), blocks.end(),
-              [](const LogicBlock* a, const LogicBlock* b) { return a->line < b->line; });
+              [](const CheckedBlock* a, const CheckedBlock* b) { return a->line < b->line; });
     return blocks;
 }
 
@@ -43,7 +43,7 @@ std::vector<Finding> CheckBook(const Book& book, const Seams& /*seams*/, Progres
     BlockStore store(book, BlockSource::Given);
     BookPass pass(book, findings, store, progress);
     failed = pass.Run();
-    for (const LogicBlock* block : InOrder(store)) {
+    for (const CheckedBlock* block : InOrder(store)) {
         findings.InTopic(store.Title(block->topic));
         CheckBlock(RuleBase(*block, store), findings);
     }
@@ -55,7 +55,7 @@ std::vector<Finding> CheckLogicText(const Book& book, const Seams& /*seams*/, in
 {
     Findings findings{std::string()};
     BlockStore store(book, BlockSource::Edited);
-    if (std::unique_ptr<LogicBlock> block = ReadLogicText(text, topic)) {
+    if (std::unique_ptr<CheckedBlock> block = ReadLogicText(text, topic)) {
         findings.InTopic(store.Title(topic));
         store.Put(std::move(*block));
         CheckBlock(RuleBase(*store.Find(topic), store), findings);

@@ -1,5 +1,5 @@
 #include "base/Text.h"
-#include "check/LogicBlockReader.h"
+#include "check/CheckedBlockReader.h"
 
 #include <algorithm>
 

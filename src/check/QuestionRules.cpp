@@ -29,7 +29,7 @@ void CheckDefinedTopic(const RuleBase& base, const BlockCommand& define, Finding
     if (topic == base.Own().topic) {
         return; // the entry of this very block is meant
     }
-    const LogicBlock* const block = base.Store().Find(topic);
+    const CheckedBlock* const block = base.Store().Find(topic);
     if (block == nullptr) {
         findings.Error("define-no-logic", define.line,
                        "The topic " + Quoted(define.title) +
@@ -54,7 +54,7 @@ void CheckDefines(const RuleBase& base, Findings& findings)
 }
 
 // Whether a DEFINE line names the variable, however badly: it has its own finding then.
-bool IsDefined(const LogicBlock& block, const std::string& var)
+bool IsDefined(const CheckedBlock& block, const std::string& var)
 {
     return std::any_of(block.commands.begin(), block.commands.end(),
                        [&](const BlockCommand& command) { return command.var == var; });

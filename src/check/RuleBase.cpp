@@ -12,11 +12,11 @@ constexpr std::size_t MostBlocks = 200;
 
 } // namespace
 
-RuleBase::RuleBase(const LogicBlock& own, BlockStore& store)
+RuleBase::RuleBase(const CheckedBlock& own, BlockStore& store)
     : m_own(&own), m_store(&store), m_target(own.Target())
 {
     FollowDefines();
-    for (const LogicBlock* block : m_blocks) {
+    for (const CheckedBlock* block : m_blocks) {
         Register(*block);
         for (const BlockRule& rule : block->rules) {
             AddRule(*block, rule);
@@ -31,7 +31,7 @@ void RuleBase::FollowDefines()
     for (std::size_t i = 0; i < m_blocks.size(); ++i) {
         for (const BlockCommand& command : m_blocks[i]->commands) {
             const int topic = command.title.empty() ? 0 : m_store->TopicNumber(command.title);
-            const LogicBlock* const block =
+            const CheckedBlock* const block =
                 topic == 0 || !known.insert(topic).second ? nullptr : m_store->Find(topic);
             if (block != nullptr && m_blocks.size() < MostBlocks) {
                 m_blocks.push_back(block);
@@ -41,7 +41,7 @@ void RuleBase::FollowDefines()
 }
 
 // The commands stand before the entries, and the first registration counts.
-void RuleBase::Register(const LogicBlock& block)
+void RuleBase::Register(const CheckedBlock& block)
 {
     for (const BlockCommand& command : block.commands) {
         const int topic = command.title.empty() ? 0 : m_store->TopicNumber(command.title);
@@ -65,7 +65,7 @@ VariableUse& RuleBase::Use(const std::string& name)
     return m_variables[at->second];
 }
 
-void RuleBase::AddRule(const LogicBlock& block, const BlockRule& rule)
+void RuleBase::AddRule(const CheckedBlock& block, const BlockRule& rule)
 {
     const auto name = [&](const std::string& var) -> VariableUse& {
         VariableUse& use = Use(var);
@@ -110,7 +110,7 @@ bool RuleBase::HasQuestionText(const std::string& name) const
     if (registration == nullptr) {
         return false;
     }
-    const LogicBlock* const block =
+    const CheckedBlock* const block =
         registration->topic == m_own->topic ? m_own : m_store->Find(registration->topic);
     const BlockEntry* const entry = block == nullptr ? nullptr : block->FindEntry(true, name);
     return entry != nullptr && entry->hasText;

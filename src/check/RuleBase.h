@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check/BlockStore.h"
-#include "check/LogicBlock.h"
+#include "check/CheckedBlock.h"
 
 #include <string>
 #include <unordered_map>
@@ -20,7 +20,7 @@ struct Registration
 /// A rule with the block in which it stands.
 struct PlacedRule
 {
-    const LogicBlock* block;
+    const CheckedBlock* block;
     const BlockRule* rule;
 };
 
@@ -40,11 +40,11 @@ struct VariableUse
 class RuleBase
 {
 public:
-    RuleBase(const LogicBlock& own, BlockStore& store);
+    RuleBase(const CheckedBlock& own, BlockStore& store);
 
-    [[nodiscard]] const LogicBlock& Own() const { return *m_own; }
+    [[nodiscard]] const CheckedBlock& Own() const { return *m_own; }
     [[nodiscard]] BlockStore& Store() const { return *m_store; }
-    [[nodiscard]] const std::vector<const LogicBlock*>& Blocks() const { return m_blocks; }
+    [[nodiscard]] const std::vector<const CheckedBlock*>& Blocks() const { return m_blocks; }
     [[nodiscard]] const std::string& Target() const { return m_target; }
 
     /// All variables, in the order in which the rules name them.
@@ -62,14 +62,14 @@ public:
 
 private:
     void FollowDefines();
-    void Register(const LogicBlock& block);
-    void AddRule(const LogicBlock& block, const BlockRule& rule);
+    void Register(const CheckedBlock& block);
+    void AddRule(const CheckedBlock& block, const BlockRule& rule);
     VariableUse& Use(const std::string& name);
 
-    const LogicBlock* m_own;
+    const CheckedBlock* m_own;
     BlockStore* m_store;
     std::string m_target;
-    std::vector<const LogicBlock*> m_blocks;
+    std::vector<const CheckedBlock*> m_blocks;
     std::vector<VariableUse> m_variables;
     std::unordered_map<std::string, std::size_t> m_numbers; ///< of m_variables
     std::unordered_map<std::string, Registration> m_questions;

@@ -1,4 +1,4 @@
-#include "check/LogicBlockReader.h"
+#include "check/CheckedBlockReader.h"
 
 #include "advisor/Definitions.h"
 #include "base/Text.h"
@@ -44,7 +44,7 @@ void ReadConclusion(std::string_view source, BlockRule& rule)
 
 } // namespace
 
-void LogicBlockReader::Take(std::string_view line, int number)
+void CheckedBlockReader::Take(std::string_view line, int number)
 {
     const std::string_view trimmed = Trim(line);
     switch (m_part) {
@@ -66,7 +66,7 @@ void LogicBlockReader::Take(std::string_view line, int number)
     m_first = false;
 }
 
-void LogicBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
+void CheckedBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
 {
     if (EqualsUpper(trimmed, "<LOGIC>")) {
         m_part = Part::Logic;
@@ -77,7 +77,7 @@ void LogicBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
     }
 }
 
-void LogicBlockReader::TakeLogic(std::string_view trimmed, int number)
+void CheckedBlockReader::TakeLogic(std::string_view trimmed, int number)
 {
     std::string line = UpperCase(trimmed);
     const bool comment = !line.empty() && line.front() == '*';
@@ -102,7 +102,7 @@ void LogicBlockReader::TakeLogic(std::string_view trimmed, int number)
     }
 }
 
-void LogicBlockReader::TakeCommand(std::string line, int number)
+void CheckedBlockReader::TakeCommand(std::string line, int number)
 {
     BlockCommand command;
     command.line = number;
@@ -134,7 +134,7 @@ void LogicBlockReader::TakeCommand(std::string line, int number)
     m_block.commands.push_back(std::move(command));
 }
 
-void LogicBlockReader::TakeRule(const std::string& line, std::string squeezed, int number)
+void CheckedBlockReader::TakeRule(const std::string& line, std::string squeezed, int number)
 {
     BlockRule rule;
     rule.line = number;
@@ -158,7 +158,7 @@ void LogicBlockReader::TakeRule(const std::string& line, std::string squeezed, i
     m_block.rules.push_back(std::move(rule));
 }
 
-void LogicBlockReader::TakeDefinitions(std::string_view line, int number)
+void CheckedBlockReader::TakeDefinitions(std::string_view line, int number)
 {
     const std::string_view trimmed = Trim(line);
     const std::string upper = UpperCase(line);
@@ -195,8 +195,8 @@ void LogicBlockReader::TakeDefinitions(std::string_view line, int number)
     }
 }
 
-void LogicBlockReader::OpenEntries(std::string_view line, const std::string& upper, std::size_t from,
-                                   int number)
+void CheckedBlockReader::OpenEntries(std::string_view line, const std::string& upper, std::size_t from,
+                                     int number)
 {
     const std::size_t start = upper.find_first_not_of(' ');
     while (from != None) {
@@ -222,7 +222,7 @@ void LogicBlockReader::OpenEntries(std::string_view line, const std::string& upp
 }
 
 // Takes text of the open entry; gives the place behind its closing tag, or none while it stays open.
-std::size_t LogicBlockReader::TakeText(std::string_view line, std::size_t from)
+std::size_t CheckedBlockReader::TakeText(std::string_view line, std::size_t from)
 {
     BlockEntry& entry = m_block.entries.back();
     const std::string_view closing = entry.question ? "</Q>" : "</AV>";
@@ -240,7 +240,7 @@ std::size_t LogicBlockReader::TakeText(std::string_view line, std::size_t from)
 
 // `A(X) AND B(Y)`: the loader reads a variable "ANDB". When nothing knows that name but "B" is known, the
 // word is too much.
-void LogicBlockReader::ResolveStrayWords()
+void CheckedBlockReader::ResolveStrayWords()
 {
     std::unordered_set<std::string> known;
     for (const BlockEntry& entry : m_block.entries) {
@@ -269,7 +269,7 @@ void LogicBlockReader::ResolveStrayWords()
     }
 }
 
-LogicBlock LogicBlockReader::Finish()
+CheckedBlock CheckedBlockReader::Finish()
 {
     ResolveStrayWords();
     return std::move(m_block);

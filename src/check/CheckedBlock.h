@@ -74,7 +74,7 @@ struct BlockEntry
 
 /// A logic block as the loader and the definitions' reader take it, with the lines where things stand. A
 /// line number of 0 means that there is no such line.
-struct LogicBlock
+struct CheckedBlock
 {
     int topic = 0;
     int line = 0;                  ///< of "<IXML>"

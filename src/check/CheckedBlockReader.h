@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/LogicBlock.h"
+#include "check/CheckedBlock.h"
 
 #include <cstddef>
 #include <string>
@@ -12,10 +12,10 @@ namespace ls {
 ///
 /// What is a rule, a command, a registered question or a findable text is decided as the advisor's own
 /// loader decides it; tests hold the two against each other.
-class LogicBlockReader
+class CheckedBlockReader
 {
 public:
-    LogicBlockReader(int topic, int line)
+    CheckedBlockReader(int topic, int line)
     {
         m_block.topic = topic;
         m_block.line = line;
@@ -24,7 +24,7 @@ public:
     void Take(std::string_view line, int number);
 
     /// The block, when its last line has been taken.
-    [[nodiscard]] LogicBlock Finish();
+    [[nodiscard]] CheckedBlock Finish();
 
 private:
     enum class Part
@@ -44,7 +44,7 @@ private:
     std::size_t TakeText(std::string_view line, std::size_t from);
     void ResolveStrayWords();
 
-    LogicBlock m_block;
+    CheckedBlock m_block;
     Part m_part = Part::BeforeLogic;
     bool m_first = true;
     bool m_registers = true;  ///< questions are still registered

@@ -58,7 +58,7 @@ Loaded Load(test::CheckedBook& world, int topic, const std::vector<Texts>& tags,
 }
 
 // The same from the block as `check` reads it.
-Loaded Read(const LogicBlock& block, BlockStore& store)
+Loaded Read(const CheckedBlock& block, BlockStore& store)
 {
     Loaded read;
     read.good = true;
@@ -87,7 +87,7 @@ void Compare(const std::string& bytes)
     test::CheckedBook world(bytes);
     BlockStore store(world.book, BlockSource::Edited);
     for (int topic = 1; topic <= world.book.TopicCount; ++topic) {
-        const LogicBlock* const block = store.Find(topic);
+        const CheckedBlock* const block = store.Find(topic);
         if (block == nullptr) {
             continue;
         }
@@ -112,7 +112,7 @@ void Compare(const std::string& bytes)
     }
 }
 
-TEST(LogicBlockReader, casesOfTheAdvisor_areReadAsTheLoaderReadsThem)
+TEST(CheckedBlockReader, casesOfTheAdvisor_areReadAsTheLoaderReadsThem)
 {
     int books = 0;
     for (const auto& entry : std::filesystem::directory_iterator(LS_TEST_DATA "/cases/advisor")) {
@@ -125,7 +125,7 @@ TEST(LogicBlockReader, casesOfTheAdvisor_areReadAsTheLoaderReadsThem)
     EXPECT_GE(books, 20);
 }
 
-TEST(LogicBlockReader, checkCases_areReadAsTheLoaderReadsThem)
+TEST(CheckedBlockReader, checkCases_areReadAsTheLoaderReadsThem)
 {
     for (const test::CheckCase& one : test::ReadCheckCases()) {
         SCOPED_TRACE(one.name);

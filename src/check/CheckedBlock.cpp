@@ -1,10 +1,10 @@
-#include "check/LogicBlock.h"
+#include "check/CheckedBlock.h"
 
 #include <algorithm>
 
 namespace ls {
 
-const BlockCommand* LogicBlock::TargetCommand() const
+const BlockCommand* CheckedBlock::TargetCommand() const
 {
     const auto found = std::find_if(commands.rbegin(), commands.rend(), [](const BlockCommand& command) {
         return command.kind == BlockCommand::Kind::Target;
@@ -12,13 +12,13 @@ const BlockCommand* LogicBlock::TargetCommand() const
     return found == commands.rend() ? nullptr : &*found;
 }
 
-std::string LogicBlock::Target() const
+std::string CheckedBlock::Target() const
 {
     const BlockCommand* const command = TargetCommand();
     return command == nullptr ? "AV" : command->argument;
 }
 
-const BlockEntry* LogicBlock::FindEntry(bool question, const std::string& id) const
+const BlockEntry* CheckedBlock::FindEntry(bool question, const std::string& id) const
 {
     const auto found = std::find_if(entries.begin(), entries.end(), [&](const BlockEntry& entry) {
         return entry.question == question && entry.searched && entry.id == id;
