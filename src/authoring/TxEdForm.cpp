@@ -1,30 +1,18 @@
 #include "authoring/TxEdForm.h"
 
 #include "app/FormFont.h"
+#include "authoring/TextBox.h"
+#include "authoring/TextBoxCommands.h"
 #include "authoring/TopicText.h"
-#include "base/Messages.h"
 #include "base/ProgramEnd.h"
-#include "render/CellMetrics.h"
 #include "ui_TxEdForm.h"
 
 #include <QKeyEvent>
-#include <QTextBlock>
 
 #include <array>
 #include <utility>
 
 namespace ls {
-
-namespace {
-
-constexpr int TabColumns = 5; // as wide as the display shows a leading TAB
-
-QString FromStd(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-} // namespace
 
 TxEdForm::TxEdForm(QWidget* parent, Book& book, const Seams& seams)
     : QDialog(parent), m_ui(std::make_unique<Ui::TxEdForm>()), m_book(book), m_seams(seams)
@@ -34,6 +22,9 @@ TxEdForm::TxEdForm(QWidget* parent, Book& book, const Seams& seams)
     ConnectButtons();
     ConnectItems();
     m_ui->SymCombo->installEventFilter(this);
+    const TextBoxCommands::Items items{m_ui->UndoItem, m_ui->RedoItem, m_ui->SelectAllItem, m_ui->FindItem,
+                                       m_ui->FindNextItem};
+    m_boxCommands = std::make_unique<TextBoxCommands>(items, std::initializer_list{m_ui->MainTxBox}, m_seams);
     Form_Load();
 }
 
@@ -65,49 +56,28 @@ void TxEdForm::ConnectItems()
         connect(markup.button, &QPushButton::clicked, this, wrap);
         connect(markup.entry, &QAction::triggered, this, wrap);
     }
-    QPlainTextEdit* box = m_ui->MainTxBox;
-    connect(m_ui->UndoItem, &QAction::triggered, box, &QPlainTextEdit::undo);
-    connect(m_ui->RedoItem, &QAction::triggered, box, &QPlainTextEdit::redo);
-    connect(m_ui->SelectAllItem, &QAction::triggered, box, &QPlainTextEdit::selectAll);
-    connect(box, &QPlainTextEdit::undoAvailable, m_ui->UndoItem, &QAction::setEnabled);
-    connect(box, &QPlainTextEdit::redoAvailable, m_ui->RedoItem, &QAction::setEnabled);
-    connect(m_ui->FindItem, &QAction::triggered, this, &TxEdForm::FindItem_Click);
-    connect(m_ui->FindNextItem, &QAction::triggered, this, &TxEdForm::FindNextItem_Click);
 }
 
 void TxEdForm::Form_Load()
 {
-    const CellMetrics cells = MeasureCells(logicalDpiY());
-    m_ui->MainTxBox->setFont(cells.fonts[RegularFace]);
-    m_ui->MainTxBox->setTabStopDistance(TabColumns * cells.charWidth);
+    SetFixedPitch(*m_ui->MainTxBox);
     for (const char* symbol : {"<", ">", "&"}) {
         m_ui->SymCombo->addItem(QString::fromLatin1(symbol));
     }
     m_ui->SymCombo->setCurrentIndex(-1);
-    m_ui->UndoItem->setEnabled(false);
-    m_ui->RedoItem->setEnabled(false);
-    m_ui->MainTxBox->setPlainText(FromStd(TextToEdit(m_book)));
+    m_ui->MainTxBox->setPlainText(Shown(TextToEdit(m_book)));
     m_ui->MainTxBox->setFocus();
-}
-
-// The text with "\n" between its lines. It is asked for raw: else a hard blank would come as an ordinary one.
-QString TxEdForm::Text() const
-{
-    QString text = m_ui->MainTxBox->document()->toRawText();
-    text.replace(QChar::ParagraphSeparator, u'\n');
-    text.replace(QChar::LineSeparator, u'\n');
-    return text;
 }
 
 void TxEdForm::SaveButton_Click()
 {
-    const DoneOutcome outcome = SaveTopicText(m_book, m_seams, Text().toStdString());
+    const DoneOutcome outcome = SaveTopicText(m_book, m_seams, TextOf(*m_ui->MainTxBox));
     if (outcome.stored) {
         accept();
     } else if (m_seams.end.Ended()) {
         QDialog::reject();
     } else {
-        GoToLine(outcome.line);
+        SelectLine(*m_ui->MainTxBox, outcome.line);
     }
 }
 
@@ -123,31 +93,16 @@ void TxEdForm::reject()
     }
 }
 
-void TxEdForm::GoToLine(int line)
-{
-    const QString text = Text();
-    qsizetype start = 0;
-    for (int i = 1; i < line; ++i) {
-        start = text.indexOf(u'\n', start) + 1;
-    }
-    const qsizetype end = text.indexOf(u'\n', start);
-    QTextCursor cursor = m_ui->MainTxBox->textCursor();
-    cursor.setPosition(static_cast<int>(start));
-    cursor.setPosition(static_cast<int>(end < 0 ? text.size() : end), QTextCursor::KeepAnchor);
-    m_ui->MainTxBox->setTextCursor(cursor);
-    m_ui->MainTxBox->setFocus();
-}
-
 void TxEdForm::WrapSelection(std::string_view openTag)
 {
-    InsertAround(FromStd(openTag), FromStd(ClosingTag(openTag)));
+    InsertAround(Shown(openTag), Shown(ClosingTag(openTag)));
 }
 
 void TxEdForm::SymCombo_Click()
 {
     const std::string symbol = m_ui->SymCombo->currentText().toStdString();
     if (const std::optional<std::string> entity = SymbolToInsert(symbol, m_seams)) {
-        InsertAround(FromStd(*entity), {});
+        InsertAround(Shown(*entity), {});
     }
 }
 
@@ -168,36 +123,6 @@ void TxEdForm::InsertAround(const QString& before, const QString& after)
     cursor.setPosition(start + length);
     cursor.setPosition(end + length, QTextCursor::KeepAnchor);
     m_ui->MainTxBox->setTextCursor(cursor);
-    m_ui->MainTxBox->setFocus();
-}
-
-void TxEdForm::FindItem_Click()
-{
-    const std::optional<std::string> sought = m_seams.messages.InputBox("Find what:", "Find", m_sought);
-    if (sought && !sought->empty()) {
-        m_sought = *sought;
-        FindNextItem_Click();
-    }
-}
-
-// From the caret on, and from the start again behind the end.
-void TxEdForm::FindNextItem_Click()
-{
-    if (m_sought.empty()) {
-        FindItem_Click();
-        return;
-    }
-    const QTextDocument& document = *m_ui->MainTxBox->document();
-    const QString sought = FromStd(m_sought);
-    QTextCursor found = document.find(sought, m_ui->MainTxBox->textCursor());
-    if (found.isNull()) {
-        found = document.find(sought, 0);
-    }
-    if (found.isNull()) {
-        m_seams.messages.MsgBox("\"" + m_sought + "\" was not found.", Icon::Information);
-        return;
-    }
-    m_ui->MainTxBox->setTextCursor(found);
     m_ui->MainTxBox->setFocus();
 }
 

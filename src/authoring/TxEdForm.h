@@ -5,7 +5,6 @@
 #include <QDialog>
 
 #include <memory>
-#include <string>
 #include <string_view>
 
 namespace Ui {
@@ -14,6 +13,7 @@ class TxEdForm;
 
 namespace ls {
 
+class TextBoxCommands;
 struct Book;
 
 /// The text editor for the topic on show, which the book holds in memory already. Done stores the text there.
@@ -41,15 +41,11 @@ private:
     void SymCombo_Click();
     void WrapSelection(std::string_view openTag);
     void InsertAround(const QString& before, const QString& after);
-    void FindItem_Click();
-    void FindNextItem_Click();
-    void GoToLine(int line);
-    [[nodiscard]] QString Text() const;
 
     std::unique_ptr<Ui::TxEdForm> m_ui;
     Book& m_book;
     Seams m_seams;
-    std::string m_sought; ///< what Find Next looks for
+    std::unique_ptr<TextBoxCommands> m_boxCommands;
 };
 
 } // namespace ls

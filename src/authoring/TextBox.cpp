@@ -1,0 +1,58 @@
+#include "authoring/TextBox.h"
+
+#include "render/CellMetrics.h"
+
+#include <QPlainTextEdit>
+#include <QTextBlock>
+
+namespace ls {
+
+namespace {
+
+constexpr int TabColumns = 5; // as wide as the display shows a leading TAB
+
+// It is asked for raw: else a hard blank would come as an ordinary one.
+QString RawText(const QPlainTextEdit& box)
+{
+    QString text = box.document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    text.replace(QChar::LineSeparator, u'\n');
+    return text;
+}
+
+} // namespace
+
+std::string TextOf(const QPlainTextEdit& box)
+{
+    return RawText(box).toStdString();
+}
+
+QString Shown(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+void SetFixedPitch(QPlainTextEdit& box)
+{
+    const CellMetrics cells = MeasureCells(box.logicalDpiY());
+    box.setFont(cells.fonts[RegularFace]);
+    box.setTabStopDistance(TabColumns * cells.charWidth);
+}
+
+// Counted in the text, not in the box's paragraphs: a soft line break ends a line too.
+void SelectLine(QPlainTextEdit& box, int line)
+{
+    const QString text = RawText(box);
+    qsizetype start = 0;
+    for (int i = 1; i < line; ++i) {
+        start = text.indexOf(u'\n', start) + 1;
+    }
+    const qsizetype end = text.indexOf(u'\n', start);
+    QTextCursor cursor = box.textCursor();
+    cursor.setPosition(static_cast<int>(start));
+    cursor.setPosition(static_cast<int>(end < 0 ? text.size() : end), QTextCursor::KeepAnchor);
+    box.setTextCursor(cursor);
+    box.setFocus();
+}
+
+} // namespace ls
