@@ -105,6 +105,7 @@ void MainForm::ConnectItems()
     connect(m_ui->DelTopicItem, &QAction::triggered, this, &MainForm::DelTopicItem_Click);
     connect(m_ui->ReorderItem, &QAction::triggered, this, &MainForm::ReorderItem_Click);
     connect(m_ui->EdTextItem, &QAction::triggered, this, &MainForm::EdTextItem_Click);
+    connect(m_ui->AdviceEdItem, &QAction::triggered, this, &MainForm::AdviceEdItem_Click);
     connect(m_ui->EditPropertiesOption, &QAction::triggered, this, &MainForm::EditPropertiesOption_Click);
     connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
     connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
@@ -266,6 +267,11 @@ void MainForm::ReorderItem_Click()
 void MainForm::EdTextItem_Click()
 {
     Run([this] { m_editCommands.EdTextItem_Click(); });
+}
+
+void MainForm::AdviceEdItem_Click()
+{
+    Run([this] { m_editCommands.AdviceEdItem_Click(); });
 }
 
 void MainForm::EditPropertiesOption_Click()

@@ -68,6 +68,7 @@ private:
     void DelTopicItem_Click();
     void ReorderItem_Click();
     void EdTextItem_Click();
+    void AdviceEdItem_Click();
     void EditPropertiesOption_Click();
     void ExportItem_Click();
     void ExplainButton_Click();

@@ -5,6 +5,7 @@
 #include "app/Global.h"
 #include "authoring/DelTopicForm.h"
 #include "authoring/InfoForm.h"
+#include "authoring/LgEdForm.h"
 #include "authoring/MoveTopicsForm.h"
 #include "authoring/TxEdForm.h"
 #include "base/CodePage.h"
@@ -154,6 +155,12 @@ void MainFormView::ShowMoveTopicsForm()
 bool MainFormView::ShowTxEdForm()
 {
     return TxEdForm(&m_form, m_global.book, m_seams).exec() == QDialog::Accepted;
+}
+
+bool MainFormView::ShowLgEdForm()
+{
+    LgEdForm editor(&m_form, m_global.book, m_seams);
+    return editor.Form_Load() && editor.exec() == QDialog::Accepted;
 }
 
 void MainFormView::ShowInfoForm()

@@ -44,6 +44,7 @@ public:
     void ShowFileForm() override;
     void ShowXrefForm() override;
     [[nodiscard]] bool ShowTxEdForm() override;
+    [[nodiscard]] bool ShowLgEdForm() override;
     void ShowDelTopicForm() override;
     void ShowMoveTopicsForm() override;
     void ShowAdvForm() override;

@@ -63,7 +63,7 @@ public:
     [[nodiscard]] virtual bool ShowTxEdForm() = 0;
 
     /// Shows the logic editor for the topic on show and returns when it is closed: true for Done.
-    [[nodiscard]] virtual bool ShowLgEdForm() { return false; }
+    [[nodiscard]] virtual bool ShowLgEdForm() = 0;
 
     /// Shows the form that removes and restores topics and returns when it is closed.
     virtual void ShowDelTopicForm() = 0;

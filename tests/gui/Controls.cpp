@@ -46,7 +46,18 @@ void Type(const QWidget& form, const char* name, const QString& text)
     EXPECT_TRUE(edit->isVisible() && edit->isEnabled()) << name << " cannot be typed into";
     QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, text);
+    TypeKeys(*edit, text);
+}
+
+void TypeKeys(QWidget& control, const QString& text)
+{
+    for (const QChar character : text) {
+        if (character == u'\n') {
+            QTest::keyClick(&control, Qt::Key_Return);
+        } else {
+            QTest::keyClicks(&control, character);
+        }
+    }
 }
 
 bool WaitFor(const std::function<bool()>& condition)

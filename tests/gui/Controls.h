@@ -22,8 +22,11 @@ Control* Find(const QWidget& form, const char* name)
 /// disabled fails the test instead.
 void Press(const QWidget& form, const char* name);
 
-/// Replaces the text of a line or text edit by typing.
+/// Replaces the text of a line or text edit by typing, as `TypeKeys` does.
 void Type(const QWidget& form, const char* name, const QString& text);
+
+/// Types text where the caret of a control is, "\n" by the Enter key.
+void TypeKeys(QWidget& control, const QString& text);
 
 /// Runs the event loop until the condition holds; false when it did not within five seconds.
 [[nodiscard]] bool WaitFor(const std::function<bool()>& condition);

@@ -109,7 +109,7 @@ TEST_F(MainFormDesignTest, icons_atTwiceTheScale_areDrawnInFullSize)
 TEST_F(MainFormDesignTest, laterFeatures_areThereAndDisabled)
 {
     Start(WriteThree());
-    for (const char* name : {"AdviceEdItem", "PrintItem"}) {
+    for (const char* name : {"PrintItem"}) {
         EXPECT_FALSE(Get<QAction>(name).isEnabled()) << name;
     }
 }

@@ -69,6 +69,11 @@ public:
         ++textForms;
         return onTxEdForm && onTxEdForm();
     }
+    [[nodiscard]] bool ShowLgEdForm() override
+    {
+        ++logicForms;
+        return onLgEdForm && onLgEdForm();
+    }
     void ShowDelTopicForm() override
     {
         ++delForms;
@@ -130,8 +135,10 @@ public:
     std::function<void()> onFileForm; ///< what the user does in the file form
     std::function<void()> onXrefForm; ///< what the user does in the cross-reference view
     int textForms = 0;
+    int logicForms = 0;
     int delForms = 0;
     std::function<bool()> onTxEdForm;       ///< what the user does in the text editor; true for Done
+    std::function<bool()> onLgEdForm;       ///< what the user does in the logic editor; true for Done
     std::function<void()> onDelTopicForm;   ///< what the user does in the form that removes topics
     std::function<void()> onMoveTopicsForm; ///< what the user does in the form that moves topics
     std::function<void()> onInfoForm;       ///< what the author does in the properties

@@ -43,27 +43,13 @@ bool Tour::TakeAdvisor()
 {
     if (!TakeSteps({{"open", &Tour::LookAtAdvisorTopic}}))
         return false;
-    // Pressing the button returns when the advisor's window has closed; the steps in it come from a timer.
-    bool walked = false;
-    QTimer start;
-    start.setSingleShot(true);
-    QObject::connect(&start, &QTimer::timeout, &m_window, [this, &walked] {
-        walked = WalkAdvisor();
-        if (m_advisor != nullptr)
-            m_advisor->close();
-    });
-    m_boxWatch.stop(); // until the advisor's window is known
-    start.start(SettleMs);
-    const bool pressed = Report(QStringLiteral("Advisor"), Press("AdvisorButton"));
-    return pressed && walked && TakeSteps({{"closed", &Tour::LookAtAdvisorTopic}});
+    return WalkForm(
+               "AdvForm", [this] { return Press("AdvisorButton"); }, &Tour::WalkAdvisor) &&
+           TakeSteps({{"closed", &Tour::LookAtAdvisorTopic}}) && TakeLogicEditor();
 }
 
 bool Tour::WalkAdvisor()
 {
-    m_advisor = QApplication::activeModalWidget();
-    if (m_advisor != nullptr && m_advisor->objectName() != QStringLiteral("AdvForm"))
-        m_advisor = nullptr;
-    m_boxWatch.start();
     int questions = 0;
     do {
         if (++questions > MostQuestions)
@@ -74,7 +60,7 @@ bool Tour::WalkAdvisor()
             return false;
         if (!Report(QStringLiteral("Next"), PressNext()))
             return false;
-    } while (AsksMore(m_advisor));
+    } while (AsksMore(m_form));
     return TakeSteps({{"advice", &Tour::LookAtAdvice}}) && Report(QStringLiteral("Close"), CloseAdvisor());
 }
 
@@ -94,10 +80,10 @@ Tour::Fault Tour::LookAtAdvisorTopic()
 
 Tour::Fault Tour::LookAtQuestion()
 {
-    const auto* answers = In<QComboBox>(m_advisor, "AnswerCombo");
-    if (answers == nullptr || !m_advisor->isActiveWindow())
+    const auto* answers = In<QComboBox>(m_form, "AnswerCombo");
+    if (answers == nullptr || !m_form->isActiveWindow())
         return QStringLiteral("the advisor's window is not the active one");
-    if (TextIn(m_advisor).isEmpty())
+    if (TextIn(m_form).isEmpty())
         return QStringLiteral("there is no question");
     if (!answers->hasFocus() || answers->count() < 3 || !answers->currentText().isEmpty())
         return QStringLiteral("the list does not wait for an answer");
@@ -106,7 +92,7 @@ Tour::Fault Tour::LookAtQuestion()
 
 Tour::Fault Tour::OpenAnswers()
 {
-    QTest::keyClick(m_advisor->windowHandle(), Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(m_form->windowHandle(), Qt::Key_Down, Qt::AltModifier);
     QTest::qWait(SettleMs);
     return QApplication::activePopupWidget() != nullptr ? Fault() : QStringLiteral("the list does not open");
 }
@@ -114,7 +100,7 @@ Tour::Fault Tour::OpenAnswers()
 /// The entry below the empty one is "? - unsure" where that is offered.
 Tour::Fault Tour::PickAnswer()
 {
-    auto* answers = In<QComboBox>(m_advisor, "AnswerCombo");
+    auto* answers = In<QComboBox>(m_form, "AnswerCombo");
     QTest::keyClick(answers->view(), Qt::Key_Down);
     QTest::keyClick(answers->view(), Qt::Key_Return);
     QTest::qWait(SettleMs);
@@ -126,18 +112,18 @@ Tour::Fault Tour::PickAnswer()
 /// By Enter; the text must be another one afterwards.
 Tour::Fault Tour::PressNext()
 {
-    const QString before = TextIn(m_advisor);
-    QTest::keyClick(m_advisor->windowHandle(), Qt::Key_Return);
-    return TextIn(m_advisor) != before ? Fault() : QStringLiteral("Enter leads no further");
+    const QString before = TextIn(m_form);
+    QTest::keyClick(m_form->windowHandle(), Qt::Key_Return);
+    return TextIn(m_form) != before ? Fault() : QStringLiteral("Enter leads no further");
 }
 
 Tour::Fault Tour::LookAtAdvice()
 {
-    const auto* answers = In<QComboBox>(m_advisor, "AnswerCombo");
-    const auto* next = In<QPushButton>(m_advisor, "NextButton");
+    const auto* answers = In<QComboBox>(m_form, "AnswerCombo");
+    const auto* next = In<QPushButton>(m_form, "NextButton");
     if (answers == nullptr || answers->isVisible())
         return QStringLiteral("the list is still there");
-    if (TextIn(m_advisor).isEmpty())
+    if (TextIn(m_form).isEmpty())
         return QStringLiteral("there is no advice");
     if (next->text() != QStringLiteral("Close") || !next->hasFocus())
         return QStringLiteral("the button does not offer to close");
@@ -146,8 +132,8 @@ Tour::Fault Tour::LookAtAdvice()
 
 Tour::Fault Tour::CloseAdvisor()
 {
-    QTest::keyClick(m_advisor->windowHandle(), Qt::Key_Return);
-    return m_advisor->isVisible() ? QStringLiteral("Enter does not close the window") : Fault();
+    QTest::keyClick(m_form->windowHandle(), Qt::Key_Return);
+    return m_form->isVisible() ? QStringLiteral("Enter does not close the window") : Fault();
 }
 
 } // namespace ls

@@ -114,7 +114,7 @@ bool Tour::SavePicture(const QString& name) const
 void Tour::LookForBox() const
 {
     const QWidget* box = QApplication::activeModalWidget();
-    if (box == nullptr || box == m_advisor)
+    if (box == nullptr || box == m_form)
         return;
     Say(QStringLiteral("FAILED  an unexpected box: %1").arg(TextOf(*box)));
     if (!SavePicture(QStringLiteral("99-unexpected-box")))
@@ -273,6 +273,30 @@ Tour::Fault Tour::WidenWindow()
     return {};
 }
 
+/// Opening a form returns when the form has closed; the steps in it come from a timer.
+bool Tour::WalkForm(const char* name, const std::function<Fault()>& open, bool (Tour::*walk)())
+{
+    const QPointer<QWidget> outer = m_form;
+    bool walked = false;
+    QTimer start;
+    start.setSingleShot(true);
+    QObject::connect(&start, &QTimer::timeout, &m_window, [this, name, walk, &walked] {
+        m_form = QApplication::activeModalWidget();
+        if (m_form != nullptr && m_form->objectName() != QLatin1String(name))
+            m_form = nullptr; // whatever it is instead ends the tour as an unexpected box
+        m_boxWatch.start();
+        walked = (this->*walk)();
+        if (m_form != nullptr)
+            m_form->close();
+    });
+    m_boxWatch.stop(); // until the form is known
+    start.start(SettleMs);
+    const bool opened = Report(QLatin1String(name), open());
+    m_form = outer;
+    m_boxWatch.start();
+    return opened && walked;
+}
+
 Tour::Fault Tour::Press(const char* button) const
 {
     auto* found = m_window.findChild<QAbstractButton*>(QLatin1String(button));
@@ -284,10 +308,10 @@ Tour::Fault Tour::Press(const char* button) const
     return {};
 }
 
-Tour::Fault Tour::OpenMenu(const char* name) const
+Tour::Fault Tour::OpenMenu(const QWidget& window, const char* name)
 {
-    auto* bar = m_window.findChild<QMenuBar*>();
-    auto* menu = m_window.findChild<QMenu*>(QLatin1String(name));
+    auto* bar = window.findChild<QMenuBar*>();
+    auto* menu = window.findChild<QMenu*>(QLatin1String(name));
     if (bar == nullptr || menu == nullptr)
         return QStringLiteral("there is no %1").arg(QLatin1String(name));
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
@@ -297,15 +321,22 @@ Tour::Fault Tour::OpenMenu(const char* name) const
     return {};
 }
 
-Tour::Fault Tour::ChooseItem(const char* menu, const char* item) const
+Tour::Fault Tour::ClickItem(const QWidget& window, const char* menu, const char* item)
 {
-    auto* opened = m_window.findChild<QMenu*>(QLatin1String(menu));
-    auto* action = m_window.findChild<QAction*>(QLatin1String(item));
+    auto* opened = window.findChild<QMenu*>(QLatin1String(menu));
+    auto* action = window.findChild<QAction*>(QLatin1String(item));
     if (opened == nullptr || action == nullptr || !action->isEnabled())
         return QStringLiteral("%1 cannot be chosen").arg(QLatin1String(item));
     QTest::mouseClick(opened, Qt::LeftButton, {}, opened->actionGeometry(action).center());
+    return {};
+}
+
+Tour::Fault Tour::ChooseItem(const char* menu, const char* item) const
+{
+    if (Fault fault = ClickItem(m_window, menu, item); !fault.isEmpty())
+        return fault;
     QTest::qWait(SettleMs);
-    if (!action->isChecked())
+    if (!m_window.findChild<QAction*>(QLatin1String(item))->isChecked())
         return QStringLiteral("%1 is not checked").arg(QLatin1String(item));
     return {};
 }

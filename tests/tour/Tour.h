@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <functional>
 #include <initializer_list>
 
 class QComboBox;
@@ -28,7 +29,8 @@ public:
     [[nodiscard]] bool Take();
 
     /// The same for a book that opened on a topic with an advisor: answers its questions, "? - unsure" where
-    /// that is offered and the first value elsewhere, until there is an advice.
+    /// that is offered and the first value elsewhere, until there is an advice; then looks at the editor of
+    /// its logic.
     [[nodiscard]] bool TakeAdvisor();
 
 private:
@@ -61,7 +63,15 @@ private:
     Fault LookAtAdvice();
     Fault CloseAdvisor();
 
+    Fault LookAtEditor();
+    Fault PickVariable();
+    Fault LookAtSpecification();
+
     [[nodiscard]] bool WalkAdvisor();
+    [[nodiscard]] bool TakeLogicEditor();
+    [[nodiscard]] bool WalkEditor();
+    [[nodiscard]] bool WalkSpecification();
+    [[nodiscard]] bool WalkForm(const char* name, const std::function<Fault()>& open, bool (Tour::*walk)());
     [[nodiscard]] bool TakeSteps(std::initializer_list<Step> steps);
     [[nodiscard]] bool TakeStep(const Step& step, int number);
     [[nodiscard]] static bool Report(const QString& name, const Fault& fault);
@@ -69,7 +79,9 @@ private:
     void LookForBox() const;
 
     [[nodiscard]] Fault Press(const char* button) const;
-    [[nodiscard]] Fault OpenMenu(const char* name) const;
+    [[nodiscard]] static Fault OpenMenu(const QWidget& window, const char* name);
+    [[nodiscard]] Fault OpenMenu(const char* name) const { return OpenMenu(m_window, name); }
+    [[nodiscard]] static Fault ClickItem(const QWidget& window, const char* menu, const char* item);
     [[nodiscard]] Fault ChooseItem(const char* menu, const char* item) const;
     [[nodiscard]] QStringList Items() const;
     [[nodiscard]] QString BareTitle(const QString& item) const;
@@ -81,8 +93,8 @@ private:
     QPointer<QComboBox> m_list;
     QPointer<QScrollBar> m_bar;
     QPointer<ReadingPane> m_pane;
-    QPointer<QWidget> m_advisor; ///< its window, while it is open
-    int m_taken = 0;             ///< steps so far
+    QPointer<QWidget> m_form; ///< the topmost form over the window, while one is open
+    int m_taken = 0;          ///< steps so far
 };
 
 } // namespace ls
