@@ -64,7 +64,7 @@ Tour::Tour(QWidget& window, const QDir& pictures) : m_window(window), m_pictures
 
 bool Tour::Take()
 {
-    return TakeSteps({
+    const bool read = TakeSteps({
         {"open", &Tour::LookAtOpenBook},
         {"pick", &Tour::PickTopic},
         {"topic", &Tour::GoToPickedTopic},
@@ -76,6 +76,7 @@ bool Tour::Take()
         {"contents", &Tour::SortByContents},
         {"wide", &Tour::WidenWindow},
     });
+    return read && TakeAuthor();
 }
 
 bool Tour::TakeSteps(std::initializer_list<Step> steps)

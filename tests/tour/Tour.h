@@ -63,10 +63,26 @@ private:
     Fault LookAtAdvice();
     Fault CloseAdvisor();
 
+    Fault LookAtText();
+    Fault MakeBold();
+    Fault LookAtEditedTopic();
+    Fault CheckTopic();
+    Fault PickTopicToMove();
+    Fault PickTarget();
+    Fault LookAtForm();
+    Fault PickReference();
+
     Fault LookAtEditor();
     Fault PickVariable();
     Fault LookAtSpecification();
 
+    [[nodiscard]] bool TakeAuthor();
+    [[nodiscard]] bool WalkEditItem(const char* item, const char* form, bool (Tour::*walk)());
+    [[nodiscard]] bool WalkTextEditor();
+    [[nodiscard]] bool WalkRemoval();
+    [[nodiscard]] bool WalkMove();
+    [[nodiscard]] bool WalkProperties();
+    [[nodiscard]] bool WalkReferences();
     [[nodiscard]] bool WalkAdvisor();
     [[nodiscard]] bool TakeLogicEditor();
     [[nodiscard]] bool WalkEditor();
@@ -79,6 +95,7 @@ private:
     void LookForBox() const;
 
     [[nodiscard]] Fault Press(const char* button) const;
+    [[nodiscard]] Fault PressInForm(const char* button) const;
     [[nodiscard]] static Fault OpenMenu(const QWidget& window, const char* name);
     [[nodiscard]] Fault OpenMenu(const char* name) const { return OpenMenu(m_window, name); }
     [[nodiscard]] static Fault ClickItem(const QWidget& window, const char* menu, const char* item);
