@@ -165,7 +165,7 @@ bool Reader::FindLogic()
         if (trimmed == LogicOpening) {
             return true;
         }
-        if (!(first && trimmed == BlockOpening)) {
+        if (trimmed != BlockClosing && !(first && trimmed == BlockOpening)) {
             LoseText(m_line);
         }
         first = false;

@@ -81,13 +81,14 @@ private:
 
     void TakeQuestion(LogicEntry& entry)
     {
-        const std::string key = UpperCase(entry.identifier);
-        if (!m_places.emplace(key, m_block.variables.size()).second) {
+        std::size_t& place = m_places.emplace(UpperCase(entry.identifier), Unlisted).first->second;
+        if (place != Unlisted) {
             Lose(entry.line, "The second question for " + Quoted(entry.identifier) +
                                  " would be dropped; the advisor asks the first.");
             return;
         }
         m_questionBefore = entry.line;
+        place = m_block.variables.size();
         m_block.variables.push_back({std::move(entry.identifier), std::move(entry.text), true});
     }
 
@@ -99,10 +100,12 @@ private:
             return;
         }
         const std::string key = UpperCase(identifier.variable);
-        if (m_asked.count(key) == 0 && m_places.emplace(key, m_block.variables.size()).second) {
+        std::size_t& place = m_places.emplace(key, Unlisted).first->second;
+        if (place == Unlisted && m_asked.count(key) == 0) {
+            place = m_block.variables.size();
             m_block.variables.push_back({std::string(identifier.variable), {}, false});
         }
-        m_block.choices.push_back({key, std::string(identifier.choice), std::move(entry.text)});
+        m_choices.push_back({&place, {{}, std::string(identifier.choice), std::move(entry.text)}});
     }
 
     // Which of two equal entries is shown depends on the question asked last, as long as one stands between
@@ -126,21 +129,30 @@ private:
         m_block.bareEntries.push_back({std::move(entry.identifier), std::move(entry.raw)});
     }
 
-    // Until here a choice holds its variable's key.
     void GroupChoices()
     {
-        const auto place = [this](const LogicChoice& choice) { return m_places.at(choice.variable); };
-        std::stable_sort(
-            m_block.choices.begin(), m_block.choices.end(),
-            [&place](const LogicChoice& a, const LogicChoice& b) { return place(a) < place(b); });
-        for (LogicChoice& choice : m_block.choices) {
-            choice.variable = m_block.variables[place(choice)].name;
+        std::stable_sort(m_choices.begin(), m_choices.end(),
+                         [](const Placed& a, const Placed& b) { return *a.variable < *b.variable; });
+        m_block.choices.reserve(m_choices.size());
+        for (Placed& placed : m_choices) {
+            placed.choice.variable = m_block.variables[*placed.variable].name;
+            m_block.choices.push_back(std::move(placed.choice));
         }
     }
 
     void Lose(int line, std::string what) { m_block.lost.push_back({line, std::move(what)}); }
 
+    static constexpr std::size_t Unlisted = static_cast<std::size_t>(-1);
+
+    // A choice, and the place of its variable, which is known only when all entries are taken.
+    struct Placed
+    {
+        const std::size_t* variable;
+        LogicChoice choice;
+    };
+
     LogicBlock& m_block;
+    std::vector<Placed> m_choices;
     std::unordered_set<std::string> m_asked;               ///< variables that have a question entry
     std::unordered_map<std::string, std::size_t> m_places; ///< of the variables in their list
     std::unordered_set<std::string> m_identifiers;         ///< of the choices

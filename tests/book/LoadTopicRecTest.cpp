@@ -171,5 +171,63 @@ TEST_F(LoadTopicRecTest, load_readErrorInAPlainTextFile_saysSoAndGivesNoHalf)
     EXPECT_EQ(text.size(), 40009U);
 }
 
+struct FileLogicCase
+{
+    const char* name;
+    const char* body;  ///< of the topic "A", behind its header line
+    const char* logic; ///< as it comes from the file; "before" when it stays as it was
+};
+
+struct FileLogicTable : LoadTopicRecTest, testing::WithParamInterface<FileLogicCase>
+{
+};
+
+TEST_P(FileLogicTable, loadLogicFromFile_givesTheBlockWhateverFollowsItsOpening)
+{
+    ASSERT_TRUE(Scan(std::string("LODESTAR BOOK V5.3\r\n[A]\r\n") + GetParam().body));
+    std::string logic = "before";
+    EXPECT_TRUE(LoadLogicFromFile(book, world.Get(), 1, logic));
+    EXPECT_EQ(logic, GetParam().logic);
+    EXPECT_EQ(book.TopicRecs(1).Logic, "") << "nothing is brought into memory";
+    EXPECT_TRUE(world.messages.boxes.empty());
+}
+
+const FileLogicCase FileLogicCases[] = {
+    {"noBlock", "one\r\n[B]\r\n<IXML>\r\n", "before"},
+    {"taken", "one\r\n<IXML>\r\n<LOGIC>\r\nx\r\n[B]\r\n", "<IXML>\r\n<LOGIC>\r\nx\r\n"},
+    {"blankLineBetween", " <ixml> \r\n\r\n<LOGIC>\r\nx  \r\n", "<IXML>\r\n\r\n<LOGIC>\r\nx\r\n"},
+    {"otherContent", "<IXML>\r\n<OTHER>\r\n[EOF]\r\nx\r\n", "<IXML>\r\n<OTHER>\r\n"},
+    {"openingOnly", "<IXML>\r\n", "<IXML>\r\n"},
+};
+
+std::string FileLogicName(const testing::TestParamInfo<FileLogicCase>& info)
+{
+    return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Blocks, FileLogicTable, testing::ValuesIn(FileLogicCases), FileLogicName);
+
+TEST_F(LoadTopicRecTest, loadLogicFromFile_changedFile_isTold)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\n<IXML>\r\n"));
+    book.TopicNames(1) = "[X]";
+    std::string logic = "before";
+    EXPECT_FALSE(LoadLogicFromFile(book, world.Get(), 1, logic));
+    EXPECT_EQ(logic, "before");
+    EXPECT_EQ(world.messages.Take(),
+              std::vector<std::string>{"warning|Lodestar Advisor|Error looking up topic: [X]"});
+}
+
+TEST_F(LoadTopicRecTest, loadLogicFromFile_fileCutInTheBlock_isTold)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\n<IXML>\r\n\r\n<LOGIC>\r\nx\r\n"));
+    std::string& file = world.files[book.OpenPath];
+    file.resize(file.find("<LOGIC>"));
+    std::string logic = "before";
+    EXPECT_FALSE(LoadLogicFromFile(book, world.Get(), 1, logic));
+    EXPECT_EQ(logic, "before");
+    EXPECT_EQ(world.messages.Take().size(), 1U);
+}
+
 } // namespace
 } // namespace ls

@@ -1,0 +1,135 @@
+#include "RecordingLogicView.h"
+#include "advisor/AdvisorWorld.h"
+#include "authoring/LogicEditor.h"
+#include "book/WriteBook.h"
+
+#include <gtest/gtest.h>
+
+namespace ls {
+namespace {
+
+using Strings = std::vector<std::string>;
+using test::AdvisorWorld;
+using test::CrLf;
+
+const std::string Before =
+    CrLf({"[Guide]", "Text of it.", "<IXML>", "<LOGIC>", "TARGET RISK", "RISK(HIGH) = AGE(OLD)",
+          "RISK(LOW) = AGE(YOUNG)", "</LOGIC>", "<DEFINITIONS>", "<Q ID=AGE>How old?</Q>",
+          "<AV ID=RISK(HIGH)>Take care.</AV>", "<AV ID=RISK(LOW)>Enjoy.</AV>", "</DEFINITIONS>", "</IXML>",
+          "[Other]", "x"});
+
+/// The editor on the topic "Guide" of a book that is open.
+struct LogicSaveTest : testing::Test
+{
+    AdvisorWorld world;
+    test::RecordingLogicView view;
+
+    void Edit()
+    {
+        world.Open(Before);
+        world.Show("Guide");
+        std::string name = world.book.CurrentTopicName;
+        LoadTopicRec(world.book, world.seams.Get(), name, world.book.CurrentTopicNo);
+    }
+
+    std::string Saved()
+    {
+        std::unique_ptr<OutputFile> file;
+        EXPECT_TRUE(world.seams.files.CreateNew("/out.IDA", file).Ok());
+        EXPECT_EQ(WriteBook(world.book, world.seams.Get(), *file), WriteOutcome::Written);
+        EXPECT_TRUE(file->Finish().Ok());
+        return world.seams.files["/out.IDA"];
+    }
+
+    /// What the advisor of a saved book says to an answer.
+    static Strings Ask(const std::string& bytes, const std::string& answer)
+    {
+        AdvisorWorld reader;
+        reader.Open(bytes.substr(bytes.find('[')));
+        reader.Show("Guide");
+        reader.Advise();
+        Strings log = reader.view.Take();
+        const Strings advice = reader.Next(answer);
+        log.insert(log.end(), advice.begin(), advice.end());
+        EXPECT_EQ(reader.seams.messages.Take(), Strings());
+        return log;
+    }
+};
+
+TEST_F(LogicSaveTest, editedLogic_runsAfterTheSave)
+{
+    Edit();
+    LogicEditor editor(world.book, world.seams.Get(), view);
+    ASSERT_TRUE(editor.Form_Load());
+    view[LogicBox::Logic] += "RISK(NONE) = AGE(CHILD)\n";
+    editor.VarCombo_Click(0);
+    view[LogicBox::Question] = "How old are you?\nIn years.";
+    editor.VarCombo_Click(1);
+    world.seams.messages.inputs = {"NONE"};
+    editor.AddAnsButton_Click();
+    view[LogicBox::Advice] = "Play.";
+    ASSERT_TRUE(editor.SaveButton_Click());
+    EXPECT_EQ(world.seams.messages.Take().back(),
+              "information|Lodestar Advisor|The changes will not take effect until you save the file.");
+    EXPECT_EQ(Ask(Saved(), "CHILD"),
+              (Strings{"question AGE [] [OLD] [YOUNG] [CHILD]: How old are you?\r\nIn years.",
+                       "advice RISK(NONE): Play.", "button Close"}));
+}
+
+TEST_F(LogicSaveTest, uneditedRest_isWrittenAsItWas)
+{
+    Edit();
+    LogicEditor editor(world.book, world.seams.Get(), view);
+    ASSERT_TRUE(editor.Form_Load());
+    ASSERT_TRUE(editor.SaveButton_Click());
+    world.seams.messages.Take();
+    EXPECT_EQ(Saved(), CrLf({"LODESTAR BOOK V5.3",
+                             "[Guide]",
+                             "Text of it.",
+                             "",
+                             "<IXML>",
+                             "<LOGIC>",
+                             "TARGET RISK",
+                             "RISK(HIGH) = AGE(OLD)",
+                             "RISK(LOW) = AGE(YOUNG)",
+                             "</LOGIC>",
+                             "<DEFINITIONS>",
+                             "",
+                             "<Q ID=AGE>How old?</Q>",
+                             "",
+                             "<Q ID=RISK></Q>",
+                             "",
+                             "<AV ID=RISK(HIGH)>Take care.</AV>",
+                             "",
+                             "<AV ID=RISK(LOW)>Enjoy.</AV>",
+                             "",
+                             "</DEFINITIONS>",
+                             "</IXML>",
+                             "",
+                             "[Other]",
+                             "x"}));
+}
+
+TEST_F(LogicSaveTest, savedAndEditedAgain_staysTheSame)
+{
+    Edit();
+    LogicEditor editor(world.book, world.seams.Get(), view);
+    ASSERT_TRUE(editor.Form_Load());
+    ASSERT_TRUE(editor.SaveButton_Click());
+    const std::string first = world.book.TopicRecs(1).Logic;
+    const std::string bytes = Saved();
+    AdvisorWorld again;
+    again.Open(bytes.substr(bytes.find('[')));
+    again.Show("Guide");
+    std::string name = "Guide";
+    LoadTopicRec(again.book, again.seams.Get(), name, again.book.CurrentTopicNo);
+    LogicEditor second(again.book, again.seams.Get(), view);
+    ASSERT_TRUE(second.Form_Load());
+    ASSERT_TRUE(second.SaveButton_Click());
+    EXPECT_EQ(again.book.TopicRecs(1).Logic, first);
+    world.seams.messages.Take();
+    again.seams.messages.Take();
+}
+
+} // namespace
+} // namespace ls
