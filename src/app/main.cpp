@@ -3,6 +3,7 @@
 #include "app/FormFont.h"
 #include "app/FormMessages.h"
 #include "app/Global.h"
+#include "app/ProgramIcon.h"
 #include "platform/DdeSeam.h"
 #include "platform/ReadCommandLine.h"
 #include "platform/SystemSeams.h"
@@ -26,6 +27,8 @@ void SetUpApplication()
     QApplication::setFont(ls::FormFont());
     QApplication::setApplicationName(QStringLiteral("lsadvisor"));
     QApplication::setApplicationVersion(QStringLiteral(LS_VERSION));
+    QApplication::setWindowIcon(ls::ProgramIcon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.lodestar.Advisor"));
 }
 
 int ExitStatus(const ls::ProgramEnd& end)

@@ -78,7 +78,6 @@ void TxEdForm::SaveButton_Click()
         QDialog::reject();
     } else {
         SelectLine(*m_ui->MainTxBox, outcome.line);
-        m_ui->MainTxBox->setFocus();
     }
 }
 

@@ -3,6 +3,7 @@
 #include "Tour.h"
 #include "app/FormMessages.h"
 #include "app/Global.h"
+#include "app/ProgramIcon.h"
 #include "platform/Console.h"
 #include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"
@@ -51,6 +52,7 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    QApplication::setWindowIcon(ls::ProgramIcon());
     std::vector<std::string> arguments = ls::ProgramArguments(argc, argv);
     const QDir pictures(arguments.empty() ? QString() : QString::fromLocal8Bit(arguments.front().c_str()));
     if (arguments.size() < 2 || !pictures.exists()) {

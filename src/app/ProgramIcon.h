@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QIcon>
+
+namespace ls {
+
+/// The program's icon, for its windows: the pictures of packaging/icons, from 16 to 256 pixels.
+[[nodiscard]] QIcon ProgramIcon();
+
+} // namespace ls
