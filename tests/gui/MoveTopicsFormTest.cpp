@@ -151,6 +151,22 @@ TEST_F(MoveTopicsFormTest, next_goesToStepTwo)
     }
 }
 
+TEST_F(MoveTopicsFormTest, openedAgain_beginsAtStepOneWithNothingSelected)
+{
+    Load({"A", "B", "C"});
+    Click(From(), 1);
+    Done();
+    test::Press(*form, "CancelButton");
+    Show();
+    EXPECT_EQ(Caption(), QStringLiteral("Next"));
+    EXPECT_EQ(Instruction(),
+              QStringLiteral("Step 1: Pick the topics to move to a new position in the list."));
+    EXPECT_TRUE(From().isVisible());
+    EXPECT_FALSE(To().isVisible());
+    Done();
+    EXPECT_EQ(Boxes(), Strings{"exclamation|Lodestar Advisor|You must select at least one topic to move."});
+}
+
 TEST_F(MoveTopicsFormTest, done_noTargetSelected_isRefused)
 {
     Load({"A", "B"});

@@ -296,6 +296,27 @@ TEST_F(TxEdFormTest, find_selectsTheNextPlaceAndStartsAgainBehindTheLast)
     EXPECT_EQ(Boxes(), Strings{"input|Find|Find what:|"});
 }
 
+TEST_F(TxEdFormTest, openedAgain_remembersNothingOfTheLastTime)
+{
+    Load("one two");
+    const QSize design = form->size();
+    world.messages.inputs = {"two", std::nullopt};
+    Key(Qt::Key_F, Qt::ControlModifier);
+    PickSymbol(0);
+    form->resize(design + QSize(100, 100));
+    test::Press(*form, "CancelButton");
+    Load("one two");
+    EXPECT_EQ(form->size(), design);
+    EXPECT_EQ(Symbols().currentIndex(), -1);
+    EXPECT_EQ(Caret(), 0);
+    EXPECT_EQ(Selected(), "");
+    EXPECT_FALSE(Find<QAction>(*form, "UndoItem")->isEnabled());
+    EXPECT_FALSE(Find<QAction>(*form, "RedoItem")->isEnabled());
+    test::Press(*form, "FindNextItem");
+    EXPECT_EQ(Boxes(), (Strings{"input|Find|Find what:|", "input|Find|Find what:|"}));
+    EXPECT_EQ(Text(), "one two");
+}
+
 TEST_F(TxEdFormTest, findNothing_saysSoAndRemembersTheText)
 {
     Load("one");
