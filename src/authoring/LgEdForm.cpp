@@ -6,7 +6,10 @@
 #include "authoring/TextBox.h"
 #include "authoring/TextBoxCommands.h"
 #include "authoring/TopicText.h"
+#include "base/CodePage.h"
 #include "base/ProgramEnd.h"
+#include "book/Book.h"
+#include "check/CheckBook.h"
 #include "ui_LgEdForm.h"
 
 #include <QKeyEvent>
@@ -304,7 +307,8 @@ void LgEdForm::GoTo(LogicBox box, int line)
 
 void LgEdForm::ShowSpecification(const std::string& text)
 {
-    TempForm(this, text, {}).exec();
+    const std::string block = ToBook(text).value_or(std::string());
+    TempForm(this, text, CheckLogicText(m_book, m_seams, m_book.CurrentTopicNo, block)).exec();
 }
 
 } // namespace ls

@@ -52,7 +52,6 @@ void SelectLine(QPlainTextEdit& box, int line)
     cursor.setPosition(static_cast<int>(start));
     cursor.setPosition(static_cast<int>(end < 0 ? text.size() : end), QTextCursor::KeepAnchor);
     box.setTextCursor(cursor);
-    box.setFocus();
 }
 
 } // namespace ls

@@ -17,7 +17,7 @@ namespace ls {
 /// The font and the tab stops of a box for text that is laid out in columns, as the display shows it.
 void SetFixedPitch(QPlainTextEdit& box);
 
-/// Selects a line, counted from 1, and puts the caret there.
+/// Selects a line, counted from 1, and scrolls there. The focus stays where it is.
 void SelectLine(QPlainTextEdit& box, int line);
 
 } // namespace ls

@@ -78,6 +78,7 @@ void TxEdForm::SaveButton_Click()
         QDialog::reject();
     } else {
         SelectLine(*m_ui->MainTxBox, outcome.line);
+        m_ui->MainTxBox->setFocus();
     }
 }
 

@@ -1,5 +1,6 @@
 // What an author does in the logic editor's window.
 
+#include "check/CheckBook.h"
 #include "gui/LgEdFormFixture.h"
 #include "gui/ModalScript.h"
 
@@ -7,6 +8,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QListWidget>
 
 namespace ls {
 namespace {
@@ -574,7 +576,13 @@ TEST_F(LgEdFormClose, specification_showsTheBlockAsItWouldBeStored)
     Type("VQuestionBox", "How much?");
     test::ModalScript script;
     std::string shown;
+    Strings findings;
     script.Do([&](QWidget& window) {
+        const auto* list = test::Find<QListWidget>(window, "FindingsList");
+        for (int i = 0; i < list->count(); ++i) {
+            findings.push_back(list->item(i)->text().toStdString());
+        }
+        test::TakePicture(window, "TempForm");
         shown = test::Find<QPlainTextEdit>(window, "Text1")->toPlainText().toStdString();
         Press(window, "CloseButton");
     });
@@ -583,6 +591,14 @@ TEST_F(LgEdFormClose, specification_showsTheBlockAsItWouldBeStored)
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(book.TopicRecs(1).Logic, Block()) << "nothing is stored";
     std::string block = Done();
+    Strings wanted;
+    for (const Finding& finding : CheckLogicText(book, world.Get(), 1, block)) {
+        wanted.push_back("Line " + std::to_string(finding.line) + ", " + SeverityWord(finding.severity) +
+                         ": " + finding.text);
+    }
+    EXPECT_EQ(findings, wanted);
+    ASSERT_EQ(findings.size(), 2U) << "nothing concludes RISK(LOW), and nothing uses AGE(YOUNG)";
+    EXPECT_EQ(findings[0].find("Line 12, warning: No rule concludes RISK(LOW)"), 0U) << findings[0];
     std::erase(block, '\r');
     EXPECT_EQ(shown, block);
 }

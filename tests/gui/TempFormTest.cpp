@@ -4,6 +4,7 @@
 
 #include <QFontInfo>
 #include <QLabel>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -22,33 +23,73 @@ struct TempFormTest : testing::Test
 {
     std::unique_ptr<TempForm> form;
 
-    void Load(const std::string& text, const std::string& findings = {})
+    void Load(const std::string& text, const std::vector<Finding>& findings = {})
     {
         form = std::make_unique<TempForm>(nullptr, text, findings);
         test::ShowActive(*form);
     }
 
-    [[nodiscard]] QPlainTextEdit& Box(const char* name) const { return *Find<QPlainTextEdit>(*form, name); }
+    [[nodiscard]] static std::vector<Finding> TwoFindings()
+    {
+        return {{"", 1, "A", Severity::Error, "rule", "First \xC3\xA9."},
+                {"", 2, "A", Severity::Warning, "rule", "Second."}};
+    }
 
-    void Key(Qt::Key key) const { QTest::keyClick(form->windowHandle(), key); }
+    [[nodiscard]] QPlainTextEdit& Text() const { return *Find<QPlainTextEdit>(*form, "Text1"); }
+    [[nodiscard]] QListWidget& Findings() const { return *Find<QListWidget>(*form, "FindingsList"); }
+
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(form->windowHandle(), key, modifiers);
+    }
 };
 
-TEST_F(TempFormTest, load_showsTextAndFindingsReadOnly)
+TEST_F(TempFormTest, load_showsTextReadOnlyAndFindings)
 {
-    Load("<IXML>\r\ncaf\xC3\xA9 <B>&amp;</B>\r\n", "one\r\ntwo");
+    Load("<IXML>\r\ncaf\xC3\xA9 <B>&amp;</B>\r\n", TwoFindings());
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Temp results"));
-    EXPECT_EQ(Box("Text1").toPlainText().toStdString(), "<IXML>\ncaf\xC3\xA9 <B>&amp;</B>\n");
-    EXPECT_EQ(Box("FindingsBox").toPlainText(), QStringLiteral("one\ntwo"));
+    const std::string text = "<IXML>\ncaf\xC3\xA9 <B>&amp;</B>\n";
+    EXPECT_EQ(Text().toPlainText().toStdString(), text);
+    EXPECT_TRUE(Text().isReadOnly());
+    QTest::keyClicks(&Text(), QStringLiteral("x"));
+    EXPECT_EQ(Text().toPlainText().toStdString(), text);
+    EXPECT_TRUE(QFontInfo(Text().font()).fixedPitch());
     EXPECT_EQ(Find<QLabel>(*form, "FindingsLabel")->text().remove(u'&'),
               QStringLiteral("What the book check finds in this block:"));
     EXPECT_EQ(Find<QPushButton>(*form, "CloseButton")->text(), QStringLiteral("Close"));
-    for (const char* name : {"Text1", "FindingsBox"}) {
-        const QString before = Box(name).toPlainText();
-        EXPECT_TRUE(Box(name).isReadOnly()) << name;
-        QTest::keyClicks(&Box(name), QStringLiteral("x"));
-        EXPECT_EQ(Box(name).toPlainText(), before) << name;
+    ASSERT_EQ(Findings().count(), 2);
+    EXPECT_EQ(Findings().item(0)->text().toStdString(), "Line 1, error: First \xC3\xA9.");
+    EXPECT_EQ(Findings().item(1)->text().toStdString(), "Line 2, warning: Second.");
+    EXPECT_FALSE(Text().textCursor().hasSelection()) << "none is chosen yet";
+    EXPECT_EQ(form->focusWidget(), Find<QWidget>(*form, "CloseButton"));
+}
+
+TEST_F(TempFormTest, findingThatIsChosen_showsItsLine)
+{
+    std::string text;
+    for (int i = 1; i <= 500; ++i) {
+        text += "line " + std::to_string(i) + "\r\n";
     }
-    EXPECT_TRUE(QFontInfo(Box("Text1").font()).fixedPitch());
+    std::vector<Finding> findings = TwoFindings();
+    findings[1].line = 400;
+    Load(text, findings);
+    Key(Qt::Key_C, Qt::AltModifier);
+    EXPECT_EQ(form->focusWidget(), &Findings());
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Text().textCursor().selectedText(), QStringLiteral("line 400"));
+    EXPECT_TRUE(Text().rect().contains(Text().cursorRect()));
+    EXPECT_EQ(form->focusWidget(), &Findings()) << "the next one can be chosen";
+    Key(Qt::Key_Up);
+    EXPECT_EQ(Text().textCursor().selectedText(), QStringLiteral("line 1"));
+}
+
+TEST_F(TempFormTest, nothingFound_saysSoInPlaceOfTheList)
+{
+    Load("x");
+    EXPECT_EQ(Find<QLabel>(*form, "FindingsLabel")->text(),
+              QStringLiteral("The book check finds nothing in this block."));
+    EXPECT_FALSE(Findings().isVisible());
 }
 
 TEST_F(TempFormTest, closeButtonEnterAndEscape_unloadIt)
@@ -65,25 +106,25 @@ TEST_F(TempFormTest, closeButtonEnterAndEscape_unloadIt)
 
 TEST_F(TempFormTest, tabOrder_goesAsTheEyeGoes)
 {
-    Load("x", "y");
-    Box("Text1").setFocus();
+    Load("x", TwoFindings());
+    Text().setFocus();
     Strings order;
     for (int i = 0; i < 4; ++i) {
         order.push_back(form->focusWidget()->objectName().toStdString());
         Key(Qt::Key_Tab);
     }
-    EXPECT_EQ(order, (Strings{"Text1", "FindingsBox", "CloseButton", "Text1"}));
+    EXPECT_EQ(order, (Strings{"Text1", "FindingsList", "CloseButton", "Text1"}));
 }
 
 TEST_F(TempFormTest, resize_textTakesTheHeight)
 {
-    Load("x", "y");
-    const QSize text = Box("Text1").size();
-    const QSize findings = Box("FindingsBox").size();
+    Load("x", TwoFindings());
+    const QSize text = Text().size();
+    const QSize findings = Findings().size();
     form->resize(form->size() + QSize(90, 70));
     QTest::qWait(20);
-    EXPECT_EQ(Box("Text1").size(), text + QSize(90, 70));
-    EXPECT_EQ(Box("FindingsBox").size(), findings + QSize(90, 0));
+    EXPECT_EQ(Text().size(), text + QSize(90, 70));
+    EXPECT_EQ(Findings().size(), findings + QSize(90, 0));
 }
 
 } // namespace

@@ -68,7 +68,7 @@ Tour::Fault Tour::LookAtAdvisorTopic()
 {
     if (Fault fault = FindControls(); !fault.isEmpty())
         return fault;
-    if (!m_window.isActiveWindow())
+    if (!QTest::qWaitForWindowActive(&m_window))
         return QStringLiteral("the window is not the active one");
     if (Shown().isEmpty())
         return QStringLiteral("the pane is empty");
@@ -81,7 +81,7 @@ Tour::Fault Tour::LookAtAdvisorTopic()
 Tour::Fault Tour::LookAtQuestion()
 {
     const auto* answers = In<QComboBox>(m_form, "AnswerCombo");
-    if (answers == nullptr || !m_form->isActiveWindow())
+    if (answers == nullptr || !QTest::qWaitForWindowActive(m_form))
         return QStringLiteral("the advisor's window is not the active one");
     if (TextIn(m_form).isEmpty())
         return QStringLiteral("there is no question");

@@ -54,7 +54,7 @@ Tour::Fault Tour::LookAtEditor()
 {
     const auto* variables =
         m_form == nullptr ? nullptr : m_form->findChild<QComboBox*>(QStringLiteral("VarCombo"));
-    if (variables == nullptr || !m_form->isActiveWindow())
+    if (variables == nullptr || !QTest::qWaitForWindowActive(m_form))
         return QStringLiteral("the editor is not the active window");
     if (variables->count() < 2)
         return QStringLiteral("the tour needs a topic of two variables or more");
@@ -79,7 +79,7 @@ Tour::Fault Tour::PickVariable()
 
 Tour::Fault Tour::LookAtSpecification()
 {
-    if (m_form == nullptr || !m_form->isActiveWindow())
+    if (m_form == nullptr || !QTest::qWaitForWindowActive(m_form))
         return QStringLiteral("the results are not in the active window");
     if (!TextIn(m_form, "Text1").startsWith(QStringLiteral("<IXML>\n<LOGIC>\n")))
         return QStringLiteral("the block does not begin as it should");

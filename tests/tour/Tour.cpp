@@ -138,7 +138,7 @@ Tour::Fault Tour::LookAtOpenBook()
 {
     if (Fault fault = FindControls(); !fault.isEmpty())
         return fault;
-    if (!m_window.isActiveWindow())
+    if (!QTest::qWaitForWindowActive(&m_window))
         return QStringLiteral("the window is not the active one");
     if (!m_list->isVisible() || m_list->count() < 2)
         return QStringLiteral("the tour needs a book of two topics or more");
