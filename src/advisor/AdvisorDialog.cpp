@@ -92,6 +92,12 @@ void AdvisorDialog::NextButton_Click(const std::string& answer)
     }
 }
 
+void AdvisorDialog::Resume(FilePos position)
+{
+    m_cursor.Seek(position);
+    m_over = false;
+}
+
 void AdvisorDialog::Close()
 {
     m_over = true;

@@ -37,6 +37,13 @@ public:
     /// Whether the dialogue is over and its button reads "Close".
     [[nodiscard]] bool Over() const { return m_over; }
 
+    /// Where the dialogue's last read left the file. With a copy of the tables that is all of its state.
+    [[nodiscard]] FilePos Position() const { return m_cursor.Position(); }
+
+    /// Goes on from a state in which a question was on show: the tables have been put back to what they were
+    /// then, and this is the position of that moment. To be called before the program has ended only.
+    void Resume(FilePos position);
+
 private:
     /// What a round of AskNext came to.
     enum class Round

@@ -45,7 +45,11 @@ void CheckRuleForTarget(const RuleBase& base, Findings& findings)
     const bool concluded = std::any_of(own.rules.begin(), own.rules.end(), [&](const BlockRule& rule) {
         return rule.conclusion.var == base.Target();
     });
-    if (!concluded && own.logicLine != 0) {
+    if (base.Target().empty()) {
+        findings.Error("no-rule-for-target", TargetLine(base),
+                       "TARGET names no variable, so the reader is told at once that there is no question to "
+                       "ask: write a name behind it, or remove the line.");
+    } else if (!concluded && own.logicLine != 0) {
         const std::string target = FromBook(base.Target());
         findings.Error("no-rule-for-target", TargetLine(base),
                        "No rule of this topic concludes the target " + target +
@@ -215,7 +219,7 @@ void CheckAdviceReached(const RuleBase& base, Findings& findings)
             others = true;
             reached.AddOthers();
         }
-        if (!reached.Has(entry.id)) {
+        if (!reached.Has(entry.id) && entry.id.find(' ') == std::string::npos) { // blanks have their own
             ReportUnreached(base, reached, entry, findings);
         }
     }

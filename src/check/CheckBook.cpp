@@ -29,9 +29,13 @@ std::vector<const CheckedBlock*> InOrder(const BlockStore& store)
 
 void CheckBlock(const RuleBase& base, Findings& findings)
 {
+    CheckBlockFrame(base, findings);
+    CheckCommands(base, findings);
     CheckRuleForm(base, findings);
+    CheckEntries(base, findings);
     CheckQuestions(base, findings);
     CheckAdvice(base, findings);
+    CheckValues(base, findings);
     CheckCircles(base, findings);
     CheckOverlaps(base, findings);
 }

@@ -64,6 +64,7 @@ struct BlockEntry
     int line = 0;
     bool question = false;
     std::string id;          ///< in upper case, untrimmed
+    bool atStart = false;    ///< it begins its line
     bool registered = false; ///< a question that stands where the loader looks for it
     bool searched = false;   ///< its text can be found
     bool hasText = false;

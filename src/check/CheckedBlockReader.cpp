@@ -212,7 +212,8 @@ void CheckedBlockReader::OpenEntries(std::string_view line, const std::string& u
         entry.question = question == at;
         const std::size_t idFrom = at + (entry.question ? QuestionOpening : AdviceOpening).size();
         entry.id = upper.substr(idFrom, close - idFrom);
-        entry.registered = entry.question && at == start && m_registers;
+        entry.atStart = at == start;
+        entry.registered = entry.question && entry.atStart && m_registers;
         entry.searched = m_searched;
         m_block.entries.push_back(std::move(entry));
         m_open = true;

@@ -144,7 +144,8 @@ void CheckQuestionsUsed(const RuleBase& base, Findings& findings)
     std::vector<const BlockEntry*> unused;
     for (const BlockEntry& entry : base.Own().entries) {
         const VariableUse* const variable = base.Find(entry.id);
-        if (entry.registered && entry.id != base.Target() && (variable == nullptr || !variable->condition)) {
+        if (entry.registered && entry.id != base.Target() && entry.id.find(' ') == std::string::npos &&
+            (variable == nullptr || !variable->condition)) {
             unused.push_back(&entry);
         }
     }
