@@ -1,5 +1,6 @@
 #include "authoring/LogicBlockReader.h"
 
+#include "authoring/LogicLines.h"
 #include "authoring/LogicTags.h"
 #include "base/Quoted.h"
 #include "base/Text.h"
@@ -12,74 +13,11 @@ namespace ls::logic {
 namespace {
 
 constexpr std::size_t None = std::string_view::npos;
-constexpr std::size_t ShownLength = 32000; // of an entry's text; the advisor cuts what is longer
 
 bool IsBlank(std::string_view text)
 {
     return Trim(text).empty();
 }
-
-// The lines of a text as a book's file has them: a lone LF is an ordinary character.
-class Lines
-{
-public:
-    explicit Lines(std::string_view text) : m_text(text) {}
-
-    bool Next(std::string_view& line)
-    {
-        if (m_next >= m_text.size()) {
-            return false;
-        }
-        const std::size_t end = std::min(m_text.find('\r', m_next), m_text.size());
-        line = m_text.substr(m_next, end - m_next);
-        m_next = end + (m_text.substr(end).starts_with(LineEnd) ? 2 : 1);
-        ++m_number;
-        return true;
-    }
-
-    [[nodiscard]] int Number() const { return m_number; }
-
-private:
-    std::string_view m_text;
-    std::size_t m_next = 0;
-    int m_number = 0;
-};
-
-// The text of an entry as it is collected piece by piece.
-class EntryText
-{
-public:
-    void Add(std::string_view piece, bool last)
-    {
-        m_cut = m_cut || m_text.size() + piece.size() > ShownLength;
-        piece = Trim(piece);
-        if (!m_text.empty() && !(last && piece.empty())) {
-            m_text += LineEnd;
-        }
-        m_text += piece;
-    }
-
-    // Whether the advisor shows less of it than what would be left after blanks around its lines are gone.
-    [[nodiscard]] bool CutByBlanks() const { return m_cut && m_text.size() <= ShownLength; }
-
-    // On lines of its own, one that begins with "[" would start a topic. A blank in front keeps it text.
-    [[nodiscard]] std::string Take()
-    {
-        if (!OnOwnLines(m_text) || m_text.find('[') == None) {
-            return std::move(m_text);
-        }
-        std::string guarded;
-        for (std::size_t i = 0; i < m_text.size(); ++i) {
-            const bool lineStart = i == 0 || (i >= 2 && m_text[i - 1] == '\n' && m_text[i - 2] == '\r');
-            guarded.append(m_text[i] == '[' && lineStart ? " " : "").append(1, m_text[i]);
-        }
-        return guarded;
-    }
-
-private:
-    std::string m_text;
-    bool m_cut = false;
-};
 
 class Reader
 {

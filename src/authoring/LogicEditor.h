@@ -79,15 +79,20 @@ private:
         std::vector<Choice> choices;
         std::unordered_set<std::string> choiceKeys; ///< the names as the advisor compares them
     };
+    struct Place
+    {
+        LogicBox box = LogicBox::Logic;
+        int variable = -1;
+        int choice = -1;
+    };
     struct Unwritable
     {
-        LogicBox box;
-        int variable;
-        int choice;
+        Place place;
+        int line = 0;
         std::string where; ///< "Line 3 of the logic text"
-        int line;
-        char32_t character;
+        char32_t character = 0;
     };
+    class BookTexts;
 
     void Fill(const LogicBlock& block);
     [[nodiscard]] Variable* Selected();
@@ -95,7 +100,7 @@ private:
     void StoreTexts();
     void Show(int variable, int choice);
     void ShowChoice(int choice);
-    void GoTo(LogicBox box, int variable, int choice, int line);
+    void GoTo(const Place& place, int line);
     [[nodiscard]] std::optional<std::string> AskName(const std::string& prompt);
     [[nodiscard]] std::optional<LogicBlock> ToBookText(Unwritable* unwritable) const;
     [[nodiscard]] std::optional<LogicBlock> WritableBlock();

@@ -17,7 +17,6 @@ namespace {
 using namespace logic;
 
 constexpr std::size_t None = std::string_view::npos;
-constexpr std::size_t ShownLength = 32000; // of an entry's text; the advisor cuts what is longer
 constexpr std::size_t NamedFaults = 5;
 
 bool Contains(std::string_view text, std::string_view part)

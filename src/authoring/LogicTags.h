@@ -25,6 +25,9 @@ inline constexpr EntryTags AdviceTags = {"<AV ID=", "</AV>"};
 /// A text of one line that is shorter than this stands on the line of its tags.
 inline constexpr std::size_t OwnLinesLength = 60;
 
+/// An entry's text that is longer is cut by the advisor.
+inline constexpr std::size_t ShownLength = 32000;
+
 /// Whether an entry's text stands on lines of its own between its tags.
 [[nodiscard]] inline bool OnOwnLines(std::string_view text)
 {
