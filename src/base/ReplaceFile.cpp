@@ -8,11 +8,16 @@ namespace {
 
 constexpr int MaxNames = 99;
 
+// How a whole file gets its name: in place of another one, or only when nobody has it.
+using GiveName = FileError (FileSystem::*)(const std::string& from, const std::string& to);
+
 class Replacement : public OutputFile
 {
 public:
-    Replacement(FileSystem& files, std::string path, std::string newPath, std::unique_ptr<OutputFile> file)
-        : m_files(&files), m_path(std::move(path)), m_newPath(std::move(newPath)), m_file(std::move(file))
+    Replacement(FileSystem& files, GiveName giveName, std::string path, std::string newPath,
+                std::unique_ptr<OutputFile> file)
+        : m_files(&files), m_giveName(giveName), m_path(std::move(path)), m_newPath(std::move(newPath)),
+          m_file(std::move(file))
     {
     }
     ~Replacement() override { Drop(); }
@@ -31,7 +36,7 @@ public:
         }
         FileError failed = m_file->Finish();
         if (failed.Ok()) {
-            failed = m_files->RenameOver(m_newPath, m_path);
+            failed = (m_files->*m_giveName)(m_newPath, m_path);
         }
         if (failed.Ok()) {
             m_file.reset();
@@ -51,6 +56,7 @@ private:
     }
 
     FileSystem* m_files;
+    GiveName m_giveName;
     std::string m_path;
     std::string m_newPath;
     std::unique_ptr<OutputFile> m_file; ///< none once it has its name, or is dropped
@@ -73,6 +79,18 @@ FileError CheckReplaceable(FileSystem& files, const std::string& path)
     return files.SameFile(path, path) ? files.OpenForReading(path, Sharing::Shared, old) : FileError{};
 }
 
+FileError OpenBeside(FileSystem& files, GiveName giveName, const std::string& path,
+                     std::unique_ptr<OutputFile>& file)
+{
+    const std::string newPath = FreeNameBeside(files, path);
+    std::unique_ptr<OutputFile> newFile;
+    if (FileError failed = files.CreateNew(newPath, newFile); !failed.Ok()) {
+        return failed;
+    }
+    file = std::make_unique<Replacement>(files, giveName, path, newPath, std::move(newFile));
+    return {};
+}
+
 } // namespace
 
 FileError OpenToReplace(FileSystem& files, const std::string& path, std::unique_ptr<OutputFile>& file)
@@ -81,13 +99,16 @@ FileError OpenToReplace(FileSystem& files, const std::string& path, std::unique_
     if (FileError refused = CheckReplaceable(files, path); !refused.Ok()) {
         return refused;
     }
-    const std::string newPath = FreeNameBeside(files, path);
-    std::unique_ptr<OutputFile> newFile;
-    if (FileError failed = files.CreateNew(newPath, newFile); !failed.Ok()) {
-        return failed;
+    return OpenBeside(files, &FileSystem::RenameOver, path, file);
+}
+
+FileError OpenToCreate(FileSystem& files, const std::string& path, std::unique_ptr<OutputFile>& file)
+{
+    file.reset();
+    if (files.Exists(path)) {
+        return MakeFileError(error::FileAlreadyExists);
     }
-    file = std::make_unique<Replacement>(files, path, newPath, std::move(newFile));
-    return {};
+    return OpenBeside(files, &FileSystem::RenameToNew, path, file);
 }
 
 } // namespace ls

@@ -14,4 +14,7 @@ namespace ls {
 /// A folder is error 75, a device 68, a file that somebody else has locked 70: none of them is replaced.
 FileError OpenToReplace(FileSystem& files, const std::string& path, std::unique_ptr<OutputFile>& file);
 
+/// The same for a file that is to be new: `Finish` fails with 58 when anything has that name by then.
+FileError OpenToCreate(FileSystem& files, const std::string& path, std::unique_ptr<OutputFile>& file);
+
 } // namespace ls

@@ -9,8 +9,8 @@ namespace ls {
 const std::vector<CommandSpec>& CommandTable()
 {
     static const std::vector<CommandSpec> table = {
-        InfoCommand(),   TopicsCommand(), XrefsCommand(),  ShowCommand(), TextCommand(),
-        ExportCommand(), PagesCommand(),  AdviseCommand(), SaveCommand(), CheckCommand()};
+        InfoCommand(),  TopicsCommand(), XrefsCommand(), ShowCommand(),    TextCommand(), ExportCommand(),
+        PagesCommand(), AdviseCommand(), SaveCommand(),  ConvertCommand(), CheckCommand()};
     return table;
 }
 

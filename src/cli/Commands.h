@@ -8,6 +8,7 @@ namespace ls {
 [[nodiscard]] CommandSpec ExportCommand();
 [[nodiscard]] CommandSpec AdviseCommand();
 [[nodiscard]] CommandSpec CheckCommand();
+[[nodiscard]] CommandSpec ConvertCommand();
 [[nodiscard]] CommandSpec InfoCommand();
 [[nodiscard]] CommandSpec TopicsCommand();
 [[nodiscard]] CommandSpec XrefsCommand();

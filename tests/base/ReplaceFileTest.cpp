@@ -123,5 +123,31 @@ TEST_F(ReplaceFile, finishedTwice_isError52)
     EXPECT_EQ(file->Write("late").number, error::BadFileNumber);
 }
 
+TEST_F(ReplaceFile, createdFile_isThereOnceFinished)
+{
+    ASSERT_TRUE(OpenToCreate(files, "a.IDA", file).Ok());
+    EXPECT_TRUE(file->Write("one").Ok());
+    EXPECT_EQ(Names(), Strings{"a.IDA.new"});
+    EXPECT_TRUE(file->Finish().Ok());
+    EXPECT_EQ(Names(), Strings{"a.IDA"});
+    EXPECT_EQ(files["/work/a.IDA"], "one");
+}
+
+TEST_F(ReplaceFile, createdUnderAnExistingName_isError58)
+{
+    files["/work/a.IDA"] = "old";
+    EXPECT_EQ(OpenToCreate(files, "a.IDA", file).number, 58);
+    EXPECT_EQ(Names(), Strings{"a.IDA"});
+}
+
+TEST_F(ReplaceFile, createdNameTakenInTheMeantime_isError58AndKept)
+{
+    ASSERT_TRUE(OpenToCreate(files, "a.IDA", file).Ok());
+    files["/work/a.IDA"] = "other";
+    EXPECT_EQ(file->Finish().number, 58);
+    EXPECT_EQ(Names(), Strings{"a.IDA"});
+    EXPECT_EQ(files["/work/a.IDA"], "other");
+}
+
 } // namespace
 } // namespace ls
