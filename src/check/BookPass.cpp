@@ -1,23 +1,50 @@
 #include "check/BookPass.h"
 
+#include "base/Count16.h"
+#include "base/LineCursor.h"
 #include "base/Progress.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/XrefText.h"
 #include "check/BlockStore.h"
-#include "check/Findings.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace ls {
 
 namespace {
 
 constexpr FilePos ProgressStep = 8 * 1024 * 1024;
+constexpr float MarkupVersion = 5.0F;
+
+bool HasHighBytes(std::string_view line)
+{
+    constexpr std::uint64_t high = 0x8080808080808080U;
+    std::uint64_t all = 0;
+    std::size_t at = 0;
+    for (; at + sizeof(all) <= line.size(); at += sizeof(all)) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, line.data() + at, sizeof(word));
+        all |= word;
+    }
+    for (; at < line.size(); ++at) {
+        all |= static_cast<unsigned char>(line[at]);
+    }
+    return (all & high) != 0;
+}
+
+bool IsBlank(std::string_view line)
+{
+    return line.find_first_not_of(' ') == std::string_view::npos;
+}
 
 } // namespace
 
 BookPass::BookPass(const Book& book, Findings& findings, BlockStore& store, Progress* progress)
-    : m_book(book), m_findings(findings), m_store(store), m_progress(progress)
+    : m_book(book), m_findings(findings), m_store(store), m_progress(progress),
+      m_text(findings, book.BookVersion >= MarkupVersion), m_references(book, findings)
 {
 }
 
@@ -29,6 +56,7 @@ FileError BookPass::Run()
     if (FileError failed = m_book.File->Size(m_size); !failed.Ok()) {
         return failed;
     }
+    m_nextTopic = m_book.TopicCount > 0 ? m_book.TopicPos(1) : 0;
     LineCursor cursor(*m_book.File);
     std::string_view line;
     for (int number = 1; !cursor.AtEnd(); ++number) {
@@ -36,32 +64,229 @@ FileError BookPass::Run()
         if (FileError failed = cursor.ReadLine(line); !failed.Ok()) {
             return failed;
         }
-        number += static_cast<int>(std::count(line.begin(), line.end(), '\n'));
         TakeLine(line, pos, number);
+        CheckBytes(line, number);
         if (pos >= m_nextReport && !ReportProgress(pos)) {
             break;
         }
     }
     EndTopic();
+    m_references.Finish();
     return {};
+}
+
+// Steps over the lines that an editor sees in a line of the book.
+void BookPass::CheckBytes(std::string_view line, int& number)
+{
+    if (HasHighBytes(line)) {
+        m_text.TakeHighBytes(line, number);
+    }
+    if (line.find('\n') != std::string_view::npos) {
+        m_text.TakeLoneLf(number);
+        number += static_cast<int>(std::count(line.begin(), line.end(), '\n'));
+    }
 }
 
 void BookPass::TakeLine(std::string_view line, FilePos pos, int number)
 {
-    if (m_topic < m_book.TopicCount && pos == m_book.TopicPos(static_cast<std::size_t>(m_topic) + 1)) {
-        EndTopic();
-        ++m_topic;
+    if (pos == 1) {
+        CheckHeader(line);
+    } else if (pos >= m_book.ScanEndPos) {
+        TakeBehindEnd(line, pos, number);
+    } else if (pos == m_nextTopic) {
+        BeginTopic(number);
+    } else if (m_references.InNote()) {
+        m_references.Take(line, number);
+        if (m_references.TextBehind()) {
+            TellNeverShown(number, "Text behind a cross reference");
+        }
+        if (EqualsUpper(Trim(line), "<IXML>")) {
+            TakeBody(line, number);
+        }
+    } else {
+        TakeBody(line, number);
+    }
+}
+
+void BookPass::CheckHeader(std::string_view line)
+{
+    BookHeader header;
+    if (!ParseBookHeader(line, header)) {
+        m_findings.Error(
+            "header-keys", 1,
+            "The header holds a key other than AUTHOR, COPYRIGHT, URL and POST, or a \"/\" without "
+            "\"=\", so the reader gets a warning at every opening: remove it.");
+    }
+}
+
+void BookPass::TakeBody(std::string_view line, int number)
+{
+    const bool reference = line.starts_with(XrefOpening);
+    if (m_topic == 0) {
+        if (!IsBlank(line)) {
+            TellNeverShown(number, "Text before the first topic");
+        }
+        if (reference) {
+            m_references.Open(line, number);
+        }
         return;
     }
     if (m_block) {
         m_block->Take(line, number);
-    } else if (m_topic > 0 && pos < m_book.ScanEndPos && EqualsUpper(Trim(line), "<IXML>")) {
+    } else if (!line.empty() && (line.front() == '<' || line.front() == ' ') &&
+               EqualsUpper(Trim(line), "<IXML>")) {
+        m_text.EndShown();
         m_block.emplace(m_topic, number);
+        return;
+    } else {
+        TakeText(line, number);
+    }
+    if (reference) {
+        m_references.Open(line, number);
+        if (m_references.TextBehind()) {
+            TellNeverShown(number, "Text behind a cross reference");
+        }
+    }
+}
+
+void BookPass::TakeText(std::string_view line, int number)
+{
+    if (!line.empty() && line.front() == '[') {
+        m_findings.Error(
+            "bracket-line", number,
+            "A line that begins with \"[\" ends the topic, so the reader never sees what stands from "
+            "here to the next title: begin the line with something else.");
+        m_hidden = m_toldHidden = true;
+        return;
+    }
+    if (line.starts_with('<') || line.starts_with(' ')) {
+        TakeTag(line, number);
+    }
+    if (BeginsUpper(line, "<XREF")) {
+        m_text.EndShown();
+        m_hidden = true;
+    } else if (m_hidden) {
+        if (!IsBlank(line)) {
+            TellNeverShown(number, "Text behind a cross reference");
+        }
+    } else {
+        m_text.TakeShown(line, number);
+        if (++m_lines == Count16::Max + 1) {
+            m_findings.Error(
+                "too-many", number,
+                "The topic has more than 32,767 lines, so the reader gets the box \"Overflow\" and "
+                "never sees those from here on: divide it.");
+        }
+    }
+}
+
+// Tags of whole lines that are not where, or as, they must be.
+void BookPass::TakeTag(std::string_view line, int number)
+{
+    const std::string_view trimmed = TrimLeft(line);
+    if (trimmed.empty() || trimmed.front() != '<') {
+        return;
+    }
+    CheckCutBlock(trimmed);
+    if (BeginsUpper(trimmed, "<IXML>") || BeginsUpper(trimmed, "<LOGIC>")) {
+        m_findings.Warning(
+            "tag-place", number,
+            BeginsUpper(trimmed, "<IXML>")
+                ? "\"<IXML>\" does not stand alone on its line, so it is text and the reader finds "
+                  "no advisor: part the line behind it."
+                : "\"<LOGIC>\" stands without \"<IXML>\" before it, so the rules are text and the "
+                  "reader finds no advisor: add a line \"<IXML>\" before it.");
+    } else if (BeginsUpper(trimmed, XrefOpening) && trimmed.size() != line.size()) {
+        m_findings.Warning(
+            "tag-place", number,
+            "The cross reference does not begin its line, so the reader is not offered it: remove the "
+            "blanks before it.");
+    } else if (BeginsUpper(trimmed, "<XREF") && !trimmed.starts_with(XrefOpening)) {
+        m_findings.Warning(
+            "tag-case", number,
+            "Only \"<XREF TOPIC=\" in capital letters opens a cross reference, so the reader is not "
+            "offered this one and the text behind it is hidden: write it so.");
+    }
+}
+
+// The end of a block without its beginning: the title of this topic is a line of the block before it.
+void BookPass::CheckCutBlock(std::string_view tag)
+{
+    if (m_cutLine == 0) {
+        return;
+    }
+    for (const std::string_view end : {"</LOGIC>", "<DEFINITIONS>", "</DEFINITIONS>", "</IXML>"}) {
+        if (EqualsUpper(TrimRight(tag), end)) {
+            m_findings.Error(
+                "bracket-in-block", m_cutLine,
+                "A line that begins with \"[\" in a logic block begins a new topic, so the reader's "
+                "advisor misses all that stands behind it: begin the line with something else.");
+            m_cutLine = 0;
+            return;
+        }
+    }
+}
+
+void BookPass::TellNeverShown(int number, std::string_view why)
+{
+    if (!m_toldHidden) {
+        m_toldHidden = true;
+        m_findings.Warning("text-never-shown", number,
+                           std::string(why) +
+                               " is never shown to the reader: move it into the text of a topic, "
+                               "before its first cross reference.");
+    }
+}
+
+// The scan has stopped at this line or an earlier one.
+void BookPass::TakeBehindEnd(std::string_view line, FilePos pos, int number)
+{
+    if (pos == m_book.ScanEndPos) {
+        EndTopic();
+        m_topic = 0;
+        m_findings.InTopic(std::string());
+        m_endLine = number;
+        if (line == "<INDEX>") {
+            m_findings.Error(
+                "index-section", number,
+                "An index section ends the book and empties its list of topics, so the reader finds "
+                "none: remove it.");
+            m_toldBehindEnd = true;
+        }
+    } else if (line.size() > 2 && line.front() == '[' && !m_toldBehindEnd) {
+        m_toldBehindEnd = true;
+        m_findings.Error(
+            "after-eof", number,
+            "The line \"[EOF]\" in line " + std::to_string(m_endLine) +
+                " ends the book, so the reader does not find the topics from here on: remove that "
+                "line.");
+    }
+}
+
+void BookPass::BeginTopic(int number)
+{
+    m_cutLine = m_block && !m_block->Closed() ? number : 0;
+    EndTopic();
+    ++m_topic;
+    m_nextTopic = m_topic < m_book.TopicCount ? m_book.TopicPos(static_cast<std::size_t>(m_topic) + 1) : 0;
+    m_findings.InTopic(m_store.Title(m_topic));
+    m_text.BeginTopic();
+    m_lines = 0;
+    m_hidden = m_toldHidden = false;
+    const auto [first, added] =
+        m_titles.emplace(m_book.TopicNames(static_cast<std::size_t>(m_topic)), number);
+    if (!added) {
+        m_findings.Warning(
+            "topic-twice", number,
+            "The topic in line " + std::to_string(first->second) +
+                " has the same title, so a reader who follows a cross reference always comes to that "
+                "one: give them different titles.");
     }
 }
 
 void BookPass::EndTopic()
 {
+    m_text.EndShown();
     if (m_block) {
         m_store.Put(m_block->Finish());
         m_block.reset();

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "base/FileError.h"
-#include "base/LineCursor.h"
+#include "base/FilePos.h"
 #include "check/CheckedBlockReader.h"
+#include "check/ReferenceRules.h"
+#include "check/TextRules.h"
 
-#include <cstdint>
 #include <optional>
 #include <string_view>
+#include <unordered_map>
 
 namespace ls {
 
@@ -17,7 +19,7 @@ class Progress;
 
 /// One pass over a book's file: it checks what a line tells by itself, and gathers the logic blocks.
 ///
-/// Where topics begin is what the book's own scan says.
+/// Where topics begin, and where the book ends, is what the book's own scan says.
 class BookPass
 {
 public:
@@ -27,7 +29,16 @@ public:
     FileError Run();
 
 private:
+    void CheckHeader(std::string_view line);
+    void CheckBytes(std::string_view line, int& number);
     void TakeLine(std::string_view line, FilePos pos, int number);
+    void TakeBody(std::string_view line, int number);
+    void TakeText(std::string_view line, int number);
+    void TakeTag(std::string_view line, int number);
+    void CheckCutBlock(std::string_view tag);
+    void TakeBehindEnd(std::string_view line, FilePos pos, int number);
+    void TellNeverShown(int number, std::string_view why);
+    void BeginTopic(int number);
     void EndTopic();
     bool ReportProgress(FilePos pos);
 
@@ -35,10 +46,21 @@ private:
     Findings& m_findings;
     BlockStore& m_store;
     Progress* m_progress;
+    TextRules m_text;
+    ReferenceRules m_references;
     FilePos m_size = 0;
     FilePos m_nextReport = 0;
+    FilePos m_nextTopic = 0; ///< where the next topic begins; 0 when none follows
+
     int m_topic = 0;
+    int m_lines = 0;           ///< of the topic's displayed text
+    bool m_hidden = false;     ///< a cross reference hides what follows
+    bool m_toldHidden = false; ///< text that is never shown was found in this topic
+    int m_endLine = 0;         ///< of "[EOF]"
+    bool m_toldBehindEnd = false;
+    int m_cutLine = 0; ///< of this topic's title when the block before it was not closed
     std::optional<CheckedBlockReader> m_block;
+    std::unordered_map<std::string_view, int> m_titles; ///< with their lines
 };
 
 } // namespace ls

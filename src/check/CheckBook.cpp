@@ -6,6 +6,7 @@
 #include "check/BlockRules.h"
 #include "check/BlockStore.h"
 #include "check/BookPass.h"
+#include "check/DialogueRules.h"
 
 #include <algorithm>
 
@@ -40,30 +41,49 @@ void CheckBlock(const RuleBase& base, Findings& findings)
     CheckOverlaps(base, findings);
 }
 
-std::vector<Finding> CheckBook(const Book& book, const Seams& /*seams*/, Progress* progress,
-                               FileError& failed)
+std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* progress, FileError& failed)
 {
     Findings findings(FromPath(book.BookPath));
     BlockStore store(book, BlockSource::Given);
     BookPass pass(book, findings, store, progress);
     failed = pass.Run();
+    DialogueBook dialogues(book);
+    bool goOn = true;
     for (const CheckedBlock* block : InOrder(store)) {
+        if (!goOn) {
+            break;
+        }
         findings.InTopic(store.Title(block->topic));
-        CheckBlock(RuleBase(*block, store), findings);
+        const RuleBase base(*block, store);
+        const int errors = findings.ErrorCount();
+        CheckBlock(base, findings);
+        CheckDialogues(dialogues, seams, base, findings.ErrorCount() > errors, findings);
+        goOn = progress == nullptr || progress->Step(1, 1); // the file is through
     }
     return findings.TakeSorted();
 }
 
-std::vector<Finding> CheckLogicText(const Book& book, const Seams& /*seams*/, int topic,
-                                    const std::string& text)
+std::vector<Finding> CheckLogicText(const Book& book, const Seams& seams, int topic, const std::string& text)
 {
     Findings findings{std::string()};
     BlockStore store(book, BlockSource::Edited);
-    if (std::unique_ptr<CheckedBlock> block = ReadLogicText(text, topic)) {
-        findings.InTopic(store.Title(topic));
-        store.Put(std::move(*block));
-        CheckBlock(RuleBase(*store.Find(topic), store), findings);
+    std::unique_ptr<CheckedBlock> block = ReadLogicText(text, topic);
+    if (topic < 1 || topic > book.TopicCount || block == nullptr) {
+        return {};
     }
+    findings.InTopic(store.Title(topic));
+    store.Put(std::move(*block));
+    const RuleBase base(*store.Find(topic), store);
+    CheckBlock(base, findings);
+    DialogueBook dialogues(book);
+    dialogues.Replace(topic, text);
+    for (const CheckedBlock* other : base.Blocks()) {
+        const std::string& edited = book.TopicRecs(static_cast<std::size_t>(other->topic)).Logic;
+        if (other != &base.Own() && !edited.empty()) {
+            dialogues.Replace(other->topic, edited);
+        }
+    }
+    CheckDialogues(dialogues, seams, base, findings.ErrorCount() > 0, findings);
     return findings.TakeSorted();
 }
 

@@ -23,6 +23,9 @@ public:
 
     void Take(std::string_view line, int number);
 
+    /// Whether "</IXML>" was passed.
+    [[nodiscard]] bool Closed() const { return m_block.blockEnd != 0; }
+
     /// The block, when its last line has been taken.
     [[nodiscard]] CheckedBlock Finish();
 

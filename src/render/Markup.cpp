@@ -81,6 +81,16 @@ char EntityCharacter(std::string_view name)
     return name == "AMP" ? '&' : '?';
 }
 
+bool IsKnownTag(std::string_view name)
+{
+    for (const TagEffect& tag : Tags) {
+        if (tag.name == name) {
+            return true;
+        }
+    }
+    return false;
+}
+
 void ApplyTag(TextSurface& surface, std::string_view name, TagColours colours)
 {
     for (const TagEffect& tag : Tags) {

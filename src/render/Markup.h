@@ -56,6 +56,9 @@ enum class TagColours
     LeftOut
 };
 
+/// Whether a tag of that name does anything. Names are compared with case.
+[[nodiscard]] bool IsKnownTag(std::string_view name);
+
 /// Sets the styles and the colour that a tag stands for; an unknown one does nothing. Names are compared with
 /// case. The end of a heading switches its styles off whoever switched them on.
 void ApplyTag(TextSurface& surface, std::string_view name, TagColours colours = TagColours::Applied);
