@@ -131,6 +131,22 @@ TEST_F(InfoFormTest, valueThatWouldBeMisread_asksAndStaysOpen)
     EXPECT_EQ(book.BookAuthor, "A\"/B");
 }
 
+TEST_F(InfoFormTest, okUntouched_keepsEveryByte)
+{
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        if (byte != '\r' && byte != '"' && byte != '/') {
+            bytes += static_cast<char>(byte);
+        }
+    }
+    book.BookCopyright = bytes;
+    Load();
+    test::Press(*form, "OKBox");
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(book.BookCopyright, bytes);
+    EXPECT_EQ(world.messages.Take(), Strings{});
+}
+
 TEST_F(InfoFormTest, longValues_areKeptWhole)
 {
     const std::string author(40000, 'a');

@@ -117,7 +117,7 @@ TEST_F(TxEdFormTest, done_storesTheTextAndCloses)
 TEST_F(TxEdFormTest, doneUntouched_keepsEveryByte)
 {
     std::string bytes;
-    for (int byte = 1; byte < 256; ++byte) {
+    for (int byte = 0; byte < 256; ++byte) {
         if (byte != '\r' && byte != '\n') {
             bytes += static_cast<char>(byte);
         }
