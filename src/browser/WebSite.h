@@ -5,6 +5,6 @@
 namespace ls {
 
 /// The program's own web site, as messages name it.
-inline constexpr std::string_view ProgramsWebSite = "http://www.lodestar-ideas.example/";
+inline constexpr std::string_view ProgramsWebSite = "http://www.lodestar-advisor.example/";
 
 } // namespace ls

@@ -12,7 +12,7 @@ using Strings = std::vector<std::string>;
 
 const std::string Program =
     "information|Lodestar Advisor|Lodestar Advisor, version 5.3. Copyright (c) 2026 The "
-    "Lodestar Advisor authors. It is available at http://www.lodestar-ideas.example/";
+    "Lodestar Advisor authors. It is available at http://www.lodestar-advisor.example/";
 
 struct AboutTest : testing::Test
 {

@@ -20,7 +20,7 @@ constexpr const char* NoBrowser = "exclamation|Lodestar Advisor|I need a web bro
                                   "site, but your registry does not "
                                   "have an unambiguous reference to a single browser. To look up Lodestar "
                                   "Ideas on the web, please start your "
-                                  "browser and go to this web site: http://www.lodestar-ideas.example/";
+                                  "browser and go to this web site: http://www.lodestar-advisor.example/";
 
 struct WebReferralTest : testing::Test
 {

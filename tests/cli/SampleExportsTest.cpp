@@ -1,5 +1,5 @@
-// The sample books' exports, byte for byte. scripts/update-exports writes what is expected anew after a
-// sample was changed on purpose.
+// The sample books as exported, byte for byte, against the pages that tests/data/exports/model.py wrote; it
+// writes them anew when a sample has changed.
 
 #include "CliFixture.h"
 
