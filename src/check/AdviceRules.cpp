@@ -62,7 +62,8 @@ void CheckRuleForTarget(const RuleBase& base, Findings& findings)
 void CheckTargetQuestion(const RuleBase& base, Findings& findings)
 {
     const std::string& target = base.Target();
-    if (target != DefaultGoal && !target.empty() && base.Question(target) == nullptr) {
+    const bool hasBlank = target.find(' ') != std::string::npos; // which has its own finding
+    if (target != DefaultGoal && !target.empty() && !hasBlank && base.Question(target) == nullptr) {
         const std::string name = FromBook(target);
         findings.Warning("target-without-question", TargetLine(base),
                          "The target " + name +

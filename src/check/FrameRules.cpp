@@ -15,8 +15,8 @@ void CheckLogicTag(const CheckedBlock& block, Findings& findings)
             "box only: write it on the next line, or remove this one.");
     } else if (!block.logicIsNext) {
         findings.Error("ixml-without-logic", block.line,
-                       "\"<LOGIC>\" does not stand on the next line, so the logic editor does not take this "
-                       "block and its reader cannot be helped there: remove what stands between.");
+                       "\"<LOGIC>\" does not stand on the next line, so the logic editor does not open this "
+                       "block, though the reader's advisor works: remove what stands between.");
     }
 }
 

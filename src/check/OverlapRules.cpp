@@ -36,16 +36,18 @@ bool CheckContradiction(const BlockRule& rule, const TermSet& conditions, Findin
     if (twice == conditions.end()) {
         return false;
     }
+    // Any of the two answers takes out one condition; the other one is left to be asked for.
     findings.Warning(
         "contradictory-rule", rule.line,
-        "The rule can never fire, since " + Fact(twice->first, twice->second) + " and " +
-            Fact(twice->first, std::next(twice)->second) +
-            " never hold together for any reader: remove one of them (ASSUME puts conditions in, "
-            "too).");
+        Fact(twice->first, twice->second) + " and " + Fact(twice->first, std::next(twice)->second) +
+            " never hold together, but the program takes either answer and then asks the reader for " +
+            FromBook(twice->first) +
+            " again, or takes the other value as given: remove one of them (ASSUME puts conditions "
+            "in, too).");
     return true;
 }
 
-// An answer takes out the first place of a condition only; the second is asked again.
+// The answer takes out one of the two, and the other one is then taken as given.
 void CheckDoubledCondition(const BlockRule& rule, const TermSet& conditions, Findings& findings)
 {
     if (conditions.size() == rule.conditions.size()) {
@@ -56,8 +58,8 @@ void CheckDoubledCondition(const BlockRule& rule, const TermSet& conditions, Fin
         if (!known.emplace(term.var, term.value).second) {
             findings.Warning("doubled-condition", rule.line,
                              "The rule has the condition " + Fact(term.var, term.value) +
-                                 " twice, so the reader is asked for " + FromBook(term.var) +
-                                 " again: remove one of them (ASSUME puts conditions in, too).");
+                                 " twice, which counts double when the reader's next question is chosen: "
+                                 "remove one of them (ASSUME puts conditions in, too).");
             return;
         }
     }

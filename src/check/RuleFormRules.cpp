@@ -35,7 +35,7 @@ void CheckBrackets(const BlockRule& rule, Findings& findings)
     if (rule.fault == RuleFault::Brackets) {
         findings.Error("brackets", rule.line,
                        "The brackets of the conditions do not pair up, or no name stands before them, so the "
-                       "rule never holds for any reader: write each condition as VARIABLE(VALUE).");
+                       "rule may never hold for any reader: write each condition as VARIABLE(VALUE).");
     }
 }
 
@@ -81,7 +81,7 @@ void CheckValueCharacters(const BlockTerm& term, int line, Findings& findings)
         findings.Error(
             "value-bracket", line,
             "The value of " + Fact(term) +
-                ") holds a bracket, so its rule never holds for any reader: leave the bracket out.");
+                ") holds a bracket, so its rule may never hold for any reader: leave the bracket out.");
     }
 }
 

@@ -14,12 +14,15 @@ namespace ls::test {
 
 namespace {
 
-// Puts bytes for "{XX}".
+// Puts bytes for "{XX}", and so many "x" for "{xNUMBER}".
 std::string Bytes(const std::string& text)
 {
     std::string bytes;
     for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text[at] == '{' && at + 3 < text.size() && text[at + 3] == '}') {
+        if (text.compare(at, 2, "{x") == 0) {
+            bytes.append(static_cast<std::size_t>(std::stoi(text.substr(at + 2))), 'x');
+            at = text.find('}', at);
+        } else if (text[at] == '{' && at + 3 < text.size() && text[at + 3] == '}') {
             bytes += static_cast<char>(std::stoi(text.substr(at + 1, 2), nullptr, 16));
             at += 3;
         } else {

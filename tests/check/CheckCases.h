@@ -18,7 +18,7 @@ struct CheckCase
 };
 
 /// All cases of tests/data/check. In a file "== NAME" begins a case, "--" ends its book, and the findings
-/// follow. A book that begins with a topic gets a header line; "{XX}" stands for a byte, and a line that
+/// follow. A book that begins with a topic gets a header line; "{XX}" stands for a byte, "{xN}" for N letters, and a line that
 /// ends in "{}" is joined with the next one.
 [[nodiscard]] std::vector<CheckCase> ReadCheckCases();
 
