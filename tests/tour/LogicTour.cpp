@@ -24,15 +24,14 @@ QString TextIn(const QWidget* window, const char* box)
 
 bool Tour::TakeLogicEditor()
 {
-    if (!Report(QStringLiteral("Edit"), OpenMenu("EditMenu")))
-        return false;
-    const auto open = [this] { return ClickItem(m_window, "EditMenu", "AdviceEdItem"); };
-    return WalkForm("LgEdForm", open, &Tour::WalkEditor);
+    return WalkEditItem("AdviceEdItem", "LgEdForm", &Tour::WalkEditor);
 }
 
 bool Tour::WalkEditor()
 {
-    if (!TakeSteps({{"editor", &Tour::LookAtEditor}, {"variable", &Tour::PickVariable}}))
+    if (!TakeSteps({{"editor", &Tour::LookAtEditor},
+                    {"variable", &Tour::PickVariable},
+                    {"choice", &Tour::PickChoice}}))
         return false;
     if (!Report(QStringLiteral("Show"), OpenMenu(*m_form, "ShowMenu")))
         return false;
@@ -75,6 +74,21 @@ Tour::Fault Tour::PickVariable()
             return QStringLiteral("variable %1 was not picked").arg(i + 1);
     }
     return TextIn(m_form, "VQuestionBox").isEmpty() ? QStringLiteral("no question is shown") : Fault();
+}
+
+/// The first variable is the goal: its first choice comes up with its advice; the second is picked by keys.
+Tour::Fault Tour::PickChoice()
+{
+    auto* variables = m_form->findChild<QComboBox*>(QStringLiteral("VarCombo"));
+    auto* choices = m_form->findChild<QComboBox*>(QStringLiteral("AnswerCombo"));
+    QTest::keyClick(m_form->windowHandle(), Qt::Key_Home);
+    if (variables->currentIndex() != 0 || choices->count() < 2)
+        return QStringLiteral("the choices of the first variable are not listed");
+    const QString before = TextIn(m_form, "VCAnswerBox");
+    choices->setFocus();
+    QTest::keyClick(m_form->windowHandle(), Qt::Key_Down);
+    const QString after = TextIn(m_form, "VCAnswerBox");
+    return after.isEmpty() || after == before ? QStringLiteral("the advice did not change") : Fault();
 }
 
 Tour::Fault Tour::LookAtSpecification()

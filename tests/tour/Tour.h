@@ -74,6 +74,7 @@ private:
 
     Fault LookAtEditor();
     Fault PickVariable();
+    Fault PickChoice();
     Fault LookAtSpecification();
 
     [[nodiscard]] bool TakeAuthor();
