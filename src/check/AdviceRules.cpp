@@ -240,7 +240,7 @@ void CheckAdvicePlace(const RuleBase& base, Findings& findings)
         }
     }
     for (const BlockEntry& entry : base.Own().entries) {
-        if (!entry.question && entry.line < lastQuestion) {
+        if (!entry.question && entry.id.find('(') == std::string::npos && entry.line < lastQuestion) {
             findings.Warning(
                 "advice-before-question", entry.line,
                 "Without a TARGET advice is searched behind the question that was asked last, so "

@@ -9,6 +9,7 @@
 #include "check/BlockStore.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 
@@ -19,20 +20,56 @@ namespace {
 constexpr FilePos ProgressStep = 8 * 1024 * 1024;
 constexpr float MarkupVersion = 5.0F;
 
-bool HasHighBytes(std::string_view line)
+// Sixteen bytes that are compared at once, on processors that can; the compiler sees to the others.
+using Bytes = std::uint8_t __attribute__((vector_size(16)));
+
+bool Any(const Bytes& bytes)
 {
-    constexpr std::uint64_t high = 0x8080808080808080U;
-    std::uint64_t all = 0;
-    std::size_t at = 0;
-    for (; at + sizeof(all) <= line.size(); at += sizeof(all)) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, line.data() + at, sizeof(word));
-        all |= word;
+    std::array<std::uint64_t, 2> words{};
+    static_assert(sizeof(words) == sizeof(bytes));
+    std::memcpy(words.data(), &bytes, sizeof(bytes));
+    return (words[0] | words[1]) != 0;
+}
+
+// Gathers what there is to be looked at in a line. Most have nothing of it, so it must be told fast.
+class MarkFinder
+{
+public:
+    void Take(const char* from, std::size_t size)
+    {
+        Bytes bytes{};
+        std::memcpy(&bytes, from, size);
+        m_high |= bytes;
+        m_tag |= static_cast<Bytes>(bytes == '<');
+        m_entity |= static_cast<Bytes>(bytes == '&');
+        m_lf |= static_cast<Bytes>(bytes == '\n');
     }
-    for (; at < line.size(); ++at) {
-        all |= static_cast<unsigned char>(line[at]);
+
+    [[nodiscard]] LineMarks Marks() const
+    {
+        return {Any(m_high & 0x80), Any(m_tag), Any(m_entity), Any(m_lf)};
     }
-    return (all & high) != 0;
+
+private:
+    Bytes m_high{};
+    Bytes m_tag{};
+    Bytes m_entity{};
+    Bytes m_lf{};
+};
+
+LineMarks MarksOf(std::string_view line)
+{
+    MarkFinder finder;
+    if (line.size() < sizeof(Bytes)) {
+        finder.Take(line.data(), line.size());
+        return finder.Marks();
+    }
+    const std::size_t last = line.size() - sizeof(Bytes);
+    for (std::size_t at = 0; at < last; at += sizeof(Bytes)) {
+        finder.Take(line.data() + at, sizeof(Bytes));
+    }
+    finder.Take(line.data() + last, sizeof(Bytes)); // some of them twice
+    return finder.Marks();
 }
 
 bool IsBlank(std::string_view line)
@@ -44,8 +81,16 @@ bool IsBlank(std::string_view line)
 
 BookPass::BookPass(const Book& book, Findings& findings, BlockStore& store, Progress* progress)
     : m_book(book), m_findings(findings), m_store(store), m_progress(progress),
-      m_text(findings, book.BookVersion >= MarkupVersion), m_references(book, findings)
+      m_text(findings, book.BookVersion >= MarkupVersion), m_references(m_titles, findings)
 {
+    m_titles.reserve(static_cast<std::size_t>(book.TopicCount));
+    for (int i = 1; i <= book.TopicCount; ++i) {
+        const auto [first, added] = m_titles.emplace(book.TopicNames(static_cast<std::size_t>(i)), i);
+        if (!added) {
+            m_doubled.emplace(i, first->second);
+            m_firstLines.emplace(first->second, 0);
+        }
+    }
 }
 
 FileError BookPass::Run()
@@ -64,6 +109,7 @@ FileError BookPass::Run()
         if (FileError failed = cursor.ReadLine(line); !failed.Ok()) {
             return failed;
         }
+        m_marks = MarksOf(line);
         TakeLine(line, pos, number);
         CheckBytes(line, number);
         if (pos >= m_nextReport && !ReportProgress(pos)) {
@@ -78,10 +124,10 @@ FileError BookPass::Run()
 // Steps over the lines that an editor sees in a line of the book.
 void BookPass::CheckBytes(std::string_view line, int& number)
 {
-    if (HasHighBytes(line)) {
+    if (m_marks.high) {
         m_text.TakeHighBytes(line, number);
     }
-    if (line.find('\n') != std::string_view::npos) {
+    if (m_marks.lf) {
         m_text.TakeLoneLf(number);
         number += static_cast<int>(std::count(line.begin(), line.end(), '\n'));
     }
@@ -96,6 +142,9 @@ void BookPass::TakeLine(std::string_view line, FilePos pos, int number)
     } else if (pos == m_nextTopic) {
         BeginTopic(number);
     } else if (m_references.InNote()) {
+        if (m_noteBracket == 0 && line.starts_with('[')) {
+            m_noteBracket = number;
+        }
         m_references.Take(line, number);
         if (m_references.TextBehind()) {
             TellNeverShown(number, "Text behind a cross reference");
@@ -136,6 +185,12 @@ void BookPass::TakeBody(std::string_view line, int number)
     } else if (!line.empty() && (line.front() == '<' || line.front() == ' ') &&
                EqualsUpper(Trim(line), "<IXML>")) {
         m_text.EndShown();
+        if (m_noteBracket != 0) {
+            m_findings.Error(
+                "bracket-line", m_noteBracket,
+                "A line of a note that begins with \"[\" hides the logic block behind it, so the "
+                "reader gets no Advisor button: begin the line with something else.");
+        }
         m_block.emplace(m_topic, number);
         return;
     } else {
@@ -159,10 +214,11 @@ void BookPass::TakeText(std::string_view line, int number)
         m_hidden = m_toldHidden = true;
         return;
     }
-    if (line.starts_with('<') || line.starts_with(' ')) {
+    const bool tag = m_marks.tag && (line.front() == '<' || line.front() == ' ');
+    if (tag) {
         TakeTag(line, number);
     }
-    if (BeginsUpper(line, "<XREF")) {
+    if (tag && BeginsUpper(line, "<XREF")) {
         m_text.EndShown();
         m_hidden = true;
     } else if (m_hidden) {
@@ -170,7 +226,9 @@ void BookPass::TakeText(std::string_view line, int number)
             TellNeverShown(number, "Text behind a cross reference");
         }
     } else {
-        m_text.TakeShown(line, number);
+        if (m_marks.tag || m_marks.entity) {
+            m_text.TakeShown(line, number, m_marks.entity);
+        }
         if (++m_lines == Count16::Max + 1) {
             m_findings.Error(
                 "too-many", number,
@@ -272,13 +330,20 @@ void BookPass::BeginTopic(int number)
     m_findings.InTopic(m_store.Title(m_topic));
     m_text.BeginTopic();
     m_lines = 0;
+    m_noteBracket = 0;
     m_hidden = m_toldHidden = false;
-    const auto [first, added] =
-        m_titles.emplace(m_book.TopicNames(static_cast<std::size_t>(m_topic)), number);
-    if (!added) {
+    CheckTitle(number);
+}
+
+void BookPass::CheckTitle(int number)
+{
+    if (const auto first = m_firstLines.find(m_topic); first != m_firstLines.end()) {
+        first->second = number;
+    }
+    if (const auto doubled = m_doubled.find(m_topic); doubled != m_doubled.end()) {
         m_findings.Warning(
             "topic-twice", number,
-            "The topic in line " + std::to_string(first->second) +
+            "The topic in line " + std::to_string(m_firstLines[doubled->second]) +
                 " has the same title, so a reader who follows a cross reference always comes to that "
                 "one: give them different titles.");
     }

@@ -17,6 +17,15 @@ class BlockStore;
 class Findings;
 class Progress;
 
+/// What a line holds that is to be looked at.
+struct LineMarks
+{
+    bool high = false;   ///< a byte above 7F
+    bool tag = false;    ///< a "<"
+    bool entity = false; ///< a "&"
+    bool lf = false;     ///< a LF, which is no part of a line end here
+};
+
 /// One pass over a book's file: it checks what a line tells by itself, and gathers the logic blocks.
 ///
 /// Where topics begin, and where the book ends, is what the book's own scan says.
@@ -39,6 +48,7 @@ private:
     void TakeBehindEnd(std::string_view line, FilePos pos, int number);
     void TellNeverShown(int number, std::string_view why);
     void BeginTopic(int number);
+    void CheckTitle(int number);
     void EndTopic();
     bool ReportProgress(FilePos pos);
 
@@ -46,21 +56,25 @@ private:
     Findings& m_findings;
     BlockStore& m_store;
     Progress* m_progress;
+    std::unordered_map<std::string_view, int> m_titles; ///< with the number of the first topic of that name
+    std::unordered_map<int, int> m_doubled;             ///< topics whose title another one has before them
+    std::unordered_map<int, int> m_firstLines;          ///< the lines of those others
     TextRules m_text;
     ReferenceRules m_references;
     FilePos m_size = 0;
     FilePos m_nextReport = 0;
     FilePos m_nextTopic = 0; ///< where the next topic begins; 0 when none follows
 
+    LineMarks m_marks; ///< of the line at hand
     int m_topic = 0;
     int m_lines = 0;           ///< of the topic's displayed text
     bool m_hidden = false;     ///< a cross reference hides what follows
     bool m_toldHidden = false; ///< text that is never shown was found in this topic
+    int m_noteBracket = 0;     ///< the first line of a note that begins with a bracket
     int m_endLine = 0;         ///< of "[EOF]"
     bool m_toldBehindEnd = false;
     int m_cutLine = 0; ///< of this topic's title when the block before it was not closed
     std::optional<CheckedBlockReader> m_block;
-    std::unordered_map<std::string_view, int> m_titles; ///< with their lines
 };
 
 } // namespace ls

@@ -1,7 +1,6 @@
 #include "check/ReferenceRules.h"
 
 #include "base/Text.h"
-#include "book/Book.h"
 #include "book/XrefText.h"
 
 namespace ls {
@@ -12,13 +11,6 @@ constexpr std::size_t LongestNote = 32000;
 constexpr std::string_view EndTag = "</XREF>";
 
 } // namespace
-
-ReferenceRules::ReferenceRules(const Book& book, Findings& findings) : m_findings(findings)
-{
-    for (int i = 1; i <= book.TopicCount; ++i) {
-        m_names.insert(book.TopicNames(static_cast<std::size_t>(i)));
-    }
-}
 
 void ReferenceRules::CheckTarget(std::string_view line, int number)
 {
@@ -31,7 +23,7 @@ void ReferenceRules::CheckTarget(std::string_view line, int number)
         return;
     }
     const std::string name = target.front() == '[' ? target : "[" + target + "]";
-    if (m_names.count(name) == 0) {
+    if (m_titles.count(name) == 0) {
         m_findings.Error(
             "reference-missing-topic", number,
             "No topic has the title " + Quoted(target) +
@@ -46,22 +38,32 @@ void ReferenceRules::Open(std::string_view line, int number)
     m_line = number;
     m_length = 0;
     m_told = false;
+    m_header = 0;
     const std::size_t opened = line.find('>');
     TakePiece(opened == std::string_view::npos ? std::string_view() : line.substr(opened + 1));
 }
 
-// What the note takes away from the book because its end is missing.
+void ReferenceRules::TellHeader()
+{
+    m_findings.Error(
+        "header-in-reference", m_header,
+        "The cross reference in line " + std::to_string(m_line) +
+            " is not closed, so this title becomes a part of its note and the reader does not find "
+            "the topic: add \"</XREF>\" there.");
+    m_told = true;
+}
+
+// What the note takes away from the book because its end is missing. That it is missing, and a line with a
+// bracket is not a part of the note, shows when another reference begins before the note ends.
 void ReferenceRules::CheckSwallowed(std::string_view line, int number)
 {
-    const std::string opened = std::to_string(m_line);
-    if (line.size() > 2 && line.front() == '[' && !m_told) {
-        m_told = true;
-        m_findings.Error(
-            "header-in-reference", number,
-            "The cross reference in line " + opened +
-                " is not closed, so this title becomes a part of its note and the reader does not find "
-                "the topic: add \"</XREF>\" there.");
+    if (line.size() > 2 && line.front() == '[' && m_header == 0) {
+        m_header = number;
     } else if (line.starts_with(XrefOpening) && !m_told) {
+        if (m_header != 0) {
+            TellHeader();
+            return;
+        }
         m_told = true;
         m_findings.Warning(
             "not-closed", m_line,
@@ -71,7 +73,8 @@ void ReferenceRules::CheckSwallowed(std::string_view line, int number)
         m_told = true;
         m_findings.Warning(
             "tag-case", number,
-            "Only \"</XREF>\" in capital letters closes the cross reference in line " + opened +
+            "Only \"</XREF>\" in capital letters closes the cross reference in line " +
+                std::to_string(m_line) +
                 ", so what follows becomes a part of the note that the reader sees: write it so.");
     }
 }
@@ -110,7 +113,9 @@ void ReferenceRules::TakePiece(std::string_view piece)
 
 void ReferenceRules::Finish()
 {
-    if (InNote() && !m_told) {
+    if (InNote() && !m_told && m_header != 0) {
+        TellHeader();
+    } else if (InNote() && !m_told) {
         m_findings.Warning(
             "not-closed", m_line,
             "The cross reference is not closed, so the reader sees all that follows in its note: add "

@@ -5,18 +5,20 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace ls {
-
-struct Book;
 
 /// Cross references: their targets, and what their notes swallow. A note is followed as the book's scan
 /// follows it.
 class ReferenceRules
 {
 public:
-    ReferenceRules(const Book& book, Findings& findings);
+    /// `titles` holds the names of all topics, with their brackets.
+    ReferenceRules(const std::unordered_map<std::string_view, int>& titles, Findings& findings)
+        : m_findings(findings), m_titles(titles)
+    {
+    }
 
     /// Whether the next line belongs to a note.
     [[nodiscard]] bool InNote() const { return m_line != 0; }
@@ -37,12 +39,14 @@ private:
     void TakePiece(std::string_view piece);
     void CheckTarget(std::string_view line, int number);
     void CheckSwallowed(std::string_view line, int number);
+    void TellHeader();
 
     Findings& m_findings;
-    std::unordered_set<std::string_view> m_names; ///< of topics, with their brackets
-    int m_line = 0;                               ///< of the open note; 0 when there is none
-    std::size_t m_length = 0;                     ///< of its text
-    bool m_told = false;                          ///< a finding about this note was made
+    const std::unordered_map<std::string_view, int>& m_titles;
+    int m_line = 0;           ///< of the open note; 0 when there is none
+    int m_header = 0;         ///< the first line in the note that looks like a title
+    std::size_t m_length = 0; ///< of its text
+    bool m_told = false;      ///< a finding about this note was made
     bool m_textBehind = false;
 };
 

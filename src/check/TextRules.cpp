@@ -43,11 +43,14 @@ void TextRules::BeginTopic()
     m_toldUtf8 = false;
 }
 
-void TextRules::CheckMarkup(std::string_view line, int number)
+void TextRules::CheckMarkup(std::string_view line, int number, bool ampersand)
 {
     line = TrimRight(line);
     CheckHeading(line, number);
     MarkupReader reader(line);
+    if (!ampersand) {
+        reader.NoEntities();
+    }
     while (!reader.AtEnd()) {
         const MarkupPiece piece = reader.Next();
         if (piece.kind == MarkupPiece::Kind::Tag) {
@@ -81,16 +84,18 @@ void TextRules::TakeTag(std::string_view name, int number)
         return;
     }
     if (name.front() != '/') {
-        m_open.push_back({std::string(name), number});
+        OpenTag& open = m_open.emplace_back();
+        open.length = name.copy(open.name.data(), open.name.size());
+        open.line = number;
         return;
     }
     name.remove_prefix(1);
     const bool closesBold = name == "H1" || name == "H2";
     m_open.erase(std::remove_if(m_open.begin(), m_open.end(),
                                 [&](const OpenTag& open) {
-                                    return open.name == name || (closesBold && open.name == "B") ||
-                                           (name == "H1" && open.name == "U") ||
-                                           (name == "H3" && open.name == "I");
+                                    return open.Name() == name || (closesBold && open.Name() == "B") ||
+                                           (name == "H1" && open.Name() == "U") ||
+                                           (name == "H3" && open.Name() == "I");
                                 }),
                  m_open.end());
 }
@@ -116,9 +121,9 @@ void TextRules::EndShown()
     for (const OpenTag& open : m_open) {
         m_findings.Warning(
             "not-closed", open.line,
-            "The tag \"<" + open.name +
-                ">\" is not closed, so the reader sees all that follows in this style: add \"</" + open.name +
-                ">\".");
+            "The tag \"<" + std::string(open.Name()) +
+                ">\" is not closed, so the reader sees all that follows in this style: add \"</" +
+                std::string(open.Name()) + ">\".");
     }
     m_open.clear();
 }

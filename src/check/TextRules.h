@@ -16,11 +16,11 @@ public:
     /// `markup`: tags and entities mean something in this book.
     TextRules(Findings& findings, bool markup) : m_findings(findings), m_markup(markup) {}
 
-    /// A line that is displayed.
-    void TakeShown(std::string_view line, int number)
+    /// A line that is displayed and has a "<" or a "&".
+    void TakeShown(std::string_view line, int number, bool ampersand)
     {
-        if (m_markup && line.find_first_of("<&") != std::string_view::npos) {
-            CheckMarkup(line, number);
+        if (m_markup) {
+            CheckMarkup(line, number, ampersand);
         }
     }
 
@@ -38,11 +38,14 @@ public:
 private:
     struct OpenTag
     {
-        std::string name;
+        std::array<char, 2> name{}; ///< of the tags that can be left open
+        std::size_t length = 0;
         int line = 0;
+
+        [[nodiscard]] std::string_view Name() const { return {name.data(), length}; }
     };
 
-    void CheckMarkup(std::string_view line, int number);
+    void CheckMarkup(std::string_view line, int number, bool ampersand);
     void TakeTag(std::string_view name, int number);
     void CheckHeading(std::string_view line, int number);
     void CheckUnassigned(std::string_view line, int number);

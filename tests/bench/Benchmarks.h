@@ -11,6 +11,9 @@ void BenchScan(const std::string& program, const std::string& folder);
 /// Prints the peak memory, in KiB, of this process after scanning that book.
 void ReportScanMemory(const std::string& path);
 
+/// Checks a book of 200 MiB against its scan.
+void BenchCheck(const std::string& folder);
+
 /// Shows the last topic of a large book against its first one.
 void BenchShow(const std::string& folder);
 

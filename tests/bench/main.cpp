@@ -13,7 +13,7 @@ int main(int argc, char** argv)
         return 0;
     }
     if (argc != 2 && argc != 3) {
-        std::fputs("usage: lsbench FOLDER [scan|show|save|resize|lines|advisor]\n", stderr);
+        std::fputs("usage: lsbench FOLDER [scan|check|show|save|resize|lines|advisor]\n", stderr);
         return 2;
     }
     const std::string only = argc == 3 ? argv[2] : "";
@@ -21,6 +21,9 @@ int main(int argc, char** argv)
     std::printf("%-58s %14s  %7s\n", "", "median", "ratio");
     if (wanted("scan")) {
         ls::bench::BenchScan(argv[0], first);
+    }
+    if (wanted("check")) {
+        ls::bench::BenchCheck(first);
     }
     if (wanted("show")) {
         ls::bench::BenchShow(first);

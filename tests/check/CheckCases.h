@@ -18,8 +18,8 @@ struct CheckCase
 };
 
 /// All cases of tests/data/check. In a file "== NAME" begins a case, "--" ends its book, and the findings
-/// follow. A book that begins with a topic gets a header line; "{XX}" stands for a byte, "{xN}" for N letters, and a line that
-/// ends in "{}" is joined with the next one.
+/// follow. A book that begins with a topic gets a header line; "{XX}" stands for a byte, "{xN}" for N
+/// letters, and a line that ends in "{}" is joined with the next one.
 [[nodiscard]] std::vector<CheckCase> ReadCheckCases();
 
 /// A book in memory, open and scanned.
