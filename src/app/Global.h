@@ -6,6 +6,7 @@
 #include "book/Book.h"
 #include "files/FileDialog.h"
 #include "reader/Settings.h"
+#include "render/PrintSettings.h"
 
 namespace ls {
 
@@ -19,6 +20,7 @@ struct Global
     AdvisorTables advisor;
     FileDialog fileDialog;
     TopicFlags topicFlags;
+    PrintSettings print;
 };
 
 } // namespace ls

@@ -8,6 +8,7 @@
 #include "platform/ReadCommandLine.h"
 #include "platform/SystemSeams.h"
 #include "reader/MainForm.h"
+#include "render/SystemPrinter.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -53,8 +54,10 @@ int main(int argc, char** argv)
     const std::unique_ptr<ls::Volumes> volumes = ls::MakeVolumes();
     const std::unique_ptr<ls::Registry> registry = ls::MakeRegistry(*processes);
     const std::unique_ptr<ls::DdeServer> ddeServer = ls::MakeDdeServer();
+    const std::unique_ptr<ls::PrintService> printService = ls::MakePrintService();
+    ls::SystemPrinter printer(*files, *printService);
     const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
-    ls::MainForm form(global, seams, {*volumes, *ddeServer, *registry});
+    ls::MainForm form(global, seams, {*volumes, *ddeServer, *registry, printer});
     messages.SetParent(&form);
     form.Form_Load(ls::ReadCommandLine(argc, argv, seams));
     if (!global.end.Ended()) {

@@ -3,6 +3,7 @@
 namespace ls {
 
 class DdeServer;
+class PrinterDevice;
 class Registry;
 class Volumes;
 
@@ -12,6 +13,7 @@ struct FormSeams
     Volumes& volumes;
     DdeServer& ddeServer;
     Registry& registry;
+    PrinterDevice& printer;
 };
 
 } // namespace ls

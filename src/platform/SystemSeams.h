@@ -2,6 +2,7 @@
 
 #include "base/FileSystem.h"
 #include "base/PathRules.h"
+#include "base/PrintService.h"
 #include "base/Processes.h"
 #include "base/Registry.h"
 #include "base/Volumes.h"
@@ -21,6 +22,9 @@ namespace ls {
 
 /// The volumes of the running system.
 [[nodiscard]] std::unique_ptr<Volumes> MakeVolumes();
+
+/// The printing service of the running system.
+[[nodiscard]] std::unique_ptr<PrintService> MakePrintService();
 
 /// How paths are written on the running system.
 [[nodiscard]] PathRules NativePaths();

@@ -10,6 +10,8 @@
 #include "files/ProgramSelector.h"
 #include "reader/MainFormView.h"
 #include "render/ExportItem.h"
+#include "render/PrintItem.h"
+#include "render/PrtForm.h"
 #include "ui_MainForm.h"
 
 #include <QAbstractItemView>
@@ -109,6 +111,7 @@ void MainForm::ConnectItems()
     connect(m_ui->EditPropertiesOption, &QAction::triggered, this, &MainForm::EditPropertiesOption_Click);
     connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
     connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
+    connect(m_ui->PrintItem, &QAction::triggered, this, &MainForm::PrintItem_Click);
     connect(m_ui->ExportItem, &QAction::triggered, this, &MainForm::ExportItem_Click);
     connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
     connect(m_ui->ContentsItem, &QAction::triggered, this, &MainForm::ContentsItem_Click);
@@ -277,6 +280,14 @@ void MainForm::AdviceEdItem_Click()
 void MainForm::EditPropertiesOption_Click()
 {
     Run([this] { m_editCommands.EditPropertiesOption_Click(); });
+}
+
+void MainForm::PrintItem_Click()
+{
+    Run([this] {
+        ls::PrintItem_Click(m_global.book, m_global.print, m_forms.printer, m_seams,
+                            [this] { PrtForm(this, m_global, m_seams, m_forms).exec(); });
+    });
 }
 
 void MainForm::ExportItem_Click()

@@ -70,6 +70,7 @@ private:
     void EdTextItem_Click();
     void AdviceEdItem_Click();
     void EditPropertiesOption_Click();
+    void PrintItem_Click();
     void ExportItem_Click();
     void ExplainButton_Click();
     void HelpItem_Click();

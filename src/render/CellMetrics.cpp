@@ -14,6 +14,7 @@ namespace {
 
 constexpr double PointSize = 9.75;
 constexpr double PointsPerInch = 72;
+constexpr double TwipsPerPoint = 20;
 
 // A system resolves an alias ("Courier New" where only its look-alike is installed) only as the first family,
 // so the name is asked for alone, and the look-alike by its own name when that gave nothing of fixed pitch.
@@ -47,6 +48,13 @@ CellMetrics MeasureCells(int dotsPerInch)
 {
     const auto pixelSize = static_cast<int>(std::lround(PointSize * dotsPerInch / PointsPerInch));
     return MeasureCells(FixedPitchFont(std::max(1, pixelSize)));
+}
+
+CellMetrics MeasurePrintCells(double points)
+{
+    QFont font = FixedPitchFont(static_cast<int>(std::lround(points * TwipsPerPoint)));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return MeasureCells(font);
 }
 
 CellMetrics MeasureCells(const QFont& regular)

@@ -35,6 +35,9 @@ struct CellMetrics
 /// The pane's font, 9.75 points, on a screen of so many dots to the inch (96 where nothing was scaled).
 [[nodiscard]] CellMetrics MeasureCells(int dotsPerInch);
 
+/// The same font on paper, where lengths are twips: a character is 0.6 of the type size wide.
+[[nodiscard]] CellMetrics MeasurePrintCells(double points);
+
 /// Cells for any other font. One whose letters differ in width is squeezed into them.
 [[nodiscard]] CellMetrics MeasureCells(const QFont& regular);
 

@@ -33,7 +33,7 @@ struct HelpItemTest : BrowserItemsTest
         return Write("Lodestar_Reader.htm", "");
     }
     const std::string page = WriteHelp();
-    MainForm window{global, seams, {*volumes, dde, registry}};
+    MainForm window{global, seams, {*volumes, dde, registry, printer}};
 };
 
 TEST_F(HelpItemTest, help_showsTheReadersPage)

@@ -6,6 +6,7 @@
 #include "gui/Controls.h"
 #include "gui/ModalScript.h"
 #include "support/RecordingDde.h"
+#include "support/RecordingPrinter.h"
 #include "support/RecordingRegistry.h"
 #include "support/TestSeams.h"
 
@@ -39,6 +40,7 @@ struct FileFormTest : testing::Test
     FixedVolumes volumes;
     test::RecordingDde dde;
     test::RecordingRegistry registry;
+    test::RecordingPrinter printer;
     Global global;
     std::unique_ptr<FileForm> form;
 
@@ -59,7 +61,8 @@ struct FileFormTest : testing::Test
 
     void Load()
     {
-        form = std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde, registry});
+        form = std::make_unique<FileForm>(nullptr, global, world.Get(),
+                                          FormSeams{volumes, dde, registry, printer});
         test::ShowActive(*form);
     }
 
@@ -375,7 +378,8 @@ TEST_F(FileFormTest, push_whileTheSelectorReadsItsFolder_beepsAndBlocks)
 TEST_F(FileFormTest, otherMode_endsTheProgramSilently)
 {
     global.fileDialog.FileMode = "X";
-    form = std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde, registry});
+    form =
+        std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde, registry, printer});
     EXPECT_TRUE(world.end.Ended());
     EXPECT_TRUE(world.messages.boxes.empty());
 }

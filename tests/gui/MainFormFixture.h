@@ -10,6 +10,7 @@
 #include "reader/MainForm.h"
 #include "render/ReadingPane.h"
 #include "support/RecordingDde.h"
+#include "support/RecordingPrinter.h"
 #include "support/RecordingProcesses.h"
 #include "support/RecordingRegistry.h"
 #include "support/TestSeams.h"
@@ -159,7 +160,8 @@ protected:
     std::unique_ptr<Volumes> volumes = MakeVolumes();
     test::RecordingDde dde;
     test::RecordingRegistry registry;
-    MainForm form{global, seams, {*volumes, dde, registry}};
+    test::RecordingPrinter printer;
+    MainForm form{global, seams, {*volumes, dde, registry, printer}};
 };
 
 } // namespace ls

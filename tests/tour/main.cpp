@@ -9,6 +9,7 @@
 #include "platform/SystemSeams.h"
 #include "reader/CommandLine.h"
 #include "reader/MainForm.h"
+#include "render/SystemPrinter.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -32,7 +33,9 @@ bool TakeTour(const QDir& pictures, const std::vector<std::string>& arguments)
     const auto volumes = ls::MakeVolumes();
     const auto ddeServer = ls::MakeDdeServer();
     const auto registry = ls::MakeRegistry(*processes);
-    ls::MainForm form(global, seams, {*volumes, *ddeServer, *registry});
+    const auto printService = ls::MakePrintService();
+    ls::SystemPrinter printer(*files, *printService);
+    ls::MainForm form(global, seams, {*volumes, *ddeServer, *registry, printer});
     messages.SetParent(&form);
     ls::Tour tour(form, pictures);
     form.Form_Load(ls::ParseArguments(arguments, seams));

@@ -1,5 +1,6 @@
 #include "platform/SystemSeams.h"
 
+#include "platform/linux/CupsService.h"
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxProcesses.h"
 #include "platform/linux/LinuxRegistry.h"
@@ -25,6 +26,11 @@ std::unique_ptr<Registry> MakeRegistry(Processes& processes)
 std::unique_ptr<Volumes> MakeVolumes()
 {
     return std::make_unique<LinuxVolumes>();
+}
+
+std::unique_ptr<PrintService> MakePrintService()
+{
+    return std::make_unique<CupsService>();
 }
 
 PathRules NativePaths()

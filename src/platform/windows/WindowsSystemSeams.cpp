@@ -27,6 +27,12 @@ std::unique_ptr<Volumes> MakeVolumes()
     return std::make_unique<WindowsVolumes>();
 }
 
+// The toolkit asks the system itself for everything here.
+std::unique_ptr<PrintService> MakePrintService()
+{
+    return std::make_unique<PrintService>();
+}
+
 PathRules NativePaths()
 {
     return WindowsPaths;

@@ -1,0 +1,82 @@
+#include "platform/linux/CupsService.h"
+
+#include <dlfcn.h>
+
+#include <cstring>
+
+namespace ls {
+
+namespace {
+
+constexpr const char* LibraryName = "libcups.so.2";
+constexpr int FirstErrorStatus = 0x0400;
+
+// A destination as the library lays it out; the options are only handed back to it.
+struct Destination
+{
+    char* name;
+    char* instance;
+    int isDefault;
+    int optionCount;
+    void* options;
+};
+
+using LastErrorCall = int (*)();
+using LastErrorStringCall = const char* (*)();
+using NamedDestCall = Destination* (*)(void* http, const char* name, const char* instance);
+using GetOptionCall = const char* (*)(const char* name, int optionCount, void* options);
+using FreeDestsCall = void (*)(int count, Destination* destinations);
+
+// A function of the library; nullptr where there is none. The library stays loaded: the toolkit uses it too.
+template <typename Call>
+Call Find(const char* name)
+{
+    static void* const library = dlopen(LibraryName, RTLD_NOW | RTLD_LOCAL);
+    Call call = nullptr;
+    if (library != nullptr) {
+        void* const address = dlsym(library, name);
+        std::memcpy(&call, &address, sizeof call);
+    }
+    return call;
+}
+
+} // namespace
+
+FileError CupsService::LastJob()
+{
+    const auto lastError = Find<LastErrorCall>("cupsLastError");
+    const auto lastErrorString = Find<LastErrorStringCall>("cupsLastErrorString");
+    if (lastError == nullptr || lastErrorString == nullptr || lastError() < FirstErrorStatus) {
+        return {};
+    }
+    FileError failed = MakeFileError(error::DeviceUnavailable);
+    if (const char* words = lastErrorString(); words != nullptr && *words != '\0') {
+        failed.description += std::string(" (") + words + ")";
+    }
+    return failed;
+}
+
+std::optional<bool> CupsService::Landscape(const std::string& printer)
+{
+    const auto namedDest = Find<NamedDestCall>("cupsGetNamedDest");
+    const auto getOption = Find<GetOptionCall>("cupsGetOption");
+    const auto freeDests = Find<FreeDestsCall>("cupsFreeDests");
+    if (namedDest == nullptr || getOption == nullptr || freeDests == nullptr) {
+        return std::nullopt;
+    }
+    // A printer with settings of its own stands behind the printer's name and a slash.
+    const std::size_t slash = printer.find('/');
+    const std::string instance = slash == std::string::npos ? std::string() : printer.substr(slash + 1);
+    Destination* const destination =
+        namedDest(nullptr, printer.substr(0, slash).c_str(), instance.empty() ? nullptr : instance.c_str());
+    if (destination == nullptr) {
+        return std::nullopt;
+    }
+    const char* const orientation =
+        getOption("orientation-requested", destination->optionCount, destination->options);
+    const std::string code = orientation == nullptr ? "" : orientation;
+    freeDests(1, destination);
+    return code == "4" || code == "5"; // turned to the left, and to the right
+}
+
+} // namespace ls

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "base/Seams.h"
+#include "files/FormSeams.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class PrtForm;
+}
+
+namespace ls {
+
+struct Global;
+
+/// The print dialog: printer, paper, type size and colour of what is printed. It sets up the current printer
+/// and `global.print`, whose `PrintConfirmed` tells that it was left by its print button.
+class PrtForm : public QDialog
+{
+    Q_OBJECT
+
+public:
+    PrtForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms);
+    ~PrtForm() override;
+
+private:
+    void Form_Load();
+    void PrinterCombo_Click();
+    void OKButton_Click();
+    void HelpButton_Click();
+
+    std::unique_ptr<Ui::PrtForm> m_ui;
+    Global& m_global;
+    Seams m_seams;
+    FormSeams m_forms;
+};
+
+} // namespace ls

@@ -1,0 +1,425 @@
+// Pages in real PDF files, looked at by other programs.
+
+#include "book/BookLoader.h"
+#include "gui/PdfTools.h"
+#include "platform/SystemSeams.h"
+#include "render/PrintSettings.h"
+#include "render/PrintTopic.h"
+#include "render/SystemPrinter.h"
+#include "support/MemoryFileSystem.h"
+#include "support/RecordingMessages.h"
+#include "support/RecordingProcesses.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <sstream>
+
+#include <sys/resource.h>
+
+namespace ls {
+namespace {
+
+using Strings = std::vector<std::string>;
+using PageRows = std::vector<Strings>;
+
+// Prints into PDF files of a scratch folder, on a system that has no printers.
+class PrintPdfTest : public testing::Test
+{
+protected:
+    PrintPdfTest() { qputenv("CUPS_SERVER", "/nonexistent/socket"); }
+
+    void Open(const std::string& path, bool plain = false)
+    {
+        bookPath = path;
+        book.BookPath = path;
+        if (plain) {
+            messages.replies = {Reply::Ok};
+        }
+        ASSERT_TRUE(OpenBook(book, seams));
+        messages.Take();
+        if (!plain) {
+            ASSERT_TRUE(ScanBook(book, seams));
+        }
+    }
+
+    // Prints a topic (0: the plain text file) into NAME.pdf and gives its path.
+    std::string Print(int number, const std::string& name = "a")
+    {
+        const std::string path = folder / (name + ".pdf");
+        printer.SetFile(path, true);
+        const std::string title = number == 0 ? "" : book.TopicNames(static_cast<std::size_t>(number));
+        const Printed printed = PrintTopic(book, seams, printer, settings, title, number);
+        EXPECT_EQ(printed.failed, FileError{});
+        EXPECT_TRUE(printed.located);
+        EXPECT_EQ(messages.Take(), Strings{});
+        return path;
+    }
+
+    // The pages that `lsbook pages` gives for the same sheet.
+    PageRows BookPages(int number)
+    {
+        const PrinterState state = printer.State();
+        const auto text = [](double length) { return QString::number(static_cast<int>(length)); };
+        QStringList arguments = {QStringLiteral("pages"), QString::fromStdString(bookPath)};
+        if (number == 0) {
+            arguments << QStringLiteral("--plain");
+        } else {
+            arguments << QStringLiteral("--number") << QString::number(number);
+        }
+        arguments << QStringLiteral("--page") << text(state.width) << text(state.height)
+                  << QStringLiteral("--printable") << text(state.scaleWidth) << text(state.scaleHeight)
+                  << QStringLiteral("--line-height") << text(printer.Surface().TextHeight("_"))
+                  << QStringLiteral("--cpi") << QString::number(settings.CharsPerInch);
+        if (state.landscape) {
+            arguments << QStringLiteral("--landscape");
+        }
+        return test::FoldedPages(test::OutputOf(QStringLiteral(LS_LSBOOK), arguments));
+    }
+
+    test::ScratchFolder folder;
+    std::unique_ptr<FileSystem> files = MakeFileSystem();
+    ProgramEnd end;
+    test::RecordingMessages messages{end};
+    test::RecordingProcesses processes;
+    Seams seams{*files, messages, processes, end, NativePaths()};
+    PrintService service;
+    SystemPrinter printer{*files, service};
+    PrintSettings settings;
+    Book book;
+    std::string bookPath;
+};
+
+TEST_F(PrintPdfTest, noPrinters_onlyPdfIsThereAndCurrent)
+{
+    EXPECT_EQ(printer.Names(), Strings{"Print to PDF"});
+    EXPECT_EQ(printer.Current(), "Print to PDF");
+    EXPECT_TRUE(printer.AsksForFile());
+    EXPECT_EQ(printer.Choose("Office"), MakeFileError(error::DeviceUnavailable));
+    EXPECT_EQ(printer.Current(), "Print to PDF");
+}
+
+TEST_F(PrintPdfTest, state_isTheSheetInTwips)
+{
+    struct Row
+    {
+        int code;
+        int width;
+        int height;
+    };
+    for (const Row& row : {Row{1, 12240, 15840}, Row{5, 12240, 20160}, Row{9, 11900, 16840}}) {
+        ASSERT_EQ(printer.SetPaperSize(row.code), FileError{});
+        const PrinterState upright = printer.State();
+        EXPECT_EQ(upright.paperSize, row.code);
+        EXPECT_FALSE(upright.landscape);
+        EXPECT_EQ(upright.width, row.width);
+        EXPECT_EQ(upright.height, row.height);
+        EXPECT_EQ(upright.scaleWidth, row.width) << "all of it can be printed on";
+        EXPECT_EQ(upright.scaleHeight, row.height);
+        ASSERT_EQ(printer.SetLandscape(true), FileError{});
+        EXPECT_TRUE(printer.State().landscape);
+        EXPECT_EQ(printer.State().width, row.height);
+        EXPECT_EQ(printer.State().scaleHeight, row.width);
+        ASSERT_EQ(printer.SetLandscape(false), FileError{});
+    }
+    EXPECT_EQ(printer.SetPaperSize(4711), MakeFileError(error::InvalidCall)) << "no system has that paper";
+    EXPECT_EQ(printer.State().paperSize, 9);
+}
+
+TEST_F(PrintPdfTest, colourMode_isKept)
+{
+    EXPECT_TRUE(printer.State().colour);
+    EXPECT_EQ(printer.SetColour(false), FileError{});
+    EXPECT_FALSE(printer.State().colour);
+    EXPECT_EQ(printer.SetColour(true), FileError{});
+    EXPECT_TRUE(printer.State().colour);
+}
+
+TEST_F(PrintPdfTest, fonts_haveTheColumnsOfTheirPitch)
+{
+    printer.SetFont("Courier New", 12);
+    EXPECT_NEAR(printer.Surface().TextWidth(std::string(100, 'x')), 14400, 10) << "10 characters an inch";
+    EXPECT_EQ(printer.Surface().TextHeight("_"), 272);
+    printer.SetFont("Courier New", 10);
+    EXPECT_NEAR(printer.Surface().TextWidth(std::string(120, 'x')), 14400, 10);
+    EXPECT_EQ(printer.Surface().TextHeight("_"), 227);
+}
+
+struct SheetCase
+{
+    const char* name;
+    int paper;
+    int charsPerInch;
+    bool landscape;
+    int pages; ///< that 200 lines and a title take
+    const char* size;
+};
+
+class PrintPdfSheet : public PrintPdfTest, public testing::WithParamInterface<SheetCase>
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_EQ(printer.SetPaperSize(GetParam().paper), FileError{});
+        ASSERT_EQ(printer.SetLandscape(GetParam().landscape), FileError{});
+        settings.CharsPerInch = GetParam().charsPerInch;
+    }
+};
+
+TEST_P(PrintPdfSheet, pages_haveTheSheetTheCountAndTheLines)
+{
+    std::string body;
+    for (int line = 1; line <= 200; ++line) {
+        body += "Line " + std::to_string(line) + "\r\n";
+    }
+    Open(folder.Write("Long.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\n" + body));
+    const std::string pdf = Print(1);
+    EXPECT_EQ(test::PdfInfo(pdf, "Page size"), GetParam().size);
+    EXPECT_EQ(test::PdfInfo(pdf, "Pages"), std::to_string(GetParam().pages));
+    const PageRows pages = test::PdfPages(pdf);
+    EXPECT_EQ(pages, BookPages(1));
+    ASSERT_EQ(pages.size(), static_cast<std::size_t>(GetParam().pages));
+    EXPECT_EQ(pages.back().back(), "Line 200");
+}
+
+TEST_P(PrintPdfSheet, wrappedTopic_hasTheLines)
+{
+    Open(std::string(LS_SAMPLES) + "/Guide.IDA");
+    for (int number = 1; number <= 4; ++number) {
+        EXPECT_EQ(test::PdfPages(Print(number)), BookPages(number)) << number;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sheets, PrintPdfSheet,
+    testing::Values(SheetCase{"letter_pica", 1, 10, false, 4, "612 x 792 pts (letter)"},
+                    SheetCase{"legal_pica", 5, 10, false, 4, "612 x 1008 pts"},
+                    SheetCase{"a4_pica", 9, 10, false, 4, "595 x 842 pts (A4)"},
+                    SheetCase{"letter_elite", 1, 12, false, 4, "612 x 792 pts (letter)"},
+                    SheetCase{"legal_elite", 5, 12, false, 3, "612 x 1008 pts"},
+                    SheetCase{"a4_elite", 9, 12, false, 4, "595 x 842 pts (A4)"},
+                    SheetCase{"letter_pica_sideways", 1, 10, true, 6, "792 x 612 pts (letter)"},
+                    SheetCase{"legal_pica_sideways", 5, 10, true, 6, "1008 x 612 pts"},
+                    SheetCase{"a4_pica_sideways", 9, 10, true, 6, "842 x 595 pts (A4)"},
+                    SheetCase{"letter_elite_sideways", 1, 12, true, 5, "792 x 612 pts (letter)"},
+                    SheetCase{"legal_elite_sideways", 5, 12, true, 5, "1008 x 612 pts"},
+                    SheetCase{"a4_elite_sideways", 9, 12, true, 5, "842 x 595 pts (A4)"}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(PrintPdfTest, everyTopicOfTheSamples_hasTheLines)
+{
+    for (const char* sample : {"/Guide.IDA", "/Advice.IDA"}) {
+        Open(LS_SAMPLES + std::string(sample));
+        for (int number = 1; number <= book.TopicCount; ++number) {
+            EXPECT_EQ(test::PdfPages(Print(number)), BookPages(number)) << sample << " " << number;
+        }
+        CloseBook(book);
+        ResetBook(book);
+    }
+}
+
+TEST_F(PrintPdfTest, plainText_hasTheLines)
+{
+    Open(std::string(LS_SAMPLES) + "/Tides.TXT", true);
+    const std::string pdf = Print(0);
+    EXPECT_EQ(test::PdfPages(pdf), BookPages(0));
+}
+
+TEST_F(PrintPdfTest, charactersOfTheCodePage_canBeSearched)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[\xC4rger]\r\n<B>na\xEFve</B> \x80 5 \x84quoted\x93 "
+                               "<I>caf\xE9</I> <U>d\xE9j\xE0 vu</U>\r\n"));
+    EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"Ärger", "naïve € 5 „quoted“ café déjà vu"}}));
+}
+
+TEST_F(PrintPdfTest, fonts_areEmbeddedWithTheirCharacters)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx<B>b<I>bi</I></B><I>i</I>\r\n"));
+    const std::string pdf = Print(1);
+    std::istringstream fonts(test::OutputOf(QStringLiteral("pdffonts"), {QString::fromStdString(pdf)}));
+    std::string line;
+    std::getline(fonts, line);
+    const std::size_t embedded = line.find("emb");
+    const std::size_t unicode = line.find("uni");
+    std::getline(fonts, line); // a rule
+    int count = 0;
+    while (std::getline(fonts, line)) {
+        EXPECT_EQ(line.substr(embedded, 3), "yes") << line;
+        EXPECT_EQ(line.substr(unicode, 3), "yes") << line;
+        ++count;
+    }
+    EXPECT_EQ(count, 4) << "regular, bold, italic and both";
+}
+
+TEST_F(PrintPdfTest, title_isInTheFile)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    printer.SetTitle("Ärger & Co");
+    const std::string pdf = Print(1);
+    EXPECT_EQ(test::PdfInfo(pdf, "Title"), "Ärger & Co");
+    EXPECT_EQ(test::PdfInfo(pdf, "Creator"), "Lodestar Advisor");
+}
+
+TEST_F(PrintPdfTest, blackAndWhite_hasNoColour)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\n<H1>Heading</H1>\r\n"));
+    const auto coloured = [](const std::string& pdf) {
+        const QTemporaryDir place;
+        test::OutputOf(QStringLiteral("pdftoppm"),
+                       {QStringLiteral("-r"), QStringLiteral("50"), QString::fromStdString(pdf),
+                        place.filePath(QStringLiteral("p"))});
+        const QImage page(place.filePath(QStringLiteral("p-1.ppm")));
+        int count = 0;
+        for (int y = 0; y < page.height(); ++y) {
+            for (int x = 0; x < page.width(); ++x) {
+                const QColor colour = page.pixelColor(x, y);
+                count += std::abs(colour.red() - colour.green()) > 20 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    printer.SetColour(false);
+    EXPECT_EQ(coloured(Print(1)), 0);
+    printer.SetColour(true);
+    settings.PrintInColour = true;
+    EXPECT_GT(coloured(Print(1)), 20);
+}
+
+TEST_F(PrintPdfTest, text_beginsAtTheMarginsOfThePaper)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[Title]\r\nx\r\n"));
+    const std::string boxes =
+        test::OutputOf(QStringLiteral("pdftotext"),
+                       {QStringLiteral("-bbox"), QString::fromStdString(Print(1)), QStringLiteral("-")});
+    const std::size_t word = boxes.find(">Title<");
+    ASSERT_NE(word, std::string::npos) << boxes;
+    const std::string box = boxes.substr(boxes.rfind('<', word), word - boxes.rfind('<', word));
+    double left = 0;
+    double top = 0;
+    ASSERT_EQ(std::sscanf(box.c_str(), "<word xMin=\"%lf\" yMin=\"%lf\"", &left, &top), 2) << box;
+    EXPECT_NEAR(left, 6 * 7.2, 0.2) << "six characters of 7.2 points";
+    EXPECT_NEAR(top, 3 * 13.6, 3) << "three lines of 13.6 points";
+}
+
+TEST_F(PrintPdfTest, fileOfThatName_isReplacedOnlyWhenAgreed)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    const std::string path = folder.Write("b.pdf", "precious");
+    printer.SetFile(path, false);
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed,
+              MakeFileError(error::FileAlreadyExists));
+    EXPECT_EQ(folder.Read("b.pdf"), "precious");
+    printer.SetFile(path, true);
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed, FileError{});
+    EXPECT_EQ(test::PdfPages(path), (PageRows{{"A", "x"}}));
+}
+
+struct BadPlace
+{
+    const char* name;
+    const char* path;
+    int error;
+};
+
+class PrintPdfBadPlace : public PrintPdfTest, public testing::WithParamInterface<BadPlace>
+{
+};
+
+TEST_P(PrintPdfBadPlace, fileThatCannotBeWritten_isAnErrorAndLeavesNothing)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    folder.MakeFolder("folder.pdf");
+    std::string path = GetParam().path;
+    if (path.front() != '/') {
+        path = folder / path;
+    }
+    printer.SetFile(path, true);
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed.number, GetParam().error);
+    // The next one goes well.
+    EXPECT_EQ(test::PdfPages(Print(1, "good")), (PageRows{{"A", "x"}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, PrintPdfBadPlace,
+                         testing::Values(BadPlace{"missingFolder", "none/a.pdf", error::PathNotFound},
+                                         BadPlace{"aFolder", "folder.pdf", error::PathFileAccess},
+                                         BadPlace{"fullDevice", "/dev/full", error::DeviceUnavailable},
+                                         BadPlace{"systemFolder", "/proc/a.pdf", error::FileNotFound}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(PrintPdfTest, noRoomForTheWork_isAnErrorAndNotDone)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc"); // nothing can be made there
+    const std::string path = folder / "a.pdf";
+    printer.SetFile(path, true);
+    const FileError failed = PrintTopic(book, seams, printer, settings, "A", 1).failed;
+    before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    EXPECT_EQ(failed, MakeFileError(error::PathFileAccess));
+    EXPECT_FALSE(folder.Has("a.pdf"));
+    EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
+}
+
+// As on a disk that is full: what the toolkit writes is cut, and it does not tell.
+TEST_F(PrintPdfTest, pagesCutWhileTheyAreMade_areNotTakenForDone)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    const std::string path = folder.Write("a.pdf", "precious");
+    printer.SetFile(path, true);
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    rlimit small = before;
+    small.rlim_cur = 2000;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const FileError failed = PrintTopic(book, seams, printer, settings, "A", 1).failed;
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(failed, MakeFileError(error::DiskFull));
+    EXPECT_EQ(folder.Read("a.pdf"), "precious");
+    EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
+}
+
+struct StoreFault
+{
+    const char* name;
+    const char* operation;
+};
+
+class PrintPdfStore : public PrintPdfTest, public testing::WithParamInterface<StoreFault>
+{
+};
+
+TEST_P(PrintPdfStore, diskFullWhileTheFileIsStored_keepsTheOldOne)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    test::MemoryFileSystem memory;
+    memory["/work/a.pdf"] = "precious";
+    memory.fail = [](const std::string& operation) {
+        return operation.starts_with(GetParam().operation) ? error::DiskFull : 0;
+    };
+    SystemPrinter onMemory(memory, service);
+    onMemory.SetFile("/work/a.pdf", true);
+    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).failed, MakeFileError(error::DiskFull));
+    EXPECT_EQ(memory["/work/a.pdf"], "precious");
+    EXPECT_FALSE(memory.Has("/work/a.pdf.new"));
+    memory.fail = nullptr;
+    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).failed, FileError{});
+    EXPECT_TRUE(memory["/work/a.pdf"].starts_with("%PDF"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, PrintPdfStore,
+                         testing::Values(StoreFault{"create", "create"}, StoreFault{"write", "write"},
+                                         StoreFault{"finish", "finish"}, StoreFault{"rename", "rename"}),
+                         [](const auto& row) { return row.param.name; });
+
+} // namespace
+} // namespace ls
