@@ -241,6 +241,8 @@ TEST_F(PrintCupsTest, laser_hasEdgesAndNoColour)
     EXPECT_EQ(upright.scaleWidth, 11520);
     EXPECT_EQ(upright.scaleHeight, 14400);
     EXPECT_FALSE(upright.colour);
+    EXPECT_EQ(systemPrinter.SetPaperSize(66), MakeFileError(error::InvalidCall)) << "it takes no A2";
+    EXPECT_EQ(systemPrinter.State().paperSize, 1);
     EXPECT_TRUE(systemPrinter.SetColour(true).Ok());
     EXPECT_FALSE(systemPrinter.State().colour);
     ASSERT_TRUE(systemPrinter.SetLandscape(true).Ok());

@@ -72,12 +72,16 @@ private:
     Fault LookAtForm();
     Fault PickReference();
 
+    Fault ChoosePrintMode();
+
     Fault LookAtEditor();
     Fault PickVariable();
     Fault PickChoice();
     Fault LookAtSpecification();
 
     [[nodiscard]] bool TakeAuthor();
+    [[nodiscard]] bool TakePrint();
+    [[nodiscard]] bool WalkPrint();
     [[nodiscard]] bool WalkEditItem(const char* item, const char* form, bool (Tour::*walk)());
     [[nodiscard]] bool WalkTextEditor();
     [[nodiscard]] bool WalkRemoval();
