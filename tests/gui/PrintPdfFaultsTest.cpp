@@ -1,0 +1,126 @@
+// PDF files that cannot be written, or not whole.
+
+#include "gui/PrintPdfFixture.h"
+#include "support/MemoryFileSystem.h"
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace ls {
+namespace {
+
+TEST_F(PrintPdfTest, fileOfThatName_isReplacedOnlyWhenAgreed)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    const std::string path = folder.Write("b.pdf", "precious");
+    printer.SetFile(path, false);
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed,
+              MakeFileError(error::FileAlreadyExists));
+    EXPECT_EQ(folder.Read("b.pdf"), "precious");
+    printer.SetFile(path, true);
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed, FileError{});
+    EXPECT_EQ(test::PdfPages(path), (PageRows{{"A", "x"}}));
+}
+
+struct BadPlace
+{
+    const char* name;
+    const char* path;
+    int error;
+};
+
+class PrintPdfBadPlace : public PrintPdfTest, public testing::WithParamInterface<BadPlace>
+{
+};
+
+TEST_P(PrintPdfBadPlace, fileThatCannotBeWritten_isAnErrorAndLeavesNothing)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    folder.MakeFolder("folder.pdf");
+    std::string path = GetParam().path;
+    if (path.front() != '/') {
+        path = folder / path;
+    }
+    printer.SetFile(path, true);
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed.number, GetParam().error);
+    // The next one goes well.
+    EXPECT_EQ(test::PdfPages(Print(1, "good")), (PageRows{{"A", "x"}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, PrintPdfBadPlace,
+                         testing::Values(BadPlace{"missingFolder", "none/a.pdf", error::PathNotFound},
+                                         BadPlace{"aFolder", "folder.pdf", error::PathFileAccess},
+                                         BadPlace{"fullDevice", "/dev/full", error::DeviceUnavailable},
+                                         BadPlace{"systemFolder", "/proc/a.pdf", error::FileNotFound}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(PrintPdfTest, noRoomForTheWork_isAnErrorAndNotDone)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc"); // nothing can be made there
+    const std::string path = folder / "a.pdf";
+    printer.SetFile(path, true);
+    const FileError failed = PrintTopic(book, seams, printer, settings, "A", 1).failed;
+    before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    EXPECT_EQ(failed, MakeFileError(error::PathFileAccess));
+    EXPECT_FALSE(folder.Has("a.pdf"));
+    EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
+}
+
+// As on a disk that is full: what the toolkit writes is cut, and it does not tell.
+TEST_F(PrintPdfTest, pagesCutWhileTheyAreMade_areNotTakenForDone)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    const std::string path = folder.Write("a.pdf", "precious");
+    printer.SetFile(path, true);
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    rlimit small = before;
+    small.rlim_cur = 2000;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const FileError failed = PrintTopic(book, seams, printer, settings, "A", 1).failed;
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(failed, MakeFileError(error::DiskFull));
+    EXPECT_EQ(folder.Read("a.pdf"), "precious");
+    EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
+}
+
+struct StoreFault
+{
+    const char* name;
+    const char* operation;
+};
+
+class PrintPdfStore : public PrintPdfTest, public testing::WithParamInterface<StoreFault>
+{
+};
+
+TEST_P(PrintPdfStore, diskFullWhileTheFileIsStored_keepsTheOldOne)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    test::MemoryFileSystem memory;
+    memory["/work/a.pdf"] = "precious";
+    memory.fail = [](const std::string& operation) {
+        return operation.starts_with(GetParam().operation) ? error::DiskFull : 0;
+    };
+    SystemPrinter onMemory(memory, service);
+    onMemory.SetFile("/work/a.pdf", true);
+    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).failed, MakeFileError(error::DiskFull));
+    EXPECT_EQ(memory["/work/a.pdf"], "precious");
+    EXPECT_FALSE(memory.Has("/work/a.pdf.new"));
+    memory.fail = nullptr;
+    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).failed, FileError{});
+    EXPECT_TRUE(memory["/work/a.pdf"].starts_with("%PDF"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, PrintPdfStore,
+                         testing::Values(StoreFault{"create", "create"}, StoreFault{"write", "write"},
+                                         StoreFault{"finish", "finish"}, StoreFault{"rename", "rename"}),
+                         [](const auto& row) { return row.param.name; });
+
+} // namespace
+} // namespace ls
