@@ -121,29 +121,6 @@ private:
     std::vector<std::string> m_bookChoices; ///< as in m_question, in the book's bytes
 };
 
-// Makes the topic the one on show, as Go does; false when it has no logic block, or after a message.
-bool ShowForAdvisor(Book& book, const Seams& seams, const std::string& title)
-{
-    constexpr int anyWidth = 80; // the lines are not used
-    const std::optional<std::string> bookTitle = ToBook(title);
-    book.LogicPos = 0;
-    if (!bookTitle && !book.IsPlainText()) {
-        // No topic can have a character in its name that no book can hold.
-        seams.messages.MsgBox("Topic [" + FromPath(title) + "] was not found.", Icon::Warning);
-        return false;
-    }
-    std::string name = bookTitle.value_or(std::string());
-    Count16 number = 0;
-    ShownTopic shown;
-    if (book.IsPlainText() || ShowTopic(book, seams, name, number, anyWidth, shown) != ShowResult::Shown) {
-        return false;
-    }
-    book.CurrentTopicName = name;
-    book.CurrentTopicNo = number;
-    book.LogicPos = shown.logicPos;
-    return shown.advisorButton;
-}
-
 // Answers until the dialogue is over or has no valid answer.
 void Play(AdvisorDialog& dialog, const PlayerView& view, AdvisorPlayer& player, const ProgramEnd& end)
 {
@@ -167,6 +144,28 @@ void Play(AdvisorDialog& dialog, const PlayerView& view, AdvisorPlayer& player, 
 }
 
 } // namespace
+
+bool ShowForAdvisor(Book& book, const Seams& seams, const std::string& title)
+{
+    constexpr int anyWidth = 80; // the lines are not used
+    const std::optional<std::string> bookTitle = ToBook(title);
+    book.LogicPos = 0;
+    if (!bookTitle && !book.IsPlainText()) {
+        // No topic can have a character in its name that no book can hold.
+        seams.messages.MsgBox("Topic [" + FromPath(title) + "] was not found.", Icon::Warning);
+        return false;
+    }
+    std::string name = bookTitle.value_or(std::string());
+    Count16 number = 0;
+    ShownTopic shown;
+    if (book.IsPlainText() || ShowTopic(book, seams, name, number, anyWidth, shown) != ShowResult::Shown) {
+        return false;
+    }
+    book.CurrentTopicName = name;
+    book.CurrentTopicNo = number;
+    book.LogicPos = shown.logicPos;
+    return shown.advisorButton;
+}
 
 void RunAdvisor(Book& book, AdvisorTables& tables, const Seams& seams, AdvisorPlayer& player, int run,
                 const std::string& title)

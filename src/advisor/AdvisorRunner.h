@@ -62,6 +62,10 @@ struct AdvisorPlayer
     bool trace = false;
 };
 
+/// Makes the topic of that title (UTF-8) the one on show, as the main window's Go does; false when it has no
+/// logic block, or after a message.
+[[nodiscard]] bool ShowForAdvisor(Book& book, const Seams& seams, const std::string& title);
+
 /// Runs one dialogue on the topic of that title (UTF-8), as the main window's Go and Advisor buttons do,
 /// until it is over, an answer is not offered, or there are no more answers. `run` numbers it in the events.
 ///

@@ -237,7 +237,17 @@ private:
 
     void AddEnd(DialogueEnd end)
     {
-        if (m_known.emplace(end.kind, end.name).second) {
+        if (m_limits.everyWay && end.kind == Kind::Advice) {
+            AddAdvice(std::move(end));
+        } else if (m_known.emplace(end.kind, end.name).second || m_limits.everyWay) {
+            m_map.ends.push_back(std::move(end));
+        }
+    }
+
+    // Where readers are depends on the way: the same advice may come up with its text, or without.
+    void AddAdvice(DialogueEnd end)
+    {
+        if (m_known.emplace(end.kind, end.name + '\n' + end.text).second) {
             m_map.ends.push_back(std::move(end));
         }
     }

@@ -48,12 +48,14 @@ struct SearchLimits
     int states = 1000;                         ///< questions with the rules that are left behind them
     std::size_t ruleBytes = 256 * 1024 * 1024; ///< of rule texts gone through, for rule bases of any size
     std::size_t heldBytes = 64 * 1024 * 1024;  ///< of rule texts held at once
+    bool everyWay = false;                     ///< see `DialogueMap::ends`
 };
 
 /// Every way in which the dialogues of a topic can end.
 struct DialogueMap
 {
-    /// Each kind and name once, those with the fewest answers first.
+    /// Those with the fewest answers first; each kind and name once. When every way is asked for, advice is
+    /// kept once for each text that comes up with it, and each other end by itself.
     std::vector<DialogueEnd> ends;
     int states = 0;   ///< how many different questions, by what is left to ask, were looked at
     bool cut = false; ///< a limit was met, a table was full, or it was cancelled: there may be more

@@ -3,14 +3,17 @@
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "base/Text.h"
+#include "check/AdvisorCoverage.h"
 #include "cli/AdvisorOutput.h"
 #include "cli/AnswerLists.h"
 #include "cli/CommandContext.h"
 #include "cli/Commands.h"
+#include "cli/ExploreOutput.h"
 #include "cli/JsonWriter.h"
 
 #include <algorithm>
 #include <istream>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -28,6 +31,9 @@ constexpr std::string_view AnswersJson = "--answers-json";
 constexpr std::string_view Reuse = "--reuse";
 constexpr std::string_view Runs = "--runs";
 constexpr std::string_view Trace = "--trace";
+constexpr std::string_view Explore = "--explore";
+constexpr std::string_view Limit = "--limit";
+constexpr int UsualLimit = 10000;
 
 // What was asked for: the dialogues, and the answers in advance.
 struct Plan
@@ -238,8 +244,92 @@ private:
     Status m_status = Status::Done;
 };
 
+// Tells how many states were looked at.
+class StatesProgress : public Progress
+{
+public:
+    explicit StatesProgress(ProgressLine& line) : m_line(line) {}
+
+    bool Step(std::int64_t done, std::int64_t /*total*/) override
+    {
+        constexpr std::int64_t Between = 100;
+        if (done % Between == 0) {
+            m_line.Show("Exploring: " + std::to_string(done) + " states");
+        }
+        return true;
+    }
+
+private:
+    ProgressLine& m_line;
+};
+
+SearchLimits ExploreLimits(const CommandContext& context)
+{
+    SearchLimits limits;
+    limits.states = context.Args().Number(Limit, UsualLimit);
+    limits.ruleBytes = std::numeric_limits<std::size_t>::max(); // whoever waits sees how far it is
+    limits.heldBytes = std::size_t{1024} * 1024 * 1024;
+    limits.everyWay = true;
+    return limits;
+}
+
+// The one title of an exploration; nothing after wrong usage.
+std::optional<std::string> ExploredTitle(CommandContext& context)
+{
+    const Arguments& arguments = context.Args();
+    for (const std::string_view option : {Answers, AnswersJson, Reuse, Runs, Trace}) {
+        if (arguments.Has(option)) {
+            context.WrongUsage("--explore and " + std::string(option) + " exclude each other");
+            return std::nullopt;
+        }
+    }
+    if (arguments.Operands().size() > 2) {
+        context.WrongUsage("--explore takes one TITLE");
+        return std::nullopt;
+    }
+    if (arguments.Operands()[1].empty()) {
+        context.WrongUsage("TITLE is empty");
+        return std::nullopt;
+    }
+    return arguments.Operands()[1];
+}
+
+Status RunExplore(CommandContext& context)
+{
+    const std::optional<std::string> title = ExploredTitle(context);
+    if (!title) {
+        return Status::Usage;
+    }
+    if (context.OpenTheBook() != Opening::Done) {
+        return context.GiveUp();
+    }
+    const std::size_t told = context.MessageCount();
+    if (!ShowForAdvisor(context.TheBook(), context.TheSeams(), *title)) {
+        if (context.MessageCount() == told) {
+            context.Fail("The topic has no advisor.");
+        }
+        return context.GiveUp();
+    }
+    StatesProgress progress(context.TheProgress());
+    const AdvisorCoverage coverage =
+        ExploreAdvisor(context.TheBook(), context.TheSeams(), ExploreLimits(context), &progress);
+    context.TheProgress().Erase();
+    WriteCoverage(context, *title, coverage);
+    const auto isFault = [](const DialogueEnd& end) {
+        return end.kind == DialogueEnd::Kind::ProgramEnds || end.kind == DialogueEnd::Kind::LoadFailed;
+    };
+    const std::vector<DialogueEnd>& ends = coverage.map.ends;
+    return std::any_of(ends.begin(), ends.end(), isFault) ? Status::Fault : Status::Done;
+}
+
 Status Run(CommandContext& context)
 {
+    if (context.Args().Has(Explore)) {
+        return RunExplore(context);
+    }
+    if (context.Args().Has(Limit)) {
+        return context.WrongUsage("--limit goes with --explore");
+    }
     Plan plan;
     if (const Status status = MakePlan(context, plan); status != Status::Done) {
         return status;
@@ -269,12 +359,18 @@ CommandSpec AdviseCommand()
         "Runs a topic's advisor: at a terminal with you, else with the answers given",
         "One dialogue runs for each TITLE; the last one serves further runs. When the answers run out the\n"
         "dialogue is closed. An answer is a choice, \"?\" for \"? - unsure\", \"#2\" for the second choice, "
-        "or\nempty for Next without an answer; \"-\" alone stands for no answers.",
+        "or\nempty for Next without an answer; \"-\" alone stands for no answers.\n\n"
+        "With --explore every dialogue is held that begins without earlier answers: each advice is told\n"
+        "with the fewest answers that lead to it, each advice that none reaches, each end without advice,\n"
+        "and each fault that would end the program. The status is 1 when there is such a fault. In JSON\n"
+        "these are \"advice\", \"never_reached\", \"dead_ends\" and \"program_ends\".",
         {{Answers, "LISTS", "answers parted by \",\", the runs' lists by \";\""},
          {AnswersJson, "FILE", "the answers from a file: a list of lists"},
          {Reuse, "REPLIES", "yes or no, parted by \",\": whether earlier answers are used again"},
          {Runs, "N", "so many runs", 1, 1000},
          {Trace, "", "show the rules and goals after each answer"},
+         {Explore, "", "hold every dialogue, and tell what they come to"},
+         {Limit, "N", "look at so many states of the dialogue; else 10000", 1, 10000000},
          JsonOption,
          PlainOption},
         Run};

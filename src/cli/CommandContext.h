@@ -41,6 +41,7 @@ public:
     [[nodiscard]] const WatchedFiles& Files() const { return m_files; }
     [[nodiscard]] const Seams& TheSeams() const { return m_seams; }
     [[nodiscard]] ProgressLine& TheProgress() { return m_progress; }
+    [[nodiscard]] std::size_t MessageCount() const { return m_messages.All().size(); }
     [[nodiscard]] bool Json() const { return m_arguments->Has(JsonOption.name); }
 
     /// Opens the book that the first operand names, and scans it unless it is taken as plain text.

@@ -3,6 +3,7 @@
 #include "base/Progress.h"
 
 #include <iosfwd>
+#include <string>
 
 namespace ls {
 
@@ -18,13 +19,17 @@ public:
 
     bool Step(std::int64_t done, std::int64_t total) override;
 
+    /// The same for work whose end nobody knows: shows a text of one line instead.
+    void Show(const std::string& text);
+
     /// Takes the line away, before anything else is written there.
     void Erase();
 
 private:
     std::ostream* m_stream;
     bool m_shown;
-    int m_percent = -1; ///< what stands on the terminal; -1 for nothing
+    int m_percent = -1;    ///< what stands on the terminal; -1 for no percentage
+    bool m_stands = false; ///< whether anything stands there
 };
 
 } // namespace ls

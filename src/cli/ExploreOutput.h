@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace ls {
+
+class CommandContext;
+struct AdvisorCoverage;
+
+/// Writes what all dialogues of a topic come to, for people or as JSON. The title is UTF-8.
+void WriteCoverage(CommandContext& context, const std::string& title, const AdvisorCoverage& coverage);
+
+} // namespace ls
