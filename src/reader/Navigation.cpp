@@ -1,11 +1,11 @@
 #include "reader/Navigation.h"
 
 #include "base/Messages.h"
+#include "base/QuietMessages.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
 #include "reader/MainView.h"
-#include "base/QuietMessages.h"
 
 #include <algorithm>
 

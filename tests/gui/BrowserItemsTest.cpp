@@ -111,9 +111,10 @@ TEST_F(BrowserItemsTest, about_tellsOfTheProgramAndTheBook)
     Press(form, "AboutItem");
     EXPECT_EQ(
         script.Seen(),
-        Strings{"information|Lodestar Advisor|Lodestar Advisor, version 5.3. Copyright (c) 2026 The Lodestar "
-                "Advisor authors. It is available at http://www.lodestar-advisor.example/\n\nThe book you are "
-                "viewing was written by Ann, copyright 2026"});
+        Strings{
+            "information|Lodestar Advisor|Lodestar Advisor, version 5.3. Copyright (c) 2026 The Lodestar "
+            "Advisor authors. It is available at http://www.lodestar-advisor.example/\n\nThe book you are "
+            "viewing was written by Ann, copyright 2026"});
 }
 
 } // namespace
