@@ -137,7 +137,7 @@ void TextRules::TakeHighBytes(std::string_view line, int number)
         m_findings.Warning(
             "reads-as-utf8", number,
             "The text reads as UTF-8, so the reader sees two or three odd characters for each letter "
-            "with an accent: convert the book to Windows-1252.");
+            "with an accent: convert the book with lsbook convert.");
     }
 }
 
@@ -161,7 +161,7 @@ void TextRules::TakeLoneLf(int number)
         m_findings.Warning(
             "unix-line-ends", number,
             "A LF without a CR ends no line of a book, so the reader sees two lines as one and "
-            "misses titles behind it: convert the book to CR LF.");
+            "misses titles behind it: convert the book with lsbook convert.");
     }
 }
 

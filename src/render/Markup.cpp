@@ -83,6 +83,10 @@ char EntityCharacter(std::string_view name)
 
 bool IsKnownTag(std::string_view name)
 {
+    constexpr std::size_t longest = 3;
+    if (name.size() > longest) {
+        return false;
+    }
     for (const TagEffect& tag : Tags) {
         if (tag.name == name) {
             return true;

@@ -1,6 +1,9 @@
 #include "CliFixture.h"
 
+#include "check/CheckCases.h"
 #include "support/TestSeams.h"
+
+#include <algorithm>
 
 namespace ls {
 namespace {
@@ -94,6 +97,50 @@ TEST_F(Check, missingBookAmongOthers_theOthersAreCheckedAndStatus3)
     EXPECT_EQ(Run({"check", "none.IDA", "w.IDA"}), 3);
     EXPECT_EQ(out, WarningLine);
     EXPECT_EQ(err, "critical: Error opening <<none.IDA>> with code 53: File not found\n");
+}
+
+TEST_F(Check, fileThatIsNoBook_isToldAndStatus1)
+{
+    files["/work/a.txt"] = "Hello\r\n";
+    EXPECT_EQ(Run({"check", "a.txt"}), 1);
+    EXPECT_EQ(out, "");
+    EXPECT_EQ(err,
+              "question: The file you opened is not a Lodestar Book or Advice file. Do you want to view it "
+              "as a single topic text file?\n");
+}
+
+TEST_F(Check, onATerminal_progressIsShownAndTakenAway)
+{
+    files["/work/w.IDA"] = WarningBook();
+    errIsTerminal = true;
+    EXPECT_EQ(Run({"check", "w.IDA"}), 0);
+    EXPECT_EQ(out, WarningLine);
+    EXPECT_TRUE(err.starts_with("\rReading 0%")) << err;
+    EXPECT_TRUE(err.ends_with("\rReading 100%\r\033[K")) << err;
+}
+
+TEST_F(Check, everyBadBookInJson_itsFindingsAndTheStatusOfTheWorst)
+{
+    int bad = 0;
+    for (const test::CheckCase& one : test::ReadCheckCases()) {
+        SCOPED_TRACE(one.name);
+        files["/work/x.IDA"] = one.book;
+        const bool error = std::any_of(one.findings.begin(), one.findings.end(), [](const std::string& line) {
+            return line.find(": error: ") != std::string::npos;
+        });
+        EXPECT_EQ(Run({"check", "x.IDA", "--json"}), error ? 1 : 0);
+        std::vector<std::string> found;
+        const test::Json json = test::Json::Parse(out);
+        for (const test::Json& finding : json["findings"].Items()) {
+            EXPECT_EQ(finding["file"].String(), "x.IDA");
+            EXPECT_EQ(finding["topic"].GetKind(), test::Json::Kind::String);
+            found.push_back(std::to_string(finding["line"].Int()) + ": " + finding["severity"].String() +
+                            ": " + finding["rule"].String() + ": " + finding["text"].String());
+        }
+        EXPECT_EQ(found, one.findings);
+        bad += one.findings.empty() ? 0 : 1;
+    }
+    EXPECT_GT(bad, 80);
 }
 
 } // namespace
