@@ -111,7 +111,9 @@ FileError BookPass::Run()
         }
         m_marks = MarksOf(line);
         TakeLine(line, pos, number);
-        CheckBytes(line, number);
+        if (m_marks.high || m_marks.lf) {
+            CheckBytes(line, number);
+        }
         if (pos >= m_nextReport && !ReportProgress(pos)) {
             break;
         }
@@ -170,7 +172,7 @@ void BookPass::CheckHeader(std::string_view line)
 
 void BookPass::TakeBody(std::string_view line, int number)
 {
-    const bool reference = line.starts_with(XrefOpening);
+    const bool reference = m_marks.tag && line.starts_with(XrefOpening);
     if (m_topic == 0) {
         if (!IsBlank(line)) {
             TellNeverShown(number, "Text before the first topic");
@@ -182,7 +184,7 @@ void BookPass::TakeBody(std::string_view line, int number)
     }
     if (m_block) {
         m_block->Take(line, number);
-    } else if (!line.empty() && (line.front() == '<' || line.front() == ' ') &&
+    } else if (m_marks.tag && (line.front() == '<' || line.front() == ' ') &&
                EqualsUpper(Trim(line), "<IXML>")) {
         m_text.EndShown();
         if (m_noteBracket != 0) {

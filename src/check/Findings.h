@@ -3,6 +3,7 @@
 #include "base/Quoted.h"
 #include "check/Finding.h"
 
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,7 +41,7 @@ private:
     std::string m_file;
     std::string m_topic;
     int m_errors = 0;
-    std::vector<Finding> m_list;
+    std::deque<Finding> m_list; ///< grows without moving what is there
 };
 
 } // namespace ls

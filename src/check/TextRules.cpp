@@ -46,7 +46,9 @@ void TextRules::BeginTopic()
 void TextRules::CheckMarkup(std::string_view line, int number, bool ampersand)
 {
     line = TrimRight(line);
-    CheckHeading(line, number);
+    if (line.starts_with('<') && IsHeading(line)) {
+        CheckHeading(line, number);
+    }
     MarkupReader reader(line);
     if (!ampersand) {
         reader.NoEntities();
@@ -102,9 +104,6 @@ void TextRules::TakeTag(std::string_view name, int number)
 
 void TextRules::CheckHeading(std::string_view line, int number)
 {
-    if (!IsHeading(line)) {
-        return;
-    }
     LineRemainder rest(line);
     std::string segment;
     WrapSegment(rest, ExportWidth, 0, segment);
