@@ -76,6 +76,10 @@ public:
 
     virtual FileError Remove(const std::string& path) = 0;
 
+    /// Whether the user may write over a file: error 70 for one that is marked read-only. The system may let
+    /// another file take its name all the same.
+    virtual FileError CheckWritable(const std::string& path) = 0;
+
     /// Whether anything has this name. Takes no lock.
     virtual bool Exists(const std::string& path) = 0;
 

@@ -72,11 +72,15 @@ std::string FreeNameBeside(FileSystem& files, const std::string& path)
     return name;
 }
 
-// A new name would be given over a folder's or a device's head, so these are looked at first.
+// A rename asks neither the file that it replaces nor whoever has locked it, so both are asked first.
 FileError CheckReplaceable(FileSystem& files, const std::string& path)
 {
+    if (!files.SameFile(path, path)) {
+        return {};
+    }
     std::unique_ptr<BookFile> old;
-    return files.SameFile(path, path) ? files.OpenForReading(path, Sharing::Shared, old) : FileError{};
+    FileError refused = files.OpenForReading(path, Sharing::Shared, old);
+    return refused.Ok() ? files.CheckWritable(path) : refused;
 }
 
 FileError OpenBeside(FileSystem& files, GiveName giveName, const std::string& path,

@@ -28,6 +28,10 @@ public:
     FileError RenameToNew(const std::string& from, const std::string& to) override;
     FileError RenameOver(const std::string& from, const std::string& to) override;
     FileError Remove(const std::string& path) override;
+    FileError CheckWritable(const std::string& path) override
+    {
+        return Note(path, m_files->CheckWritable(path));
+    }
     bool Exists(const std::string& path) override { return m_files->Exists(path); }
     bool SameFile(const std::string& a, const std::string& b) override { return m_files->SameFile(a, b); }
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override

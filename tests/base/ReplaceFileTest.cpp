@@ -115,6 +115,15 @@ TEST_F(ReplaceFile, fileLockedElsewhere_isError70)
     EXPECT_EQ(file, nullptr);
 }
 
+TEST_F(ReplaceFile, readOnlyFile_isError70)
+{
+    files["/work/a.htm"] = "old";
+    files.fail = [](const std::string& o) { return o == "writable a.htm" ? error::PermissionDenied : 0; };
+    EXPECT_EQ(Open("a.htm"), error::PermissionDenied);
+    EXPECT_EQ(files["/work/a.htm"], "old");
+    EXPECT_EQ(Names(), Strings{"a.htm"});
+}
+
 TEST_F(ReplaceFile, finishedTwice_isError52)
 {
     ASSERT_EQ(Open("a.htm"), 0);

@@ -41,6 +41,7 @@ public:
         return m_files->RenameOver(from, to);
     }
     FileError Remove(const std::string& path) override { return m_files->Remove(path); }
+    FileError CheckWritable(const std::string& path) override { return m_files->CheckWritable(path); }
     bool Exists(const std::string& path) override { return m_files->Exists(path); }
     bool SameFile(const std::string& a, const std::string& b) override { return m_files->SameFile(a, b); }
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override

@@ -262,6 +262,23 @@ TEST_F(LinuxFileSystemWriteTest, renameOver_impossible_tellsWhy)
     EXPECT_EQ(folder.Read("a"), "new");
 }
 
+TEST_F(LinuxFileSystemWriteTest, checkWritable_file_asItsRightsSay)
+{
+    const std::string open = folder.Write("open", "");
+    const std::string closed = folder.Write("closed", "");
+    ASSERT_EQ(::chmod(open.c_str(), 0666), 0);
+    ASSERT_EQ(::chmod(closed.c_str(), 0444), 0);
+    ASSERT_EQ(::chmod(folder.Path().c_str(), 0755), 0);
+    EXPECT_EQ(RunInChild([&] {
+                  if (!test::BecomeOrdinaryUser()) {
+                      return 255;
+                  }
+                  return files.CheckWritable(open).Ok() ? files.CheckWritable(closed).number : 1;
+              }),
+              70);
+    EXPECT_EQ(files.CheckWritable(folder / "none").number, 53);
+}
+
 TEST_F(LinuxFileSystemWriteTest, remove_names_takesFilesOnly)
 {
     folder.Write("a", "");

@@ -78,6 +78,20 @@ TEST_F(ExportForReal, folderThatMayNotBeWritten_isError70)
               0);
 }
 
+TEST_F(ExportForReal, readOnlyFileInAnOpenFolder_isError70AndStays)
+{
+    const std::string path = folder.Write("open/x.htm", "mine");
+    ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
+    ASSERT_EQ(::chmod((folder / "open").c_str(), 0777), 0);
+    ASSERT_EQ(::chmod(folder.Path().c_str(), 0755), 0);
+    EXPECT_EQ(test::RunInChild([&] {
+                  const bool ordinary = test::BecomeOrdinaryUser();
+                  return ordinary && Said(path) == NotOpened(path, "70: Permission denied") ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(folder.Read("open/x.htm"), "mine");
+}
+
 TEST_F(ExportForReal, namesThatAreNoFiles_areRefused)
 {
     EXPECT_EQ(Said(folder.Path()), NotOpened(folder.Path(), "75: Path/File access error"));

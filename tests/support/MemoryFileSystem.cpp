@@ -168,6 +168,14 @@ FileError MemoryFileSystem::Remove(const std::string& path)
     return m_files.erase(Full(path)) != 0 ? FileError{} : MakeFileError(error::FileNotFound);
 }
 
+FileError MemoryFileSystem::CheckWritable(const std::string& path)
+{
+    if (const int number = Fault("writable " + path); number != 0) {
+        return MakeFileError(number);
+    }
+    return MakeFileError(Exists(path) ? 0 : error::FileNotFound);
+}
+
 bool MemoryFileSystem::Exists(const std::string& path)
 {
     const std::string full = Full(path);

@@ -14,8 +14,8 @@ namespace ls::test {
 /// Files that live in memory. Paths use "/"; a folder exists when it was added or when a file lies in it.
 ///
 /// Faults are planted by `fail`, which is asked before every operation ("open /a", "read /a", "write /a",
-/// "finish /a", "create /a", "rename /a /b", "remove /a", "list /a") and gives the error number to fail with,
-/// 0 for none.
+/// "finish /a", "create /a", "rename /a /b", "remove /a", "list /a", "writable /a") and gives the error
+/// number to fail with, 0 for none.
 class MemoryFileSystem : public FileSystem
 {
 public:
@@ -25,6 +25,7 @@ public:
     FileError RenameToNew(const std::string& from, const std::string& to) override;
     FileError RenameOver(const std::string& from, const std::string& to) override;
     FileError Remove(const std::string& path) override;
+    FileError CheckWritable(const std::string& path) override;
     bool Exists(const std::string& path) override;
     bool SameFile(const std::string& a, const std::string& b) override;
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override;

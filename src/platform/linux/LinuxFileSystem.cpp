@@ -185,6 +185,15 @@ FileError LinuxFileSystem::Remove(const std::string& path)
     return ::unlink(path.c_str()) == 0 ? FileError{} : ErrorOfPath(errno, path);
 }
 
+FileError LinuxFileSystem::CheckWritable(const std::string& path)
+{
+    if (const FileError bad = CheckPath(path); !bad.Ok()) {
+        return bad;
+    }
+    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? FileError{}
+                                                                      : ErrorOfPath(errno, path);
+}
+
 bool LinuxFileSystem::Exists(const std::string& path)
 {
     struct stat status = {};

@@ -24,6 +24,8 @@ public:
     /// Takes the name away; a folder is error 75.
     FileError Remove(const std::string& path) override;
 
+    FileError CheckWritable(const std::string& path) override;
+
     /// A link that leads nowhere has its name, too.
     bool Exists(const std::string& path) override;
 

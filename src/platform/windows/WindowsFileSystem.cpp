@@ -181,6 +181,19 @@ FileError WindowsFileSystem::Remove(const std::string& path)
     return ::DeleteFileW(wide.c_str()) != 0 ? FileError{} : ErrorOfPath(::GetLastError(), wide);
 }
 
+FileError WindowsFileSystem::CheckWritable(const std::string& path)
+{
+    std::wstring wide;
+    if (FileError bad = ToWidePath(path, wide); !bad.Ok()) {
+        return bad;
+    }
+    const DWORD attributes = ::GetFileAttributesW(wide.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        return ErrorOfPath(::GetLastError(), wide);
+    }
+    return MakeFileError((attributes & FILE_ATTRIBUTE_READONLY) != 0 ? error::PermissionDenied : 0);
+}
+
 bool WindowsFileSystem::Exists(const std::string& path)
 {
     std::wstring wide;

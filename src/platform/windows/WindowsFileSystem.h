@@ -24,6 +24,7 @@ public:
     FileError Remove(const std::string& path) override;
 
     /// A link that leads nowhere has its name, too.
+    FileError CheckWritable(const std::string& path) override;
     bool Exists(const std::string& path) override;
 
     bool SameFile(const std::string& a, const std::string& b) override;
