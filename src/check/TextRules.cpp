@@ -49,10 +49,11 @@ void TextRules::CheckMarkup(std::string_view line, int number, bool ampersand)
     if (line.starts_with('<') && IsHeading(line)) {
         CheckHeading(line, number);
     }
-    MarkupReader reader(line);
     if (!ampersand) {
-        reader.NoEntities();
+        CheckTags(line, number);
+        return;
     }
+    MarkupReader reader(line);
     while (!reader.AtEnd()) {
         const MarkupPiece piece = reader.Next();
         if (piece.kind == MarkupPiece::Kind::Tag) {
@@ -63,6 +64,20 @@ void TextRules::CheckMarkup(std::string_view line, int number, bool ampersand)
                                    Quoted("&" + std::string(piece.name) + ";") +
                                    ": only &LT; &GT; and &AMP; are known, in capital letters.");
         }
+    }
+}
+
+// What the reader of markup finds in a line without entities, which is most of the lines of a large book.
+void TextRules::CheckTags(std::string_view line, int number)
+{
+    constexpr std::size_t none = std::string_view::npos;
+    for (std::size_t open = line.find('<'); open != none; open = line.find('<', open)) {
+        const std::size_t close = line.find('>', open);
+        if (close == none) {
+            return;
+        }
+        TakeTag(line.substr(open + 1, close - open - 1), number);
+        open = close + 1;
     }
 }
 

@@ -46,6 +46,7 @@ private:
     };
 
     void CheckMarkup(std::string_view line, int number, bool ampersand);
+    void CheckTags(std::string_view line, int number);
     void TakeTag(std::string_view name, int number);
     void CheckHeading(std::string_view line, int number);
     void CheckUnassigned(std::string_view line, int number);

@@ -34,9 +34,6 @@ public:
     [[nodiscard]] bool AtEnd() const { return m_at >= m_line.size(); }
     MarkupPiece Next();
 
-    /// To be said before the first piece is read: the line holds no "&", so none is looked for.
-    void NoEntities() { m_ampersand = std::string_view::npos; }
-
 private:
     std::size_t Find(char c, std::size_t from, std::size_t& known) const;
 
