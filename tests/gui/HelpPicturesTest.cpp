@@ -84,6 +84,15 @@ TEST_F(HelpPictures, rules)
               Strings{"form|LgEdForm|Topic Logic Edit"});
 }
 
+TEST_F(HelpPictures, print)
+{
+    printer.names = {"Office", "Print to PDF"};
+    processes.programFolder = Path("");
+    Write("LSIdeas_Print_Parameters.htm", "");
+    Start(Sample("Guide.IDA"));
+    EXPECT_EQ(Picture("PrintItem", "print"), Strings{"form|PrtForm|LSAdvisor Print"});
+}
+
 TEST_F(HelpPictures, open_and_save)
 {
     Start(Sample("Guide.IDA"));
