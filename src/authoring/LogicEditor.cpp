@@ -13,6 +13,8 @@ namespace ls {
 
 namespace {
 
+constexpr auto Most = static_cast<std::size_t>(Count16::Max); // of variables, and of the choices of them all
+
 // A name as the advisor compares it. The names in the lists are book text already, so it always has one.
 std::string KeyOf(const std::string& utf8)
 {
@@ -60,7 +62,7 @@ bool LogicEditor::Form_Load()
 {
     const auto topic = static_cast<std::size_t>(static_cast<int>(m_book.CurrentTopicNo));
     const LogicBlock block = ParseLogicBlock(m_book.TopicRecs(topic).Logic);
-    if (block.variables.size() > static_cast<std::size_t>(Count16::Max)) {
+    if (block.variables.size() > Most || block.choices.size() > Most) {
         ShowOverflow(m_seams.messages);
         return false;
     }
@@ -107,6 +109,15 @@ LogicEditor::Choice* LogicEditor::SelectedChoice()
 {
     Variable* variable = Selected();
     return variable == nullptr ? nullptr : At(variable->choices, m_choice);
+}
+
+std::size_t LogicEditor::ChoiceCount() const
+{
+    std::size_t count = 0;
+    for (const Variable& variable : m_variables) {
+        count += variable.choices.size();
+    }
+    return count;
 }
 
 void LogicEditor::StoreTexts()
@@ -202,7 +213,7 @@ void LogicEditor::VarAddButton_Click()
         Refuse(m_seams, "There is already a variable with this name.");
         return;
     }
-    if (m_variables.size() >= static_cast<std::size_t>(Count16::Max)) {
+    if (m_variables.size() >= Most) {
         ShowOverflow(m_seams.messages);
         return;
     }
@@ -242,10 +253,15 @@ void LogicEditor::AddAnsButton_Click()
     if (!name || variable == nullptr) {
         return;
     }
-    if (!variable->choiceKeys.insert(KeyOf(*name)).second) {
+    if (variable->choiceKeys.count(KeyOf(*name)) != 0) {
         Refuse(m_seams, "There is already a choice with this name.");
         return;
     }
+    if (ChoiceCount() >= Most) {
+        ShowOverflow(m_seams.messages);
+        return;
+    }
+    variable->choiceKeys.insert(KeyOf(*name));
     m_view.AppendChoice(*name);
     variable->choices.push_back({std::move(*name), {}});
     m_changed = true;

@@ -5,6 +5,7 @@
 #include "base/Seams.h"
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,7 +32,7 @@ public:
     }
 
     /// Takes the block apart and fills the boxes and lists; nothing is selected. False after the "Overflow"
-    /// box for a block with more than 32,767 variables: the form must not open then.
+    /// box for a block with more than 32,767 variables or choices: the form must not open then.
     [[nodiscard]] bool Form_Load();
 
     /// The author chose an entry of a list.
@@ -97,6 +98,7 @@ private:
     void Fill(const LogicBlock& block);
     [[nodiscard]] Variable* Selected();
     [[nodiscard]] Choice* SelectedChoice();
+    [[nodiscard]] std::size_t ChoiceCount() const;
     void StoreTexts();
     void Show(int variable, int choice);
     void ShowChoice(int choice);

@@ -1,6 +1,7 @@
 #include "authoring/LogicEditor.h"
 
 #include "RecordingLogicView.h"
+#include "base/CodePage.h"
 #include "book/Book.h"
 #include "support/TestSeams.h"
 
@@ -222,6 +223,19 @@ TEST_F(LogicEditorTest, deletionOfAnother_keepsWhatWasTyped)
     EXPECT_EQ(view[LogicBox::Advice], "A0");
 }
 
+TEST_F(LogicEditorTest, addAns_characterOutsideTheCodePage_isNamed)
+{
+    LoadThree();
+    editor.VarCombo_Click(0);
+    AddChoice("\xE2\x86\x92");
+    EXPECT_EQ(
+        Boxes(),
+        (Strings{ChoicePrompt,
+                 "warning|Lodestar Advisor|The name holds the character \"\xE2\x86\x92\" (U+2192), which "
+                 "a book cannot hold. Please replace it."}));
+    EXPECT_EQ(view.choices, (Strings{"OLD", "YOUNG"}));
+}
+
 TEST_F(LogicEditorTest, sameEntryChosenAgain_keepsTheChoice)
 {
     LoadThree();
@@ -315,7 +329,9 @@ TEST_F(LogicEditorTest, varDel_movesTheSelectionToTheNextOrTheLast)
     editor.VarDelButton_Click();
     EXPECT_EQ(view.variables, (Strings{"RISK", "PLACE"}));
     EXPECT_EQ(view.variable, 0);
-    EXPECT_EQ(view.choices, Strings{"HIGH"});
+    EXPECT_EQ(view[LogicBox::Question], "");
+    EXPECT_EQ(view.choices, Strings{"HIGH"}) << "those of the variable that is selected now";
+    EXPECT_EQ(view.choice, 0);
     EXPECT_EQ(view[LogicBox::Advice], "Stop.");
     editor.VarCombo_Click(1);
     editor.VarDelButton_Click();
@@ -426,8 +442,10 @@ TEST_F(LogicEditorTest, delAns_takesItOutOfWhatIsWrittenAndMovesTheSelection)
     EXPECT_EQ(view.choice, -1);
     EXPECT_EQ(view[LogicBox::Advice], "");
     EXPECT_TRUE(editor.SaveButton_Click());
-    EXPECT_EQ(Logic().find("<AV ID=AGE"), std::string::npos);
-    EXPECT_NE(Logic().find("<AV ID=RISK"), std::string::npos);
+    EXPECT_EQ(Logic(),
+              CrLf({"<IXML>", "<LOGIC>", "TARGET RISK", "</LOGIC>", "<DEFINITIONS>", "",
+                    "<Q ID=AGE>How old?</Q>", "", "<Q ID=RISK></Q>", "", "<AV ID=RISK(HIGH)>Stop.</AV>", "",
+                    "<Q ID=PLACE>Where?</Q>", "", "</DEFINITIONS>", "</IXML>"}));
     EXPECT_EQ(Boxes(), Strings{NotUntilSaved});
 }
 
@@ -481,17 +499,17 @@ TEST_F(LogicEditorTest, insertChoice_orItsRefusal)
 TEST_F(LogicEditorTest, specification_showsWhatWouldBeWritten)
 {
     LoadThree();
+    const std::string before = Logic();
     editor.VarCombo_Click(1);
     view[LogicBox::Question] = "\xE2\x82\xAC?";
     editor.ShowSpecItem_Click();
-    ASSERT_EQ(view.specifications.size(), 1U);
-    EXPECT_NE(view.specifications[0].find("<Q ID=RISK>\xE2\x82\xAC?</Q>\r\n"), std::string::npos);
     EXPECT_EQ(Boxes(), Strings());
     EXPECT_FALSE(book.BookChanged);
-    const std::string specified = view.specifications[0];
+    EXPECT_EQ(Logic(), before);
     EXPECT_TRUE(editor.SaveButton_Click());
     Boxes();
-    EXPECT_EQ(Logic().size() + 2, specified.size()) << "the euro has three bytes there";
+    EXPECT_NE(Logic().find("<Q ID=RISK>\x80?</Q>\r\n"), std::string::npos);
+    EXPECT_EQ(view.specifications, Strings{FromBook(Logic())});
 }
 
 TEST_F(LogicEditorTest, emptyLogicText_refusesSpecificationAndDone)
@@ -541,8 +559,8 @@ TEST_F(LogicEditorTest, lineFeedOfTheBook_staysUnlessItsTextIsChanged)
     EXPECT_FALSE(editor.Changed());
     EXPECT_TRUE(editor.SaveButton_Click());
     Boxes();
-    EXPECT_NE(Logic().find("* a\nb\r\n"), std::string::npos);
-    EXPECT_NE(Logic().find("<Q ID=A>one\ntwo</Q>"), std::string::npos);
+    EXPECT_EQ(Logic(), "<IXML>\r\n<LOGIC>\r\n* a\nb\r\n</LOGIC>\r\n<DEFINITIONS>\r\n\r\n"
+                       "<Q ID=A>one\ntwo</Q>\r\n\r\n</DEFINITIONS>\r\n</IXML>\r\n");
 }
 
 TEST_F(LogicEditorTest, typedLineEnds_areStoredAsCrLf)
@@ -553,8 +571,31 @@ TEST_F(LogicEditorTest, typedLineEnds_areStoredAsCrLf)
     view[LogicBox::Question] = "one\ntwo";
     EXPECT_TRUE(editor.SaveButton_Click());
     Boxes();
-    EXPECT_NE(Logic().find("<LOGIC>\r\na\r\nb\r\nc\r\n</LOGIC>"), std::string::npos);
-    EXPECT_NE(Logic().find("<Q ID=AGE>\r\none\r\ntwo\r\n</Q>"), std::string::npos);
+    EXPECT_EQ(Logic(), CrLf({"<IXML>",
+                             "<LOGIC>",
+                             "a",
+                             "b",
+                             "c",
+                             "</LOGIC>",
+                             "<DEFINITIONS>",
+                             "",
+                             "<Q ID=AGE>",
+                             "one",
+                             "two",
+                             "</Q>",
+                             "",
+                             "<AV ID=AGE(OLD)>Rest.</AV>",
+                             "",
+                             "<AV ID=AGE(YOUNG)>Run.</AV>",
+                             "",
+                             "<Q ID=RISK></Q>",
+                             "",
+                             "<AV ID=RISK(HIGH)>Stop.</AV>",
+                             "",
+                             "<Q ID=PLACE>Where?</Q>",
+                             "",
+                             "</DEFINITIONS>",
+                             "</IXML>"}));
 }
 
 struct UnmappedRow
@@ -729,6 +770,40 @@ TEST_F(LogicEditorTest, asManyVariablesAsThereCanBe_areEditedAtOnce)
 TEST_F(LogicEditorTest, moreVariablesThanThereCanBe_doesNotOpen)
 {
     book.TopicRecs(1).Logic = BlockWith(32768);
+    EXPECT_FALSE(editor.Form_Load());
+    EXPECT_EQ(Boxes(), Strings{"critical|Lodestar Advisor|Overflow"});
+}
+
+// A block with one variable of that many choices, "1" and so on.
+std::string BlockWithChoices(int choices)
+{
+    std::string block = "<IXML>\r\n<LOGIC>\r\nx\r\n<DEFINITIONS>\r\n<Q ID=A>a?</Q>\r\n<Q ID=B>b?</Q>\r\n";
+    for (int i = 1; i <= choices; ++i) {
+        block += "<AV ID=A(" + std::to_string(i) + ")></AV>\r\n";
+    }
+    return block;
+}
+
+TEST_F(LogicEditorTest, choicesOfAllVariables_countTogether)
+{
+    Load(BlockWithChoices(32766));
+    editor.VarCombo_Click(1);
+    AddChoice("last");
+    EXPECT_EQ(view.choices, Strings{"last"});
+    AddChoice("one more");
+    AddChoice("Last");
+    EXPECT_EQ(view.choices, Strings{"last"});
+    editor.DelAnsButton_Click();
+    AddChoice("one more");
+    EXPECT_EQ(view.choices, Strings{"one more"});
+    EXPECT_EQ(Boxes(),
+              (Strings{ChoicePrompt, ChoicePrompt, "critical|Lodestar Advisor|Overflow", ChoicePrompt,
+                       Refusal("There is already a choice with this name."), ChoicePrompt}));
+}
+
+TEST_F(LogicEditorTest, moreChoicesThanThereCanBe_doesNotOpen)
+{
+    book.TopicRecs(1).Logic = BlockWithChoices(32768);
     EXPECT_FALSE(editor.Form_Load());
     EXPECT_EQ(Boxes(), Strings{"critical|Lodestar Advisor|Overflow"});
 }

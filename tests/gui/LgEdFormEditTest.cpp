@@ -227,7 +227,6 @@ struct SwitchCase
     const char* name;
     const char* button;
     std::vector<std::optional<std::string>> inputs;
-    const char* question; ///< as it is written afterwards
 };
 
 struct LgEdFormStores : LgEdFormFixture, testing::WithParamInterface<SwitchCase>
@@ -250,9 +249,9 @@ TEST_P(LgEdFormStores, command_storesBothBoxesFirst)
 }
 
 const SwitchCase SwitchCases[] = {
-    {"VarAddButton", "VarAddButton", {"NEW"}, ""}, {"AddAnsButton", "AddAnsButton", {"NEW"}, ""},
-    {"InsertButton", "InsertButton", {}, ""},      {"InsAdvItem", "InsAdvItem", {}, ""},
-    {"SelectAllItem", "SelectAllItem", {}, ""},
+    {"VarAddButton", "VarAddButton", {"NEW"}}, {"AddAnsButton", "AddAnsButton", {"NEW"}},
+    {"InsertButton", "InsertButton", {}},      {"InsAdvItem", "InsAdvItem", {}},
+    {"SelectAllItem", "SelectAllItem", {}},
 };
 
 std::string SwitchName(const testing::TestParamInfo<SwitchCase>& info)
@@ -334,6 +333,11 @@ TEST_P(LgEdFormInsert, buttonItemKeyAndEnterInTheList_insertAtTheCaret)
     Box("VQuestionBox").setFocus();
     Key(GetParam().key);
     expectOneMore("key in another box");
+    for (const char* list : {"KeywordCombo", "VarCombo", "AnswerCombo"}) {
+        List(list).setFocus();
+        Key(GetParam().key); // also F4, which in other programs opens the list
+        expectOneMore(list);
+    }
     List(GetParam().list).setFocus();
     Key(Qt::Key_Return);
     expectOneMore("Enter in the list");
@@ -561,11 +565,9 @@ TEST_F(LgEdFormClose, characterOutsideTheCodePage_opensItsPlace)
     Pick("VarCombo", "NOTE");
     Press(*form, "SaveButton");
     EXPECT_TRUE(form->isVisible());
-    const Strings boxes = Boxes();
-    ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_NE(boxes[0].find("holds the character \"\xE2\x86\x92\" (U+2192), which a book cannot hold."),
-              std::string::npos)
-        << boxes[0];
+    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|Line 2 of the question for \"AGE\" holds the "
+                               "character \"\xE2\x86\x92\" (U+2192), which a book cannot hold. Please "
+                               "replace it."});
     EXPECT_EQ(Picked("VarCombo"), "AGE");
     EXPECT_EQ(form->focusWidget(), &Box("VQuestionBox"));
     EXPECT_EQ(Box("VQuestionBox").textCursor().selectedText(), QStringLiteral("two \u2192"));
@@ -618,10 +620,13 @@ TEST_F(LgEdFormClose, commentBetweenTheEntries_isNamedBeforeItIsDropped)
     Press(*form, "SaveButton");
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(book.TopicRecs(1).Logic, Block());
-    const Strings boxes = Boxes();
-    ASSERT_EQ(boxes.size(), 3U);
-    EXPECT_NE(boxes[0].find("* old and young"), std::string::npos) << boxes[0];
-    EXPECT_EQ(boxes[1], boxes[0]);
+    const std::string question =
+        "question|Lodestar Advisor|Not everything in this topic's logic can be kept as it was read:\n\nLine "
+        "14 of the block: The comment \"* old and young\" would be dropped.\n\nGo on all the same?|OKCancel";
+    EXPECT_EQ(Boxes(),
+              (Strings{question, question,
+                       "information|Lodestar Advisor|The changes will not take effect until you save "
+                       "the file."}));
 }
 
 TEST_F(LgEdFormClose, bareEntry_isWrittenBackBehindTheVariables)
