@@ -118,7 +118,7 @@ INSTANTIATE_TEST_SUITE_P(Files, LogicData, testing::ValuesIn(CaseNames()), CaseN
 
 TEST(LogicDataFolder, hasItsCases)
 {
-    EXPECT_GE(CaseNames().size(), 24U);
+    EXPECT_GE(CaseNames().size(), 25U);
 }
 
 } // namespace

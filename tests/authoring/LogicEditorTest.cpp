@@ -605,6 +605,8 @@ struct UnmappedRow
     const char* text;
     const char* where;
     int line;
+    int variable; ///< selected afterwards
+    int choice;
 };
 
 struct UnmappedRows : LogicEditorTest, testing::WithParamInterface<UnmappedRow>
@@ -626,6 +628,8 @@ TEST_P(UnmappedRows, characterOutsideTheCodePage_isNamedAndGoneTo)
     EXPECT_EQ(Boxes(), (Strings{box, box}));
     const Place place = {GetParam().box, GetParam().line};
     EXPECT_EQ(view.wentTo, (std::vector<Place>{place, place}));
+    EXPECT_EQ(view.variable, GetParam().variable);
+    EXPECT_EQ(view.choice, GetParam().choice);
     EXPECT_EQ(view[GetParam().box], GetParam().text);
     EXPECT_FALSE(book.BookChanged);
     EXPECT_EQ(view.specifications, Strings());
@@ -633,11 +637,11 @@ TEST_P(UnmappedRows, characterOutsideTheCodePage_isNamedAndGoneTo)
 
 INSTANTIATE_TEST_SUITE_P(Boxes, UnmappedRows,
                          testing::Values(UnmappedRow{"logic", LogicBox::Logic, "a\r\nb \xE2\x86\x92",
-                                                     "Line 2 of the logic text", 2},
+                                                     "Line 2 of the logic text", 2, 1, 0},
                                          UnmappedRow{"question", LogicBox::Question, "\xE2\x86\x92",
-                                                     "Line 1 of the question for \"AGE\"", 1},
+                                                     "Line 1 of the question for \"AGE\"", 1, 0, 0},
                                          UnmappedRow{"advice", LogicBox::Advice, "\r\n\r\n\xE2\x86\x92",
-                                                     "Line 3 of the advice for \"AGE(YOUNG)\"", 3}),
+                                                     "Line 3 of the advice for \"AGE(YOUNG)\"", 3, 0, 1}),
                          [](const auto& row) { return std::string(row.param.name); });
 
 constexpr const char* LostQuestion =
