@@ -7,6 +7,7 @@
 #include "browser/About.h"
 #include "browser/HelpPages.h"
 #include "browser/WebReferral.h"
+#include "check/CheckItem.h"
 #include "files/ProgramSelector.h"
 #include "reader/MainFormView.h"
 #include "render/ExportItem.h"
@@ -113,6 +114,7 @@ void MainForm::ConnectItems()
     connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
     connect(m_ui->PrintItem, &QAction::triggered, this, &MainForm::PrintItem_Click);
     connect(m_ui->ExportItem, &QAction::triggered, this, &MainForm::ExportItem_Click);
+    connect(m_ui->CheckItem, &QAction::triggered, this, &MainForm::CheckItem_Click);
     connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
     connect(m_ui->ContentsItem, &QAction::triggered, this, &MainForm::ContentsItem_Click);
     connect(m_ui->HelpItem, &QAction::triggered, this, &MainForm::HelpItem_Click);
@@ -293,6 +295,11 @@ void MainForm::PrintItem_Click()
 void MainForm::ExportItem_Click()
 {
     Run([this] { ls::ExportItem_Click(m_global.book, m_seams); });
+}
+
+void MainForm::CheckItem_Click()
+{
+    Run([this] { ls::CheckItem_Click(m_global.book, m_seams, *m_view, m_navigation); });
 }
 
 void MainForm::ExplainButton_Click()

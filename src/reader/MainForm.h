@@ -72,6 +72,7 @@ private:
     void EditPropertiesOption_Click();
     void PrintItem_Click();
     void ExportItem_Click();
+    void CheckItem_Click();
     void ExplainButton_Click();
     void HelpItem_Click();
     void AboutItem_Click();

@@ -9,6 +9,7 @@
 #include "authoring/MoveTopicsForm.h"
 #include "authoring/TxEdForm.h"
 #include "base/CodePage.h"
+#include "check/CheckForm.h"
 #include "files/FileChooser.h"
 #include "reader/ButtonIcons.h"
 #include "reader/XrefForm.h"
@@ -175,6 +176,21 @@ std::unique_ptr<Progress> MainFormView::WatchScan()
     box.label = QStringLiteral("Reading %1").arg(QString::fromStdString(name));
     box.canCancel = false;
     return std::make_unique<FormProgress>(&m_form, box);
+}
+
+std::unique_ptr<Progress> MainFormView::WatchCheck()
+{
+    const std::string name = FromPath(NameOf(m_seams.paths, m_global.book.BookPath));
+    ProgressBox box;
+    box.label = QStringLiteral("Checking %1").arg(QString::fromStdString(name));
+    return std::make_unique<FormProgress>(&m_form, box);
+}
+
+std::optional<std::size_t> MainFormView::ShowCheckForm(const CheckedBook& checked)
+{
+    CheckForm check(&m_form, checked);
+    check.exec();
+    return check.Chosen();
 }
 
 std::unique_ptr<Progress> MainFormView::WatchSave(const std::string& path)

@@ -50,6 +50,8 @@ public:
     void ShowAdvForm() override;
     void ShowInfoForm() override;
     [[nodiscard]] std::unique_ptr<Progress> WatchScan() override;
+    [[nodiscard]] std::unique_ptr<Progress> WatchCheck() override;
+    [[nodiscard]] std::optional<std::size_t> ShowCheckForm(const CheckedBook& checked) override;
     [[nodiscard]] std::unique_ptr<Progress> WatchSave(const std::string& path) override;
 
 private:

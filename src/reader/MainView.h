@@ -5,9 +5,12 @@
 #include "render/ShowTopic.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace ls {
+
+struct CheckedBook;
 
 /// The button that Enter presses.
 enum class DefaultButton
@@ -76,6 +79,16 @@ public:
 
     /// Told how far the scan of a long book has come, as long as the scan runs; nothing when nobody watches.
     [[nodiscard]] virtual std::unique_ptr<Progress> WatchScan() = 0;
+
+    /// The same for checking the book, which the user may cancel.
+    [[nodiscard]] virtual std::unique_ptr<Progress> WatchCheck() { return nullptr; }
+
+    /// Shows what a check found and returns when the form is closed: the finding to whose topic the user
+    /// wants to go, if any.
+    [[nodiscard]] virtual std::optional<std::size_t> ShowCheckForm(const CheckedBook& /*checked*/)
+    {
+        return std::nullopt;
+    }
 
     /// The same for writing a book into the file `path`, which the user may cancel.
     [[nodiscard]] virtual std::unique_ptr<Progress> WatchSave(const std::string& path) = 0;

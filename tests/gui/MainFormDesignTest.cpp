@@ -55,7 +55,7 @@ TEST_F(MainFormDesignTest, menus_captionsInOrder)
           "EditPropertiesOption Edit Properties"}},
         {"ActionMenu Action",
          {"PrevTopic Previous Topic", "NextItem Next Topic", "PrintItem Print Topic",
-          "ExportItem Export Topic"}},
+          "ExportItem Export Topic", "CheckItem Check Book"}},
         {"IndexMenu Index", {"AlphaItem Alphabetic Order", "ContentsItem Contents Order"}},
         {"HelpMenu Help", {"HelpItem Help", "AboutItem About"}}};
     const QList<QAction*> menus = form.menuBar()->actions();

@@ -103,6 +103,14 @@ public:
         saved = path;
         return saveProgress ? saveProgress() : nullptr;
     }
+    [[nodiscard]] std::unique_ptr<Progress> WatchCheck() override
+    {
+        return checkProgress ? checkProgress() : nullptr;
+    }
+    [[nodiscard]] std::optional<std::size_t> ShowCheckForm(const CheckedBook& checked) override
+    {
+        return onCheckForm ? onCheckForm(checked) : std::nullopt;
+    }
 
     [[nodiscard]] std::vector<std::string> ItemTexts() const
     {
@@ -132,6 +140,9 @@ public:
     int scans = 0;
     std::string saved; ///< the file whose writing was watched last
     std::function<std::unique_ptr<Progress>()> saveProgress;
+    std::function<std::unique_ptr<Progress>()> checkProgress;
+    /// What the user chooses in the list of findings.
+    std::function<std::optional<std::size_t>(const CheckedBook&)> onCheckForm;
     std::function<void()> onFileForm; ///< what the user does in the file form
     std::function<void()> onXrefForm; ///< what the user does in the cross-reference view
     int textForms = 0;

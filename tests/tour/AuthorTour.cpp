@@ -161,6 +161,21 @@ bool Tour::WalkReferences()
            Report(QStringLiteral("Close"), PressInForm("CloseButton"));
 }
 
+// Of the book's file, while the topics in memory were changed by the steps before.
+bool Tour::TakeCheck()
+{
+    return Report(QStringLiteral("Action"), OpenMenu("ActionMenu")) &&
+           WalkForm(
+               "CheckForm", [this] { return ClickItem(m_window, "ActionMenu", "CheckItem"); },
+               &Tour::WalkCheck);
+}
+
+bool Tour::WalkCheck()
+{
+    return TakeSteps({{"check", &Tour::LookAtForm}}) &&
+           Report(QStringLiteral("Close"), PressInForm("CloseButton"));
+}
+
 Tour::Fault Tour::PickReference()
 {
     for (const char* name : {"ToList", "InList"}) {

@@ -82,6 +82,8 @@ private:
     [[nodiscard]] bool TakeAuthor();
     [[nodiscard]] bool TakePrint();
     [[nodiscard]] bool WalkPrint();
+    [[nodiscard]] bool TakeCheck();
+    [[nodiscard]] bool WalkCheck();
     [[nodiscard]] bool WalkEditItem(const char* item, const char* form, bool (Tour::*walk)());
     [[nodiscard]] bool WalkTextEditor();
     [[nodiscard]] bool WalkRemoval();
