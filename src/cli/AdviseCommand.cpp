@@ -332,7 +332,7 @@ Status Run(CommandContext& context)
     }
     Plan plan;
     if (const Status status = MakePlan(context, plan); status != Status::Done) {
-        return status;
+        return status == Status::FileFault ? context.GiveUp() : status; // the verdict makes it one again
     }
     if (context.OpenTheBook() != Opening::Done) {
         return context.GiveUp();

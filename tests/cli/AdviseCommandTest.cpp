@@ -227,6 +227,15 @@ TEST_F(Advise, wrongUsage_isTold)
     EXPECT_EQ(Run({"advise", "a.IDA", "Plain", "--answers-json", "missing"}), 3);
 }
 
+TEST_F(Advise, answersThatCannotBeRead_areToldInJsonToo)
+{
+    EXPECT_EQ(Run({"advise", "a.IDA", "Plain", "--answers-json", "missing", "--json"}), 3);
+    EXPECT_EQ(err, "critical: Error reading <<missing>> with code 53: File not found\n");
+    const std::vector<Json> messages = Json::Parse(out)["messages"].Items();
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0]["text"].String(), "Error reading <<missing>> with code 53: File not found");
+}
+
 TEST_F(Advise, atATerminal_asksUntilAChoiceIsGiven)
 {
     inIsTerminal = true;
