@@ -100,7 +100,7 @@ CommandSpec SaveCommand()
             "Rewrites a book as an unedited save writes it",
             "The header is written anew and every line ends in CR LF; nothing behind an end mark is kept.\n"
             "OUT is there only when it is whole. The book itself is never written over.",
-            {{Force, "", "replace a file that exists"}, JsonOption},
+            {{Force, "", "replace a file that exists"}, JsonOption, PlainOption},
             Run};
 }
 

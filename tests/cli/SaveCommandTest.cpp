@@ -90,6 +90,14 @@ TEST_F(Save, bookWithoutTopics_hasNothingToSave)
     EXPECT_FALSE(files.Has("/work/b.IDA"));
 }
 
+TEST_F(Save, plainText_hasNothingToSave)
+{
+    files["/work/a.TXT"] = "text\r\n";
+    EXPECT_EQ(Run({"save", "a.TXT", "b.IDA", "--plain"}), 1);
+    EXPECT_TRUE(err.ends_with("\nexclamation: I have nothing to save.\n")) << err;
+    EXPECT_FALSE(files.Has("/work/b.IDA"));
+}
+
 TEST_F(Save, oneOperand_isWrongUsage)
 {
     EXPECT_EQ(Run({"save", "a.IDA"}), 2);
