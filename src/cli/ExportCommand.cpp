@@ -46,10 +46,11 @@ Status OpenOutput(CommandContext& context, const std::string& path, KeptOutput& 
 {
     FileSystem& files = context.TheSeams().files;
     const bool input = files.SameFile(context.TheBook().OpenPath, path);
-    if (!input && files.Exists(path) && !context.Args().Has(Force)) {
+    const bool force = context.Args().Has(Force);
+    if (!input && files.Exists(path) && !force) {
         return context.Fail("The output file already exists; --force replaces it.", Icon::Warning);
     }
-    output.file = OpenExportFile(context.TheBook(), context.TheSeams(), path);
+    output.file = OpenExportFile(context.TheBook(), context.TheSeams(), path, force);
     return output.file ? Status::Done : Status::FileFault;
 }
 

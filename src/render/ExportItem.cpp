@@ -11,21 +11,22 @@ namespace ls {
 namespace {
 
 // The book's topics are read from its file while they are exported.
-FileError OpenFile(const Book& book, FileSystem& files, const std::string& path,
+FileError OpenFile(const Book& book, FileSystem& files, const std::string& path, bool replace,
                    std::unique_ptr<OutputFile>& output)
 {
     if (!book.OpenPath.empty() && files.SameFile(book.OpenPath, path)) {
         return MakeFileError(error::FileAlreadyOpen);
     }
-    return OpenToReplace(files, path, output);
+    return replace ? OpenToReplace(files, path, output) : OpenToCreate(files, path, output);
 }
 
 } // namespace
 
-std::unique_ptr<OutputFile> OpenExportFile(const Book& book, const Seams& seams, const std::string& path)
+std::unique_ptr<OutputFile> OpenExportFile(const Book& book, const Seams& seams, const std::string& path,
+                                           bool replace)
 {
     std::unique_ptr<OutputFile> output;
-    if (const FileError failed = OpenFile(book, seams.files, path, output); !failed.Ok()) {
+    if (const FileError failed = OpenFile(book, seams.files, path, replace, output); !failed.Ok()) {
         seams.messages.MsgBox("Failed to open <<" + FromPath(path) + ">> due to error #" +
                                   std::to_string(failed.number) + ": " + failed.description + ".",
                               Icon::Warning);

@@ -300,11 +300,10 @@ FileError SystemPrinter::StoreFile()
     if (!bytes.last(std::min(bytes.size(), EndLength)).contains(EndOfPdf)) {
         return MakeFileError(error::DiskFull);
     }
-    if (!m_replace && m_files.Exists(m_path)) {
-        return MakeFileError(error::FileAlreadyExists); // it came while the user was not asked any more
-    }
+    // One that came under that name while the user was not asked any more is kept, too.
+    const auto open = m_replace ? OpenToReplace : OpenToCreate;
     std::unique_ptr<OutputFile> file;
-    if (const FileError failed = OpenToReplace(m_files, m_path, file); !failed.Ok()) {
+    if (const FileError failed = open(m_files, m_path, file); !failed.Ok()) {
         return failed;
     }
     const FileError failed = file->Write({bytes.data(), static_cast<std::size_t>(bytes.size())});

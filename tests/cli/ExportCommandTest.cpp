@@ -68,6 +68,21 @@ TEST_F(Export, existingFile_isRefusedAndKept)
     EXPECT_EQ(out, "");
 }
 
+TEST_F(Export, fileThatComesMeanwhile_isKept)
+{
+    files.fail = [this](const std::string& operation) {
+        if (operation.starts_with("finish")) {
+            files["/work/x.htm"] = "somebody else's";
+        }
+        return 0;
+    };
+    EXPECT_EQ(Run({"export", "a.IDA", "Café", "-o", "x.htm"}), 3);
+    EXPECT_EQ(err, "warning: Failed to write due to error #58: File already exists\n");
+    EXPECT_EQ(files["/work/x.htm"], "somebody else's");
+    EXPECT_FALSE(files.Has("/work/x.htm.new"));
+    EXPECT_EQ(out, "");
+}
+
 TEST_F(Export, existingFileForced_isReplaced)
 {
     files["/work/x.htm"] = "old";

@@ -23,6 +23,24 @@ TEST_F(PrintPdfTest, fileOfThatName_isReplacedOnlyWhenAgreed)
     EXPECT_EQ(test::PdfPages(path), (PageRows{{"A", "x"}}));
 }
 
+TEST_F(PrintPdfTest, fileThatComesWhileThePagesAreStored_isKept)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    test::MemoryFileSystem memory;
+    memory.fail = [&memory](const std::string& operation) {
+        if (operation.starts_with("finish")) {
+            memory["/work/a.pdf"] = "somebody else's";
+        }
+        return 0;
+    };
+    SystemPrinter onMemory(memory, service);
+    onMemory.SetFile("/work/a.pdf", false);
+    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).failed,
+              MakeFileError(error::FileAlreadyExists));
+    EXPECT_EQ(memory["/work/a.pdf"], "somebody else's");
+    EXPECT_FALSE(memory.Has("/work/a.pdf.new"));
+}
+
 struct BadPlace
 {
     const char* name;

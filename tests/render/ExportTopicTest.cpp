@@ -30,7 +30,9 @@ TEST_F(ExportTopicTest, title_isTheNameWithoutItsBrackets)
     };
     for (const Case& c :
          {Case{"[A]", "[A]", "A"}, Case{"A", "[A]", "A"}, Case{"[A [old]]", "[A [old]]", "A [old]"},
-          Case{"<A> & \"B\"", "[<A> & \"B\"]", "<A> & \"B\""}}) {
+          Case{"<A> & \"B\"", "[<A> & \"B\"]", "<A> & \"B\""},
+          // Of a name that begins with a bracket the last character goes, whichever it is.
+          Case{"[AB", "[AB]", "A"}, Case{"AB]", "[AB]", "AB]"}, Case{"[A", "[A]", "[A"}}) {
         SCOPED_TRACE(c.name);
         ASSERT_TRUE(Scan(BookHeaderLine + c.header + "\r\n"));
         file.text.clear();
@@ -79,6 +81,13 @@ TEST_F(ExportTopicTest, leadingTab_isFiveSpaces)
     EXPECT_EQ(BodyOf({"\tin"}), "<P>     in</P>\r\n");
 }
 
+// The TAB that remains becomes five spaces, which are a segment as any other.
+TEST_F(ExportTopicTest, remainderOfATab_isASegmentOfSpaces)
+{
+    const std::string row(70, 'x');
+    EXPECT_EQ(BodyOf({(row + "\t").c_str()}), "<P>" + row + "\r\n     </P>\r\n");
+}
+
 TEST_F(ExportTopicTest, blankLine_isEmptyAndKeepsAListOpen)
 {
     EXPECT_EQ(BodyOf({"- one", "", "- two", "text"}),
@@ -91,10 +100,17 @@ TEST_F(ExportTopicTest, itemsInARow_shareOneListThatAParagraphCloses)
               CrLf({"<OL>", "<LI>one</LI>", "<LI>two</LI>", "</OL>", "<P>After.</P>"}));
 }
 
+TEST_F(ExportTopicTest, listAfterAnother_isOpenedAndClosedAsItsOwnKind)
+{
+    EXPECT_EQ(BodyOf({"- one", "Between.", "Still between.", "1. two", "After.", "At last."}),
+              CrLf({"<UL>", "<LI>one</LI>", "</UL>", "<P>Between.</P>", "<P>Still between.</P>", "<OL>",
+                    "<LI>two</LI>", "</OL>", "<P>After.</P>", "<P>At last.</P>"}));
+}
+
 TEST_F(ExportTopicTest, headingClosesAList)
 {
-    EXPECT_EQ(BodyOf({"a) one", "<H2>Next</H2>"}),
-              CrLf({"<OL TYPE=a>", "<LI>one</LI>", "</OL>", "<H2>Next</H2>"}));
+    EXPECT_EQ(BodyOf({"a) one", "<H2>Next</H2>", "Text."}),
+              CrLf({"<OL TYPE=a>", "<LI>one</LI>", "</OL>", "<H2>Next</H2>", "<P>Text.</P>"}));
 }
 
 TEST_F(ExportTopicTest, listKind_followsTheFirstCharacterOfTheFirstItem)

@@ -70,6 +70,11 @@ const SetupCase Cases[] = {
     {"letter_pica", 12240, 15840, 12240, 15840, false, 10, 272, 10368, 14112, 72, 51, 6, 3},
     {"letter_elite", 12240, 15840, 12240, 15840, false, 12, 227, 10368, 14112, 86, 62, 8, 4},
     {"letter_sideways", 15840, 12240, 15840, 12240, true, 10, 272, 14400, 10368, 100, 38, 5, 3},
+    // On its side, with half an inch at each side that cannot be printed on, and an inch above and below:
+    // 720 - 1440 / 2 = 0 and 936 - 2880 / 2 = -504, which is raised to 0.
+    {"letter_sidewaysWideEdges", 15840, 12240, 14400, 9360, true, 10, 272, 14400, 9360, 100, 34, 0, 0},
+    // 720 - 720 / 2 = 360 and 936 - 480 / 2 = 696.
+    {"letter_sidewaysNarrowEdges", 15840, 12240, 15120, 11760, true, 10, 272, 14400, 10368, 100, 38, 2, 3},
     {"a4_pica", 11906, 16838, 11906, 16838, false, 10, 272, 10034, 15110, 69, 55, 6, 3},
     // Half an inch at each side, and an inch above and below, cannot be printed on.
     {"letter_wideEdges", 12240, 15840, 10800, 12960, false, 10, 272, 10368, 12960, 72, 47, 2, 0},
@@ -92,6 +97,35 @@ std::string TestName(const testing::TestParamInfo<SetupCase>& info)
 }
 
 INSTANTIATE_TEST_SUITE_P(Sheets, PageSetupCase, testing::ValuesIn(Cases), TestName);
+
+// A page whose lines are as high as "_" and whose bars are twice as high.
+class UnevenPage : public PageRuns
+{
+public:
+    [[nodiscard]] double TextHeight(std::string_view text) const override { return text == "|" ? 600 : 300; }
+};
+
+class UnevenPrinter : public PageRecorder
+{
+public:
+    using PageRecorder::PageRecorder;
+    TextSurface& Surface() override { return m_uneven; }
+
+private:
+    UnevenPage m_uneven;
+};
+
+TEST(PageSetup, lines_areMeasuredByTheUnderlineAndTheTopMarginByTheBar)
+{
+    PrinterState state;
+    state.width = state.scaleWidth = 12240;
+    state.height = state.scaleHeight = 15840;
+    UnevenPrinter printer(state, 272);
+    PrintSettings settings;
+    ASSERT_TRUE(PageSetup(settings, printer).Ok());
+    EXPECT_EQ(settings.LinesPerPage, 47) << "14112 / 300";
+    EXPECT_EQ(settings.TopMarginLines, 1) << "864 / 600";
+}
 
 TEST(PageSetup, elite_holdsAFifthMoreThanPica)
 {

@@ -268,6 +268,25 @@ TEST_F(PrtFormRulesTest, accept_paperOfSixByEightInches_isTheSmallest)
     }
 }
 
+// What counts is the paper that was chosen, not the one that the printer held before.
+TEST_F(PrtFormRulesTest, accept_sizeIsThatOfTheChosenPaper)
+{
+    printer.sizes = {{1, {12240, 15840}}, {11, {8400, 11900}}};
+    printer.state.width = 8400;
+    EXPECT_TRUE(Accept({"Office", 1, false, false}));
+    EXPECT_EQ(printer.log, (Strings{"choose Office", "paper 1", "grey"}));
+
+    printer.log.clear();
+    settings.PrintConfirmed = false;
+    settings.CharsPerInch = 10;
+    EXPECT_FALSE(Accept({"Office", 11, true, true}));
+    EXPECT_EQ(world.messages.Take().size(), 1U);
+    EXPECT_EQ(printer.log, (Strings{"choose Office", "paper 11"})) << "no colour mode was set";
+    EXPECT_FALSE(settings.PrintInColour);
+    EXPECT_EQ(settings.CharsPerInch, 10);
+    EXPECT_FALSE(settings.PrintConfirmed);
+}
+
 TEST_F(PrtFormRulesTest, accept_colourRefused_isToldAndStays)
 {
     printer.failColour = MakeFileError(error::InvalidCall);

@@ -137,8 +137,19 @@ TEST_F(PrintTopicTest, styleOpenAtThePageEnd_goesOnOnTheNextPage)
 
 TEST_F(PrintTopicTest, bookBelowVersionFive_printsItsMarkup)
 {
-    PrintBody("<B>b</B> &LT;\r\n", "LODESTAR BOOK V4.2\r\n");
+    for (const char* version : {"4.0", "4.2", "4.99"}) {
+        SCOPED_TRACE(version);
+        ResetBook(book);
+        PrintBody("<B>b</B> &LT;\r\n", "LODESTAR BOOK V" + std::string(version) + "\r\n");
+        EXPECT_EQ(test::RunText(printer.Pages().back().back()), "--- #000000 |<B>b</B> &LT;|");
+    }
     EXPECT_EQ(BodyRuns(), (Strings{"--- #000000 |      +", "--- #000000 |<B>b</B> &LT;|"}));
+}
+
+TEST_F(PrintTopicTest, bookOfVersionFive_printsWithItsMarkup)
+{
+    PrintBody("<B>b</B> &LT;\r\n", "LODESTAR BOOK V5.0\r\n");
+    EXPECT_EQ(BodyRows(), Strings{"      b <"});
 }
 
 TEST_F(PrintTopicTest, lineOfTagsOnly_leavesItsRowOpenBehindItsMargin)
@@ -177,6 +188,23 @@ TEST_F(PrintTopicTest, remainderThatBecomesBlanks_printsAnEmptyRow)
 {
     PrintBody(std::string(72, 'x') + "\t\r\nnext\r\n");
     EXPECT_EQ(BodyRows(), (Strings{"      " + std::string(72, 'x'), "", "      next"}));
+}
+
+// Behind an indent of 10 on paper of 12 characters, two of the five blanks fit a row: the last two make
+// another one.
+TEST_F(PrintTopicTest, remainderOfBlanksOnly_printsOneMoreEmptyRow)
+{
+    printer.state.width = printer.state.scaleWidth = 2 * 936 + 12 * 144;
+    PrintBody("12345678. " + std::string(48, 'x') + "\t\r\nnext\r\n");
+    EXPECT_EQ(settings.CharsPerLine, 12);
+    const std::string row = std::string(16, ' ') + std::string(12, 'x');
+    EXPECT_EQ(BodyRows(), (Strings{"      12345678.", row, row, row, row, "", "", "      next"}));
+}
+
+TEST_F(PrintTopicTest, blanksAtTheEndOfALine_areCut)
+{
+    PrintBody(std::string(72, 'x') + "   \r\nnext\r\n");
+    EXPECT_EQ(BodyRows(), (Strings{"      " + std::string(72, 'x'), "      next"}));
 }
 
 TEST_F(PrintTopicTest, emptyLines_printEmptyRowsWithoutMargin)
@@ -374,6 +402,17 @@ TEST_F(PrintTopicTest, printerFailsAtANewPage_endsThePrintAtOnce)
     Print("[A]", 1);
     EXPECT_EQ(printed.failed, MakeFileError(error::DeviceUnavailable));
     EXPECT_EQ(printer.log, Strings{"font Courier New 12"}) << "the document is not ended, so not printed";
+}
+
+TEST_F(PrintTopicTest, printAfterOneThatFailed_beginsAtTheTopLeft)
+{
+    printer.failNewPage = MakeFileError(error::DeviceUnavailable);
+    ASSERT_TRUE(Scan(Header + "[A]\r\n" + NumberedLines(500)));
+    Print("[A]", 1);
+    printer.failNewPage = {};
+    OpenPlain("first\r\n");
+    Print("", 0);
+    EXPECT_EQ(Rows(), (Strings{"", "", "", "      first"}));
 }
 
 TEST_F(PrintTopicTest, printerFailsAtTheEnd_isTold)

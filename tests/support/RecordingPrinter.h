@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace ls::test {
@@ -30,9 +32,10 @@ public:
 
     std::vector<std::string> names = {"Office"};
     std::string current = "Office";
-    std::string fileTo;              ///< the printer of this name asks for a file
-    PrinterState state;              ///< of the current one
-    std::map<int, FileError> refuse; ///< paper codes that are refused
+    std::string fileTo;                       ///< the printer of this name asks for a file
+    PrinterState state;                       ///< of the current one
+    std::map<int, FileError> refuse;          ///< paper codes that are refused
+    std::map<int, std::pair<int, int>> sizes; ///< width and height of papers that lie ready
     FileError failNewPage;
     FileError failEndDoc;
     FileError failColour;
@@ -63,6 +66,9 @@ public:
             return found->second;
         }
         state.paperSize = code;
+        if (const auto found = sizes.find(code); found != sizes.end()) {
+            std::tie(state.width, state.height) = found->second;
+        }
         return {};
     }
     FileError SetColour(bool colour) override
