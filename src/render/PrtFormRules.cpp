@@ -24,6 +24,7 @@ constexpr int LeastHeight = 11520; // 8 inches
 constexpr int Pica = 10;
 constexpr int Elite = 12;
 constexpr const char* PdfType = ".pdf";
+constexpr std::size_t LongestProposal = 80; // characters of a title: names of files may be 255 bytes long
 
 // The captions have always stood so; legal paper is 14 inches long, but not 11 wide.
 std::vector<PaperChoice> Papers()
@@ -59,7 +60,8 @@ bool IsLargeEnough(const PrinterState& page, const Seams& seams)
 // A title as a file name that every system takes.
 std::string ProposedName(const Book& book, const Seams& seams)
 {
-    std::string name = FromBook(WithoutBrackets(book.CurrentTopicName));
+    const std::string title = WithoutBrackets(book.CurrentTopicName).substr(0, LongestProposal);
+    std::string name = FromBook(TrimRight(title));
     if (book.IsPlainText()) {
         name = FromPath(NameOf(seams.paths, book.BookPath));
         name.resize(std::min(name.rfind('.'), name.size()));

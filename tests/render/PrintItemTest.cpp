@@ -363,6 +363,19 @@ TEST_F(PdfNameTest, proposal_isTheTitleAsAFileName)
     }
 }
 
+TEST_F(PdfNameTest, proposalForALongTitle_isShortEnoughForAName)
+{
+    ShowTopicA();
+    book.CurrentTopicName = "[" + std::string(79, '\x80') + " " + std::string(500, 'x') + "]";
+    EXPECT_FALSE(AcceptPdf(std::nullopt));
+    std::string euros;
+    for (int i = 0; i < 79; ++i) {
+        euros += "€";
+    }
+    EXPECT_EQ(world.messages.Take(),
+              Strings{"input|Lodestar Advisor|Filename for the PDF file|" + euros + ".pdf"});
+}
+
 TEST_F(PdfNameTest, proposalForPlainText_isItsNameWithoutType)
 {
     OpenPlain("x\r\n");
