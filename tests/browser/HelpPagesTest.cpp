@@ -95,11 +95,14 @@ TEST_F(HelpPagesTest, show_noBrowserOnWindows_looksForExeFiles)
     EXPECT_EQ(world.processes.started, Strings{});
 }
 
-TEST_F(HelpPagesTest, show_noBrowserAndNo_asksNoMore)
+TEST_F(HelpPagesTest, show_noBrowserAndNoOrTheBoxIsClosed_asksNoMore)
 {
-    world.messages.replies = {Reply::No};
     picked = "/usr/bin/web";
-    Show("Lodestar_Open.htm");
+    for (const Reply reply : {Reply::No, Reply::Cancel}) {
+        world.messages.replies = {reply};
+        Show("Lodestar_Open.htm");
+        EXPECT_EQ(world.messages.Take(), (Strings{NoKey, Question}));
+    }
     EXPECT_EQ(asked, Strings{});
     EXPECT_EQ(world.processes.started, Strings{});
 }
