@@ -82,7 +82,8 @@ void CheckAdviceText(const RuleBase& base, Findings& findings)
     std::unordered_set<std::string> told;
     for (const BlockRule& rule : base.Own().rules) {
         const std::string& value = rule.conclusion.value;
-        if (rule.conclusion.var != base.Target() || value.empty() || !told.insert(value).second) {
+        if (rule.fault == RuleFault::Conclusion || rule.conclusion.var != base.Target() || value.empty() ||
+            !told.insert(value).second) {
             continue;
         }
         const std::string id = Identifier(base.Target(), value);

@@ -217,9 +217,7 @@ void BookPass::TakeText(std::string_view line, int number)
         return;
     }
     const bool tag = m_marks.tag && (line.front() == '<' || line.front() == ' ');
-    if (tag) {
-        TakeTag(line, number);
-    }
+    const bool told = tag && !m_rulesAsText && TakeTag(line, number);
     if (tag && BeginsUpper(line, "<XREF")) {
         m_text.EndShown();
         m_hidden = true;
@@ -228,7 +226,7 @@ void BookPass::TakeText(std::string_view line, int number)
             TellNeverShown(number, "Text behind a cross reference");
         }
     } else {
-        if (m_marks.tag || m_marks.entity) {
+        if ((m_marks.tag || m_marks.entity) && !told && !m_rulesAsText) {
             m_text.TakeShown(line, number, m_marks.entity);
         }
         if (++m_lines == Count16::Max + 1) {
@@ -240,14 +238,16 @@ void BookPass::TakeText(std::string_view line, int number)
     }
 }
 
-// Tags of whole lines that are not where, or as, they must be.
-void BookPass::TakeTag(std::string_view line, int number)
+// Tags of whole lines that are not where, or as, they must be. Whether that was told of this line.
+bool BookPass::TakeTag(std::string_view line, int number)
 {
     const std::string_view trimmed = TrimLeft(line);
     if (trimmed.empty() || trimmed.front() != '<') {
-        return;
+        return false;
     }
-    CheckCutBlock(trimmed);
+    if (CheckCutBlock(trimmed)) {
+        return true;
+    }
     if (BeginsUpper(trimmed, "<IXML>") || BeginsUpper(trimmed, "<LOGIC>")) {
         m_findings.Warning(
             "tag-place", number,
@@ -256,6 +256,7 @@ void BookPass::TakeTag(std::string_view line, int number)
                   "no advisor: part the line behind it."
                 : "\"<LOGIC>\" stands without \"<IXML>\" before it, so the rules are text and the "
                   "reader finds no advisor: add a line \"<IXML>\" before it.");
+        m_rulesAsText = true;
     } else if (BeginsUpper(trimmed, XrefOpening) && trimmed.size() != line.size()) {
         m_findings.Warning(
             "tag-place", number,
@@ -266,14 +267,17 @@ void BookPass::TakeTag(std::string_view line, int number)
             "tag-case", number,
             "Only \"<XREF TOPIC=\" in capital letters opens a cross reference, so the reader is not "
             "offered this one and the text behind it is hidden: write it so.");
+    } else {
+        return false;
     }
+    return true;
 }
 
 // The end of a block without its beginning: the title of this topic is a line of the block before it.
-void BookPass::CheckCutBlock(std::string_view tag)
+bool BookPass::CheckCutBlock(std::string_view tag)
 {
     if (m_cutLine == 0) {
-        return;
+        return false;
     }
     for (const std::string_view end : {"</LOGIC>", "<DEFINITIONS>", "</DEFINITIONS>", "</IXML>"}) {
         if (EqualsUpper(TrimRight(tag), end)) {
@@ -282,9 +286,11 @@ void BookPass::CheckCutBlock(std::string_view tag)
                 "A line that begins with \"[\" in a logic block begins a new topic, so the reader's "
                 "advisor misses all that stands behind it: begin the line with something else.");
             m_cutLine = 0;
-            return;
+            m_rulesAsText = true;
+            return true;
         }
     }
+    return false;
 }
 
 void BookPass::TellNeverShown(int number, std::string_view why)
@@ -333,7 +339,7 @@ void BookPass::BeginTopic(int number)
     m_text.BeginTopic();
     m_lines = 0;
     m_noteBracket = 0;
-    m_hidden = m_toldHidden = false;
+    m_hidden = m_toldHidden = m_rulesAsText = false;
     CheckTitle(number);
 }
 

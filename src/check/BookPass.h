@@ -43,8 +43,8 @@ private:
     void TakeLine(std::string_view line, FilePos pos, int number);
     void TakeBody(std::string_view line, int number);
     void TakeText(std::string_view line, int number);
-    void TakeTag(std::string_view line, int number);
-    void CheckCutBlock(std::string_view tag);
+    bool TakeTag(std::string_view line, int number);
+    bool CheckCutBlock(std::string_view tag);
     void TakeBehindEnd(std::string_view line, FilePos pos, int number);
     void TellNeverShown(int number, std::string_view why);
     void BeginTopic(int number);
@@ -67,11 +67,12 @@ private:
 
     LineMarks m_marks; ///< of the line at hand
     int m_topic = 0;
-    int m_lines = 0;           ///< of the topic's displayed text
-    bool m_hidden = false;     ///< a cross reference hides what follows
-    bool m_toldHidden = false; ///< text that is never shown was found in this topic
-    int m_noteBracket = 0;     ///< the first line of a note that begins with a bracket
-    int m_endLine = 0;         ///< of "[EOF]"
+    int m_lines = 0;            ///< of the topic's displayed text
+    bool m_hidden = false;      ///< a cross reference hides what follows
+    bool m_toldHidden = false;  ///< text that is never shown was found in this topic
+    bool m_rulesAsText = false; ///< the rest of this topic is meant for rules, and that was told
+    int m_noteBracket = 0;      ///< the first line of a note that begins with a bracket
+    int m_endLine = 0;          ///< of "[EOF]"
     bool m_toldBehindEnd = false;
     int m_cutLine = 0; ///< of this topic's title when the block before it was not closed
     std::optional<CheckedBlockReader> m_block;

@@ -84,6 +84,7 @@ struct CheckedBlock
     int logicEnd = 0;              ///< of "</LOGIC>"
     int definitionsLine = 0;       ///< of the line that opens the definitions
     bool definitionsAlone = false; ///< that line holds nothing else
+    bool definitionsTag = false;   ///< it begins with a tag, so it is no comment and no rule
     int definitionsEnd = 0;        ///< of "</DEFINITIONS>" alone on its line
     int blockEnd = 0;              ///< of "</IXML>"
     int bracketLine = 0;           ///< the first line of the definitions that begins with blanks and "["

@@ -90,6 +90,7 @@ void CheckedBlockReader::TakeLogic(std::string_view trimmed, int number)
         m_part = Part::Definitions;
         m_block.definitionsLine = number;
         m_block.definitionsAlone = line == "<DEFINITIONS>";
+        m_block.definitionsTag = line.starts_with('<');
     } else if (line == "</LOGIC>") {
         m_block.logicEnd = number;
     } else if (line == "</IXML>") {

@@ -112,6 +112,42 @@ std::string PathText(const std::vector<std::string>& circle)
     return text + FromBook(circle.front());
 }
 
+// What the goal comes to.
+std::unordered_set<std::string> Needed(const std::string& goal, const Steps& steps)
+{
+    std::unordered_set<std::string> needed{goal};
+    std::deque<std::string> open{goal};
+    while (!open.empty()) {
+        const auto next = steps.find(open.front());
+        open.pop_front();
+        if (next == steps.end()) {
+            continue;
+        }
+        for (const Step& step : next->second) {
+            if (needed.insert(step.to).second) {
+                open.push_back(step.to);
+            }
+        }
+    }
+    return needed;
+}
+
+// The DEFINE line that leads into the circle; without one for a variable of the circle, the first of all.
+int DefineLine(const RuleBase& base, const std::vector<std::string>& circle)
+{
+    int first = 0;
+    for (const BlockCommand& command : base.Own().commands) {
+        if (command.title.empty()) {
+            continue;
+        }
+        if (std::find(circle.begin(), circle.end(), command.var) != circle.end()) {
+            return command.line;
+        }
+        first = first == 0 ? command.line : first;
+    }
+    return first;
+}
+
 // The first rule of the own block that is a step of the circle; 0 when other topics hold all of it.
 int LineOf(const RuleBase& base, const std::vector<std::string>& circle)
 {
@@ -135,15 +171,22 @@ void CheckCircles(const RuleBase& base, Findings& findings)
 {
     const Steps steps = StepsOf(base);
     const std::unordered_set<std::string> suspects = Suspects(steps);
+    const std::unordered_set<std::string> needed = Needed(base.Target(), steps);
     std::unordered_set<std::string> told;
     for (const VariableUse& variable : base.Variables()) {
         if (suspects.count(variable.name) == 0 || told.count(variable.name) != 0) {
             continue;
         }
         const std::vector<std::string> circle = CircleFrom(variable.name, steps);
-        const int line = circle.empty() ? 0 : LineOf(base, circle);
+        if (circle.empty()) {
+            continue;
+        }
+        int line = LineOf(base, circle);
+        if (line == 0 && needed.count(variable.name) != 0) {
+            line = DefineLine(base, circle); // other topics hold all of it, but this one comes to it
+        }
         if (line == 0) {
-            continue; // a topic that holds the circle reports it
+            continue;
         }
         told.insert(circle.begin(), circle.end());
         findings.Error("circular-definition", line,

@@ -26,7 +26,15 @@ void CheckWord(const BlockCommand& command, Findings& findings)
 
 void CheckDefine(const BlockCommand& command, Findings& findings)
 {
-    if (command.kind == Kind::Define && (command.title.empty() || command.var.empty())) {
+    if (command.kind != Kind::Define) {
+        return;
+    }
+    if (!command.title.empty() && command.var.empty()) {
+        findings.Error(
+            "define-syntax", command.line,
+            "The line names no variable before the \"@\", so it does nothing for the reader: write "
+            "it as DEFINE VARIABLE@TITLE, or remove it.");
+    } else if (command.title.empty()) {
         findings.Error("define-syntax", command.line,
                        "The line is not of the form DEFINE VARIABLE@TITLE, so the reader gets an error box "
                        "instead of a question: name the variable, and the topic behind \"@\".");

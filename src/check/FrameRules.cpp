@@ -27,6 +27,10 @@ void CheckDefinitionsTag(const CheckedBlock& block, Findings& findings)
             "no-definitions", block.logicLine,
             "The block has no \"<DEFINITIONS>\" line, so the reader gets an error box instead of a "
             "question: add it behind the rules, and \"</DEFINITIONS>\" at the end.");
+    } else if (block.definitionsLine != 0 && block.definitionsTag && !block.definitionsAlone) {
+        findings.Warning("definitions-in-line", block.definitionsLine,
+                         "What stands beside \"<DEFINITIONS>\" on its line is passed over, so the reader may "
+                         "miss it: write each on a line of its own.");
     } else if (block.definitionsLine != 0 && !block.definitionsAlone) {
         findings.Error(
             "definitions-in-line", block.definitionsLine,

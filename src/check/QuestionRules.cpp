@@ -9,6 +9,11 @@ namespace ls {
 
 namespace {
 
+bool HasBlank(const std::string& name)
+{
+    return name.find(' ') != std::string::npos;
+}
+
 bool IsWellFormedDefine(const BlockCommand& command)
 {
     return command.kind == BlockCommand::Kind::Define && !command.title.empty();
@@ -26,9 +31,6 @@ void CheckDefinedTopic(const RuleBase& base, const BlockCommand& define, Finding
                            var + " cannot be found: write the title as it stands in the book.");
         return;
     }
-    if (topic == base.Own().topic) {
-        return; // the entry of this very block is meant
-    }
     const CheckedBlock* const block = base.Store().Find(topic);
     if (block == nullptr) {
         findings.Error("define-no-logic", define.line,
@@ -36,7 +38,18 @@ void CheckDefinedTopic(const RuleBase& base, const BlockCommand& define, Finding
                            " has no logic block, so the reader gets an error "
                            "box when " +
                            var + " comes up: give it one that asks for " + var + ".");
-    } else if (block->FindEntry(true, define.var) == nullptr) {
+        return;
+    }
+    const VariableUse* const use = base.Find(define.var);
+    if (block->FindEntry(true, define.var) != nullptr) {
+        return;
+    }
+    if (use != nullptr && !use->conclusions.empty()) {
+        findings.Warning("define-no-question", define.line,
+                         "The topic " + Quoted(define.title) + " has no question for " + var +
+                             ", so the reader is never asked and rules alone conclude it: add <Q ID=" + var +
+                             "> there, empty if that is meant.");
+    } else {
         findings.Error("define-no-question", define.line,
                        "The topic " + Quoted(define.title) + " has no question for " + var +
                            ", so the reader's dialogue stops when it comes up: add <Q ID=" + var +
@@ -47,7 +60,7 @@ void CheckDefinedTopic(const RuleBase& base, const BlockCommand& define, Finding
 void CheckDefines(const RuleBase& base, Findings& findings)
 {
     for (const BlockCommand& command : base.Own().commands) {
-        if (IsWellFormedDefine(command)) {
+        if (IsWellFormedDefine(command) && !command.var.empty() && !HasBlank(command.var)) {
             CheckDefinedTopic(base, command, findings);
         }
     }
@@ -76,18 +89,32 @@ void CheckRegistered(const RuleBase& base, Findings& findings)
     }
 }
 
+// Where a question without a text is told: at its entry, or where this block needs that of another topic. 0
+// when there is no such entry, which has its own finding.
+int EmptyQuestionLine(const RuleBase& base, const VariableUse& variable, const Registration& question)
+{
+    const CheckedBlock* const block = base.Store().Find(question.topic);
+    if (block == nullptr || block->FindEntry(true, variable.name) == nullptr) {
+        return 0;
+    }
+    return question.topic == base.Own().topic ? question.line : variable.conditionLine;
+}
+
 // Only a variable with a choice is asked; one that rules conclude is worked out instead.
 void CheckQuestionTexts(const RuleBase& base, Findings& findings)
 {
     for (const VariableUse& variable : base.Variables()) {
         const Registration* const question = base.Question(variable.name);
-        if (variable.conditionLine == 0 || question == nullptr || question->topic != base.Own().topic ||
-            base.HasQuestionText(variable.name) || !variable.conclusions.empty() ||
-            base.Values(variable).size() < 2) {
+        if (variable.conditionLine == 0 || question == nullptr || base.HasQuestionText(variable.name) ||
+            !variable.conclusions.empty() || base.Values(variable).size() < 2) {
+            continue;
+        }
+        const int line = EmptyQuestionLine(base, variable, *question);
+        if (line == 0) {
             continue;
         }
         const std::string var = FromBook(variable.name);
-        findings.Error("empty-question", question->line,
+        findings.Error("empty-question", line,
                        "The question for " + var + " is empty and no rule concludes " + var +
                            ", so the reader's dialogue stops with \"Can't find text for " + var +
                            "\": write the question.");
@@ -144,7 +171,7 @@ void CheckQuestionsUsed(const RuleBase& base, Findings& findings)
     std::vector<const BlockEntry*> unused;
     for (const BlockEntry& entry : base.Own().entries) {
         const VariableUse* const variable = base.Find(entry.id);
-        if (entry.registered && entry.id != base.Target() && entry.id.find(' ') == std::string::npos &&
+        if (entry.registered && entry.id != base.Target() && !HasBlank(entry.id) &&
             (variable == nullptr || !variable->condition)) {
             unused.push_back(&entry);
         }

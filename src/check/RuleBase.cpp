@@ -30,7 +30,9 @@ void RuleBase::FollowDefines()
     m_blocks.push_back(m_own);
     for (std::size_t i = 0; i < m_blocks.size(); ++i) {
         for (const BlockCommand& command : m_blocks[i]->commands) {
-            const int topic = command.title.empty() ? 0 : m_store->TopicNumber(command.title);
+            // A name with a blank never comes up, since rules have none.
+            const bool followed = !command.title.empty() && command.var.find(' ') == std::string::npos;
+            const int topic = followed ? m_store->TopicNumber(command.title) : 0;
             const CheckedBlock* const block =
                 topic == 0 || !known.insert(topic).second ? nullptr : m_store->Find(topic);
             if (block != nullptr && m_blocks.size() < MostBlocks) {
