@@ -14,18 +14,21 @@ constexpr std::string_view NewType = ".new";
 constexpr std::string_view BackupType = ".bak";
 constexpr int MaxBackups = 99;
 
-// A path as its record holds it. "~" stands before what would mean something else when it is read back.
+// A path as its record holds it. "~" stands before what would mean something else when it is read back, and
+// before a blank at either end, which would be trimmed; ";" keeps the last one from ending its line.
 std::string Escaped(const std::string& path)
 {
     std::string text;
     for (std::size_t i = 0; i < path.size(); ++i) {
         const char c = path[i];
-        if (c == '~' || c == ';' || (c == '+' && i + 1 == path.size())) {
+        const bool first = i == 0;
+        const bool last = i + 1 == path.size();
+        if (c == '~' || c == ';' || (c == '+' && last) || (c == ' ' && (first || last))) {
             text += '~';
         }
         text += c;
     }
-    return text;
+    return path.ends_with(' ') ? text + ';' : text;
 }
 
 // A line end in a path would tear its record apart; such a book is opened, but not remembered.

@@ -43,6 +43,19 @@ TEST_F(SettingsTest, save_thenLoad_givesTheSamePaths)
     EXPECT_EQ(world.messages.Take(), Strings{});
 }
 
+TEST_F(SettingsTest, save_blanksAtEitherEnd_areKept)
+{
+    SetRecent({" a.IDA", "/b ", " ", "  c  "});
+    const Strings before = Recent(settings);
+    Save();
+    EXPECT_EQ(world.files[Ini], CrLf({Signature, "[TOP10FILES]", "*1; NAME=~ a.IDA", "*2; NAME=/b~ ;",
+                                      "*3; NAME=~ ;", "*4; NAME=~  c ~ ;"}));
+    Settings loaded;
+    loaded.IniDir = "/ini";
+    LoadSettings(loaded, world.Get());
+    EXPECT_EQ(Recent(loaded), before);
+}
+
 TEST_F(SettingsTest, save_pathWithLineEnd_isLeftOut)
 {
     SetRecent({"/a\nb", "/c\rd", "/e"});

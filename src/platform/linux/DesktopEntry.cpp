@@ -109,7 +109,8 @@ std::optional<DesktopEntry> ParseDesktopEntry(std::string_view text)
         return std::nullopt;
     }
     DesktopEntry entry;
-    entry.exec = Trim(Unescape(KeyFileValue(text, Group, "Exec").value_or("")));
+    const std::string exec = Unescape(KeyFileValue(text, Group, "Exec").value_or(""));
+    entry.exec = WithoutSpaceBefore(std::string(TrimRight(exec)));
     entry.tryExec = Unescape(KeyFileValue(text, Group, "TryExec").value_or(""));
     if (entry.exec.empty() || !SplitCommand(entry)) {
         return std::nullopt;
