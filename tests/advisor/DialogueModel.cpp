@@ -87,7 +87,7 @@ bool DialogueModel::FindBlock(int topic)
     std::string line;
     ReadLine(line);
     while (ReadLine(line) && !Begins(line, "[")) {
-        if (line == "<IXML>") {
+        if (Upper(Trimmed(line)) == "<IXML>") {
             return true;
         }
     }

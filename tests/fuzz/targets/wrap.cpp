@@ -1,0 +1,115 @@
+// Wrapping a line and drawing what comes of it, against plain readings of both rules.
+
+#include "World.h"
+#include "base/Text.h"
+#include "render/DisplayLines.h"
+#include "render/DrawLines.h"
+#include "render/ListIndent.h"
+#include "render/PlainWrap.h"
+#include "render/RunList.h"
+#include "render/WrapSegment.h"
+
+namespace ls::fuzz {
+
+namespace {
+
+std::vector<std::string> Wrapped(const std::string& line, int width, int indent)
+{
+    std::vector<std::string> segments;
+    LineRemainder rest(line);
+    do {
+        std::string segment;
+        WrapSegment(rest, width, segments.empty() ? 0 : indent, segment);
+        segments.push_back(segment);
+    } while (!rest.Blank());
+    return segments;
+}
+
+std::vector<std::string> PlainWrapped(std::string line, int width, int indent)
+{
+    std::vector<std::string> segments;
+    do {
+        segments.push_back(test::PlainWrapSegment(line, width, segments.empty() ? 0 : indent));
+    } while (!Trim(line).empty());
+    return segments;
+}
+
+// The text of a display line without its markup, looked for from the start each time.
+std::string PlainMarkup(std::string line)
+{
+    std::string text;
+    for (;;) {
+        const std::size_t open = line.find('<');
+        const std::size_t close = open == std::string::npos ? open : line.find('>', open);
+        const std::size_t ampersand = line.find('&');
+        const std::size_t semicolon = ampersand == std::string::npos ? ampersand : line.find(';', ampersand);
+        const bool tag = close != std::string::npos;
+        const bool entity = semicolon != std::string::npos;
+        if (entity && (!tag || ampersand < open)) {
+            const std::string name = line.substr(ampersand + 1, semicolon - ampersand - 1);
+            text += line.substr(0, ampersand);
+            text += name == "LT" ? '<' : name == "GT" ? '>' : name == "AMP" ? '&' : '?';
+            line.erase(0, semicolon + 1);
+        } else if (tag) {
+            text += line.substr(0, open);
+            line.erase(0, close + 1);
+        } else {
+            return text + line;
+        }
+    }
+}
+
+void RequireDrawnAsRead(const std::vector<std::string>& rows, float version)
+{
+    DisplayLines lines;
+    std::string expected;
+    std::string expectedRows;
+    for (const std::string& row : rows) {
+        *lines.AddLine() = row;
+        const std::string text = version < 5 ? row : PlainMarkup(row);
+        expected += text;
+        expectedRows += (expectedRows.empty() && lines.Count == 1 ? "" : "\n") + text;
+    }
+    RunList drawn(80, static_cast<int>(rows.size()));
+    DrawLines(drawn, lines, 1, version);
+    std::string text;
+    for (const Run& run : drawn.Runs()) {
+        text += run.text;
+    }
+    RequireEqual(text, expected, "what is drawn is the text without its markup");
+    RequireEqual(PlainText(lines, version), expectedRows, "the plain text is the text without its markup");
+}
+
+} // namespace
+
+void TestInput(Input& input)
+{
+    const int width = 1 + static_cast<int>(input.Choose(120));
+    const int indent = static_cast<int>(input.Choose(11)) % width;
+    const std::size_t times = 1 + input.Choose(12);
+    const float version = input.Choose(4) == 3 ? 4.0F : 5.3F;
+    std::string line;
+    for (std::size_t i = 0; i < times; ++i) {
+        line += input.Text();
+    }
+    const std::vector<std::string> rows = Wrapped(line, width, indent);
+    RequireEqual(rows, PlainWrapped(line, width, indent), "a line wraps as a plain reading wraps it");
+    Require(ListIndent(line) >= 0 && ListIndent(line) <= 10, "a hanging indent fits every width");
+    std::string all;
+    for (const std::string& row : rows) {
+        all += row;
+    }
+    std::string source = line;
+    for (std::size_t tab = source.find('\t'); tab != std::string::npos; tab = source.find('\t', tab + 1)) {
+        source[tab] = ' ';
+    }
+    for (char& c : all) {
+        c = c == '\t' ? ' ' : c;
+    }
+    RequireEqual(WithoutBlanks(all), WithoutBlanks(source), "wrapping loses nothing but blanks");
+    if (rows.size() < 2000) {
+        RequireDrawnAsRead(rows, version);
+    }
+}
+
+} // namespace ls::fuzz
