@@ -13,12 +13,14 @@ constexpr auto None = std::string_view::npos;
 std::size_t ValueEnd(std::string_view rest, std::size_t equals)
 {
     const std::size_t end = rest.find('/', equals);
-    const std::size_t open = rest.find('"', equals);
-    if (end == None || open == None || open + 1 == rest.size()) {
+    // Only a quote before that slash counts. Further on none is looked for: a line of slashes would be walked
+    // through once for each of them.
+    const std::size_t open = end == None ? None : rest.substr(0, end).find('"', equals);
+    if (open == None) {
         return end;
     }
     const std::size_t close = rest.find('"', open + 1);
-    if (close == None || end < open || end > close) {
+    if (close == None || end > close) {
         return end;
     }
     return rest.find('/', close);

@@ -68,7 +68,7 @@ bool ParameterBeginsAt(std::string_view text, std::size_t at)
 std::size_t NextParameter(std::string_view text, std::size_t from)
 {
     for (std::size_t at = from; at < text.size(); ++at) {
-        if (const std::size_t close = text.find('"', at + 1); text[at] == '"' && close != None) {
+        if (const std::size_t close = text[at] == '"' ? text.find('"', at + 1) : None; close != None) {
             at = close;
         } else if ((at == 0 || text[at - 1] == ' ') && ParameterBeginsAt(text, at)) {
             return at;
