@@ -111,8 +111,8 @@ FileError LineCursor::ReadLine(std::string_view& line)
     // A CR at the block's end is not passed here: that fills the block anew, and the line would be gone.
     if (length != std::string_view::npos && length + 1 < block.size()) {
         line = block.substr(0, length);
-        m_next += length;
-        return PassLineEnd();
+        m_next += length + (block[length + 1] == '\n' ? 2 : 1);
+        return {};
     }
     FileError failed = ReadLine(m_line);
     line = m_line;

@@ -29,6 +29,19 @@ bool ReadsAsUtf8(std::string_view line)
     return true;
 }
 
+// Whether each "&" begins an entity that is known. Such an entity has no finding and holds no bracket.
+bool HasKnownEntitiesOnly(std::string_view line)
+{
+    constexpr std::size_t none = std::string_view::npos;
+    for (std::size_t at = line.find('&'); at != none; at = line.find('&', at + 1)) {
+        const std::string_view rest = line.substr(at + 1);
+        if (!rest.starts_with("AMP;") && !rest.starts_with("LT;") && !rest.starts_with("GT;")) {
+            return false;
+        }
+    }
+    return true;
+}
+
 // The export takes a line for a heading by its first four characters.
 bool IsHeading(std::string_view line)
 {
@@ -49,7 +62,7 @@ void TextRules::CheckMarkup(std::string_view line, int number, bool ampersand)
     if (line.starts_with('<') && IsHeading(line)) {
         CheckHeading(line, number);
     }
-    if (!ampersand) {
+    if (!ampersand || HasKnownEntitiesOnly(line)) {
         CheckTags(line, number);
         return;
     }
@@ -67,7 +80,7 @@ void TextRules::CheckMarkup(std::string_view line, int number, bool ampersand)
     }
 }
 
-// What the reader of markup finds in a line without entities, which is most of the lines of a large book.
+// What the reader of markup finds in a line whose entities, if any, take no part of a tag.
 void TextRules::CheckTags(std::string_view line, int number)
 {
     constexpr std::size_t none = std::string_view::npos;
