@@ -5,6 +5,7 @@ import shutil
 import subprocess
 import tempfile
 import time
+import urllib.error
 import urllib.request
 
 FLAGS = ["--headless=new", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-dev-shm-usage",
@@ -68,6 +69,22 @@ class Browser:
         """Clicks the one element that a CSS selector finds, as a mouse does."""
         element = self._call("POST", self._session + "/element", {"using": "css selector", "value": selector})
         self._call("POST", f"{self._session}/element/{next(iter(element.values()))}/click", {})
+
+    def wait_until(self, condition, seconds=ANSWER_SECONDS):
+        """Whether a JavaScript condition holds on a page that has loaded, before the time is up.
+
+        A click answers as soon as it was made; the page that it leads to comes later.
+        """
+        end = time.monotonic() + seconds
+        while True:
+            try:
+                if self.run(f"return document.readyState === 'complete' && ({condition})"):
+                    return True
+            except urllib.error.HTTPError:
+                pass  # the pages change just now
+            if time.monotonic() >= end:
+                return False
+            time.sleep(0.05)
 
     def complaints(self):
         """What the browser's console complained of since the last call."""
