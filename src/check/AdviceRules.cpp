@@ -9,8 +9,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view DefaultGoal = "AV";
-
 // The identifier under which the advice for a conclusion is searched.
 std::string Identifier(const std::string& target, const std::string& value)
 {
@@ -21,16 +19,6 @@ std::string Identifier(const std::string& target, const std::string& value)
 std::string WrongIdentifier(const std::string& target, const std::string& value)
 {
     return target == DefaultGoal ? target + "(" + value + ")" : value;
-}
-
-// The block in whose definitions the advice is searched; nullptr when that is no block of the book.
-const CheckedBlock* AdviceHome(const RuleBase& base)
-{
-    const Registration* const question = base.Question(base.Target());
-    if (base.Target() == DefaultGoal || question == nullptr || question->topic == base.Own().topic) {
-        return &base.Own();
-    }
-    return base.Store().Find(question->topic);
 }
 
 int TargetLine(const RuleBase& base)
@@ -75,7 +63,7 @@ void CheckTargetQuestion(const RuleBase& base, Findings& findings)
 
 void CheckAdviceText(const RuleBase& base, Findings& findings)
 {
-    const CheckedBlock* const home = AdviceHome(base);
+    const CheckedBlock* const home = base.AdviceHome();
     if (home == nullptr) {
         return;
     }

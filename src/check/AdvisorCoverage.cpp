@@ -9,16 +9,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view DefaultGoal = "AV";
-
-// The block in whose definitions the advice is searched.
-const CheckedBlock* AdviceHome(const RuleBase& base)
-{
-    const Registration* const question = base.Question(base.Target());
-    const bool own = base.Target() == DefaultGoal || question == nullptr;
-    return own ? &base.Own() : base.Store().Find(question->topic);
-}
-
 // Every identifier that the author wrote down, in the order of the rules, then of the texts.
 std::vector<std::string> WrittenAdvice(const RuleBase& base)
 {
@@ -29,7 +19,7 @@ std::vector<std::string> WrittenAdvice(const RuleBase& base)
             ids.push_back(base.Target() == DefaultGoal ? value : base.Target() + "(" + value + ")");
         }
     }
-    if (const CheckedBlock* const home = AdviceHome(base)) {
+    if (const CheckedBlock* const home = base.AdviceHome()) {
         for (const BlockEntry& entry : home->entries) {
             if (!entry.question) {
                 ids.push_back(entry.id);

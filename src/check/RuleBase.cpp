@@ -106,6 +106,15 @@ const Registration* RuleBase::Question(const std::string& name) const
     return found == m_questions.end() ? nullptr : &found->second;
 }
 
+const CheckedBlock* RuleBase::AdviceHome() const
+{
+    const Registration* const question = Question(m_target);
+    if (m_target == DefaultGoal || question == nullptr || question->topic == m_own->topic) {
+        return m_own;
+    }
+    return m_store->Find(question->topic);
+}
+
 bool RuleBase::HasQuestionText(const std::string& name) const
 {
     const Registration* const registration = Question(name);

@@ -4,6 +4,7 @@
 #include "check/CheckedBlock.h"
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -35,6 +36,9 @@ struct VariableUse
     std::vector<PlacedRule> rules;       ///< all rules that name it, each once, in the order of the rules
 };
 
+/// The target of a dialogue whose rules name none.
+inline constexpr std::string_view DefaultGoal = "AV";
+
 /// The rules of a topic's dialogue: those of its own block, and of the blocks that its DEFINE lines lead to,
 /// which join in as their variables come up.
 class RuleBase
@@ -56,6 +60,9 @@ public:
 
     /// Whether a question of that name with a text is found where it is registered.
     [[nodiscard]] bool HasQuestionText(const std::string& name) const;
+
+    /// The block in whose definitions the advice is searched; nullptr when that is no block of the book.
+    [[nodiscard]] const CheckedBlock* AdviceHome() const;
 
     /// The values of a variable as its question offers them, each once, in the order of the rules.
     [[nodiscard]] std::vector<std::string> Values(const VariableUse& variable) const;
