@@ -19,6 +19,13 @@ namespace {
 constexpr std::string_view LineEnd = "\r\n";
 constexpr std::size_t BufferSize = 256 * 1024;
 
+// The header line of a topic that is written from memory. "[EOF]" would end the book for every later reader;
+// a file can hold such a topic only with a blank behind its title, which keeps it a topic.
+std::string HeaderOf(const std::string& name)
+{
+    return name == "[EOF]" ? name + ' ' : name;
+}
+
 // Where every topic of the file ends, worked out once: asking for each would be quadratic.
 class TopicEnds
 {
@@ -76,7 +83,7 @@ private:
             }
             return;
         }
-        PutLine(m_book.TopicNames(number));
+        PutLine(HeaderOf(m_book.TopicNames(number)));
         if (!rec.Text.empty()) {
             PutLine(rec.Text);
         }

@@ -98,6 +98,14 @@ TEST_F(WriteBookTest, save_editedTopic_gainsAnEmptyLineAfterTextAndLogic)
     EXPECT_EQ(Save(), "LODESTAR BOOK V5.3\r\n[A]\r\nnew\r\n\r\n<IXML>\r\n<LOGIC>\r\n\r\n[B]\r\nb\r\n");
 }
 
+TEST_F(WriteBookTest, save_editedTopicWithTheTitleOfTheEndLine_doesNotEndTheBook)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[EOF] \r\na\r\n[B]\r\nb\r\n"));
+    ASSERT_EQ(book.TopicCount, 2);
+    book.TopicRecs(1).Text = "new\r\n";
+    EXPECT_EQ(Save(), "LODESTAR BOOK V5.3\r\n[EOF] \r\nnew\r\n\r\n[B]\r\nb\r\n");
+}
+
 TEST_F(WriteBookTest, save_editedTopicWhoseLogicWasRemoved_hasNone)
 {
     ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nold\r\n<IXML>\r\n<LOGIC>\r\nx\r\n[B]\r\nb\r\n"));
