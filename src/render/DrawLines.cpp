@@ -47,18 +47,6 @@ void DrawMarkup(TextSurface& surface, std::string_view line, std::string& buffer
     }
 }
 
-void AppendPlain(std::string& text, std::string_view line)
-{
-    MarkupReader reader(line);
-    while (!reader.AtEnd()) {
-        const MarkupPiece piece = reader.Next();
-        text.append(piece.before);
-        if (piece.kind == MarkupPiece::Kind::Entity) {
-            text.push_back(EntityCharacter(piece.name));
-        }
-    }
-}
-
 } // namespace
 
 void DrawLines(TextSurface& surface, const DisplayLines& lines, int firstLine, float bookVersion)
@@ -88,22 +76,6 @@ void DrawLine(TextSurface& surface, std::string_view line, float bookVersion, st
     } else {
         DrawMarkup(surface, line, buffer, colours);
     }
-}
-
-std::string PlainText(const DisplayLines& lines, float bookVersion)
-{
-    std::string text;
-    for (int number = 1; number <= lines.Count; ++number) {
-        if (number > 1) {
-            text += '\n';
-        }
-        if (bookVersion < MarkupVersion) {
-            text += lines(number);
-        } else {
-            AppendPlain(text, lines(number));
-        }
-    }
-    return text;
 }
 
 int VisibleRows(double innerHeight, double rowHeight)

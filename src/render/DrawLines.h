@@ -25,10 +25,6 @@ void DrawRows(TextSurface& surface, const DisplayLines& lines, int firstLine, in
 void DrawLine(TextSurface& surface, std::string_view line, float bookVersion, std::string& buffer,
               TagColours colours = TagColours::Applied);
 
-/// The whole topic as plain text, one display line a row, tags removed and entities resolved, rows parted by
-/// "\n".
-[[nodiscard]] std::string PlainText(const DisplayLines& lines, float bookVersion);
-
 /// Rows that `DrawLines` draws: the inner height by the row height, rounded with halves to even.
 [[nodiscard]] int VisibleRows(double innerHeight, double rowHeight);
 

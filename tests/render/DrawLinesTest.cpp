@@ -191,18 +191,6 @@ TEST(DrawLines, drawLines_partOfARow_isDrawnWhenItIsMoreThanHalf)
     }
 }
 
-TEST(PlainText, plainText_markup_isRemovedAndResolved)
-{
-    EXPECT_EQ(PlainText(MakeLines({"<H1>Title</H1>", "", "a &LT;B&GT; &x; & <", "<B>", "end"}), 5),
-              "Title\n\na <B> ? & <\n\nend");
-}
-
-TEST(PlainText, plainText_versionBelow5_isTheLines)
-{
-    EXPECT_EQ(PlainText(MakeLines({"<B>a", "&AMP;"}), 4.5F), "<B>a\n&AMP;");
-    EXPECT_EQ(PlainText(MakeLines({}), 5), "");
-}
-
 TEST(RunList, metrics_areCharactersAndRows)
 {
     const RunList surface(60, 20);
