@@ -21,7 +21,6 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
-#include <cmath>
 #include <utility>
 
 namespace ls {
@@ -31,22 +30,19 @@ namespace {
 constexpr const char* HelpPage = "Lodestar_Reader.htm";
 constexpr int AfterResizeMilliseconds = 60; // how long a window that is being dragged must rest
 
-int Pixels(double length)
-{
-    return static_cast<int>(std::lround(length));
-}
-
 } // namespace
 
 MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
     : m_ui(std::make_unique<Ui::MainForm>()), m_global(global), m_seams(seams), m_forms(forms),
-      m_layout(RememberDesign()),
+      m_layout(*m_ui, SetUpUi()),
       m_view(std::make_unique<MainFormView>(*this, *m_ui, global, m_seams, forms)),
       m_navigation(global.book, m_seams, *m_view),
       m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation),
       m_save(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_commands),
       m_topicCommands(global.book, global.topicFlags, m_seams, *m_view, m_navigation),
-      m_editCommands(global.book, m_seams, *m_view, m_navigation)
+      m_editCommands(global.book, m_seams, *m_view, m_navigation),
+      m_paneCommands(
+          *m_ui, [this] { TypeSize_Change(); }, [this] { FindBar_Change(); })
 {
     ConnectButtons();
     ConnectItems();
@@ -61,27 +57,13 @@ MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
 MainForm::~MainForm() = default;
 
 // The form is designed by the size of its inner area; the menus come on top of that.
-MainLayout MainForm::RememberDesign()
+QSize MainForm::SetUpUi()
 {
     setFont(FormFont());
     m_ui->setupUi(this);
     const QSize inner = size();
     resize(inner + QSize(0, m_ui->menubar->sizeHint().height()));
-    MainGeometry design;
-    design.innerWidth = inner.width();
-    design.innerHeight = inner.height();
-    design.picLeft = m_ui->MsgPic->x();
-    design.picTop = m_ui->MsgPic->y();
-    design.picWidth = m_ui->MsgPic->width();
-    design.picHeight = m_ui->MsgPic->height();
-    design.scrollWidth = m_ui->VScroll1->width();
-    design.listLeft = m_ui->TopicList->x();
-    design.listWidth = m_ui->TopicList->width();
-    design.goToLeft = m_ui->GoToButton->x();
-    design.backLeft = m_ui->BackButton->x();
-    design.nextLeft = m_ui->NextButton->x();
-    design.doneTop = m_ui->DoneButton->y();
-    return MainLayout(design);
+    return inner;
 }
 
 void MainForm::ConnectButtons()
@@ -174,19 +156,20 @@ void MainForm::closeEvent(QCloseEvent* event)
 
 void MainForm::Form_Resize()
 {
-    const QSize inner = m_ui->centralwidget->size();
-    const MainPositions to = m_layout.Form_Resize(inner.width(), inner.height());
-    m_ui->MsgPic->resize(Pixels(to.picWidth), Pixels(to.picHeight));
-    m_ui->VScroll1->move(Pixels(to.scrollLeft), m_ui->VScroll1->y());
-    m_ui->VScroll1->resize(m_ui->VScroll1->width(), Pixels(to.scrollHeight));
-    m_ui->TopicList->resize(Pixels(to.listWidth), m_ui->TopicList->height());
-    m_ui->GoToButton->move(Pixels(to.goToLeft), m_ui->GoToButton->y());
-    m_ui->BackButton->move(Pixels(to.backLeft), m_ui->BackButton->y());
-    m_ui->NextButton->move(Pixels(to.nextLeft), m_ui->NextButton->y());
-    for (QWidget* button : {m_ui->DoneButton, m_ui->AdvisorButton, m_ui->XRButton, m_ui->ExplainButton}) {
-        button->move(button->x(), Pixels(to.buttonTop));
-    }
+    m_layout.Form_Resize();
     m_afterResize.start();
+}
+
+void MainForm::FindBar_Change()
+{
+    m_layout.Form_Resize();
+    Run([this] { m_view->PaneHeight_Change(); });
+}
+
+// The reader stays where the text was read, and with the keys where they were.
+void MainForm::TypeSize_Change()
+{
+    Run([this] { m_view->KeepPlace([this] { m_navigation.ShowAgain(); }); });
 }
 
 // At the end of a burst of resizes. While a box, a form or a list is open the topic waits until that closes.
@@ -201,7 +184,7 @@ void MainForm::ShowAgain()
         return;
     }
     m_ui->DoneButton->setFocus();
-    Run([this] { m_navigation.ShowAgain(); });
+    Run([this] { m_view->KeepSelection([this] { m_navigation.ShowAgain(); }); });
 }
 
 void MainForm::GoToButton_Click()
@@ -368,7 +351,7 @@ bool MainForm::FilterList(QObject* watched, QEvent* event)
 }
 
 // Enter presses the default button unless the button with the focus took it; the page keys scroll the topic
-// wherever the focus is.
+// and Escape closes the find bar wherever the focus is.
 void MainForm::keyPressEvent(QKeyEvent* event)
 {
     QPushButton* const byDefault = m_ui->GoToButton->isDefault() ? m_ui->GoToButton : m_ui->DoneButton;
@@ -384,6 +367,9 @@ void MainForm::keyPressEvent(QKeyEvent* event)
         break;
     case Qt::Key_PageDown:
         m_ui->VScroll1->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        break;
+    case Qt::Key_Escape:
+        m_ui->FindBar->Close();
         break;
     default:
         QMainWindow::keyPressEvent(event);

@@ -5,8 +5,9 @@
 #include "base/Seams.h"
 #include "files/FormSeams.h"
 #include "reader/BookCommands.h"
-#include "reader/MainLayout.h"
+#include "reader/MainFormLayout.h"
 #include "reader/Navigation.h"
+#include "reader/PaneCommands.h"
 #include "reader/SaveItem.h"
 
 #include <QMainWindow>
@@ -46,11 +47,13 @@ protected:
 private:
     void ConnectButtons();
     void ConnectItems();
-    MainLayout RememberDesign();
+    QSize SetUpUi();
 
     void Form_Activate();
     void Form_Resize();
     void ShowAgain();
+    void TypeSize_Change();
+    void FindBar_Change();
 
     void GoToButton_Click();
     void NextItem_Click();
@@ -86,13 +89,14 @@ private:
     Global& m_global;
     Seams m_seams;
     FormSeams m_forms;
-    MainLayout m_layout;
+    MainFormLayout m_layout;
     std::unique_ptr<MainFormView> m_view;
     Navigation m_navigation;
     BookCommands m_commands;
     SaveItem m_save;
     TopicCommands m_topicCommands;
     EditCommands m_editCommands;
+    PaneCommands m_paneCommands;
     QTimer m_afterResize;
     bool m_activated = false;
     bool m_resizedMeanwhile = false;

@@ -6,6 +6,8 @@
 #include "reader/TopicDisplay.h"
 #include "reader/TopicListItems.h"
 
+#include <functional>
+
 class QMainWindow;
 
 namespace Ui {
@@ -27,6 +29,13 @@ public:
     [[nodiscard]] bool SettingList() const { return m_settingList; }
 
     void VScroll1_Change() { m_display.VScroll1_Change(); }
+    void PaneHeight_Change() { m_display.PaneHeight_Change(); }
+
+    /// Runs what shows the topic again, and selects again what was selected.
+    void KeepSelection(const std::function<void()>& showAgain) { m_display.KeepSelection(showAgain); }
+
+    /// The same, and scrolls back to the text that stood at the top.
+    void KeepPlace(const std::function<void()>& showAgain) { m_display.KeepPlace(showAgain); }
 
     void SetTopicList(const TopicListModel& model) override;
     void SelectItem(int index) override;

@@ -2,6 +2,7 @@
 
 #include "render/DrawLines.h"
 #include "render/ReadingPane.h"
+#include "render/ReadingPlace.h"
 
 #include <QScrollBar>
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int MaxAtRest = 10;
 constexpr int LargeChangeAtRest = 1;
+constexpr int LeastLineWidth = 20; // the largest indent is 10
 
 } // namespace
 
@@ -24,16 +26,50 @@ TopicDisplay::TopicDisplay(ReadingPane& pane, QScrollBar& bar) : m_pane(pane), m
     ClearDisplay();
 }
 
+// The pane may outlive the lines.
+TopicDisplay::~TopicDisplay()
+{
+    m_pane.SetTopic(nullptr, 0);
+}
+
 int TopicDisplay::LineWidthChars() const
 {
-    return CharsAcross(m_pane.InnerWidth(), m_pane.TextWidth("W"));
+    return std::max(CharsAcross(m_pane.InnerWidth(), m_pane.TextWidth("W")), LeastLineWidth);
 }
 
 void TopicDisplay::Show(DisplayLines& lines, float bookVersion)
 {
     std::swap(m_lines, lines);
     m_bookVersion = bookVersion;
+    m_pane.SetTopic(&m_lines, bookVersion);
     SetUpScrolling();
+}
+
+void TopicDisplay::PaneHeight_Change()
+{
+    if (m_bar.isHidden()) {
+        return;
+    }
+    m_bar.setPageStep(PlanScrolling(m_pane.InnerHeight(), m_pane.TextHeight("W"), m_lines.Count).largeChange);
+    Draw(m_bar.value());
+}
+
+void TopicDisplay::KeepSelection(const std::function<void()>& showAgain)
+{
+    m_pane.KeepSelection(showAgain);
+}
+
+void TopicDisplay::KeepPlace(const std::function<void()>& showAgain)
+{
+    const TopicText& topic = m_pane.Topic();
+    const std::size_t place = m_bar.isHidden() ? 0 : ReadingPlace(topic, topic.LineStart(m_bar.value()));
+    KeepSelection(showAgain);
+    if (place > 0 && !m_bar.isHidden()) {
+        m_suppressScrollRedraw = true;
+        m_bar.setValue(LineOfPlace(m_pane.Topic(), place));
+        m_suppressScrollRedraw = false;
+        Draw(m_bar.value());
+    }
 }
 
 void TopicDisplay::SetUpScrolling()
@@ -70,6 +106,7 @@ void TopicDisplay::ClearDisplay()
 {
     m_pane.Clear();
     m_lines.Clear();
+    m_pane.SetTopic(nullptr, 0);
     m_bar.hide();
     SetBar(MaxAtRest, LargeChangeAtRest);
 }

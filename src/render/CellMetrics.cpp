@@ -12,7 +12,6 @@ namespace ls {
 
 namespace {
 
-constexpr double PointSize = 9.75;
 constexpr double PointsPerInch = 72;
 constexpr double TwipsPerPoint = 20;
 
@@ -44,9 +43,9 @@ std::bitset<256> ExactBytes(const QFontMetricsF& face, double charWidth)
 
 } // namespace
 
-CellMetrics MeasureCells(int dotsPerInch)
+CellMetrics MeasureCells(int dotsPerInch, double points)
 {
-    const auto pixelSize = static_cast<int>(std::lround(PointSize * dotsPerInch / PointsPerInch));
+    const auto pixelSize = static_cast<int>(std::lround(points * dotsPerInch / PointsPerInch));
     return MeasureCells(FixedPitchFont(std::max(1, pixelSize)));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/TypeSize.h"
+
 #include <QFont>
 
 #include <array>
@@ -32,8 +34,9 @@ struct CellMetrics
     std::array<std::bitset<256>, FaceCount> exact;
 };
 
-/// The pane's font, 9.75 points, on a screen of so many dots to the inch (96 where nothing was scaled).
-[[nodiscard]] CellMetrics MeasureCells(int dotsPerInch);
+/// The pane's font, 9.75 points unless the user chose another size, on a screen of so many dots to the inch
+/// (96 where nothing was scaled).
+[[nodiscard]] CellMetrics MeasureCells(int dotsPerInch, double points = NormalTypeSize);
 
 /// The same font on paper, where lengths are twips: a character is 0.6 of the type size wide.
 [[nodiscard]] CellMetrics MeasurePrintCells(double points);

@@ -1,15 +1,22 @@
 #include "render/ReadingPane.h"
 
+#include "render/DisplayLines.h"
 #include "render/PaintRuns.h"
+#include "render/PaneAccessible.h"
+#include "render/ReadingPlace.h"
+#include "render/SelectedRuns.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
-#include <QKeyEvent>
+#include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include <optional>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace ls {
 
@@ -18,30 +25,21 @@ namespace {
 constexpr int BorderWidth = 1;
 constexpr int TextMargin = 4; // between the border and the text
 
-std::optional<QAbstractSlider::SliderAction> ScrollActionOf(int key)
+constexpr double CaretWidth = 2;
+
+Colour ColourOf(const QColor& colour)
 {
-    switch (key) {
-    case Qt::Key_Up:
-        return QAbstractSlider::SliderSingleStepSub;
-    case Qt::Key_Down:
-        return QAbstractSlider::SliderSingleStepAdd;
-    case Qt::Key_PageUp:
-        return QAbstractSlider::SliderPageStepSub;
-    case Qt::Key_PageDown:
-        return QAbstractSlider::SliderPageStepAdd;
-    case Qt::Key_Home:
-        return QAbstractSlider::SliderToMinimum;
-    case Qt::Key_End:
-        return QAbstractSlider::SliderToMaximum;
-    default:
-        return std::nullopt;
-    }
+    return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
+            static_cast<std::uint8_t>(colour.blue())};
 }
 
 } // namespace
 
-ReadingPane::ReadingPane(QWidget* parent) : QWidget(parent), m_metrics(MeasureCells(logicalDpiY()))
+ReadingPane::ReadingPane(QWidget* parent)
+    : QWidget(parent), m_typeSize(NormalTypeSize), m_metrics(MeasureCells(logicalDpiY()))
 {
+    InstallPaneAccessible();
+    setCursor(Qt::IBeamCursor);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     constexpr int frame = BorderWidth + TextMargin;
@@ -51,6 +49,147 @@ ReadingPane::ReadingPane(QWidget* parent) : QWidget(parent), m_metrics(MeasureCe
 void ReadingPane::SetScrollBar(QScrollBar* bar)
 {
     m_bar = bar;
+}
+
+void ReadingPane::SetTypeSize(double points)
+{
+    m_typeSize = points;
+    m_metrics = MeasureCells(logicalDpiY(), points);
+    update();
+}
+
+void ReadingPane::SetTopic(const DisplayLines* lines, float bookVersion)
+{
+    const bool listened = QAccessible::isActive();
+    const QString before = listened && m_topic ? ShownText(m_topic->Text()) : QString();
+    m_lines = lines;
+    m_bookVersion = bookVersion;
+    m_topic.reset();
+    m_selection = TextSelection();
+    m_caretShown = false;
+    m_selecting = false;
+    m_dragScroll.stop();
+    update();
+    if (listened) {
+        TellTextChanged(*this, before);
+    }
+    Q_EMIT TopicChanged();
+    Q_EMIT SelectionChanged();
+}
+
+// A selection that is as it was was not taken away: the topic could not be printed again.
+void ReadingPane::KeepSelection(const std::function<void()>& printAgain)
+{
+    const TextSelection before = m_selection;
+    const KeptSelection kept(Topic(), before);
+    const bool caretShown = m_caretShown;
+    printAgain();
+    if (m_lines != nullptr && !(m_selection == before)) {
+        m_caretShown = caretShown;
+        SetSelection(kept.In(Topic()));
+    }
+}
+
+const TopicText& ReadingPane::Topic() const
+{
+    if (!m_topic) {
+        m_topic = m_lines != nullptr ? TopicText(*m_lines, m_bookVersion) : TopicText();
+    }
+    return *m_topic;
+}
+
+QString ReadingPane::SelectedText() const
+{
+    const TextRange range = m_selection.Range();
+    return range.Empty() ? QString() : ShownText(Topic().Part(range));
+}
+
+void ReadingPane::SetSelection(const TextSelection& selection)
+{
+    const TextSelection before = std::exchange(m_selection, selection);
+    update();
+    if (!(m_selection == before)) {
+        TellSelectionChanged(*this, before);
+        Q_EMIT SelectionChanged();
+    }
+}
+
+void ReadingPane::Select(TextRange range)
+{
+    TextSelection selection = m_selection;
+    selection.Select(range);
+    SetSelection(selection);
+    ScrollTo(range.begin);
+    ScrollTo(range.end);
+}
+
+void ReadingPane::SelectAll()
+{
+    TextSelection selection = m_selection;
+    selection.Select({0, Topic().Length()});
+    SetSelection(selection);
+    OfferSelection();
+}
+
+void ReadingPane::MoveCaret(std::size_t offset)
+{
+    m_caretShown = true;
+    TextSelection selection = m_selection;
+    selection.MoveTo(std::min(offset, Topic().Length()), false);
+    SetSelection(selection);
+    ScrollTo(m_selection.Caret());
+}
+
+void ReadingPane::Copy() const
+{
+    const QString text = SelectedText();
+    if (!text.isEmpty()) {
+        QGuiApplication::clipboard()->setText(text);
+    }
+}
+
+// Where the desktop pastes with the middle button.
+void ReadingPane::OfferSelection() const
+{
+    const QString text = SelectedText();
+    if (!text.isEmpty() && QGuiApplication::clipboard()->supportsSelection()) {
+        QGuiApplication::clipboard()->setText(text, QClipboard::Selection);
+    }
+}
+
+std::size_t ReadingPane::OffsetAtPoint(const QPointF& point) const
+{
+    const QPointF inside = point - contentsRect().topLeft();
+    const double columns = std::clamp(inside.x() / m_metrics.charWidth, 0.0, 1e9);
+    const double rows = std::clamp(inside.y() / m_metrics.rowHeight, -1.0, 1e6);
+    return OffsetAt(m_record.Runs(), Topic(),
+                    {static_cast<int>(std::floor(rows)) + 1, static_cast<int>(std::lround(columns)) + 1});
+}
+
+QRectF ReadingPane::CharacterRect(std::size_t offset) const
+{
+    const std::optional<CellPlace> place = PlaceOf(m_record.Runs(), Topic(), offset);
+    if (!place) {
+        return {};
+    }
+    return QRectF((place->column - 1) * m_metrics.charWidth, (place->row - 1) * m_metrics.rowHeight,
+                  m_metrics.charWidth, m_metrics.rowHeight)
+        .translated(contentsRect().topLeft());
+}
+
+int ReadingPane::WholeRows() const
+{
+    return std::max(1, static_cast<int>(InnerHeight() / m_metrics.rowHeight));
+}
+
+void ReadingPane::ScrollTo(std::size_t offset)
+{
+    if (!CanScroll()) {
+        return;
+    }
+    const int line = Topic().LineAt(offset);
+    const int lastFirst = line - WholeRows() + 1;
+    m_bar->setValue(std::clamp(m_bar->value(), std::min(lastFirst, line), line));
 }
 
 void ReadingPane::Clear()
@@ -100,7 +239,42 @@ void ReadingPane::paintEvent(QPaintEvent* event)
     const QRect seen = event->rect() & contentsRect();
     painter.setClipRect(seen);
     painter.translate(contentsRect().topLeft());
-    PaintRuns(painter, m_record.Runs(), m_metrics, QRectF(seen).translated(-contentsRect().topLeft()));
+    const QRectF area = QRectF(seen).translated(-contentsRect().topLeft());
+    PaintRuns(painter, m_record.Runs(), m_metrics, area);
+    PaintSelection(painter, area);
+    PaintCaret(painter);
+}
+
+void ReadingPane::PaintSelection(QPainter& painter, const QRectF& area) const
+{
+    const TextRange range = m_selection.Range();
+    if (range.Empty()) {
+        return;
+    }
+    const Colour text = ColourOf(palette().color(QPalette::HighlightedText));
+    std::vector<Run> pieces = SelectedRuns(m_record.Runs(), Topic(), range);
+    for (Run& piece : pieces) {
+        piece.colour = text;
+        painter.fillRect(QRectF((piece.firstColumn - 1) * m_metrics.charWidth,
+                                (piece.row - 1) * m_metrics.rowHeight, TextWidth(piece.text),
+                                m_metrics.rowHeight),
+                         palette().color(QPalette::Highlight));
+    }
+    PaintRuns(painter, pieces, m_metrics, area);
+}
+
+void ReadingPane::PaintCaret(QPainter& painter) const
+{
+    if (!m_caretShown || !hasFocus()) {
+        return;
+    }
+    QRectF cell = CharacterRect(m_selection.Caret());
+    if (!cell.isEmpty()) {
+        cell.translate(-contentsRect().topLeft());
+        cell.moveLeft(std::round(cell.left())); // a whole pixel, so that it is sharp
+        cell.setWidth(CaretWidth);
+        painter.fillRect(cell, Qt::black);
+    }
 }
 
 // The border also tells a keyboard user that the keys go to the text.
@@ -113,18 +287,6 @@ void ReadingPane::PaintBorder(QPainter& painter) const
 bool ReadingPane::CanScroll() const
 {
     return m_bar != nullptr && !m_bar->isHidden();
-}
-
-void ReadingPane::keyPressEvent(QKeyEvent* event)
-{
-    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    const auto action = ScrollActionOf(event->key());
-    if (!CanScroll() || !plain || !action) {
-        QWidget::keyPressEvent(event);
-        return;
-    }
-    m_bar->triggerAction(*action);
-    event->accept();
 }
 
 // The bar knows how many lines the desktop scrolls for a notch, and adds up the parts of one that a touch pad

@@ -51,11 +51,13 @@ TEST_F(MainFormDesignTest, menus_captionsInOrder)
         {"FileMenu File", {"NewItem New", "OpenItem Open", "SaveItem Save", "ExitItem Exit"}},
         {"EditMenu Edit",
          {"AddTopicItem Add Topic", "EdTextItem Edit Topic Text", "AdviceEdItem Edit Topic Advice",
-          "DelTopicItem Remove Topics", "ReorderItem Reorder Topics",
-          "EditPropertiesOption Edit Properties"}},
+          "DelTopicItem Remove Topics", "ReorderItem Reorder Topics", "EditPropertiesOption Edit Properties",
+          "CopyItem Copy", "SelectAllItem Select All", "FindItem Find", "FindNextItem Find Next",
+          "FindPreviousItem Find Previous"}},
         {"ActionMenu Action",
          {"PrevTopic Previous Topic", "NextItem Next Topic", "PrintItem Print Topic",
-          "ExportItem Export Topic", "CheckItem Check Book"}},
+          "ExportItem Export Topic", "CheckItem Check Book", "LargerItem Larger Type",
+          "SmallerItem Smaller Type", "NormalSizeItem Normal Type Size"}},
         {"IndexMenu Index", {"AlphaItem Alphabetic Order", "ContentsItem Contents Order"}},
         {"HelpMenu Help", {"HelpItem Help", "AboutItem About"}}};
     const QList<QAction*> menus = form.menuBar()->actions();
