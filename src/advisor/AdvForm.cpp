@@ -83,9 +83,13 @@ void AdvForm::ShowAdvice(const std::string& /*identifier*/, const std::string& t
     m_ui->AnswerLabel->hide();
 }
 
+// A screen reader reads the description of what gets the focus: the text is heard when it comes.
 void AdvForm::ShowText(const std::string& text)
 {
     m_ui->MessageBox->setPlainText(Shown(text));
+    const QString shown = m_ui->MessageBox->toPlainText();
+    m_ui->AnswerCombo->setAccessibleDescription(shown);
+    m_ui->NextButton->setAccessibleDescription(shown);
 }
 
 void AdvForm::SetButtonCaption(const std::string& caption)

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QProgressBar>
 #include <QProgressDialog>
 
 #include <algorithm>
@@ -62,6 +63,9 @@ void FormProgress::Open()
     auto* label = new QLabel(m_box.label);
     label->setTextFormat(Qt::PlainText);
     m_dialog->setLabel(label);
+    if (auto* bar = m_dialog->findChild<QProgressBar*>(); bar != nullptr) {
+        bar->setAccessibleName(m_box.label);
+    }
     m_dialog->setRange(0, BarLength);
     m_dialog->setMinimumDuration(0);
     m_dialog->setAutoReset(false);

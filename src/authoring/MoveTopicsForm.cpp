@@ -83,6 +83,7 @@ void MoveTopicsForm::TakeTopics()
     m_ui->MoveFromList->hide();
     m_ui->MoveToList->show();
     m_ui->MoveToList->setFocus();
+    m_ui->InstructionLabel->setBuddy(m_ui->MoveToList);
     m_ui->InstructionLabel->setText(
         QStringLiteral("Step 2: Pick the topic that the item(s) will be moved after."));
     m_ui->DoneButton->setText(QStringLiteral("Done"));

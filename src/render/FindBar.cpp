@@ -6,12 +6,16 @@
 #include "ui_FindBar.h"
 
 #include <QKeyEvent>
+#include <QToolButton>
 
 namespace ls {
 
 FindBar::FindBar(QWidget* parent) : QWidget(parent), m_ui(std::make_unique<Ui::FindBar>())
 {
     m_ui->setupUi(this);
+    if (auto* clear = m_ui->FindBox->findChild<QToolButton*>(); clear != nullptr) {
+        clear->setAccessibleName(QStringLiteral("Clear"));
+    }
     connect(m_ui->FindBox, &QLineEdit::textChanged, this, &FindBar::FindBox_Change);
     connect(m_ui->FindNextButton, &QAbstractButton::clicked, this, &FindBar::FindNext);
     connect(m_ui->FindPreviousButton, &QAbstractButton::clicked, this, &FindBar::FindPrevious);

@@ -83,6 +83,7 @@ TEST_F(AdvFormTest, question_showsCaptionsTextAndChoices)
         EXPECT_EQ(Find<QComboBox>(window, "AnswerCombo")->currentIndex(), 0);
         EXPECT_EQ(Caption(window), QStringLiteral("Next"));
         EXPECT_EQ(window.focusWidget(), Find<QComboBox>(window, "AnswerCombo"));
+        EXPECT_EQ(window.focusWidget()->accessibleDescription(), Text(window)) << "a screen reader reads it";
         test::TakePicture(window, "AdvFormQuestion");
         window.close();
     });
@@ -116,6 +117,7 @@ TEST_F(AdvFormTest, defaultGoal_messageComesFirstAndThenTheAdviceBehindTheQuesti
         EXPECT_FALSE(Find<QLabel>(window, "AnswerLabel")->isVisible());
         EXPECT_EQ(Caption(window), QStringLiteral("Close"));
         EXPECT_EQ(window.focusWidget(), Find<QPushButton>(window, "NextButton"));
+        EXPECT_EQ(window.focusWidget()->accessibleDescription(), QStringLiteral("Go out."));
         test::TakePicture(window, "AdvFormAdvice");
         test::Press(window, "NextButton");
         EXPECT_FALSE(window.isVisible());

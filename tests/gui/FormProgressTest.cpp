@@ -53,6 +53,7 @@ TEST(FormProgress, longWork_showsHowFarItHasCome)
     ASSERT_NE(Box(), nullptr);
     const auto* bar = Box()->findChild<QProgressBar*>();
     EXPECT_EQ(bar->value() * 4, bar->maximum() * 2);
+    EXPECT_EQ(bar->accessibleName(), QStringLiteral("Reading <B>Guide.IDA"));
     QTest::qSleep(60);
     EXPECT_TRUE(progress.Step(3, 4));
     EXPECT_EQ(bar->value() * 4, bar->maximum() * 3);
