@@ -38,9 +38,12 @@ void LineCursor::Seek(FilePos pos)
 }
 
 // Puts the bytes at Position() into the block; false at the end of the file or at an error (m_error tells
-// which).
+// which). After an error nothing more is read until Seek.
 bool LineCursor::Fill()
 {
+    if (!m_error.Ok()) {
+        return false; // a disk that fails now and then must not give a book with a gap
+    }
     m_blockPos = Position();
     m_next = 0;
     const std::size_t wanted = m_capacity == 0       ? FirstBlock

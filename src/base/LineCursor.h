@@ -15,7 +15,7 @@ namespace ls {
 ///
 /// A line ends at CR or at CR LF; a lone LF is an ordinary character. Bytes pass through unchanged.
 /// Everything is read in blocks; `Seek` forgets them, so that a line read after it is what the file holds at
-/// that moment.
+/// that moment. A read error stays until then: whoever asks next gets it again.
 class LineCursor
 {
 public:

@@ -32,6 +32,20 @@ void CloseBook(Book& book);
 /// table would be saved short; false then and after a read error.
 bool ScanBook(Book& book, const Seams& seams, Progress* progress = nullptr);
 
+/// What looking a topic up in the file came to.
+enum class TopicLocation
+{
+    Found,
+    Unknown,    ///< the table has no such topic, or it was never saved
+    Unreadable, ///< a read error, or a file that has become shorter (error 62)
+    Moved,      ///< its header line is no longer where the scan saw it
+};
+
+/// Positions `cursor` at the first body line of the topic with this header line ("[Title]"), without any
+/// message. `number` as for `LocateTopic`; `failed` is the error of one that is `Unreadable`.
+[[nodiscard]] TopicLocation GoToTopic(const Book& book, LineCursor& cursor, const std::string& key,
+                                      Count16& number, FileError& failed);
+
 /// Positions `cursor` at the first body line of a topic.
 ///
 /// `name` is the title with or without brackets; `number` its place in the table, or 0 when it is to be

@@ -32,32 +32,48 @@ void ShowFetchError(const Seams& seams, const std::string& name, const FileError
                           Icon::Warning);
 }
 
-void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::string& name, Count16& number)
+TopicLocation GoToTopic(const Book& book, LineCursor& cursor, const std::string& key, Count16& number,
+                        FileError& failed)
 {
-    if (name.empty()) {
-        return;
-    }
-    const std::string key = name.front() == '[' ? name : "[" + name + "]";
+    failed = {};
     if (number == 0) {
         number = FindTopic(book, key);
     }
     const bool inTable = number > 0 && static_cast<std::size_t>(number) <= book.TopicPos.UpperBound();
     const FilePos pos = inTable ? book.TopicPos(static_cast<std::size_t>(number)) : 0;
     if (pos == 0) {
-        ShowNotFound(seams, key);
-        name.clear();
-        return;
+        return TopicLocation::Unknown;
     }
     cursor.Seek(pos);
     std::string line;
-    const FileError failed = cursor.ReadLine(line);
+    failed = cursor.ReadLine(line);
     if (!failed.Ok()) {
-        ShowFetchError(seams, name, failed);
-        name.clear();
-    } else if (Trim(line) != key) {
-        seams.messages.MsgBox("Error looking up topic: " + FromBook(key), Icon::Warning);
-        name.clear();
+        return TopicLocation::Unreadable;
     }
+    return Trim(line) == key ? TopicLocation::Found : TopicLocation::Moved;
+}
+
+void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::string& name, Count16& number)
+{
+    if (name.empty()) {
+        return;
+    }
+    const std::string key = name.front() == '[' ? name : "[" + name + "]";
+    FileError failed;
+    switch (GoToTopic(book, cursor, key, number, failed)) {
+    case TopicLocation::Found:
+        return;
+    case TopicLocation::Unknown:
+        ShowNotFound(seams, key);
+        break;
+    case TopicLocation::Unreadable:
+        ShowFetchError(seams, name, failed);
+        break;
+    case TopicLocation::Moved:
+        seams.messages.MsgBox("Error looking up topic: " + FromBook(key), Icon::Warning);
+        break;
+    }
+    name.clear();
 }
 
 } // namespace ls

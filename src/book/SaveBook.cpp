@@ -9,6 +9,19 @@ namespace ls {
 
 namespace {
 
+constexpr int MaxParts = 99;
+
+// A name for the file until it is whole. The one that a failed save left there stays, so that the author may
+// try the same name again when there is room.
+std::string FreePartName(FileSystem& files, const std::string& path)
+{
+    std::string name = path + ".part";
+    for (int number = 2; number <= MaxParts && files.Exists(name); ++number) {
+        name = path + ".part" + std::to_string(number);
+    }
+    return name;
+}
+
 WriteOutcome Fail(const Seams& seams, const char* what, const FileError& failed)
 {
     seams.messages.MsgBox(std::string(what) + " due to error #" + std::to_string(failed.number) + ": " +
@@ -19,14 +32,9 @@ WriteOutcome Fail(const Seams& seams, const char* what, const FileError& failed)
 
 } // namespace
 
-std::string PartName(const std::string& path)
-{
-    return path + ".part";
-}
-
 WriteOutcome SaveBook(const Book& book, const Seams& seams, const std::string& path, Progress* progress)
 {
-    const std::string part = PartName(path);
+    const std::string part = FreePartName(seams.files, path);
     std::unique_ptr<OutputFile> output;
     if (FileError failed = seams.files.CreateNew(part, output); !failed.Ok()) {
         return Fail(seams, "Failed to open output file", failed);

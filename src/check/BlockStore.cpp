@@ -51,7 +51,7 @@ const CheckedBlock* BlockStore::Find(int topic)
     return m_blocks.emplace(topic, Read(topic)).first->second.get();
 }
 
-std::unique_ptr<CheckedBlock> BlockStore::Read(int topic) const
+std::unique_ptr<CheckedBlock> BlockStore::Read(int topic)
 {
     const auto number = static_cast<std::size_t>(topic);
     if (topic < 1 || topic > m_book.TopicCount) {
@@ -61,7 +61,7 @@ std::unique_ptr<CheckedBlock> BlockStore::Read(int topic) const
     return rec.Logic.empty() ? ReadFile(topic) : ReadLogicText(rec.Logic, topic);
 }
 
-std::unique_ptr<CheckedBlock> BlockStore::ReadFile(int topic) const
+std::unique_ptr<CheckedBlock> BlockStore::ReadFile(int topic)
 {
     const FilePos pos = m_book.TopicPos(static_cast<std::size_t>(topic));
     if (!m_book.File || pos == 0) {
@@ -71,7 +71,11 @@ std::unique_ptr<CheckedBlock> BlockStore::ReadFile(int topic) const
     cursor.Seek(pos);
     FileBody body(cursor);
     std::string_view header;
-    return body.Next(header) ? ReadBlock(body, topic) : nullptr;
+    std::unique_ptr<CheckedBlock> block = body.Next(header) ? ReadBlock(body, topic) : nullptr;
+    if (m_failed.Ok()) {
+        m_failed = body.Failed();
+    }
+    return block;
 }
 
 int BlockStore::TopicNumber(const std::string& title)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/FileError.h"
 #include "check/CheckedBlock.h"
 
 #include <memory>
@@ -39,6 +40,9 @@ public:
     /// Whether every block of the book is there, so that what no block uses is not used at all.
     [[nodiscard]] bool HasWholeBook() const { return m_source == BlockSource::Given; }
 
+    /// The first error that reading blocks from the file came to; success when there was none.
+    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+
     /// All blocks that are there, by topic.
     [[nodiscard]] const std::unordered_map<int, std::unique_ptr<CheckedBlock>>& All() const
     {
@@ -46,11 +50,12 @@ public:
     }
 
 private:
-    [[nodiscard]] std::unique_ptr<CheckedBlock> Read(int topic) const;
-    [[nodiscard]] std::unique_ptr<CheckedBlock> ReadFile(int topic) const;
+    [[nodiscard]] std::unique_ptr<CheckedBlock> Read(int topic);
+    [[nodiscard]] std::unique_ptr<CheckedBlock> ReadFile(int topic);
 
     const Book& m_book;
     BlockSource m_source;
+    FileError m_failed;
     std::unordered_map<int, std::unique_ptr<CheckedBlock>> m_blocks; ///< nullptr: looked for in vain
     std::unordered_map<std::string, int> m_numbers;                  ///< by title in upper case
 };

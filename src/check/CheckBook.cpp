@@ -1,6 +1,7 @@
 #include "check/CheckBook.h"
 
 #include "base/CodePage.h"
+#include "base/Messages.h"
 #include "base/Progress.h"
 #include "book/Book.h"
 #include "check/BlockRules.h"
@@ -48,7 +49,7 @@ std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* p
     BookPass pass(book, findings, store, progress);
     failed = pass.Run();
     DialogueBook dialogues(book);
-    bool goOn = true;
+    bool goOn = failed.Ok(); // what a block leads to may stand where the file could not be read
     for (const CheckedBlock* block : InOrder(store)) {
         if (!goOn) {
             break;
@@ -58,7 +59,11 @@ std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* p
         const int errors = findings.ErrorCount();
         CheckBlock(base, findings);
         CheckDialogues(dialogues, seams, base, findings.ErrorCount() > errors, findings);
-        goOn = progress == nullptr || progress->Step(1, 1); // the file is through
+        const bool cancelled = progress != nullptr && !progress->Step(1, 1); // the file is through
+        goOn = !cancelled && dialogues.Failed().Ok();
+    }
+    if (failed.Ok()) {
+        failed = dialogues.Failed();
     }
     return findings.TakeSorted();
 }
@@ -84,7 +89,19 @@ std::vector<Finding> CheckLogicText(const Book& book, const Seams& seams, int to
         }
     }
     CheckDialogues(dialogues, seams, base, findings.ErrorCount() > 0, findings);
+    const FileError& failed = store.Failed().Ok() ? dialogues.Failed() : store.Failed();
+    if (!failed.Ok()) {
+        ShowCheckError(book, seams, failed);
+        return {};
+    }
     return findings.TakeSorted();
+}
+
+void ShowCheckError(const Book& book, const Seams& seams, const FileError& failed)
+{
+    seams.messages.MsgBox("Error reading <<" + FromPath(book.OpenPath) + ">> with code " +
+                              std::to_string(failed.number) + ": " + failed.description,
+                          Icon::Critical);
 }
 
 } // namespace ls

@@ -23,8 +23,12 @@ class Progress;
 
 /// The same for the text of one topic's logic block, "<IXML>" first, as an editor holds it: lines count in
 /// that text. Blocks that it leads to are taken as they were edited, else from the file. `topic` is the
-/// number of the topic that the text belongs to.
+/// number of the topic that the text belongs to. When the file cannot be read a box tells, and nothing
+/// is listed: what a block in it holds might make all the difference.
 [[nodiscard]] std::vector<Finding> CheckLogicText(const Book& book, const Seams& seams, int topic,
                                                   const std::string& text);
+
+/// The box for a book's file that a check could not read.
+void ShowCheckError(const Book& book, const Seams& seams, const FileError& failed);
 
 } // namespace ls

@@ -37,32 +37,42 @@ private:
     bool m_cancelled = false;
 };
 
-// The open file once more: whoever reads it brings a position.
+// The open file once more: whoever reads it brings a position. The first error goes into `failed`.
 class SameBookFile : public BookFile
 {
 public:
-    explicit SameBookFile(BookFile& file) : m_file(&file) {}
+    SameBookFile(BookFile& file, FileError& failed) : m_file(&file), m_failed(&failed) {}
 
     FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
     {
-        return m_file->ReadAt(pos, buffer, size, got);
+        return Note(m_file->ReadAt(pos, buffer, size, got));
     }
-    FileError Size(FilePos& size) override { return m_file->Size(size); }
+    FileError Size(FilePos& size) override { return Note(m_file->Size(size)); }
 
 private:
+    FileError Note(const FileError& failed)
+    {
+        if (m_failed->Ok()) {
+            *m_failed = failed;
+        }
+        return failed;
+    }
+
     BookFile* m_file;
+    FileError* m_failed;
 };
 
-// The book as its file has it, whatever was done to its topics in memory since.
-void ScanAgain(const Book& book, const Seams& seams, Progress* progress, Book& fresh)
+// The book as its file has it, whatever was done to its topics in memory since. Errors of its file go into
+// `failed` from now on.
+void ScanAgain(const Book& book, const Seams& seams, Progress* progress, Book& fresh, FileError& failed)
 {
-    ProgramEnd end; // a read error must not end the program here; the check meets it again and tells
+    ProgramEnd end; // a read error must not end the program here
     QuietMessages quiet(end);
     fresh.BookPath = book.BookPath;
     fresh.OpenPath = book.OpenPath;
     static_cast<BookHeader&>(fresh) = book;
     fresh.BookStartPos = book.BookStartPos;
-    fresh.File = std::make_unique<SameBookFile>(*book.File);
+    fresh.File = std::make_unique<SameBookFile>(*book.File, failed);
     ScanBook(fresh, {seams.files, quiet, seams.processes, end, seams.paths}, progress);
 }
 
@@ -101,17 +111,17 @@ bool IsCheckable(const Book& book, const Seams& seams)
 CheckedBook CheckOpenBook(const Book& book, const Seams& seams, Progress* progress)
 {
     CancelWatch watch(progress);
+    FileError failed;
     Book fresh;
     if (book.BookChanged) {
-        ScanAgain(book, seams, &watch, fresh);
+        ScanAgain(book, seams, &watch, fresh, failed);
     }
     CheckedBook checked;
-    FileError failed;
-    checked.findings = CheckBook(book.BookChanged ? fresh : book, seams, &watch, failed);
+    if (failed.Ok()) { // half a table would give findings that are none
+        checked.findings = CheckBook(book.BookChanged ? fresh : book, seams, &watch, failed);
+    }
     if (!failed.Ok()) {
-        seams.messages.MsgBox("Error reading <<" + FromPath(book.OpenPath) + ">> with code " +
-                                  std::to_string(failed.number) + ": " + failed.description,
-                              Icon::Critical);
+        ShowCheckError(book, seams, failed);
     }
     const bool whole = failed.Ok() && !watch.Cancelled();
     checked.summary = Summary(checked.findings, FromPath(NameOf(seams.paths, book.BookPath)), whole);

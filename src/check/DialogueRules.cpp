@@ -102,10 +102,12 @@ public:
     explicit Overlay(BookFile* file) : m_file(file)
     {
         FilePos size = 0;
-        if (m_file != nullptr && m_file->Size(size).Ok()) {
+        if (m_file != nullptr && Note(m_file->Size(size)).Ok()) {
             m_tailPos = size + 2;
         }
     }
+
+    [[nodiscard]] const FileError& Failed() const { return m_failed; }
 
     FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
     {
@@ -115,7 +117,7 @@ public:
             return {};
         }
         got = 0;
-        return m_file == nullptr ? FileError{} : m_file->ReadAt(pos, buffer, size, got);
+        return m_file == nullptr ? FileError{} : Note(m_file->ReadAt(pos, buffer, size, got));
     }
     FileError Size(FilePos& size) override
     {
@@ -131,9 +133,18 @@ public:
     }
 
 private:
+    FileError Note(const FileError& failed)
+    {
+        if (m_failed.Ok()) {
+            m_failed = failed;
+        }
+        return failed;
+    }
+
     BookFile* m_file;
     FilePos m_tailPos = 2;
     std::string m_tail;
+    FileError m_failed; ///< the first one
 };
 
 DialogueBook::DialogueBook(const Book& book)
@@ -155,6 +166,11 @@ void DialogueBook::Replace(int topic, const std::string& block)
     m_book.TopicPos(number) = m_overlay->Append(m_book.TopicNames(number) + "\r\n" + block);
 }
 
+const FileError& DialogueBook::Failed() const
+{
+    return m_overlay->Failed();
+}
+
 bool DialogueBook::Show(int topic)
 {
     const auto number = static_cast<std::size_t>(topic);
@@ -173,6 +189,9 @@ void CheckDialogues(DialogueBook& book, const Seams& seams, const RuleBase& base
         return;
     }
     const DialogueMap map = SearchDialogues(book.Get(), seams, SearchLimits(), nullptr);
+    if (!book.Failed().Ok()) {
+        return; // a dialogue that met a disk that fails says nothing about the rules
+    }
     const int line = own.logicLine != 0 ? own.logicLine : own.line;
     ReportProgramEnds(map, line, hasErrors, findings);
     if (!hasErrors) {

@@ -26,6 +26,9 @@ public:
 
     [[nodiscard]] const Book& Get() const { return m_book; }
 
+    /// The first error that reading the book's file came to; success when there was none.
+    [[nodiscard]] const FileError& Failed() const;
+
 private:
     class Overlay;
 

@@ -89,14 +89,19 @@ Status OpenOutput(CommandContext& context, const std::string& input, std::unique
     return Status::Done;
 }
 
-Status Write(CommandContext& context, BookFile& input, const TextFindings& findings, OutputFile& output,
-             ConvertedLines& lines)
+Status Write(CommandContext& context, const std::string& path, BookFile& input, const TextFindings& findings,
+             OutputFile& output, ConvertedLines& lines)
 {
     FileError failed = ConvertText(input, findings, output, &context.TheProgress(), lines);
     if (failed.Ok()) {
         failed = output.Finish();
     }
     context.TheProgress().Erase();
+    if (!failed.Ok() && context.Files().FailedPath() == path) {
+        context.Fail("Error reading <<" + FromPath(path) + ">> with code " + ErrorText(failed),
+                     Icon::Critical);
+        return Status::FileFault;
+    }
     if (!failed.Ok()) {
         context.Fail("Failed to write due to error #" + ErrorText(failed), Icon::Warning);
         return Status::FileFault;
@@ -128,7 +133,7 @@ Status Convert(CommandContext& context, TextFindings& findings, ConvertedLines& 
     if (const Status status = OpenOutput(context, path, output); status != Status::Done) {
         return status;
     }
-    return Write(context, *input, findings, *output, lines);
+    return Write(context, path, *input, findings, *output, lines);
 }
 
 Status Run(CommandContext& context)

@@ -1,5 +1,6 @@
 #include "base/FileSystem.h"
 #include "base/Messages.h"
+#include "base/ReplaceFile.h"
 #include "book/SaveBook.h"
 #include "cli/CommandContext.h"
 #include "cli/Commands.h"
@@ -31,26 +32,35 @@ Status TestOutput(CommandContext& context, const std::string& path)
     return Status::Done;
 }
 
-// Writes the book beside a file that is to be replaced, which keeps its name until the new one is complete.
-WriteOutcome Write(CommandContext& context, const std::string& path)
+WriteOutcome Fail(CommandContext& context, const std::string& what, const FileError& failed)
 {
-    FileSystem& files = context.TheSeams().files;
-    if (!files.Exists(path)) {
-        return SaveBook(context.TheBook(), context.TheSeams(), path, &context.TheProgress());
+    context.TheSeams().messages.MsgBox(
+        what + " due to error #" + std::to_string(failed.number) + ": " + failed.description, Icon::Warning);
+    return WriteOutcome::Failed;
+}
+
+// Writes the book in place of a file that keeps its name until the new one is complete. Here nothing was
+// edited, so what a failure leaves is of no use to anybody, and goes.
+WriteOutcome Replace(CommandContext& context, const std::string& path)
+{
+    std::unique_ptr<OutputFile> output;
+    if (const FileError failed = OpenToReplace(context.TheSeams().files, path, output); !failed.Ok()) {
+        return Fail(context, "Failed to open output file", failed);
     }
-    const std::string whole = path + ".new";
     const WriteOutcome outcome =
-        SaveBook(context.TheBook(), context.TheSeams(), whole, &context.TheProgress());
+        WriteBook(context.TheBook(), context.TheSeams(), *output, &context.TheProgress());
     if (outcome != WriteOutcome::Written) {
         return outcome;
     }
-    if (const FileError failed = files.RenameOver(whole, path); !failed.Ok()) {
-        context.TheSeams().messages.MsgBox("Failed to write due to error #" + std::to_string(failed.number) +
-                                               ": " + failed.description,
-                                           Icon::Warning);
-        return WriteOutcome::Failed;
-    }
-    return WriteOutcome::Written;
+    const FileError failed = output->Finish();
+    return failed.Ok() ? outcome : Fail(context, "Failed to write", failed);
+}
+
+WriteOutcome Write(CommandContext& context, const std::string& path)
+{
+    return context.TheSeams().files.Exists(path)
+               ? Replace(context, path)
+               : SaveBook(context.TheBook(), context.TheSeams(), path, &context.TheProgress());
 }
 
 Status WriteSize(CommandContext& context, const std::string& path)

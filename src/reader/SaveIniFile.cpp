@@ -60,8 +60,8 @@ FileError WriteNewFile(FileSystem& files, const std::string& path, const std::st
     std::unique_ptr<OutputFile> file;
     FileError failed = files.CreateNew(path, file);
     if (failed.number == error::FileAlreadyExists) {
-        files.Remove(path);
-        failed = files.CreateNew(path, file);
+        failed = files.Remove(path);
+        failed = failed.Ok() ? files.CreateNew(path, file) : failed;
     }
     if (!failed.Ok()) {
         return failed;
@@ -77,8 +77,8 @@ FileError WriteNewFile(FileSystem& files, const std::string& path, const std::st
     return failed;
 }
 
-// Whether a file stands there that loading would refuse, or cannot even read.
-bool HoldsSomethingElse(FileSystem& files, const std::string& path)
+// Whether a file stands there that loading would refuse, cannot even read, or did not read to its end.
+bool MustBeKept(FileSystem& files, const std::string& path, bool notReadWhole)
 {
     if (!files.Exists(path)) {
         return false;
@@ -89,15 +89,15 @@ bool HoldsSomethingElse(FileSystem& files, const std::string& path)
     }
     StatementReader reader(*file);
     std::string signature;
-    return !reader.ReadLine(signature) || !IsIniSignature(signature);
+    return notReadWhole || !reader.ReadLine(signature) || !IsIniSignature(signature);
 }
 
 // Puts the file beside, under the first backup name that is free: ".bak", ".bak2", ...
-FileError KeepBeside(FileSystem& files, const std::string& path)
+FileError KeepBeside(FileSystem& files, const std::string& path, std::string& backup)
 {
     FileError failed;
     for (int number = 1; number <= MaxBackups; ++number) {
-        std::string backup = path + std::string(BackupType);
+        backup = path + std::string(BackupType);
         if (number > 1) {
             backup += std::to_string(number);
         }
@@ -109,18 +109,23 @@ FileError KeepBeside(FileSystem& files, const std::string& path)
     return failed;
 }
 
-FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::string& text)
+FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::string& text,
+                         bool notReadWhole)
 {
     const std::string newPath = path + std::string(NewType);
     FileError failed = WriteNewFile(files, newPath, text);
     if (!failed.Ok()) {
         return failed;
     }
-    if (HoldsSomethingElse(files, path)) {
-        failed = KeepBeside(files, path);
+    std::string backup;
+    if (MustBeKept(files, path, notReadWhole)) {
+        failed = KeepBeside(files, path, backup);
     }
     if (failed.Ok()) {
         failed = files.RenameOver(newPath, path);
+        if (!failed.Ok() && !backup.empty()) {
+            files.RenameToNew(backup, path);
+        }
     }
     if (!failed.Ok()) {
         files.Remove(newPath);
@@ -130,10 +135,11 @@ FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::
 
 } // namespace
 
-void SaveIniFile(const Settings& settings, const Seams& seams)
+void SaveIniFile(Settings& settings, const Seams& seams)
 {
     const std::string path = IniPath(seams.files, seams.paths, settings.IniDir);
-    const FileError failed = ReplaceIniFile(seams.files, path, IniText(settings));
+    const FileError failed = ReplaceIniFile(seams.files, path, IniText(settings), settings.NotReadWhole);
+    settings.NotReadWhole = settings.NotReadWhole && !failed.Ok();
     if (!failed.Ok()) {
         seams.messages.MsgBox("Failed to save configuration and preferences to LSADVISOR.INI due to error #" +
                                   std::to_string(failed.number) + ": " + failed.description,

@@ -16,6 +16,7 @@ struct Settings
     std::string IniDir; ///< folder of the settings file; empty = the current folder
     std::array<std::string, MaxRecentFiles> RecentFiles; ///< book paths, most recent first
     Count16 RecentFileCount;
+    bool NotReadWhole = false; ///< a disk that failed kept back what the settings file holds
 };
 
 /// Reads "LSAdvisor.INI" from `IniDir`. A missing file is no fault. A fault shows its message; a record
@@ -28,7 +29,8 @@ void LoadSettings(Settings& settings, const Seams& seams);
 void AddRecentFile(Settings& settings, const std::string& path);
 
 /// Writes the settings file: into a new file first, which then takes its name in one step. A file that was
-/// refused for its format is kept beside as ".bak" before the first rewrite.
-void SaveIniFile(const Settings& settings, const Seams& seams);
+/// refused for its format, or that could not be read to its end, is kept beside as ".bak" before the first
+/// rewrite.
+void SaveIniFile(Settings& settings, const Seams& seams);
 
 } // namespace ls

@@ -3,7 +3,6 @@
 #include "base/LineCursor.h"
 #include "base/Messages.h"
 #include "base/NoFile.h"
-#include "base/QuietMessages.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
@@ -27,20 +26,6 @@ bool EndsTopic(std::string_view line)
     return BeginsUpper(line, "<XREF") || EqualsUpper(Trim(line), "<IXML>") || line.starts_with('[');
 }
 
-// Whether the topic's header line cannot even be read. A file that has become shorter is no such case: there
-// the topic is gone.
-FileError ErrorOfHeader(const Book& book, int number, LineCursor& cursor)
-{
-    const auto index = static_cast<std::size_t>(number);
-    if (number < 1 || index > book.TopicPos.UpperBound() || book.TopicPos(index) == 0) {
-        return {};
-    }
-    cursor.Seek(book.TopicPos(index));
-    std::string_view line;
-    FileError failed = cursor.ReadLine(line);
-    return failed.number == error::InputPastEnd ? FileError{} : failed;
-}
-
 enum class Located
 {
     Found,
@@ -48,22 +33,18 @@ enum class Located
     Unreadable
 };
 
-// A topic that is not there is no news to the user here, a disk that fails is.
+// A topic that is not there is no news to the user here, nor is a file that has become shorter: there the
+// topic is gone. A disk that fails is.
 Located Locate(const Book& book, const Seams& seams, const std::string& name, Count16 number,
                LineCursor& cursor)
 {
-    QuietMessages quiet(seams.end);
-    std::string found = name;
-    LocateTopic(book, {seams.files, quiet, seams.processes, seams.end, seams.paths}, cursor, found, number);
-    if (!found.empty()) {
-        return Located::Found;
+    FileError failed;
+    const TopicLocation location = GoToTopic(book, cursor, name, number, failed);
+    if (location == TopicLocation::Unreadable && failed.number != error::InputPastEnd) {
+        ShowFetchError(seams, name, failed);
+        return Located::Unreadable;
     }
-    const FileError failed = ErrorOfHeader(book, number, cursor);
-    if (failed.Ok()) {
-        return Located::Missing;
-    }
-    ShowFetchError(seams, name, failed);
-    return Located::Unreadable;
+    return location == TopicLocation::Found ? Located::Found : Located::Missing;
 }
 
 FileError WriteDocument(LineCursor& cursor, std::string_view title, HtmlOutput& output)

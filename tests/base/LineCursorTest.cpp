@@ -229,8 +229,23 @@ TEST_F(LineCursorTest, readLine_failingRead_isReportedAndIsNotTheEnd)
     EXPECT_EQ(cursor.ReadLine(view), MakeFileError(error::DeviceIo));
     EXPECT_EQ(cursor.SkipToLineBeginning('[', '<'), MakeFileError(error::DeviceIo));
     files.fail = nullptr;
+    EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::DeviceIo)) << "what was missed may not be skipped";
+    cursor.Seek(1);
     ASSERT_TRUE(cursor.ReadLine(line).Ok());
     EXPECT_EQ(line, "a");
+}
+
+TEST_F(LineCursorTest, atEnd_readThatFailedOnce_isReportedByTheNextLine)
+{
+    Open("a\r\n");
+    LineCursor cursor(*file);
+    int reads = 0;
+    files.fail = [&reads](const std::string& operation) {
+        return operation.starts_with("read") && ++reads == 1 ? error::DeviceIo : 0;
+    };
+    std::string line;
+    EXPECT_FALSE(cursor.AtEnd());
+    EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::DeviceIo));
 }
 
 TEST_F(LineCursorTest, readLine_failureInTheMiddleOfALine_isReported)

@@ -198,16 +198,16 @@ TEST_F(WriteBookTest, save_existingName_refusesAndKeepsBoth)
     EXPECT_EQ(world.files["/work/Out.IDA.part"], "LODESTAR BOOK V5.3\r\n[A]\r\na\r\n");
 }
 
-TEST_F(WriteBookTest, save_existingPart_isNotTouched)
+TEST_F(WriteBookTest, save_existingPart_isNotTouchedAndInNobodysWay)
 {
     ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\na\r\n"));
     world.files["/work/Out.IDA.part"] = "kept";
-    EXPECT_EQ(Save(), "");
-    EXPECT_EQ(
-        world.messages.Take(),
-        (Strings{
-            "warning|Lodestar Advisor|Failed to open output file due to error #58: File already exists"}));
+    world.files["/work/Out.IDA.part2"] = "kept, too";
+    EXPECT_EQ(Save(), "LODESTAR BOOK V5.3\r\n[A]\r\na\r\n");
+    EXPECT_EQ(world.messages.Take(), Strings{});
     EXPECT_EQ(world.files["/work/Out.IDA.part"], "kept");
+    EXPECT_EQ(world.files["/work/Out.IDA.part2"], "kept, too");
+    EXPECT_FALSE(world.files.Has("/work/Out.IDA.part3"));
 }
 
 // The disk fills up, or breaks, at each operation on the output in turn: never a file under the final name,

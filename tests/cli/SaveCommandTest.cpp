@@ -50,7 +50,7 @@ TEST_F(Save, forcedWriteThatFails_keepsTheOldFile)
     EXPECT_EQ(files["/work/b.IDA"], "old");
 }
 
-TEST_F(Save, forcedNameThatCannotBeReplaced_saysSoAndKeepsBoth)
+TEST_F(Save, forcedNameThatCannotBeReplaced_saysSoAndKeepsTheOldFile)
 {
     files["/work/b.IDA"] = "old";
     files.fail = [](const std::string& operation) {
@@ -59,7 +59,21 @@ TEST_F(Save, forcedNameThatCannotBeReplaced_saysSoAndKeepsBoth)
     EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 3);
     EXPECT_EQ(err, "warning: Failed to write due to error #70: Permission denied\n");
     EXPECT_EQ(files["/work/b.IDA"], "old");
-    EXPECT_EQ(files["/work/b.IDA.new"], Book);
+    EXPECT_FALSE(files.Has("/work/b.IDA.new"));
+    files.fail = nullptr;
+    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 0) << "the next one goes well";
+    EXPECT_EQ(files["/work/b.IDA"], Book);
+}
+
+TEST_F(Save, forcedReadOnlyFile_isRefused)
+{
+    files["/work/b.IDA"] = "old";
+    files.fail = [](const std::string& operation) {
+        return operation == "writable b.IDA" ? error::PermissionDenied : 0;
+    };
+    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 3);
+    EXPECT_EQ(err, "warning: Failed to open output file due to error #70: Permission denied\n");
+    EXPECT_EQ(files["/work/b.IDA"], "old");
 }
 
 TEST_F(Save, savedFileThatCannotBeRead_isToldAlsoAsJson)

@@ -33,6 +33,9 @@ public:
 
     FileError Size(FilePos& size) override
     {
+        if (const int number = m_owner.Fault("size " + m_path); number != 0) {
+            return MakeFileError(number);
+        }
         size = static_cast<FilePos>(m_bytes->size());
         return {};
     }

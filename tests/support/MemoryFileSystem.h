@@ -13,7 +13,7 @@ namespace ls::test {
 
 /// Files that live in memory. Paths use "/"; a folder exists when it was added or when a file lies in it.
 ///
-/// Faults are planted by `fail`, which is asked before every operation ("open /a", "read /a", "write /a",
+/// Faults are planted by `fail`, which is asked before every operation ("open /a", "read /a 1", "size /a", "write /a",
 /// "finish /a", "create /a", "rename /a /b", "remove /a", "list /a", "writable /a") and gives the error
 /// number to fail with, 0 for none.
 class MemoryFileSystem : public FileSystem

@@ -1,0 +1,74 @@
+// The page on quality tells every message that a failing file brings up.
+
+#include "FaultRow.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <regex>
+#include <set>
+#include <sstream>
+
+namespace ls {
+namespace {
+
+std::string ReadAll(const std::string& path)
+{
+    std::ifstream stream(path);
+    std::ostringstream text;
+    text << stream.rdbuf();
+    return text.str();
+}
+
+// A message as the page has it: "Failed to fetch topic TOPIC due to error #N: WHY".
+std::string General(std::string text)
+{
+    const std::pair<const char*, const char*> names[] = {
+        {"57: Device I/O error", "N: WHY"},
+        {"57Error", "NError"},
+        {"<<[^>]*>>", "<<FILE>>"},
+        {"fetch topic \\S+", "fetch topic TOPIC"},
+        {"cannot choose \\S+", "cannot choose FOLDER"},
+    };
+    for (const auto& [pattern, name] : names) {
+        text = std::regex_replace(text, std::regex(pattern), name);
+    }
+    return text;
+}
+
+// Every message of a table that names an error.
+std::set<std::string> MessagesOf(const std::string& file)
+{
+    const std::string text = ReadAll(std::string(LS_TEST_DATA "/faults/") + file);
+    std::set<std::string> found;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t told = line.find(" -> ");
+        const std::size_t end = line.find(" -> ", told == std::string::npos ? told : told + 4);
+        if (line.starts_with('#') || end == std::string::npos) {
+            continue;
+        }
+        std::string all = General(line.substr(told + 4, end - told - 4));
+        const std::regex one(
+            "(critical|warning|exclamation): (.*?)(?= \\+ |/?(critical|warning|exclamation): |/?$)");
+        for (std::sregex_iterator at(all.begin(), all.end(), one), last; at != last; ++at) {
+            found.insert((*at)[2].str());
+        }
+    }
+    return found;
+}
+
+TEST(FaultDocs, qualityPage_tellsEveryMessage)
+{
+    const std::string page = ReadAll(LS_DOCS "/quality.md");
+    for (const char* file : {"window.txt", "lsbook.txt"}) {
+        const std::set<std::string> messages = MessagesOf(file);
+        EXPECT_GT(messages.size(), 5U);
+        for (const std::string& message : messages) {
+            EXPECT_NE(page.find(message), std::string::npos) << message;
+        }
+    }
+}
+
+} // namespace
+} // namespace ls
