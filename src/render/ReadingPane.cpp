@@ -81,8 +81,13 @@ void ReadingPane::SetTopic(const DisplayLines* lines, float bookVersion)
 void ReadingPane::KeepSelection(const std::function<void()>& printAgain)
 {
     const TextSelection before = m_selection;
-    const KeptSelection kept(Topic(), before);
     const bool caretShown = m_caretShown;
+    if (before == TextSelection()) { // the topic's whole text need not be read
+        printAgain();
+        m_caretShown = caretShown;
+        return;
+    }
+    const KeptSelection kept(Topic(), before);
     printAgain();
     if (m_lines != nullptr && !(m_selection == before)) {
         m_caretShown = caretShown;

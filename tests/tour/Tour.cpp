@@ -76,7 +76,7 @@ bool Tour::Take()
         {"contents", &Tour::SortByContents},
         {"wide", &Tour::WidenWindow},
     });
-    return read && TakeAuthor() && TakePrint() && TakeCheck();
+    return read && TakeAuthor() && TakePrint() && TakeCheck() && TakeFind();
 }
 
 bool Tour::TakeSteps(std::initializer_list<Step> steps)

@@ -74,6 +74,9 @@ private:
 
     Fault ChoosePrintMode();
 
+    Fault FindText();
+    Fault EnlargeType();
+
     Fault LookAtEditor();
     Fault PickVariable();
     Fault PickChoice();
@@ -84,6 +87,7 @@ private:
     [[nodiscard]] bool WalkPrint();
     [[nodiscard]] bool TakeCheck();
     [[nodiscard]] bool WalkCheck();
+    [[nodiscard]] bool TakeFind();
     [[nodiscard]] bool WalkEditItem(const char* item, const char* form, bool (Tour::*walk)());
     [[nodiscard]] bool WalkTextEditor();
     [[nodiscard]] bool WalkRemoval();
@@ -106,6 +110,7 @@ private:
     [[nodiscard]] static Fault OpenMenu(const QWidget& window, const char* name);
     [[nodiscard]] Fault OpenMenu(const char* name) const { return OpenMenu(m_window, name); }
     [[nodiscard]] static Fault ClickItem(const QWidget& window, const char* menu, const char* item);
+    [[nodiscard]] Fault Pick(const char* menu, const char* item) const;
     [[nodiscard]] Fault ChooseItem(const char* menu, const char* item) const;
     [[nodiscard]] QStringList Items() const;
     [[nodiscard]] QString BareTitle(const QString& item) const;
