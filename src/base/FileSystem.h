@@ -68,6 +68,13 @@ public:
     /// Fails with 58 when the name exists, also when somebody else makes it at the same moment.
     virtual FileError CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file) = 0;
 
+    /// The same for a file that only this user may read and write. Where a file takes its rights from its
+    /// folder, that is the folder's business.
+    virtual FileError CreateNewPrivate(const std::string& path, std::unique_ptr<OutputFile>& file)
+    {
+        return CreateNew(path, file);
+    }
+
     /// Gives `from` the name `to`; fails with 58 when `to` exists.
     virtual FileError RenameToNew(const std::string& from, const std::string& to) = 0;
 
@@ -89,6 +96,10 @@ public:
 
     /// The entries of a folder, in the order in which the system gives them.
     virtual FileError List(const std::string& folder, std::vector<FolderEntry>& entries) = 0;
+
+    /// Makes a folder, and those above it that are missing, which only this user may look into. One that is
+    /// there already is left as it is; a file of that name is error 75.
+    virtual FileError MakeFolder(const std::string& folder) = 0;
 
     virtual std::string CurrentFolder() = 0;
 };

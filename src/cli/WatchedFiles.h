@@ -38,6 +38,10 @@ public:
     {
         return m_files->List(folder, entries); // looking for another spelling may fail without harm
     }
+    FileError MakeFolder(const std::string& folder) override
+    {
+        return Note(folder, m_files->MakeFolder(folder));
+    }
     std::string CurrentFolder() override { return m_files->CurrentFolder(); }
 
     /// Notes an error, and hands it on.

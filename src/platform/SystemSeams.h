@@ -26,6 +26,10 @@ namespace ls {
 /// The printing service of the running system.
 [[nodiscard]] std::unique_ptr<PrintService> MakePrintService();
 
+/// The user's folder for what this program keeps between its runs without being asked: recovery journals. It
+/// need not exist yet; empty where the user has no home.
+[[nodiscard]] std::string StateFolder(Processes& processes);
+
 /// How paths are written on the running system.
 [[nodiscard]] PathRules NativePaths();
 

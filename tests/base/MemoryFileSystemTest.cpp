@@ -159,5 +159,18 @@ TEST_F(MemoryFileSystemTest, fail_isAskedBeforeEveryOperation)
     EXPECT_TRUE(files.Has("/a"));
 }
 
+TEST_F(MemoryFileSystemTest, makeFolder_makesThoseAboveAndRefusesAFile)
+{
+    EXPECT_EQ(files.MakeFolder("/x/y/z"), FileError{});
+    EXPECT_TRUE(files.CreateNew("/x/y/z/new", out).Ok());
+    EXPECT_TRUE(files.CreateNew("/x/new", out).Ok());
+    EXPECT_EQ(files.MakeFolder("/x/y"), FileError{});
+    files["/file"] = "f";
+    EXPECT_EQ(files.MakeFolder("/file").number, error::PathFileAccess);
+    files.fail = [](const std::string& is) { return is == "folder /q" ? error::DiskFull : 0; };
+    EXPECT_EQ(files.MakeFolder("/q").number, error::DiskFull);
+    EXPECT_FALSE(files.Exists("/q"));
+}
+
 } // namespace
 } // namespace ls

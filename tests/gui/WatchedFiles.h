@@ -32,6 +32,10 @@ public:
     {
         return m_files->CreateNew(path, file);
     }
+    FileError CreateNewPrivate(const std::string& path, std::unique_ptr<OutputFile>& file) override
+    {
+        return m_files->CreateNewPrivate(path, file);
+    }
     FileError RenameToNew(const std::string& from, const std::string& to) override
     {
         return m_files->RenameToNew(from, to);
@@ -48,6 +52,7 @@ public:
     {
         return m_files->List(folder, entries);
     }
+    FileError MakeFolder(const std::string& folder) override { return m_files->MakeFolder(folder); }
     std::string CurrentFolder() override { return m_files->CurrentFolder(); }
 
 private:

@@ -299,5 +299,37 @@ TEST_F(LinuxFileSystemWriteTest, remove_link_keepsItsTarget)
     EXPECT_EQ(folder.Read("a"), "bytes");
 }
 
+TEST_F(LinuxFileSystemWriteTest, makeFolder_missingOnes_areMadeForThisUserAlone)
+{
+    EXPECT_EQ(files.MakeFolder(folder / "a/b/c"), FileError{});
+    for (const char* name : {"a", "a/b", "a/b/c"}) {
+        struct stat status = {};
+        ASSERT_EQ(::stat((folder / name).c_str(), &status), 0) << name;
+        EXPECT_EQ(status.st_mode, static_cast<mode_t>(S_IFDIR | 0700)) << name;
+    }
+}
+
+TEST_F(LinuxFileSystemWriteTest, makeFolder_onesThatAreThere_stayAsTheyAre)
+{
+    folder.MakeFolder("a");
+    folder.Write("a/file", "kept");
+    std::filesystem::create_symlink("a", folder / "link");
+    std::filesystem::permissions(folder / "a", std::filesystem::perms{0755});
+    for (const char* name : {"a", "a/", "link"}) {
+        EXPECT_EQ(files.MakeFolder(folder / name), FileError{}) << name;
+    }
+    EXPECT_EQ(folder.Read("a/file"), "kept");
+    EXPECT_EQ(std::filesystem::status(folder / "a").permissions(), std::filesystem::perms{0755});
+}
+
+TEST_F(LinuxFileSystemWriteTest, makeFolder_fileInItsPlace_isRefused)
+{
+    folder.Write("a", "kept");
+    EXPECT_EQ(files.MakeFolder(folder / "a").number, error::PathFileAccess);
+    EXPECT_FALSE(files.MakeFolder(folder / "a/b").Ok());
+    EXPECT_EQ(folder.Read("a"), "kept");
+    EXPECT_EQ(files.MakeFolder(std::string("/tmp/x\0y", 8)), NotOpen);
+}
+
 } // namespace
 } // namespace ls

@@ -190,6 +190,20 @@ bool MemoryFileSystem::SameFile(const std::string& a, const std::string& b)
     return Exists(a) && Full(a) == Full(b);
 }
 
+FileError MemoryFileSystem::MakeFolder(const std::string& folder)
+{
+    if (const int number = Fault("folder " + folder); number != 0) {
+        return MakeFileError(number);
+    }
+    if (Has(Full(folder))) {
+        return MakeFileError(error::PathFileAccess);
+    }
+    for (std::string path = Full(folder); path != "/"; path = FolderOf(UnixPaths, path)) {
+        m_folders.insert(path);
+    }
+    return {};
+}
+
 FileError MemoryFileSystem::List(const std::string& folder, std::vector<FolderEntry>& entries)
 {
     entries.clear();

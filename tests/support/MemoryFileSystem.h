@@ -13,9 +13,9 @@ namespace ls::test {
 
 /// Files that live in memory. Paths use "/"; a folder exists when it was added or when a file lies in it.
 ///
-/// Faults are planted by `fail`, which is asked before every operation ("open /a", "read /a 1", "size /a", "write /a",
-/// "finish /a", "create /a", "rename /a /b", "remove /a", "list /a", "writable /a") and gives the error
-/// number to fail with, 0 for none.
+/// Faults are planted by `fail`, which is asked before every operation ("open /a", "read /a 1", "size /a",
+/// "write /a", "finish /a", "create /a", "rename /a /b", "remove /a", "list /a", "writable /a", "folder /a")
+/// and gives the error number to fail with, 0 for none.
 class MemoryFileSystem : public FileSystem
 {
 public:
@@ -29,6 +29,7 @@ public:
     bool Exists(const std::string& path) override;
     bool SameFile(const std::string& a, const std::string& b) override;
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override;
+    FileError MakeFolder(const std::string& folder) override;
     std::string CurrentFolder() override { return currentFolder; }
 
     /// The content of a file, which may be changed while it is open; it is made when it does not exist.

@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxFileSystem.h"
 
+#include "base/PathRules.h"
 #include "platform/linux/ErrnoError.h"
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/LinuxBookFile.h"
@@ -21,11 +22,15 @@ namespace ls {
 
 namespace {
 
-int OpenFile(const std::string& path, int flags)
+// What the user's mask leaves of it.
+constexpr mode_t EverybodysMode = 0666;
+constexpr mode_t PrivateMode = 0600;
+
+int OpenFile(const std::string& path, int flags, mode_t mode = EverybodysMode)
 {
     int descriptor = -1;
     do {
-        descriptor = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+        descriptor = ::open(path.c_str(), flags | O_CLOEXEC, mode);
     } while (descriptor < 0 && errno == EINTR);
     return descriptor;
 }
@@ -83,6 +88,20 @@ FileError ErrorOfRename(int errnoValue, const std::string& from)
     return ErrorOfPath(errnoValue, from);
 }
 
+FileError MakeFile(const std::string& path, mode_t mode, std::unique_ptr<OutputFile>& file)
+{
+    file.reset();
+    if (const FileError bad = CheckPath(path); !bad.Ok()) {
+        return bad;
+    }
+    FileDescriptor descriptor(OpenFile(path, O_WRONLY | O_CREAT | O_EXCL, mode));
+    if (!descriptor.IsOpen()) {
+        return ErrorOfPath(errno, path);
+    }
+    file = std::make_unique<LinuxOutputFile>(std::move(descriptor));
+    return {};
+}
+
 bool LeadsToFolder(DIR* stream, const dirent& entry)
 {
     if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) {
@@ -137,16 +156,12 @@ FileError LinuxFileSystem::OpenForReading(const std::string& path, Sharing shari
 
 FileError LinuxFileSystem::CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file)
 {
-    file.reset();
-    if (const FileError bad = CheckPath(path); !bad.Ok()) {
-        return bad;
-    }
-    FileDescriptor descriptor(OpenFile(path, O_WRONLY | O_CREAT | O_EXCL));
-    if (!descriptor.IsOpen()) {
-        return ErrorOfPath(errno, path);
-    }
-    file = std::make_unique<LinuxOutputFile>(std::move(descriptor));
-    return {};
+    return MakeFile(path, EverybodysMode, file);
+}
+
+FileError LinuxFileSystem::CreateNewPrivate(const std::string& path, std::unique_ptr<OutputFile>& file)
+{
+    return MakeFile(path, PrivateMode, file);
 }
 
 FileError LinuxFileSystem::RenameToNew(const std::string& from, const std::string& to)
@@ -227,6 +242,27 @@ FileError LinuxFileSystem::List(const std::string& folder, std::vector<FolderEnt
         errno = 0;
     }
     return ErrorOfErrno(errno);
+}
+
+FileError LinuxFileSystem::MakeFolder(const std::string& folder)
+{
+    if (const FileError bad = CheckPath(folder); !bad.Ok()) {
+        return bad;
+    }
+    if (IsFolder(folder)) {
+        return {};
+    }
+    const std::string above = FolderOf(UnixPaths, folder);
+    if (!above.empty() && above != folder) {
+        if (FileError failed = MakeFolder(above); !failed.Ok()) {
+            return failed;
+        }
+    }
+    const int failure = ::mkdir(folder.c_str(), 0700) == 0 ? 0 : errno;
+    if (failure == EEXIST) { // another program may have made it at the same moment
+        return IsFolder(folder) ? FileError{} : MakeFileError(error::PathFileAccess);
+    }
+    return ErrorOfPath(failure, folder);
 }
 
 std::string LinuxFileSystem::CurrentFolder()

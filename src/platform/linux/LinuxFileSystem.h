@@ -18,6 +18,7 @@ public:
     FileError OpenForReading(const std::string& path, Sharing sharing,
                              std::unique_ptr<BookFile>& file) override;
     FileError CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file) override;
+    FileError CreateNewPrivate(const std::string& path, std::unique_ptr<OutputFile>& file) override;
     FileError RenameToNew(const std::string& from, const std::string& to) override;
     FileError RenameOver(const std::string& from, const std::string& to) override;
 
@@ -33,6 +34,8 @@ public:
 
     /// "" is the current folder. A link to a folder counts as a folder, a name with a leading dot as hidden.
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override;
+
+    FileError MakeFolder(const std::string& folder) override;
 
     /// Empty when the folder has been removed.
     std::string CurrentFolder() override;

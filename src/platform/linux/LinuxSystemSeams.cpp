@@ -33,6 +33,19 @@ std::unique_ptr<PrintService> MakePrintService()
     return std::make_unique<CupsService>();
 }
 
+std::string StateFolder(Processes& processes)
+{
+    std::string state = processes.Environment("XDG_STATE_HOME");
+    if (!IsAbsolute(UnixPaths, state)) {
+        const std::string home = processes.Environment("HOME");
+        if (!IsAbsolute(UnixPaths, home)) {
+            return {};
+        }
+        state = JoinPath(UnixPaths, home, ".local/state");
+    }
+    return JoinPath(UnixPaths, state, "lodestar-advisor");
+}
+
 PathRules NativePaths()
 {
     return UnixPaths;

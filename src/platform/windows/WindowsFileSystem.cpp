@@ -1,5 +1,6 @@
 #include "platform/windows/WindowsFileSystem.h"
 
+#include "base/PathRules.h"
 #include "platform/windows/GrownText.h"
 #include "platform/windows/WidePath.h"
 #include "platform/windows/WideText.h"
@@ -231,6 +232,37 @@ FileError WindowsFileSystem::List(const std::string& folder, std::vector<FolderE
     } while (search.Next());
     const DWORD code = ::GetLastError();
     return code == ERROR_NO_MORE_FILES ? FileError{} : ErrorOfPath(code, pattern);
+}
+
+// A new folder has the rights of the one above it; below the user's own folder only the user may look into
+// it.
+FileError WindowsFileSystem::MakeFolder(const std::string& folder)
+{
+    std::wstring wide;
+    if (FileError bad = ToWidePath(folder, wide); !bad.Ok()) {
+        return bad;
+    }
+    const auto isFolder = [&wide] {
+        const DWORD attributes = ::GetFileAttributesW(wide.c_str());
+        return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    };
+    if (isFolder()) {
+        return {};
+    }
+    const std::string above = FolderOf(WindowsPaths, folder);
+    if (!above.empty() && above != folder) {
+        if (FileError failed = MakeFolder(above); !failed.Ok()) {
+            return failed;
+        }
+    }
+    if (::CreateDirectoryW(wide.c_str(), nullptr) != 0) {
+        return {};
+    }
+    const DWORD code = ::GetLastError();
+    if (isFolder()) { // another program made it at the same moment
+        return {};
+    }
+    return code == ERROR_ALREADY_EXISTS ? MakeFileError(error::PathFileAccess) : ErrorOfPath(code, wide);
 }
 
 std::string WindowsFileSystem::CurrentFolder()

@@ -33,6 +33,8 @@ public:
     /// folder.
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override;
 
+    FileError MakeFolder(const std::string& folder) override;
+
     std::string CurrentFolder() override;
 };
 

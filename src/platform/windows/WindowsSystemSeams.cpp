@@ -33,6 +33,13 @@ std::unique_ptr<PrintService> MakePrintService()
     return std::make_unique<PrintService>();
 }
 
+std::string StateFolder(Processes& processes)
+{
+    const std::string local = processes.Environment("LOCALAPPDATA");
+    return IsAbsolute(WindowsPaths, local) ? JoinPath(WindowsPaths, local, "Lodestar Advisor")
+                                           : std::string();
+}
+
 PathRules NativePaths()
 {
     return WindowsPaths;
