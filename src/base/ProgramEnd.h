@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ls {
 
@@ -16,9 +18,14 @@ public:
     /// The first reason given; empty while the program goes on.
     [[nodiscard]] std::string Reason() const { return m_reason.value_or(std::string()); }
 
+    /// What is still done when the first fault ends the program, before anything is closed: while the forms
+    /// stand as the user left them. It must not ask or tell anything; an empty one does nothing.
+    void SetLastAct(std::function<void()> act) { m_lastAct = std::move(act); }
+
 private:
     friend void EndProgram(ProgramEnd& end, std::string_view reason);
     std::optional<std::string> m_reason;
+    std::function<void()> m_lastAct;
 };
 
 /// The one door through which a fault ends the program. The first reason is kept; it returns to its caller.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Array1.h"
+#include "base/ChangeFlag.h"
 #include "base/Count16.h"
 #include "base/FilePos.h"
 #include "base/FileSystem.h"
@@ -55,8 +56,8 @@ struct Book : BookHeader
     Count16 CurrentTopicNo;       ///< the topic on show; the running counter while scanning
     std::string CurrentTopicName; ///< a bare title when navigation asks for it, "[Title]" while it is on show
     std::string StartTopic;       ///< asked for on the command line
-    bool BookChanged = false;
-    FilePos LogicPos = 0; ///< behind the "<IXML>" line of the topic on show
+    ChangeFlag BookChanged;       ///< set by every edit, when the tables hold it
+    FilePos LogicPos = 0;         ///< behind the "<IXML>" line of the topic on show
 
     std::unique_ptr<BookFile> File; ///< open as long as the book is shown
     std::string OpenPath;           ///< the real path of `File`

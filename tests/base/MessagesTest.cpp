@@ -94,5 +94,19 @@ TEST(ProgramEnd, end_withoutAReason_endsAllTheSame)
     EXPECT_TRUE(end.Ended());
 }
 
+TEST(ProgramEnd, lastAct_isDoneOnceWhenTheProgramHasEnded)
+{
+    ProgramEnd end;
+    int done = 0;
+    end.SetLastAct([&] {
+        EXPECT_TRUE(end.Ended());
+        ++done;
+    });
+    EXPECT_EQ(done, 0);
+    EndProgram(end, "first");
+    EndProgram(end, "second");
+    EXPECT_EQ(done, 1);
+}
+
 } // namespace
 } // namespace ls

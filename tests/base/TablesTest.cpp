@@ -1,4 +1,5 @@
 #include "base/Array1.h"
+#include "base/ChangeFlag.h"
 #include "base/Count16.h"
 
 #include <gtest/gtest.h>
@@ -71,6 +72,20 @@ TEST(Count16, add_pastTheLimit_isRefusedAndChangesNothing)
     Count16 some = 10;
     EXPECT_FALSE(some.Add(Count16::Max));
     EXPECT_EQ(some, 10);
+}
+
+TEST(ChangeFlag, set_readsAsABoolAndCountsEachTime)
+{
+    ChangeFlag changed;
+    EXPECT_FALSE(changed);
+    EXPECT_EQ(changed.Changes(), 0U);
+    changed = true;
+    changed = true;
+    EXPECT_TRUE(changed);
+    EXPECT_EQ(changed.Changes(), 2U);
+    changed = false;
+    EXPECT_FALSE(changed);
+    EXPECT_EQ(changed.Changes(), 2U); // nothing new to keep
 }
 
 } // namespace
