@@ -39,25 +39,12 @@ bool Take(const Seams& seams, const char* name, const std::string& utf8, std::st
     return true;
 }
 
-// The fields that the header line would not give back, each with what it would give; empty when all is well.
-std::string Misread(const BookHeader& header)
-{
-    const std::string line = HeaderLine(header);
-    BookHeader read;
-    const bool valid = ParseBookHeader(std::string_view(line).substr(0, line.find('\r')), read);
-    std::string text;
-    for (const Field& field : Fields) {
-        if (read.*field.value != header.*field.value) {
-            text += std::string("\n") + field.name + ": \"" + FromBook(header.*field.value) +
-                    "\" would become \"" + FromBook(read.*field.value) + "\".";
-        }
-    }
-    return text.empty() && !valid ? "\nThe header line would be reported as invalid." : text;
-}
-
 bool MayKeep(const Seams& seams, const BookHeader& header)
 {
-    const std::string misread = Misread(header);
+    std::string misread;
+    for (const std::string& one : MisreadProperties(header)) {
+        misread += "\n" + one;
+    }
     return misread.empty() ||
            seams.messages.MsgBox("The saved book would not give these back as they stand:\n" + misread +
                                      "\n\nKeep them all the same?",
@@ -70,6 +57,24 @@ Properties LoadProperties(const Book& book)
 {
     return {FromBook(book.BookAuthor), FromBook(book.BookCopyright), FromBook(book.BookUrl),
             book.BookPost == AcceptsComments};
+}
+
+std::vector<std::string> MisreadProperties(const BookHeader& header)
+{
+    const std::string line = HeaderLine(header);
+    BookHeader read;
+    const bool valid = ParseBookHeader(std::string_view(line).substr(0, line.find('\r')), read);
+    std::vector<std::string> misread;
+    for (const Field& field : Fields) {
+        if (read.*field.value != header.*field.value) {
+            misread.push_back(std::string(field.name) + ": \"" + FromBook(header.*field.value) +
+                              "\" would become \"" + FromBook(read.*field.value) + "\".");
+        }
+    }
+    if (misread.empty() && !valid) {
+        misread.emplace_back("The header line would be reported as invalid.");
+    }
+    return misread;
 }
 
 bool SaveProperties(Book& book, const Seams& seams, const Properties& properties)

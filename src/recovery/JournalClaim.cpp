@@ -1,0 +1,115 @@
+#include "recovery/JournalClaim.h"
+
+#include "recovery/JournalFile.h"
+
+#include <array>
+#include <cstdio>
+#include <random>
+
+namespace ls {
+
+namespace {
+
+constexpr int MaxTries = 20;
+
+bool IsMissing(const FileError& failed)
+{
+    return failed.number == error::FileNotFound || failed.number == error::PathNotFound;
+}
+
+FileError MakeEmptyFile(FileSystem& files, const std::string& path)
+{
+    std::unique_ptr<OutputFile> file;
+    FileError failed = files.CreateNewPrivate(path, file);
+    return failed.Ok() ? file->Finish() : failed;
+}
+
+} // namespace
+
+std::string RandomJournalName()
+{
+    std::random_device chance;
+    std::array<char, 17> name{};
+    std::snprintf(name.data(), name.size(), "%08x%08x", static_cast<unsigned>(chance()),
+                  static_cast<unsigned>(chance()));
+    return name.data();
+}
+
+// A program that is just looking for journals may hold the new lock file for a moment, or take it away for
+// one that was left behind: then another name is tried.
+FileError JournalClaim::MakeNew(FileSystem& files, PathRules paths, const std::string& folder,
+                                const JournalNames& names, std::unique_ptr<JournalClaim>& claim)
+{
+    FileError failed;
+    for (int tries = 0; tries < MaxTries; ++tries) {
+        std::unique_ptr<JournalClaim> made(new JournalClaim(files, JoinPath(paths, folder, names())));
+        if (files.Exists(made->Path())) {
+            failed = MakeFileError(error::FileAlreadyExists);
+            continue;
+        }
+        failed = MakeEmptyFile(files, made->m_base + std::string(JournalLockType));
+        if (failed.Ok()) {
+            failed = made->Lock();
+        }
+        if (failed.Ok()) {
+            claim = std::move(made);
+            return {};
+        }
+        const bool taken = failed.number == error::FileAlreadyExists ||
+                           failed.number == error::PermissionDenied || IsMissing(failed);
+        if (!taken) {
+            break;
+        }
+    }
+    return failed;
+}
+
+FileError JournalClaim::Take(FileSystem& files, PathRules paths, const std::string& folder,
+                             const std::string& name, std::unique_ptr<JournalClaim>& claim)
+{
+    std::unique_ptr<JournalClaim> taken(new JournalClaim(files, JoinPath(paths, folder, name)));
+    FileError failed = taken->Lock();
+    if (IsMissing(failed)) {
+        // Nobody holds what has no lock file: it was copied here, or its lock was removed by hand. Another
+        // program may make one at the same moment; in a folder that cannot be written nobody can.
+        failed = MakeEmptyFile(files, taken->m_base + std::string(JournalLockType));
+        const bool lockable = failed.Ok() || failed.number == error::FileAlreadyExists;
+        failed = lockable ? taken->Lock() : FileError{};
+    }
+    if (failed.Ok()) {
+        claim = std::move(taken);
+    }
+    return failed;
+}
+
+// The lock file may be removed between its opening and its locking: a lock on a file without a name would
+// keep nobody away.
+FileError JournalClaim::Lock()
+{
+    const std::string path = m_base + std::string(JournalLockType);
+    FileError failed = m_files.OpenForReading(path, Sharing::Locked, m_lock);
+    if (failed.Ok() && !m_files.Exists(path)) {
+        m_lock.reset();
+        failed = MakeFileError(error::FileNotFound);
+    }
+    return failed;
+}
+
+FileError JournalClaim::Remove()
+{
+    m_files.Remove(NewJournalName(Path()));
+    FileError failed = m_files.Remove(Path());
+    if (!failed.Ok() && !IsMissing(failed)) {
+        return failed;
+    }
+    m_lock.reset(); // a file that is open cannot be removed everywhere
+    m_files.Remove(m_base + std::string(JournalLockType));
+    return {};
+}
+
+FileError JournalClaim::KeepDamaged()
+{
+    return CopyJournal(m_files, Path(), DamagedPath());
+}
+
+} // namespace ls

@@ -1,0 +1,81 @@
+#include "recovery/JournalOf.h"
+
+#include "base/FileSystem.h"
+#include "book/Book.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+JournalBook BookOf(const Book& book, const Seams& seams)
+{
+    if (!book.File || book.OpenPath.empty()) {
+        return {};
+    }
+    JournalBook of;
+    const bool full = IsAbsolute(seams.paths, book.OpenPath);
+    of.path = full ? book.OpenPath : JoinPath(seams.paths, seams.files.CurrentFolder(), book.OpenPath);
+    of.locked = book.LockBook;
+    if (!book.File->Size(of.size).Ok()) {
+        of.size = 0; // no book fits that: the edits are then offered as a new one
+    }
+    return of;
+}
+
+// The table, each topic with its place in the file: topics may have been moved since it was scanned.
+std::vector<JournalTopic> TopicsOf(const Book& book)
+{
+    std::vector<FilePos> inFile;
+    for (int number = 1; number <= book.TopicCount; ++number) {
+        if (const FilePos pos = book.TopicPos(static_cast<std::size_t>(number)); pos != 0) {
+            inFile.push_back(pos);
+        }
+    }
+    std::sort(inFile.begin(), inFile.end());
+    std::vector<JournalTopic> topics;
+    topics.reserve(static_cast<std::size_t>(book.TopicCount));
+    for (int number = 1; number <= book.TopicCount; ++number) {
+        const auto index = static_cast<std::size_t>(number);
+        const FilePos pos = book.TopicPos(index);
+        const auto place = std::lower_bound(inFile.begin(), inFile.end(), pos) - inFile.begin();
+        topics.push_back({book.TopicNames(index), pos == 0 ? 0 : static_cast<int>(place) + 1,
+                          book.TopicRecs(index).Deleted});
+    }
+    return topics;
+}
+
+std::vector<JournalRec> RecsOf(const Book& book)
+{
+    std::vector<JournalRec> recs;
+    for (int number = 1; number <= book.TopicCount; ++number) {
+        const auto index = static_cast<std::size_t>(number);
+        const TopicRec& rec = book.TopicRecs(index);
+        if (!rec.Text.empty() || !rec.Logic.empty()) {
+            recs.push_back({number, book.TopicNames(index), rec.Deleted, rec.Text, rec.Logic});
+        }
+    }
+    return recs;
+}
+
+} // namespace
+
+bool HasEdits(const Book& book, const RunningEdits& running)
+{
+    return !book.IsPlainText() && (book.BookChanged || !running.None());
+}
+
+Journal JournalOf(const Book& book, const RunningEdits& running, const Seams& seams)
+{
+    Journal journal;
+    journal.book = BookOf(book, seams);
+    journal.header = JournalHeader{book.BookAuthor, book.BookCopyright, book.BookUrl, book.BookPost};
+    journal.topics = TopicsOf(book);
+    journal.recs = RecsOf(book);
+    journal.running = running;
+    return journal;
+}
+
+} // namespace ls
