@@ -7,13 +7,21 @@
 
 namespace ls {
 
-void StartUp(Global& global, const Seams& seams, const CommandLine& commandLine, BookCommands& commands)
+void StartUp(Global& global, const Seams& seams, const CommandLine& commandLine, BookCommands& commands,
+             const std::function<bool()>& recover)
 {
     global.book.WorkDir = seams.processes.Environment("LSADVISOR_WORKDIR");
     ReportInvalidParameters(commandLine, seams);
     global.settings.IniDir = commandLine.iniDir;
     global.book.StartTopic = commandLine.startTopic;
     LoadSettings(global.settings, seams);
+    if (seams.end.Ended()) {
+        return;
+    }
+    if (recover()) {
+        commands.ShowRecovered();
+        return;
+    }
     if (seams.end.Ended() || commandLine.bookPath.empty()) {
         return;
     }

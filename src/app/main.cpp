@@ -1,13 +1,18 @@
 // lsadvisor: the desktop program.
 
+#include "app/AskRecoveryBox.h"
 #include "app/FormFont.h"
 #include "app/FormMessages.h"
 #include "app/Global.h"
+#include "app/JournalKeeper.h"
+#include "app/Notice.h"
 #include "app/ProgramIcon.h"
 #include "platform/DdeSeam.h"
 #include "platform/ReadCommandLine.h"
 #include "platform/SystemSeams.h"
 #include "reader/MainForm.h"
+#include "recovery/OfferJournals.h"
+#include "recovery/OwnJournal.h"
 #include "render/SystemPrinter.h"
 
 #include <QApplication>
@@ -59,10 +64,21 @@ int main(int argc, char** argv)
     const ls::Seams seams{*files, messages, *processes, global.end, ls::NativePaths()};
     ls::MainForm form(global, seams, {*volumes, *ddeServer, *registry, printer});
     messages.SetParent(&form);
-    form.Form_Load(ls::ReadCommandLine(argc, argv, seams));
+    const std::string stateFolder = ls::StateFolder(*processes);
+    ls::OwnJournal journal(seams, stateFolder);
+    ls::JournalKeeper keeper(
+        global.book, seams, journal, [&form] { return form.Busy(); },
+        [&form](const std::string& text) { ls::ShowNotice(&form, text); });
+    QObject::connect(&form, &ls::MainForm::CommandDone, &keeper, &ls::JournalKeeper::Keep);
+    form.Form_Load(ls::ReadCommandLine(argc, argv, seams), [&] {
+        const auto ask = [&form](const std::string& question) { return ls::AskRecoveryBox(&form, question); };
+        return ls::OfferJournals(stateFolder, global.book, seams, journal, ask);
+    });
     if (!global.end.Ended()) {
+        keeper.Start();
         form.show();
         QApplication::exec();
     }
+    keeper.Finish();
     return ExitStatus(global.end);
 }

@@ -3,12 +3,10 @@
 #include "app/FormFont.h"
 #include "authoring/TopicChoices.h"
 #include "authoring/TopicFlags.h"
-#include "authoring/TopicTable.h"
 #include "base/CodePage.h"
 #include "book/Book.h"
+#include "recovery/Journal.h"
 #include "ui_DelTopicForm.h"
-
-#include <vector>
 
 namespace ls {
 
@@ -20,6 +18,7 @@ DelTopicForm::DelTopicForm(QWidget* parent, Book& book, TopicFlags& flags, bool 
     connect(m_ui->OKButton, &QPushButton::clicked, this, &DelTopicForm::OKButton_Click);
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &DelTopicForm::reject);
     Form_Load(alphabetic);
+    connect(m_ui->TopicListBox, &QListWidget::itemChanged, this, [this] { Edited(); });
 }
 
 DelTopicForm::~DelTopicForm() = default;
@@ -40,14 +39,29 @@ void DelTopicForm::Form_Load(bool alphabetic)
     m_ui->TopicListBox->setCurrentItem(current);
 }
 
-void DelTopicForm::OKButton_Click()
+std::vector<RemovalChoice> DelTopicForm::Choices() const
 {
     std::vector<RemovalChoice> choices;
     for (int row = 0; row < m_ui->TopicListBox->count(); ++row) {
         const QListWidgetItem* item = m_ui->TopicListBox->item(row);
         choices.push_back({item->data(Qt::UserRole).toInt(), item->checkState() == Qt::Checked});
     }
-    SetRemoved(m_book, choices);
+    return choices;
+}
+
+void DelTopicForm::AddRunningEdits(RunningEdits& edits)
+{
+    for (const RemovalChoice& choice : Choices()) {
+        const auto index = static_cast<std::size_t>(choice.number);
+        if (choice.removed != m_book.TopicRecs(index).Deleted) {
+            edits.removals.push_back({choice.number, m_book.TopicNames(index), choice.removed});
+        }
+    }
+}
+
+void DelTopicForm::OKButton_Click()
+{
+    SetRemoved(m_book, Choices());
     m_flags.TopicListStale = true;
     accept();
 }

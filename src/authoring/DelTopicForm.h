@@ -1,8 +1,12 @@
 #pragma once
 
+#include "authoring/TopicTable.h"
+#include "recovery/EditSource.h"
+
 #include <QDialog>
 
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class DelTopicForm;
@@ -14,7 +18,7 @@ struct Book;
 struct TopicFlags;
 
 /// Removes and restores topics: every topic of the book with a box, checked when it is removed.
-class DelTopicForm : public QDialog
+class DelTopicForm : public QDialog, public EditSource
 {
     Q_OBJECT
 
@@ -24,9 +28,12 @@ public:
     DelTopicForm(QWidget* parent, Book& book, TopicFlags& flags, bool alphabetic);
     ~DelTopicForm() override;
 
+    void AddRunningEdits(RunningEdits& edits) override;
+
 private:
     void Form_Load(bool alphabetic);
     void OKButton_Click();
+    [[nodiscard]] std::vector<RemovalChoice> Choices() const;
 
     std::unique_ptr<Ui::DelTopicForm> m_ui;
     Book& m_book;

@@ -1,9 +1,11 @@
 #include "authoring/InfoForm.h"
 
 #include "app/FormFont.h"
-#include "authoring/Properties.h"
 #include "base/ProgramEnd.h"
+#include "recovery/Journal.h"
 #include "ui_InfoForm.h"
+
+#include <utility>
 
 namespace ls {
 
@@ -15,6 +17,10 @@ InfoForm::InfoForm(QWidget* parent, Book& book, const Seams& seams)
     connect(m_ui->OKBox, &QPushButton::clicked, this, &InfoForm::OKBox_Click);
     connect(m_ui->CancelBox, &QPushButton::clicked, this, &InfoForm::reject);
     Form_Load();
+    for (const QLineEdit* box : {m_ui->AuthorBox, m_ui->CopyrightBox, m_ui->WebURLBox}) {
+        connect(box, &QLineEdit::textChanged, this, [this] { Edited(); });
+    }
+    connect(m_ui->WebPostCheck, &QCheckBox::toggled, this, [this] { Edited(); });
 }
 
 InfoForm::~InfoForm() = default;
@@ -28,11 +34,22 @@ void InfoForm::Form_Load()
     m_ui->WebPostCheck->setChecked(shown.webPost);
 }
 
+Properties InfoForm::Entered() const
+{
+    return {m_ui->AuthorBox->text().toStdString(), m_ui->CopyrightBox->text().toStdString(),
+            m_ui->WebURLBox->text().toStdString(), m_ui->WebPostCheck->isChecked()};
+}
+
+void InfoForm::AddRunningEdits(RunningEdits& edits)
+{
+    if (Properties entered = Entered(); entered != LoadProperties(m_book)) {
+        edits.properties = std::move(entered);
+    }
+}
+
 void InfoForm::OKBox_Click()
 {
-    const Properties entered{m_ui->AuthorBox->text().toStdString(), m_ui->CopyrightBox->text().toStdString(),
-                             m_ui->WebURLBox->text().toStdString(), m_ui->WebPostCheck->isChecked()};
-    if (SaveProperties(m_book, m_seams, entered)) {
+    if (SaveProperties(m_book, m_seams, Entered())) {
         accept();
     } else if (m_seams.end.Ended()) {
         reject();

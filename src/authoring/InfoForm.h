@@ -1,6 +1,8 @@
 #pragma once
 
+#include "authoring/Properties.h"
 #include "base/Seams.h"
+#include "recovery/EditSource.h"
 
 #include <QDialog>
 
@@ -15,7 +17,7 @@ namespace ls {
 struct Book;
 
 /// The properties form: the fields of the book's header line, which reach the file when the book is saved.
-class InfoForm : public QDialog
+class InfoForm : public QDialog, public EditSource
 {
     Q_OBJECT
 
@@ -23,9 +25,12 @@ public:
     InfoForm(QWidget* parent, Book& book, const Seams& seams);
     ~InfoForm() override;
 
+    void AddRunningEdits(RunningEdits& edits) override;
+
 private:
     void Form_Load();
     void OKBox_Click();
+    [[nodiscard]] Properties Entered() const;
 
     std::unique_ptr<Ui::InfoForm> m_ui;
     Book& m_book;

@@ -10,6 +10,7 @@
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "check/CheckBook.h"
+#include "recovery/Journal.h"
 #include "ui_LgEdForm.h"
 
 #include <QKeyEvent>
@@ -93,6 +94,9 @@ void LgEdForm::SetUpBoxes()
                                        m_ui->FindNextItem};
     const auto boxes = {m_ui->LogicTextbox, m_ui->VQuestionBox, m_ui->VCAnswerBox};
     m_boxCommands = std::make_unique<TextBoxCommands>(items, boxes, m_seams);
+    for (const QPlainTextEdit* box : boxes) {
+        connect(box, &QPlainTextEdit::textChanged, this, [this] { Edited(); });
+    }
 }
 
 void LgEdForm::ConnectButtons()
@@ -141,6 +145,7 @@ void LgEdForm::RunCommand(const std::function<void()>& command)
         const QScopedValueRollback<bool> running(m_running, true);
         RunGuarded(command, m_seams);
     }
+    Edited();
     if (m_seams.end.Ended()) {
         QDialog::reject();
     }
@@ -170,6 +175,15 @@ void LgEdForm::InsertButton_Click()
 void LgEdForm::InsAdvButton_Click()
 {
     Do(&LogicEditor::InsAdvButton_Click);
+}
+
+void LgEdForm::AddRunningEdits(RunningEdits& edits)
+{
+    if (m_editor.Changed()) {
+        const int number = m_book.CurrentTopicNo;
+        edits.logic = ls::RunningText{number, m_book.TopicNames(static_cast<std::size_t>(number)),
+                                      m_editor.RunningText()};
+    }
 }
 
 void LgEdForm::SaveButton_Click()

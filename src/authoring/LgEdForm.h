@@ -3,6 +3,7 @@
 #include "authoring/LogicEditor.h"
 #include "authoring/LogicView.h"
 #include "base/Seams.h"
+#include "recovery/EditSource.h"
 
 #include <QDialog>
 
@@ -24,7 +25,7 @@ struct Book;
 
 /// The editor of the logic block of the topic on show, which the book holds in memory already: its logic
 /// lines as free text, and in lists its variables and their choices. Done stores the block there.
-class LgEdForm : public QDialog, private LogicView
+class LgEdForm : public QDialog, public EditSource, private LogicView
 {
     Q_OBJECT
 
@@ -35,6 +36,8 @@ public:
     /// Takes the block apart and shows it. False after the message for a block that the editor cannot hold:
     /// the window is not to be shown then.
     [[nodiscard]] bool Form_Load();
+
+    void AddRunningEdits(RunningEdits& edits) override;
 
 public Q_SLOTS:
     /// Escape and the close button: what was changed is not dropped without asking.

@@ -67,6 +67,10 @@ public:
     /// cannot hold. No message is shown.
     [[nodiscard]] std::optional<LogicBlock> Block();
 
+    /// The block's text as it would be written now, in UTF-8 and with whatever books cannot hold. No message
+    /// is shown.
+    [[nodiscard]] std::string RunningText();
+
 private:
     struct Choice
     {

@@ -73,6 +73,23 @@ std::optional<LogicBlock> LogicEditor::Block()
     return ToBookText(nullptr);
 }
 
+std::string LogicEditor::RunningText()
+{
+    StoreTexts();
+    LogicBlock block;
+    block.logicText = m_logicText.empty() ? "\r\n" : m_logicText; // an empty one is refused with a box
+    for (const Variable& variable : m_variables) {
+        block.variables.push_back({variable.name, variable.question});
+        for (const Choice& choice : variable.choices) {
+            block.choices.push_back({variable.name, choice.name, choice.advice});
+        }
+    }
+    for (const BareEntry& entry : m_bareEntries) {
+        block.bareEntries.push_back({FromBook(entry.identifier), FromBook(entry.text)});
+    }
+    return BuildLogicBlock(block, m_seams).value_or(std::string());
+}
+
 bool LogicEditor::MayLose()
 {
     return m_lost.empty() ||

@@ -5,6 +5,8 @@
 #include "authoring/TextBoxCommands.h"
 #include "authoring/TopicText.h"
 #include "base/ProgramEnd.h"
+#include "book/Book.h"
+#include "recovery/Journal.h"
 #include "ui_TxEdForm.h"
 
 #include <QKeyEvent>
@@ -67,6 +69,16 @@ void TxEdForm::Form_Load()
     m_ui->SymCombo->setCurrentIndex(-1);
     m_ui->MainTxBox->setPlainText(Shown(TextToEdit(m_book)));
     m_ui->MainTxBox->setFocus();
+    connect(m_ui->MainTxBox, &QPlainTextEdit::textChanged, this, [this] { Edited(); });
+}
+
+void TxEdForm::AddRunningEdits(RunningEdits& edits)
+{
+    if (m_ui->MainTxBox->document()->isModified()) {
+        const int number = m_book.CurrentTopicNo;
+        edits.text = RunningText{number, m_book.TopicNames(static_cast<std::size_t>(number)),
+                                 TextOf(*m_ui->MainTxBox)};
+    }
 }
 
 void TxEdForm::SaveButton_Click()

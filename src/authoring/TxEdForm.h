@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Seams.h"
+#include "recovery/EditSource.h"
 
 #include <QDialog>
 
@@ -17,13 +18,15 @@ class TextBoxCommands;
 struct Book;
 
 /// The text editor for the topic on show, which the book holds in memory already. Done stores the text there.
-class TxEdForm : public QDialog
+class TxEdForm : public QDialog, public EditSource
 {
     Q_OBJECT
 
 public:
     TxEdForm(QWidget* parent, Book& book, const Seams& seams);
     ~TxEdForm() override;
+
+    void AddRunningEdits(RunningEdits& edits) override;
 
 public Q_SLOTS:
     /// Escape and the close button: a text that was changed is not dropped without asking.

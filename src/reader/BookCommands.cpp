@@ -120,6 +120,24 @@ void BookCommands::OpenSaved()
     ShowBook();
 }
 
+void BookCommands::ShowRecovered()
+{
+    m_view.ShowExplainButton(!m_book.BookUrl.empty());
+    m_view.ShowTopicControls(true);
+    m_book.BookFileNo = 2;
+    m_navigation.FillTopicList();
+    for (int number = 1; number <= m_book.TopicCount; ++number) {
+        const auto index = static_cast<std::size_t>(number);
+        if (!m_book.TopicRecs(index).Deleted) {
+            m_book.CurrentTopicName = m_book.TopicNames(index);
+            m_book.CurrentTopicNo = number;
+            m_navigation.FillTopicList(); // selects it
+            m_navigation.GoToCurrentTopic();
+            return;
+        }
+    }
+}
+
 void BookCommands::ShowBook()
 {
     if (m_book.IsPlainText()) {

@@ -35,6 +35,9 @@ public:
     /// locked for editing, nothing changed, the first topic on show. It is in the recent files already.
     void OpenSaved();
 
+    /// Shows the book in memory, with edits that an earlier run left: its first topic that is not removed.
+    void ShowRecovered();
+
     /// Forgets the open book, after asking.
     void NewItem_Click();
 

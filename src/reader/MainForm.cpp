@@ -116,6 +116,7 @@ void MainForm::Run(const std::function<void()>& command)
         const QScopedValueRollback<bool> running(m_running, true);
         RunGuarded(command, m_seams);
     }
+    Q_EMIT CommandDone();
     if (m_seams.end.Ended()) {
         close();
     }
@@ -124,9 +125,9 @@ void MainForm::Run(const std::function<void()>& command)
     }
 }
 
-void MainForm::Form_Load(const CommandLine& commandLine)
+void MainForm::Form_Load(const CommandLine& commandLine, const std::function<bool()>& recover)
 {
-    Run([&] { StartUp(m_global, m_seams, commandLine, m_commands); });
+    Run([&] { StartUp(m_global, m_seams, commandLine, m_commands, recover); });
 }
 
 void MainForm::showEvent(QShowEvent* event)
@@ -140,7 +141,8 @@ void MainForm::showEvent(QShowEvent* event)
 
 void MainForm::Form_Activate()
 {
-    if (m_global.book.BookPath.empty()) {
+    const Book& book = m_global.book;
+    if (!book.IsOpen() && !book.BookChanged) { // recovered edits may be those of a new book
         OpenItem_Click();
     }
 }

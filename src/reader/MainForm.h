@@ -36,7 +36,17 @@ public:
     ~MainForm() override;
 
     /// Start-up, before the window is first shown. Afterwards the program may have ended.
-    void Form_Load(const CommandLine& commandLine);
+    ///
+    /// `recover` is what `StartUp` offers first.
+    void Form_Load(
+        const CommandLine& commandLine, const std::function<bool()>& recover = [] { return false; });
+
+    /// Whether a command is running, with the boxes and forms that it shows.
+    [[nodiscard]] bool Busy() const { return m_running; }
+
+Q_SIGNALS:
+    /// A command has come to its end.
+    void CommandDone();
 
 protected:
     void showEvent(QShowEvent* event) override;

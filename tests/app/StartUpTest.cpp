@@ -141,5 +141,45 @@ TEST_F(StartUpTest, start_settingsFaultEndsTheProgram_opensNothing)
     EXPECT_FALSE(book.File);
 }
 
+TEST_F(StartUpTest, recoveredEdits_areShownInPlaceOfTheCommandLinesBook)
+{
+    MakeBook("/work/Other.IDA");
+    CommandLine commandLine;
+    commandLine.bookPath = "/work/Other.IDA";
+    StartUp(global, world.Get(), commandLine, commands, [this] {
+        book.TopicCount = 2;
+        book.TopicNames(1) = "[Gone]";
+        book.TopicRecs(1) = TopicRec{"g\r\n", {}, true};
+        book.TopicNames(2) = "[New]";
+        book.TopicRecs(2).Text = "n\r\n";
+        book.BookChanged = true;
+        return true;
+    });
+    EXPECT_EQ(OnShow(), "[New]|n");
+    EXPECT_EQ(book.BookPath, "");
+    EXPECT_TRUE(book.BookChanged);
+    EXPECT_EQ(Boxes(), Strings{});
+}
+
+TEST_F(StartUpTest, recoveredWithoutTopics_showsNoTopic)
+{
+    StartUp(global, world.Get(), CommandLine{}, commands, [this] {
+        book.BookAuthor = "Ben";
+        book.BookChanged = true;
+        return true;
+    });
+    EXPECT_EQ(view.showings, 0);
+    EXPECT_EQ(Boxes(), Strings{});
+}
+
+TEST_F(StartUpTest, nothingRecovered_opensTheCommandLinesBook)
+{
+    MakeBook("/work/Other.IDA");
+    CommandLine commandLine;
+    commandLine.bookPath = "/work/Other.IDA";
+    StartUp(global, world.Get(), commandLine, commands, [] { return false; });
+    EXPECT_EQ(OnShow(), "[A]|a");
+}
+
 } // namespace
 } // namespace ls

@@ -53,6 +53,27 @@ TEST_F(LogicEditorDone, done_storesTheBlockAndMarksTheBookChanged)
     EXPECT_TRUE(book.BookChanged);
 }
 
+TEST_F(LogicEditorDone, runningText_isWhatDoneWouldStore)
+{
+    LoadThree();
+    view[LogicBox::Logic] = "AGE(OLD) = RISK(HIGH)\nTARGET RISK";
+    const std::string running = editor.RunningText();
+    EXPECT_FALSE(book.BookChanged);
+    EXPECT_TRUE(editor.SaveButton_Click());
+    Boxes();
+    EXPECT_EQ(running, FromBook(Logic()));
+}
+
+TEST_F(LogicEditorDone, runningText_whatDoneRefuses_isThereWithoutABox)
+{
+    LoadThree();
+    view[LogicBox::Logic] = "* \xE2\x86\x92";
+    EXPECT_NE(editor.RunningText().find("* \xE2\x86\x92\r\n"), std::string::npos);
+    view[LogicBox::Logic] = "";
+    EXPECT_NE(editor.RunningText().find("<Q ID=AGE>How old?</Q>"), std::string::npos);
+    EXPECT_EQ(Boxes(), Strings());
+}
+
 TEST_F(LogicEditorDone, doneUnchanged_writesTheSameBlock)
 {
     LoadThree();

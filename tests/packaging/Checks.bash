@@ -2,7 +2,7 @@
 
 # Output of the tools is looked at, and no setting of the caller's is.
 export LC_ALL=C.UTF-8
-unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_CURRENT_DESKTOP LSADVISOR_WORKDIR DISPLAY WAYLAND_DISPLAY
+unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_STATE_HOME XDG_CURRENT_DESKTOP LSADVISOR_WORKDIR DISPLAY WAYLAND_DISPLAY
 
 scratch=$(mktemp -d "${TMPDIR:-/tmp}/lodestar-packaging.XXXXXX")
 trap 'rm -rf -- "$scratch"' EXIT

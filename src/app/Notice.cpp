@@ -1,0 +1,26 @@
+#include "app/Notice.h"
+
+#include "base/Messages.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace ls {
+
+void ShowNotice(QWidget* window, const std::string& text)
+{
+    QWidget* const form = QApplication::activeModalWidget(); // a box over another window would take no click
+    auto* const box = new QMessageBox(form != nullptr ? form : window);
+    box->setObjectName(QStringLiteral("NoticeBox"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setAttribute(Qt::WA_ShowWithoutActivating);
+    box->setTextFormat(Qt::PlainText);
+    box->setWindowTitle(QString::fromUtf8(AppTitle.data(), static_cast<qsizetype>(AppTitle.size())));
+    box->setText(QString::fromStdString(text));
+    box->setIcon(QMessageBox::Warning);
+    box->setStandardButtons(QMessageBox::Ok);
+    box->setWindowModality(Qt::NonModal);
+    box->show();
+}
+
+} // namespace ls
