@@ -1,8 +1,10 @@
 // The windows that the help pages picture, with the content of the sample books. With LS_PICTURES set, as
 // scripts/update-pictures does, the pictures are taken here.
 
+#include "app/AskRecoveryBox.h"
 #include "files/OpenForm.h"
 #include "gui/MainFormFixture.h"
+#include "recovery/FindJournals.h"
 
 namespace ls {
 namespace {
@@ -101,6 +103,18 @@ TEST_F(HelpPictures, open_and_save)
     global.book.LockBook = true;
     global.book.BookPath = "Guide.IDA";
     EXPECT_EQ(Picture("SaveItem", "save"), Strings{"form|FileForm|Lodestar Advisor Save"});
+}
+
+TEST_F(HelpPictures, recover)
+{
+    JournalReading reading{JournalState::Whole, {}};
+    reading.journal.book = JournalBook{"/home/ann/books/Guide.IDA", 1, true};
+    ModalScript script;
+    script.Do([](QWidget& box) {
+        TakePicture(box, "recover");
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    EXPECT_EQ(AskRecoveryBox(&form, RecoveryQuestion(reading, JournalFit::Fits)), RecoveryChoice::Later);
 }
 
 TEST_F(HelpPictures, selector)

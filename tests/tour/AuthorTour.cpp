@@ -3,6 +3,8 @@
 
 #include "Tour.h"
 
+#include "app/AskRecoveryBox.h"
+#include "recovery/FindJournals.h"
 #include "render/ReadingPane.h"
 
 #include <QComboBox>
@@ -174,6 +176,26 @@ bool Tour::WalkCheck()
 {
     return TakeSteps({{"check", &Tour::LookAtForm}}) &&
            Report(QStringLiteral("Close"), PressInForm("CloseButton"));
+}
+
+// What the next start asks when the program is killed now.
+bool Tour::TakeRecovery()
+{
+    return WalkForm(
+        "RecoveryBox",
+        [this] {
+            JournalReading reading{JournalState::Whole, {}};
+            reading.journal.book = JournalBook{"/home/ann/books/Guide.IDA", 1, true};
+            const RecoveryChoice choice =
+                AskRecoveryBox(&m_window, RecoveryQuestion(reading, JournalFit::Fits));
+            return choice == RecoveryChoice::Later ? Fault() : QStringLiteral("closing it is not Later");
+        },
+        &Tour::WalkRecovery);
+}
+
+bool Tour::WalkRecovery()
+{
+    return TakeSteps({{"recovery", &Tour::LookAtForm}});
 }
 
 Tour::Fault Tour::PickReference()

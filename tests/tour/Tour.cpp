@@ -76,7 +76,7 @@ bool Tour::Take()
         {"contents", &Tour::SortByContents},
         {"wide", &Tour::WidenWindow},
     });
-    return read && TakeAuthor() && TakePrint() && TakeCheck() && TakeFind();
+    return read && TakeAuthor() && TakePrint() && TakeCheck() && TakeFind() && TakeRecovery();
 }
 
 bool Tour::TakeSteps(std::initializer_list<Step> steps)

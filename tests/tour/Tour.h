@@ -88,6 +88,8 @@ private:
     [[nodiscard]] bool TakeCheck();
     [[nodiscard]] bool WalkCheck();
     [[nodiscard]] bool TakeFind();
+    [[nodiscard]] bool TakeRecovery();
+    [[nodiscard]] bool WalkRecovery();
     [[nodiscard]] bool WalkEditItem(const char* item, const char* form, bool (Tour::*walk)());
     [[nodiscard]] bool WalkTextEditor();
     [[nodiscard]] bool WalkRemoval();
