@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view LineEnd = "\r\n";
 constexpr std::string_view LogicOpening = "<IXML>";
 constexpr std::string_view LogicTag = "<LOGIC>";
+constexpr std::string_view IndexLine = "<INDEX>";
 
 // Reads the lines of one topic up to the place where it ends in the file.
 class TopicReader
@@ -31,7 +32,7 @@ public:
         if (!m_failed.Ok()) {
             return false;
         }
-        line.resize(TrimRight(line).size());
+        TrimEnd(line);
         return true;
     }
 
@@ -39,6 +40,15 @@ public:
     [[nodiscard]] const FileError& Failed() const { return m_failed; }
 
 private:
+    // With a blank behind it "<INDEX>" is a line like any other. Without it, a saved book would list no
+    // topics.
+    static void TrimEnd(std::string& line)
+    {
+        const std::size_t size = TrimRight(line).size();
+        const bool keepBlank = size < line.size() && std::string_view(line).substr(0, size) == IndexLine;
+        line.resize(keepBlank ? size + 1 : size);
+    }
+
     LineCursor& m_cursor;
     FilePos m_end;
     FileError m_failed;

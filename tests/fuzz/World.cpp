@@ -3,6 +3,8 @@
 #include "base/CodePage.h"
 #include "book/BookLoader.h"
 
+#include <algorithm>
+
 namespace ls::fuzz {
 
 Reply ChoosingMessages::ShowBox(const std::string& text, Icon /*icon*/, Buttons buttons,
@@ -39,6 +41,17 @@ bool World::OpenBookOf(Book& book, const std::string& bytes, const std::string& 
     files[path] = bytes;
     book.BookPath = path;
     return OpenBook(book, Get()) && !book.IsPlainText() && ScanBook(book, Get());
+}
+
+std::vector<SourceLine> LinesOf(const std::string& bytes)
+{
+    std::vector<SourceLine> lines;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t end = std::min(bytes.find('\r', at), bytes.size());
+        lines.push_back({at + 1, bytes.substr(at, end - at)});
+        at = end + (end + 1 < bytes.size() && bytes[end + 1] == '\n' ? 2 : 1);
+    }
+    return lines;
 }
 
 void RequireUtf8(std::string_view text)

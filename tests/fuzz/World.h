@@ -47,6 +47,16 @@ struct World
     bool OpenBookOf(Book& book, const std::string& bytes, const std::string& path = "/work/Book.IDA");
 };
 
+/// A line of a file, without its line end.
+struct SourceLine
+{
+    std::size_t pos = 0; ///< where it begins, from 1
+    std::string text;
+};
+
+/// The lines of a book's bytes: CR and CR LF end one.
+[[nodiscard]] std::vector<SourceLine> LinesOf(const std::string& bytes);
+
 /// Requires that a text is UTF-8 from end to end.
 void RequireUtf8(std::string_view text);
 

@@ -28,6 +28,23 @@ std::string Written(const AnswerLists& lists)
     return stream.str();
 }
 
+// The short form, parted again: "-" alone is a list without answers.
+void TakeShortForm(const std::string& text, const AnswerLists& lists)
+{
+    std::string joined;
+    for (const std::vector<std::string>& answers : lists) {
+        joined += joined.empty() && &answers == &lists.front() ? "" : ";";
+        joined += answers.empty() ? "-" : "";
+        for (const std::string& answer : answers) {
+            joined += (&answer == &answers.front() ? "" : ",") + answer;
+            const std::vector<std::string> choices = {"A", answer, "B"};
+            const std::string meant = MeantAnswer(answer, choices);
+            Require(meant == answer || answer == "?" || answer.starts_with('#'), "an answer means itself");
+        }
+    }
+    RequireEqual(joined, text, "the short form's parts make the whole");
+}
+
 } // namespace
 
 void TestInput(Input& input)
@@ -41,8 +58,12 @@ void TestInput(Input& input)
                 static_cast<void>(MeantAnswer(answer, answers));
             }
         }
-        static_cast<void>(Written(*read));
+        const std::string written = Written(*read); // what is no UTF-8 becomes so
+        const std::optional<AnswerLists> again = ReadAnswersJson(written);
+        Require(again.has_value(), "answers that were read come back from JSON");
+        RequireEqual(Written(*again), written, "answers that were read come back from JSON as they were");
     }
+    TakeShortForm(FromBook(input.Text()), lists);
 }
 
 } // namespace ls::fuzz

@@ -2,8 +2,12 @@
 
 #include "reader/CommandLine.h"
 #include "World.h"
+#include "base/CodePage.h"
 #include "base/SplitCommandLine.h"
+#include "base/Text.h"
 #include "platform/windows/CommandLineParts.h"
+
+#include <algorithm>
 
 namespace ls::fuzz {
 
@@ -24,7 +28,50 @@ void TakeOneString(const std::string& line)
     }
 }
 
-// The classic form, put together from parts that need no quotes, reads back.
+// A text without what means something in a command line, and without blanks at its ends.
+std::string PlainPart(const std::string& text)
+{
+    std::string plain;
+    for (const char c : text) {
+        plain += c == '"' || c == '/' ? '_' : c;
+    }
+    return std::string(Trim(plain));
+}
+
+void RequireRead(const CommandLine& read, const std::string& path, const std::string& folder,
+                 const std::string& topic)
+{
+    Require(read.valid, "a command line that was put together is valid");
+    RequireEqual(read.bookPath, path, "the path reads back");
+    RequireEqual(read.iniDir, folder, "the folder reads back");
+    RequireEqual(read.startTopic, ToBook(topic).value_or(topic), "the topic reads back");
+}
+
+// A command line that is put together from its parts reads back, in the form of either system.
+void TakeParts(Input& input, World& world)
+{
+    const std::vector<std::string> lines = input.Lines();
+    const std::string path = PlainPart(lines[0]);
+    std::string folder = lines[lines.size() / 2];
+    std::replace(folder.begin(), folder.end(), '"', '_');
+    const std::string topic = PlainPart(lines.back());
+    if (path.empty()) {
+        return;
+    }
+    RequireRead(ParseCommandLine(path + " /INIDIR=\"" + folder + "\"  /Topic=" + topic), path, folder, topic);
+    RequireRead(ParseCommandLine("\"" + path + "\" /topic=\"" + topic + "\" /IniDir=\"" + folder + "\""),
+                path, folder, topic);
+    std::vector<std::string> arguments = {path, "/INIDIR=" + folder, "/TOPIC="};
+    for (const char c : topic) {
+        if (c == ' ') {
+            arguments.emplace_back();
+        } else {
+            arguments.back() += c;
+        }
+    }
+    RequireRead(ParseArguments(arguments, world.Get()), path, folder, topic);
+}
+
 void TakeArguments(Input& input, World& world)
 {
     std::vector<std::string> arguments;
@@ -63,6 +110,7 @@ void TakeLaunch(const std::string& line)
 void TestInput(Input& input)
 {
     World world(input);
+    TakeParts(input, world);
     TakeOneString(input.Text());
     TakeLaunch(input.Text());
     TakeArguments(input, world);

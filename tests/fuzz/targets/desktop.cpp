@@ -6,6 +6,9 @@
 #include "platform/linux/DesktopEntry.h"
 #include "platform/linux/KeyFile.h"
 
+#include <optional>
+#include <sstream>
+
 namespace ls::fuzz {
 
 namespace {
@@ -18,6 +21,29 @@ void RequireListOf(const std::string& value)
     }
 }
 
+// The value of the last line "key=value" in a group of that name, looked for line by line.
+std::optional<std::string> PlainValue(const std::string& text, const std::string& group,
+                                      const std::string& key)
+{
+    const std::string space = " \t\r";
+    const auto trim = [&space](const std::string& part) {
+        const std::size_t first = part.find_first_not_of(space);
+        return first == std::string::npos ? "" : part.substr(first, part.find_last_not_of(space) + 1 - first);
+    };
+    std::optional<std::string> value;
+    bool inside = false;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        line = trim(line);
+        if (line.starts_with('[')) {
+            inside = line == "[" + group + "]";
+        } else if (const std::size_t equals = line.find('='); inside && equals != std::string::npos) {
+            value = trim(line.substr(0, equals)) == key ? trim(line.substr(equals + 1)) : value;
+        }
+    }
+    return value;
+}
+
 } // namespace
 
 void TestInput(Input& input)
@@ -27,6 +53,7 @@ void TestInput(Input& input)
     for (const char* group : {"Desktop Entry", "Default Applications", "MIME Cache"}) {
         for (const char* key : {"Exec", "Type", "text/html", "TryExec"}) {
             const std::optional<std::string> value = KeyFileValue(text, group, key);
+            Require(value == PlainValue(text, group, key), "a value is that of a plain reading");
             if (value) {
                 Require(value->find('\n') == std::string::npos, "a value is one line");
                 Require(text.find(*value) != std::string::npos, "a value stands in the text");

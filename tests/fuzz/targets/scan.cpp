@@ -11,23 +11,6 @@ namespace ls::fuzz {
 
 namespace {
 
-struct SourceLine
-{
-    std::size_t pos; ///< from 1
-    std::string text;
-};
-
-std::vector<SourceLine> LinesOf(const std::string& bytes)
-{
-    std::vector<SourceLine> lines;
-    for (std::size_t at = 0; at < bytes.size();) {
-        const std::size_t end = std::min(bytes.find('\r', at), bytes.size());
-        lines.push_back({at + 1, bytes.substr(at, end - at)});
-        at = end + (end + 1 < bytes.size() && bytes[end + 1] == '\n' ? 2 : 1);
-    }
-    return lines;
-}
-
 /// What a scan finds, a line for each topic and each reference.
 struct Found
 {
