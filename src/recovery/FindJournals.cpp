@@ -41,6 +41,12 @@ std::string DueTo(const FileError& failed)
     return " due to error #" + std::to_string(failed.number) + ": " + failed.description + ".";
 }
 
+std::string CannotBeRead(const std::string& path, const FileError& failed)
+{
+    return "The recovery journal " + Quoted(path) + " cannot be read" + DueTo(failed) +
+           " It stays where it is.";
+}
+
 // Why a journal that was read cannot be offered; empty for one that can.
 std::string Refusal(FoundJournal& found)
 {
@@ -71,11 +77,8 @@ void Look(const Seams& seams, FoundJournal&& found, JournalSearch& search)
     if (failed.number == error::OutOfMemory) {
         note = "The recovery journal " + Quoted(found.claim->Path()) +
                " is too large to be read. It stays where it is.";
-    } else if (!failed.Ok()) {
-        note = "The recovery journal " + Quoted(found.claim->Path()) + " cannot be read" + DueTo(failed) +
-               " It stays where it is.";
     } else {
-        note = Refusal(found);
+        note = failed.Ok() ? Refusal(found) : CannotBeRead(found.claim->Path(), failed);
     }
     if (note.empty()) {
         search.journals.push_back(std::move(found));
@@ -97,8 +100,12 @@ JournalSearch FindJournals(const Seams& seams, const std::string& folder)
     }
     for (const std::string& name : names) {
         FoundJournal found;
-        if (JournalClaim::Take(seams.files, seams.paths, folder, name, found.claim).Ok()) {
+        const FileError refused = JournalClaim::Take(seams.files, seams.paths, folder, name, found.claim);
+        if (refused.Ok()) {
             Look(seams, std::move(found), search);
+        } else if (refused.number != error::PermissionDenied) { // else its program is running
+            const std::string path = JoinPath(seams.paths, folder, name + std::string(JournalType));
+            search.notes.push_back(CannotBeRead(path, refused));
         }
     }
     std::stable_sort(search.journals.begin(), search.journals.end(),

@@ -227,6 +227,51 @@ TEST_F(OfferJournalsTest, journalsThatCannotBeRead_areToldTogether)
                 "Advisor, and only that can recover it. It stays where it is."});
 }
 
+// The fault table of the journal's reader: each call to the file system fails, one run for each.
+TEST_F(OfferJournalsTest, eachCallFailing_losesNothingAndIsTold)
+{
+    for (const int number : {error::DeviceIo, error::DiskFull, error::PermissionDenied}) {
+        int failAt = 1;
+        for (bool failed = true; failed; ++failAt) {
+            names = 0;
+            EditAndDie(1);
+            files[JournalPath()].resize(files[JournalPath()].size() - 3); // damaged: it is copied, too
+            const std::string journal = files[JournalPath()];
+            int calls = 0;
+            std::string call;
+            files.fail = [&](const std::string& is) {
+                ++calls;
+                call = calls == failAt ? is : call;
+                return calls == failAt ? number : 0;
+            };
+            asked.clear();
+            const bool recovered = Offer();
+            files.fail = nullptr;
+            failed = calls >= failAt;
+            SCOPED_TRACE(call + " " + std::to_string(number));
+            const Strings told = messages.Take();
+            EXPECT_EQ(files[BookPath], ThreeTopics());
+            if (recovered) {
+                const bool fits = again.TopicCount == 3;
+                EXPECT_EQ(again.TopicRecs(fits ? 2 : 1).Text, "edited\r\n");
+                EXPECT_TRUE(fits || asked.front().find("new book") != std::string::npos);
+            } else { // 70 is also what a program that is running gives
+                EXPECT_TRUE(!told.empty() || (number == error::PermissionDenied && call.ends_with(".lock")));
+                EXPECT_EQ(files[JournalPath()], journal);
+            }
+            const bool aside = files.Has(Folder + std::string("/j1.damaged"));
+            EXPECT_TRUE(files[JournalPath()] == journal ||
+                        (aside && files[Folder + std::string("/j1.damaged")] == journal));
+            EXPECT_EQ(own.Remove(), FileError{});
+            for (const std::string& file : FilesThere()) {
+                EXPECT_EQ(files.Remove(Folder + ("/" + file)), FileError{});
+            }
+            again = Book();
+        }
+        EXPECT_GT(failAt, 10);
+    }
+}
+
 TEST_F(OfferJournalsTest, noFolder_offersNothing)
 {
     EXPECT_FALSE(OfferJournals("", again, Get(), own, [](const std::string&) {
