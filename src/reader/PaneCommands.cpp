@@ -40,6 +40,8 @@ void PaneCommands::ConnectTypeSize()
             [this] { SetTypeSize(LargerType(m_ui.MsgPic->TypeSize())); });
     connect(m_ui.SmallerItem, &QAction::triggered, this,
             [this] { SetTypeSize(SmallerType(m_ui.MsgPic->TypeSize())); });
+    connect(m_ui.MsgPic, &ReadingPane::WheelZoomed, this,
+            [this](bool larger) { (larger ? m_ui.LargerItem : m_ui.SmallerItem)->trigger(); });
     connect(m_ui.NormalSizeItem, &QAction::triggered, this, [this] { SetTypeSize(NormalTypeSize); });
 }
 

@@ -7,12 +7,10 @@
 #include "render/SelectedRuns.h"
 
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -292,16 +290,6 @@ void ReadingPane::PaintBorder(QPainter& painter) const
 bool ReadingPane::CanScroll() const
 {
     return m_bar != nullptr && !m_bar->isHidden();
-}
-
-// The bar knows how many lines the desktop scrolls for a notch, and adds up the parts of one that a touch pad
-// sends.
-void ReadingPane::wheelEvent(QWheelEvent* event)
-{
-    if (CanScroll()) {
-        QCoreApplication::sendEvent(m_bar, event);
-    }
-    event->accept();
 }
 
 void ReadingPane::focusInEvent(QFocusEvent* event)

@@ -105,6 +105,8 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
+    /// The wheel was turned by a notch with Control held.
+    void WheelZoomed(bool larger);
     void TopicChanged();
     void SelectionChanged();
 
@@ -159,6 +161,7 @@ private:
     QPointF m_pointer;        ///< where the mouse was pressed or dragged to
     QBasicTimer m_dragScroll; ///< while it is above or below the text
     QElapsedTimer m_sinceDoubleClick;
+    int m_wheelTurned = 0; ///< with Control, since the last notch
 };
 
 } // namespace ls

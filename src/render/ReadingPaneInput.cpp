@@ -8,8 +8,10 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTimerEvent>
+#include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace ls {
 
@@ -161,6 +163,22 @@ void ReadingPane::ExtendToPointer()
     TextSelection selection = m_selection;
     selection.SelectBetween(m_firstUnit, UnitAtPointer());
     SetSelection(selection);
+}
+
+// The bar knows how many lines the desktop scrolls for a notch, and adds up the parts of one that a touch pad
+// sends. With Control the wheel changes the type, as it does elsewhere.
+void ReadingPane::wheelEvent(QWheelEvent* event)
+{
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        m_wheelTurned += event->angleDelta().y();
+        if (std::abs(m_wheelTurned) >= QWheelEvent::DefaultDeltasPerStep) {
+            Q_EMIT WheelZoomed(m_wheelTurned > 0);
+            m_wheelTurned = 0;
+        }
+    } else if (CanScroll()) {
+        QCoreApplication::sendEvent(m_bar, event);
+    }
+    event->accept();
 }
 
 void ReadingPane::timerEvent(QTimerEvent* event)

@@ -1,11 +1,9 @@
-// Copying, finding and the type size in the main window: menu items, keys, and the bar below the pane.
+// Copying and finding in the main window: menu items, keys, and the bar below the pane.
 
-#include "gui/MainFormFixture.h"
-#include "render/FindBar.h"
+#include "gui/MainFormPaneFixture.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
 
@@ -14,44 +12,8 @@ namespace {
 
 using test::Press;
 
-struct MainFormPaneTest : MainFormFixture
+struct MainFormPaneTest : MainFormPaneFixture
 {
-    ReadingPane& Pane() { return Get<ReadingPane>("MsgPic"); }
-    QScrollBar& Bar() { return Get<QScrollBar>("VScroll1"); }
-    std::string Count() { return Get<QLabel>("FindCount").text().toStdString(); }
-    std::string Selected() { return Pane().SelectedText().toStdString(); }
-    std::size_t SelectionStart() { return Pane().Selection().Range().begin; }
-
-    /// Presses keys where the focus is, through the window, so that its shortcuts have their turn.
-    void Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(form.windowHandle(), key, modifiers);
-    }
-
-    void Find(const QString& text)
-    {
-        Press(form, "FindItem");
-        test::Type(form, "FindBox", text);
-    }
-
-    std::string WriteTopic(const Strings& rows)
-    {
-        std::string bytes = "LODESTAR BOOK V5.3\r\n[T]\r\n";
-        for (const std::string& row : rows) {
-            bytes += row + "\r\n";
-        }
-        return Write("Topic.IDA", bytes);
-    }
-
-    /// Two hundred lines, of which every fiftieth has "Needle".
-    std::string WriteNeedles()
-    {
-        Strings rows;
-        for (int i = 1; i <= 200; ++i) {
-            rows.push_back("Line " + std::to_string(i) + (i % 50 == 0 ? " with a Needle" : ""));
-        }
-        return WriteTopic(rows);
-    }
 };
 
 TEST_F(MainFormPaneTest, keys_copyAndSelectAll_workWithTheFocusAnywhere)
@@ -286,127 +248,6 @@ TEST_F(MainFormPaneTest, findBar_anotherTopic_isCounted)
     EXPECT_EQ(Count(), "Not found") << "nothing is on show";
 }
 
-TEST_F(MainFormPaneTest, typeSize_keysAndItems_stepThroughTheSizes)
-{
-    Start(WriteNeedles());
-    Keys(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(Pane().TypeSize(), 11.25);
-    Keys(Qt::Key_Equal, Qt::ControlModifier);
-    EXPECT_EQ(Pane().TypeSize(), 13.5);
-    Keys(Qt::Key_Minus, Qt::ControlModifier);
-    EXPECT_EQ(Pane().TypeSize(), 11.25);
-    Keys(Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(Pane().TypeSize(), 9.75);
-    Press(form, "SmallerItem");
-    EXPECT_EQ(Pane().TypeSize(), 8.25);
-    Press(form, "LargerItem");
-    Press(form, "LargerItem");
-    EXPECT_EQ(Pane().TypeSize(), 11.25);
-    Press(form, "NormalSizeItem");
-    EXPECT_EQ(Pane().TypeSize(), 9.75);
-}
-
-TEST_F(MainFormPaneTest, typeSize_keysOfTheNumberPad_doTheSame)
-{
-    Start(WriteNeedles());
-    const Qt::KeyboardModifiers pad = Qt::ControlModifier | Qt::KeypadModifier;
-    Keys(Qt::Key_Plus, pad);
-    Keys(Qt::Key_Plus, pad);
-    Keys(Qt::Key_Minus, pad);
-    EXPECT_EQ(Pane().TypeSize(), 11.25);
-    Keys(Qt::Key_0, pad);
-    EXPECT_EQ(Pane().TypeSize(), 9.75);
-}
-
-TEST_F(MainFormPaneTest, typeSize_larger_breaksTheLinesAnewAndComesBack)
-{
-    Start(WriteTopic({std::string(50, 'a') + " " + std::string(20, 'b')}));
-    const std::string once = PaneText();
-    const int page = Bar().pageStep();
-    ASSERT_EQ(once, std::string(50, 'a') + " " + std::string(20, 'b'));
-    Press(form, "LargerItem");
-    Press(form, "LargerItem");
-    EXPECT_EQ(PaneText(), std::string(50, 'a') + "|" + std::string(20, 'b'));
-    test::TakePicture(form, "main-larger");
-    Press(form, "NormalSizeItem");
-    EXPECT_EQ(PaneText(), once);
-    EXPECT_EQ(Bar().pageStep(), page);
-}
-
-TEST_F(MainFormPaneTest, typeSize_scrolledTopic_keepsThePlaceAndTheFocus)
-{
-    Strings rows(60, std::string(40, 'x') + " " + std::string(30, 'y'));
-    rows[30] = "Here I am";
-    Start(WriteTopic(rows));
-    Bar().setValue(31);
-    Pane().setFocus();
-    Press(form, "LargerItem");
-    Press(form, "LargerItem");
-    Press(form, "LargerItem");
-    EXPECT_EQ(PaneText().substr(0, 9), "Here I am");
-    EXPECT_GT(Bar().value(), 31) << "the lines above it are more now";
-    EXPECT_EQ(QApplication::focusWidget(), &Pane());
-}
-
-TEST_F(MainFormPaneTest, typeSize_selection_isKept)
-{
-    Start(WriteTopic({std::string(50, 'a') + " bb " + std::string(20, 'c'), "dd"}));
-    Find(QStringLiteral("bb cc"));
-    Pane().Select(Pane().Selection().Range());
-    ASSERT_EQ(Selected(), "bb cc");
-    Press(form, "LargerItem");
-    Press(form, "LargerItem");
-    EXPECT_EQ(Selected(), "bb\ncc") << "the line is broken there now";
-    EXPECT_EQ(Count(), "1 of 1");
-    Press(form, "SelectAllItem");
-    Press(form, "NormalSizeItem");
-    EXPECT_EQ(Selected().size(), Pane().Topic().Length());
-}
-
-TEST_F(MainFormPaneTest, resize_selection_isKept)
-{
-    Start(WriteTopic({std::string(70, 'a') + " bb " + std::string(20, 'c')}));
-    Pane().Select({71, 76});
-    ASSERT_EQ(Selected(), "bb\ncc");
-    form.resize(form.width() + 300, form.height());
-    Settle();
-    EXPECT_EQ(Selected(), "bb cc");
-    EXPECT_EQ(Bar().value(), 1);
-}
-
-TEST_F(MainFormPaneTest, typeSize_caret_staysVisibleInItsPlace)
-{
-    Start(WriteTopic({"one two"}));
-    Pane().setFocus();
-    Keys(Qt::Key_Right, Qt::ControlModifier);
-    const auto look = [this] { return Pane().grab().toImage(); };
-    const QImage before = look();
-    Press(form, "LargerItem");
-    Press(form, "NormalSizeItem");
-    EXPECT_EQ(Pane().Selection().Caret(), 4U);
-    EXPECT_EQ(look(), before);
-}
-
 // As on a screen of large dots.
-TEST_F(MainFormPaneTest, typeSize_tooLargeForThePane_stillBreaksLinesAt20)
-{
-    Start(WriteTopic({"12345678. " + std::string(5, 'a') + " " + std::string(15, 'b')}));
-    Pane().SetTypeSize(200);
-    form.resize(form.width() + 10, form.height());
-    Settle();
-    EXPECT_LT(Pane().InnerWidth() / Pane().CharWidth(), 10);
-    EXPECT_EQ(Pane().Topic().Text(), "12345678. aaaaa\n          bbbbbbbbbbbbbbb");
-    EXPECT_FALSE(global.end.Ended());
-}
-
-TEST_F(MainFormPaneTest, typeSize_nothingOnShow_staysSo)
-{
-    Start(WriteThree());
-    Select(1);
-    Press(form, "LargerItem");
-    EXPECT_EQ(PaneText(), "");
-    EXPECT_FALSE(Visible("VScroll1"));
-}
-
 } // namespace
 } // namespace ls
