@@ -100,6 +100,15 @@ protected:
         test::Press(chooser, "OKButton");
     }
 
+    /// The window still opens a book and goes through it.
+    void ExpectUsable(test::ModalScript& script)
+    {
+        Open(script, WriteThree());
+        EXPECT_EQ(PaneText(), "a");
+        test::Press(form, "NextButton");
+        EXPECT_EQ(PaneText(), "b");
+    }
+
     template <typename Control>
     Control& Get(const char* name)
     {
