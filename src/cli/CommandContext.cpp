@@ -128,9 +128,19 @@ Status CommandContext::GiveUp()
     return Status::Fault;
 }
 
+Status CommandContext::OutOfMemory()
+{
+    Fail(MakeFileError(error::OutOfMemory).description, Icon::Critical);
+    if (!m_jsonBegun) { // what was begun cannot be mended
+        GiveUp();
+    }
+    return Status::FileFault;
+}
+
 void CommandContext::WriteJson(const std::function<void(JsonWriter&)>& members, bool alwaysMessages)
 {
     ReportUntoldError();
+    m_jsonBegun = true;
     JsonWriter json(m_environment->out);
     json.BeginObject();
     members(json);

@@ -67,6 +67,9 @@ public:
     /// something to parse.
     Status GiveUp();
 
+    /// Ends a command whose book, or a line of it, does not fit into memory.
+    [[nodiscard]] Status OutOfMemory();
+
     /// Writes an object with these members and the messages: always, or only when there are any.
     void WriteJson(const std::function<void(JsonWriter&)>& members, bool alwaysMessages = false);
 
@@ -92,6 +95,7 @@ private:
     CliMessages m_messages;
     Seams m_seams;
     Book m_book;
+    bool m_jsonBegun = false;
 };
 
 } // namespace ls

@@ -7,6 +7,7 @@
 #include "cli/Help.h"
 
 #include <algorithm>
+#include <new>
 #include <ostream>
 
 namespace ls {
@@ -65,7 +66,11 @@ Status RunCommand(const CommandSpec& command, const std::vector<std::string>& re
         return Status::Usage;
     }
     CommandContext context(command, arguments, environment);
-    return context.Verdict(command.run(context));
+    try {
+        return context.Verdict(command.run(context));
+    } catch (const std::bad_alloc&) { // such as a line of gigabytes
+        return context.OutOfMemory();
+    }
 }
 
 Status Dispatch(const std::vector<std::string>& arguments, CliEnvironment& environment)

@@ -1,13 +1,12 @@
 // The built program, as a shell runs it: exact streams and exit status.
 
+#include "ProgramFixture.h"
+
 #include "platform/linux/LinuxFileSystem.h"
 #include "support/Json.h"
-#include "support/ScratchFolder.h"
 #include "support/TestSeams.h"
 
-#include <gtest/gtest.h>
 #include <pty.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -18,23 +17,8 @@ namespace {
 
 using test::Json;
 
-class Program : public testing::Test
+class Program : public test::ProgramFixture
 {
-protected:
-    // Runs lsbook with arguments written for a shell, inside the scratch folder.
-    int Run(const std::string& arguments)
-    {
-        const std::string command =
-            "cd '" + scratch.Path() + "' && '" LS_LSBOOK "' " + arguments + " >stdout 2>stderr </dev/null";
-        const int status = std::system(command.c_str()); // NOLINT(cert-env33-c): a test of the shell's view
-        out = scratch.Read("stdout");
-        err = scratch.Read("stderr");
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-
-    test::ScratchFolder scratch;
-    std::string out;
-    std::string err;
 };
 
 TEST_F(Program, version_onStandardOutput)
