@@ -29,14 +29,18 @@ private:
     friend void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment);
 
     void OpenLeadingTab();
+    bool TakePlainRow(std::size_t columns, std::size_t hang, std::string& segment);
+    void CutHard(std::size_t columns, std::string& segment);
+    bool IsPlain(std::size_t count);
     void AppendFront(std::size_t count, std::string& segment) const;
     void Pass(std::size_t count);
     void TakeAll(std::string& segment);
 
     std::string_view m_text;
-    std::size_t m_contentEnd; ///< behind the last character of m_text that is no blank
-    std::size_t m_at = 0;     ///< the next character of m_text
-    std::size_t m_spaces = 0; ///< spaces of a TAB that stand before it
+    std::size_t m_contentEnd;   ///< behind the last character of m_text that is no blank
+    std::size_t m_at = 0;       ///< the next character of m_text
+    std::size_t m_spaces = 0;   ///< spaces of a TAB that stand before it
+    std::size_t m_plainEnd = 0; ///< from m_at to here there is neither "<" nor "&"
     BreakMarks m_marks;
 };
 

@@ -221,6 +221,23 @@ TEST(WrapSegment, wrap_randomLines_asTheRuleWrittenStepByStep)
     }
 }
 
+// Text that rarely has markup, in rows of which most are plain: words of all lengths, longer than the part of
+// a row that is looked at first, in lines longer than what is searched for markup at once.
+TEST(WrapSegment, wrap_randomLongLinesOfWords_asTheRuleWrittenStepByStep)
+{
+    Strings pieces = {"<B>", "&AMP; ", "</B> ", "  ", "\t"};
+    for (std::size_t length = 1; length <= 40; ++length) {
+        const std::string word = std::string(length, 'w') + " ";
+        pieces.insert(pieces.end(), length < 12 ? 12 : 1, word);
+    }
+    RandomLines random(11);
+    for (int round = 0; round < 400 && !testing::Test::HasFatalFailure(); ++round) {
+        const int width = random.Pick(11, 110);
+        const std::string line = random.Line(pieces, 500);
+        random.Compare(line, width, round % 3 == 0 ? 110 : width, random.Pick(0, 10));
+    }
+}
+
 // Hidden text of hundreds of characters, in which many segments end before it is passed.
 class HiddenText : public testing::TestWithParam<std::pair<const char*, Strings>>
 {
