@@ -23,20 +23,23 @@ DelTopicForm::DelTopicForm(QWidget* parent, Book& book, TopicFlags& flags, bool 
 
 DelTopicForm::~DelTopicForm() = default;
 
-// The list stands at the current topic, which the author is most likely to be after.
+// The list stands at the current topic, which the author is most likely to be after. Items are made before
+// they are in the list: one made in it is searched for there, through the whole list.
 void DelTopicForm::Form_Load(bool alphabetic)
 {
-    QListWidgetItem* current = nullptr;
+    QListWidget& list = *m_ui->TopicListBox;
+    int current = 0;
     for (const RemovalEntry& entry : RemovalEntries(m_book, alphabetic)) {
-        auto* item = new QListWidgetItem(QString::fromStdString(FromBook(entry.text)), m_ui->TopicListBox);
+        auto item = std::make_unique<QListWidgetItem>(QString::fromStdString(FromBook(entry.text)));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(entry.checked ? Qt::Checked : Qt::Unchecked);
         item->setData(Qt::UserRole, entry.itemData);
-        if (entry.itemData == m_book.CurrentTopicNo || current == nullptr) {
-            current = item;
+        if (entry.itemData == m_book.CurrentTopicNo) {
+            current = list.count();
         }
+        list.addItem(item.release()); // the list's own from here on
     }
-    m_ui->TopicListBox->setCurrentItem(current);
+    list.setCurrentRow(current);
 }
 
 std::vector<RemovalChoice> DelTopicForm::Choices() const

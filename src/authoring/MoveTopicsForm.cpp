@@ -16,11 +16,13 @@ namespace ls {
 
 namespace {
 
+// Items are made before they are in the list: one made in it is searched for there, through the whole list.
 void Fill(QListWidget& list, const std::vector<TopicListItem>& topics)
 {
     for (const TopicListItem& topic : topics) {
-        auto* item = new QListWidgetItem(QString::fromStdString(FromBook(topic.text)), &list);
+        auto item = std::make_unique<QListWidgetItem>(QString::fromStdString(FromBook(topic.text)));
         item->setData(Qt::UserRole, topic.itemData);
+        list.addItem(item.release()); // the list's own from here on
     }
 }
 

@@ -20,12 +20,14 @@ QString Shown(const std::string& bookText)
     return QString::fromStdString(FromBook(bookText));
 }
 
-// Fills a list; one without entries goes, with its label and its button.
+// Fills a list; one without entries goes, with its label and its button. An item that is made in its list is
+// searched for there as it is made, which takes a walk through the list for each of thousands.
 void Fill(QListWidget& list, QWidget& label, QWidget& button, const std::vector<XrefEntry>& entries)
 {
     for (const XrefEntry& entry : entries) {
-        auto* item = new QListWidgetItem(Shown(entry.topic), &list);
+        auto item = std::make_unique<QListWidgetItem>(Shown(entry.topic));
         item->setData(Qt::UserRole, entry.itemData);
+        list.addItem(item.release()); // the list's own from here on
     }
     for (QWidget* widget : {static_cast<QWidget*>(&list), &label, &button}) {
         widget->setVisible(!entries.empty());
