@@ -3,7 +3,7 @@
 #include "base/LineCursor.h"
 #include "base/Seams.h"
 
-#include <string>
+#include <string_view>
 
 namespace ls {
 
@@ -21,7 +21,7 @@ struct AdvisorContext
 };
 
 /// Whether the line is the first of the next topic. It ends every scan of a logic block.
-[[nodiscard]] inline bool StartsTopic(const std::string& line)
+[[nodiscard]] inline bool StartsTopic(std::string_view line)
 {
     return !line.empty() && line.front() == '[';
 }

@@ -18,6 +18,17 @@ namespace {
 constexpr std::string_view LineEnd = "\r\n";
 constexpr std::size_t None = std::string::npos;
 
+// Where `UpperCase(line)` holds the tag, which is in upper case and begins with "<": every line in front of
+// an entry is searched for it, so none is copied.
+std::size_t FindUpper(std::string_view line, std::string_view tag)
+{
+    std::size_t at = line.find(tag.front());
+    while (at != None && !BeginsUpper(line.substr(at), tag)) {
+        at = line.find(tag.front(), at + 1);
+    }
+    return at;
+}
+
 // The text of one entry as it grows line by line.
 class EntryText
 {
@@ -142,8 +153,9 @@ Count16 Definitions::GotoTopicForVar(const std::string& var, std::string& advice
     return topic;
 }
 
-// Reads one line of an entry; false at the end of the topic or the file, and after a read error's message.
-bool Definitions::ReadPiece(std::string& line)
+// Reads one line of an entry, valid until the next one; false at the end of the topic or the file, and after
+// a read error's message.
+bool Definitions::ReadPiece(std::string_view& line)
 {
     if (m_context.cursor.AtEnd()) {
         return false;
@@ -157,17 +169,16 @@ bool Definitions::ReadPiece(std::string& line)
 }
 
 // Passes over lines up to the one that holds the opening tag; `piece` gets what follows the tag.
-bool Definitions::FindTag(const std::string& openTag, std::string& piece)
+bool Definitions::FindTag(const std::string& openTag, std::string_view& piece)
 {
-    std::string line;
+    std::string_view line;
     while (ReadPiece(line)) {
-        const std::string upper = UpperCase(line);
-        const std::string_view trimmed = Trim(upper);
-        if (trimmed == "</DEFINITIONS>") {
+        const std::string_view trimmed = Trim(line);
+        if (EqualsUpper(trimmed, "</DEFINITIONS>")) {
             return false;
         }
         const bool comment = !trimmed.empty() && trimmed.front() == '*';
-        const std::size_t at = comment ? None : upper.find(openTag);
+        const std::size_t at = comment ? None : FindUpper(line, openTag);
         if (at != None) {
             piece = line.substr(at + openTag.size());
             return true;
@@ -179,7 +190,7 @@ bool Definitions::FindTag(const std::string& openTag, std::string& piece)
 std::string Definitions::ReadTaggedText(const std::string& openTag)
 {
     EntryText entry(openTag);
-    std::string piece;
+    std::string_view piece;
     if (m_context.seams.end.Ended() || !FindTag(openTag, piece)) {
         return {};
     }

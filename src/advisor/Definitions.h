@@ -37,8 +37,8 @@ public:
 private:
     FileError SeekTopic(Count16 topic);
     FileError SkipToDefinitions();
-    bool FindTag(const std::string& openTag, std::string& piece);
-    bool ReadPiece(std::string& line);
+    bool FindTag(const std::string& openTag, std::string_view& piece);
+    bool ReadPiece(std::string_view& line);
     void ReadFailed(const FileError& failed, std::string_view action);
 
     AdvisorContext& m_context;
