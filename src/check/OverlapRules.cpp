@@ -2,9 +2,12 @@
 #include "check/BlockRules.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <set>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace ls {
 
@@ -65,6 +68,20 @@ void CheckDoubledCondition(const BlockRule& rule, const TermSet& conditions, Fin
     }
 }
 
+// The conditions of a rule as numbers, so that a rule is told from tens of thousands of others without
+// comparing texts.
+struct Needs
+{
+    std::vector<std::uint32_t> numbers; ///< ascending
+    std::uint64_t mask = 0;             ///< a bit for each, the number modulo 64
+
+    [[nodiscard]] bool Include(const Needs& fewer) const
+    {
+        return (fewer.mask & ~mask) == 0 &&
+               std::includes(numbers.begin(), numbers.end(), fewer.numbers.begin(), fewer.numbers.end());
+    }
+};
+
 // Finds, for each rule, an earlier rule for the same variable that needs no more than it does.
 class Earlier
 {
@@ -73,8 +90,9 @@ public:
     const BlockRule* Take(const BlockRule& rule, const TermSet& conditions)
     {
         Group& group = m_groups[rule.conclusion.var];
-        const BlockRule* const found = group.Find(conditions);
-        group.Add(rule, conditions);
+        Needs needs = NeedsOf(conditions);
+        const BlockRule* const found = group.Find(conditions, needs);
+        group.Add(rule, conditions, std::move(needs));
         return found;
     }
 
@@ -83,10 +101,10 @@ private:
     struct Group
     {
         const BlockRule* withoutConditions = nullptr;
-        std::map<std::pair<std::string, std::string>, std::vector<std::pair<TermSet, const BlockRule*>>>
+        std::map<std::pair<std::string, std::string>, std::vector<std::pair<Needs, const BlockRule*>>>
             byLeast;
 
-        const BlockRule* Find(const TermSet& conditions) const
+        const BlockRule* Find(const TermSet& conditions, const Needs& needs) const
         {
             if (withoutConditions != nullptr) {
                 return withoutConditions;
@@ -97,11 +115,11 @@ private:
                     continue;
                 }
                 std::size_t tries = 0;
-                for (const auto& [needed, rule] : list->second) {
+                for (const auto& [fewer, rule] : list->second) {
                     if (++tries > MostTries) {
                         break;
                     }
-                    if (std::includes(conditions.begin(), conditions.end(), needed.begin(), needed.end())) {
+                    if (needs.Include(fewer)) {
                         return rule;
                     }
                 }
@@ -109,19 +127,33 @@ private:
             return nullptr;
         }
 
-        void Add(const BlockRule& rule, const TermSet& conditions)
+        void Add(const BlockRule& rule, const TermSet& conditions, Needs needs)
         {
             if (!conditions.empty()) {
-                byLeast[*conditions.begin()].emplace_back(conditions, &rule);
+                byLeast[*conditions.begin()].emplace_back(std::move(needs), &rule);
             } else if (withoutConditions == nullptr) {
                 withoutConditions = &rule;
             }
         }
     };
 
+    Needs NeedsOf(const TermSet& conditions)
+    {
+        Needs needs;
+        for (const auto& term : conditions) {
+            const auto next = static_cast<std::uint32_t>(m_numbers.size());
+            const std::uint32_t number = m_numbers.emplace(term, next).first->second;
+            needs.numbers.push_back(number);
+            needs.mask |= std::uint64_t{1} << number % 64;
+        }
+        std::sort(needs.numbers.begin(), needs.numbers.end());
+        return needs;
+    }
+
     static constexpr std::size_t MostTries = 2000; ///< keeps a base of tens of thousands of rules quick
 
     std::unordered_map<std::string, Group> m_groups;
+    std::map<std::pair<std::string, std::string>, std::uint32_t> m_numbers;
 };
 
 void ReportEarlier(const BlockRule& rule, const TermSet& conditions, const BlockRule& earlier,
