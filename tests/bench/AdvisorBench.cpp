@@ -1,14 +1,8 @@
-#include "advisor/AdvisorDialog.h"
-#include "advisor/AdvisorTables.h"
-#include "advisor/AdvisorView.h"
-#include "advisor/LogicLoader.h"
 #include "bench/AdvisorBase.h"
 #include "bench/AdvisorPeers.h"
-#include "bench/BenchBooks.h"
+#include "bench/AdvisorWorld.h"
 #include "bench/Benchmarks.h"
 #include "bench/Measure.h"
-#include "book/BookLoader.h"
-#include "render/ShowTopic.h"
 
 #include <array>
 #include <iterator>
@@ -19,96 +13,6 @@ namespace {
 
 constexpr double AtLeast = 20;
 constexpr double GrowthLimit = 15; // of a question's time with ten times the rules; quadratic would be 100
-
-// Notes what a window would show.
-class NotingView : public AdvisorView
-{
-public:
-    void ShowQuestion(const Question& question) override { var = question.var; }
-    void ShowAdvice(const std::string& identifier, const std::string& /*text*/) override
-    {
-        advice = identifier;
-    }
-    void ShowText(const std::string& text) override { Require(false, text.c_str()); }
-    void SetButtonCaption(const std::string& /*caption*/) override {}
-    void Unload() override {}
-
-    std::string var;
-    std::string advice;
-};
-
-// The book of a base with its topic on show.
-class AdvisorWorld
-{
-public:
-    AdvisorWorld(const AdvisorBase& base, const std::string& folder) : m_base(base)
-    {
-        m_book.BookPath = WriteAdvisorBook(base, folder);
-        Require(OpenBook(m_book, m_world.Get()) && ScanBook(m_book, m_world.Get()), "the book is read");
-        std::string name = "Advice";
-        Count16 number = 0;
-        ShownTopic shown;
-        Require(ShowTopic(m_book, m_world.Get(), name, number, 80, shown) == ShowResult::Shown &&
-                    shown.advisorButton,
-                "the topic has an advisor");
-        m_book.CurrentTopicName = name;
-        m_book.CurrentTopicNo = number;
-        m_book.LogicPos = shown.logicPos;
-    }
-
-    // Milliseconds of processor time for reading the logic block from the open book file into empty tables.
-    double Load()
-    {
-        AdvisorTables tables;
-        Inference inference(tables, m_world.Get());
-        const double time = TimeOf([&] {
-            LineCursor cursor(*m_book.File);
-            cursor.Seek(m_book.LogicPos);
-            AdvisorContext context{m_book, tables, m_world.Get(), cursor};
-            std::string advice;
-            Require(LoadLogic(context, inference, m_book.CurrentTopicNo, false, advice), "the logic loads");
-        });
-        Require(tables.RuleCount == static_cast<int>(m_base.rules.size()), "all rules are loaded");
-        return time;
-    }
-
-    // Milliseconds of processor time for each answered question: from the reader's answer until the next
-    // question is on show with its choices, or the advice with its text. `Answers` are those of the last
-    // dialogue.
-    double Question()
-    {
-        AdvisorTables tables;
-        NotingView view;
-        AdvisorDialog dialog(m_book, tables, m_world.Get(), view);
-        dialog.Form_Load();
-        m_questions = 0;
-        const double time = TimeOf([&] {
-            for (; !dialog.Over(); ++m_questions) {
-                dialog.NextButton_Click(m_base.AnswerTo(view.var));
-            }
-        });
-        Require(view.advice == "ADVICE(" + m_base.advice + ")", "the reader gets the advice that agrees");
-        m_answers.clear();
-        for (const Answer& answer : Counted(tables.Answers, tables.AnswerCount)) {
-            if (!answer.Derived) {
-                m_answers.push_back({answer.Var, answer.Value});
-            }
-        }
-        return time / m_questions;
-    }
-
-    // The answers of the last dialogue in their order, also those to variables with one value left, for which
-    // the reader is not asked. The other engines get them too.
-    [[nodiscard]] const std::vector<Setting>& Answers() const { return m_answers; }
-    [[nodiscard]] int Questions() const { return m_questions; }
-
-private:
-    const AdvisorBase& m_base;
-    BenchWorld m_world;
-    Book m_book;
-    std::vector<Setting> m_answers;
-    int m_questions = 0;
-};
 
 struct Series
 {

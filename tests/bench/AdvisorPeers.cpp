@@ -4,8 +4,6 @@
 #include "bench/Measure.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <sstream>
 
 namespace ls::bench {
@@ -14,19 +12,6 @@ namespace {
 
 // Both engines wait for input when their program ends too early, CLIPS in a loop that never ends.
 constexpr const char* TimeLimit = "timeout 900 ";
-
-bool Installed(const std::string& program)
-{
-    return std::system(("command -v " + program + " >/dev/null").c_str()) == 0;
-}
-
-void Write(const std::string& path, const std::string& text)
-{
-    std::ofstream file(path, std::ios::binary);
-    file << text;
-    file.close();
-    Require(file.good(), "the disk takes a program");
-}
 
 std::string Lower(std::string text)
 {
@@ -88,7 +73,7 @@ std::optional<PeerTimes> RunClips(const AdvisorBase& base, const std::vector<Set
 (spent "dialogue" (- ?*t2* ?*t1*) (- ?*p2* ?*p1*))
 (exit)
 )";
-    Write(path, batch);
+    WriteFile(path, batch);
     return TimesOf(OutputOf(TimeLimit + std::string("clips -f2 '") + path + "' </dev/null"), base);
 }
 
@@ -106,7 +91,7 @@ std::optional<PeerTimes> ClipsRules(const AdvisorBase& base, const std::vector<S
         }
         text += " => (printout t \"advice " + rule.advice + "\" crlf))\n";
     }
-    Write(rules, text);
+    WriteFile(rules, text);
     return RunClips(base, answers, folder + "/clips-rules.bat", "(load* \"" + rules + "\")\n(reset)\n", "");
 }
 
@@ -114,7 +99,7 @@ std::optional<PeerTimes> ClipsFacts(const AdvisorBase& base, const std::vector<S
                                     const std::string& folder)
 {
     const std::string engine = folder + "/clips-engine.clp";
-    Write(engine, R"((deftemplate rule (slot advice) (multislot conditions))
+    WriteFile(engine, R"((deftemplate rule (slot advice) (multislot conditions))
 (defrule contradicted
   (declare (salience 2))
   (answer ?var ?value)
@@ -141,7 +126,7 @@ std::optional<PeerTimes> ClipsFacts(const AdvisorBase& base, const std::vector<S
         }
         text += "))\n";
     }
-    Write(facts, text);
+    WriteFile(facts, text);
     return RunClips(base, answers, folder + "/clips-facts.bat",
                     "(load* \"" + engine + "\")\n(reset)\n(load-facts \"" + facts + "\")\n", "answer ");
 }
@@ -164,7 +149,7 @@ std::optional<PeerTimes> Prolog(const AdvisorBase& base, const std::vector<Setti
                     (&condition == &rule.conditions.back() ? ".\n" : ", ");
         }
     }
-    Write(rules, text);
+    WriteFile(rules, text);
     std::string program = R"(% Whether the body waits for variables: none of its conditions is contradicted.
 open_variables((A, B), Vars) :- !, open_variables(A, As), open_variables(B, Bs), append(As, Bs, Vars).
 open_variables(Condition, Vars) :-
@@ -209,7 +194,7 @@ main :-
     format("load ~6f~ndialogue ~6f~n", [Load, Dialogue]).
 )";
     const std::string path = folder + "/prolog-main.pl";
-    Write(path, program);
+    WriteFile(path, program);
     return TimesOf(
         OutputOf(TimeLimit + std::string("swipl -f none -g main -t halt '") + path + "' </dev/null"), base);
 }

@@ -37,15 +37,16 @@ private:
     std::mt19937 m_random{7};
 };
 
-void WriteBook(const std::string& path, std::size_t size)
+void WriteBook(const std::string& path, BookShape shape)
 {
     const std::string partial = path + ".part";
     std::ofstream file(partial, std::ios::binary);
     ProseMaker prose;
     file << "LODESTAR BOOK V5.3 /AUTHOR=\"Nobody\"\r\n";
     std::size_t written = 0;
-    for (int topic = 1; topic <= TopicsOfABook; ++topic) {
-        const std::size_t end = size / TopicsOfABook * static_cast<std::size_t>(topic);
+    const auto topics = static_cast<std::size_t>(shape.topics);
+    for (std::size_t topic = 1; topic <= topics; ++topic) {
+        const std::size_t end = shape.size / topics * topic;
         std::string text = "[Topic " + std::to_string(topic) + "]\r\n<H1>Topic</H1>\r\n";
         while (written + text.size() + 160 < end) {
             text += prose.Line(72) + "\r\n";
@@ -66,22 +67,28 @@ std::string Prose(std::size_t size)
     return ProseMaker().Line(size);
 }
 
-std::string BookOfSize(const std::string& folder, std::size_t size)
+std::string BookOf(const std::string& folder, BookShape shape)
 {
-    const std::string path = folder + "/book-" + std::to_string(size / MiB) + ".IDA";
+    const std::string path = folder + "/book-" + std::to_string(shape.size / 1024) + "-KiB-" +
+                             std::to_string(shape.topics) + ".IDA";
     if (!std::filesystem::exists(path)) {
-        WriteBook(path, size);
+        WriteBook(path, shape);
     }
     return path;
 }
 
-void BenchWorld::Load(Book& book, const std::string& path)
+std::string BookOfSize(const std::string& folder, std::size_t size)
+{
+    return BookOf(folder, {size, TopicsOfABook});
+}
+
+void BenchWorld::Load(Book& book, const std::string& path, int topics)
 {
     book.BookPath = path;
     Require(OpenBook(book, Get()), "a book opens");
     Require(ScanBook(book, Get()), "a book is scanned");
-    Require(book.TopicCount == TopicsOfABook, "all topics are found");
-    Require(book.XrefCount == TopicsOfABook, "all references are found");
+    Require(book.TopicCount == topics, "all topics are found");
+    Require(book.XrefCount == topics, "all references are found");
 }
 
 Reply BenchWorld::NoMessages::ShowBox(const std::string& text, Icon /*icon*/, Buttons buttons,

@@ -18,7 +18,16 @@ constexpr int TopicsOfABook = 30000;
 /// Prose of at least `size` characters in one line: words, blanks, a few tags and entities.
 [[nodiscard]] std::string Prose(std::size_t size);
 
-/// The path of a book of about `size` bytes in `folder`, with 30,000 topics; made when it is not there yet.
+/// How large a made-up book is. Each topic refers to one other.
+struct BookShape
+{
+    std::size_t size = 200 * MiB; ///< in bytes, about
+    int topics = TopicsOfABook;
+};
+
+/// The path of such a book in `folder`; made when it is not there yet. The last topic of every book is of the
+/// same size.
+[[nodiscard]] std::string BookOf(const std::string& folder, BookShape shape);
 [[nodiscard]] std::string BookOfSize(const std::string& folder, std::size_t size);
 
 /// Real files and nobody to talk to: any box ends the program, since then something else was measured.
@@ -27,8 +36,8 @@ class BenchWorld
 public:
     [[nodiscard]] Seams Get() { return {m_files, m_messages, m_processes, m_end, UnixPaths}; }
 
-    /// Opens and scans a book.
-    void Load(Book& book, const std::string& path);
+    /// Opens and scans a book of so many topics with one reference each.
+    void Load(Book& book, const std::string& path, int topics = TopicsOfABook);
 
 private:
     class NoMessages : public Messages

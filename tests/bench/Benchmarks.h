@@ -4,8 +4,8 @@
 
 namespace ls::bench {
 
-/// Scans a book of 200 MiB against a search for its header lines, and compares the memory of two scans.
-/// `program` is this program's own path: the memory is that of a process of its own.
+/// Scans a book of 200 MiB against a search for its header lines and a count of its lines, and compares the
+/// memory of two scans. `program` is this program's own path: the memory is that of a process of its own.
 void BenchScan(const std::string& program, const std::string& folder);
 
 /// Prints the peak memory, in KiB, of this process after scanning that book.
@@ -25,6 +25,15 @@ void BenchResize(const std::string& folder);
 
 /// Wraps lines of 25, 50 and 100 MiB.
 void BenchLines();
+
+/// Wraps texts of 64 MiB, beside fold -s.
+void BenchWrap(const std::string& folder);
+
+/// Exports every topic of a book of 25,000, beside pandoc on the same text.
+void BenchExport(const std::string& folder);
+
+/// Ten times the topics, lines and rules beside the tenth of them.
+void BenchGrowth(const std::string& folder);
 
 /// Loads rule bases of 100 to 30,000 rules and holds a whole dialogue on each, beside CLIPS and SWI-Prolog.
 void BenchAdvisor(const std::string& folder);

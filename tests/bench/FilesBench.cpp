@@ -144,6 +144,7 @@ int main(int argc, char** argv)
         std::fputs("usage: bench_files FOLDER\n", stderr);
         return 2;
     }
+    std::printf("\nfile selector\n");
     ls::Run(QDir(QString::fromLocal8Bit(argv[1])).absoluteFilePath(QStringLiteral("many-files")));
     return 0;
 }

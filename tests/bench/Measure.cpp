@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <utility>
 #include <vector>
 
 #include <sys/resource.h>
@@ -48,22 +49,38 @@ double TimeOf(const std::function<void()>& work)
     return ProcessorTime() - start;
 }
 
+std::vector<double> MeasureInTurns(int rounds, const std::vector<std::function<void()>>& works)
+{
+    for (const auto& work : works) {
+        work(); // what is only slow once is not what is measured
+    }
+    std::vector<std::vector<double>> times(works.size());
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < works.size(); ++i) {
+            times[i].push_back(TimeOf(works[i]));
+        }
+    }
+    std::vector<double> medians;
+    for (std::vector<double>& series : times) {
+        medians.push_back(MedianOf(std::move(series)));
+    }
+    return medians;
+}
+
 Medians MeasureBoth(int rounds, const std::function<void()>& first, const std::function<void()>& second)
 {
-    std::vector<double> firstTimes;
-    std::vector<double> secondTimes;
-    first(); // what is only slow once is not what is measured
-    second();
-    for (int round = 0; round < rounds; ++round) {
-        firstTimes.push_back(TimeOf(first));
-        secondTimes.push_back(TimeOf(second));
-    }
-    return {MedianOf(firstTimes), MedianOf(secondTimes)};
+    const std::vector<double> medians = MeasureInTurns(rounds, {first, second});
+    return {medians[0], medians[1]};
 }
 
 double Measure(int rounds, const std::function<void()>& work)
 {
-    return MeasureBoth(rounds, work, [] {}).first;
+    return MeasureInTurns(rounds, {work}).front();
+}
+
+bool Installed(const std::string& program)
+{
+    return std::system(("command -v " + program + " >/dev/null").c_str()) == 0;
 }
 
 std::string OutputOf(const std::string& command)
@@ -77,6 +94,14 @@ std::string OutputOf(const std::string& command)
     }
     Require(pclose(pipe) == 0, command.c_str());
     return output;
+}
+
+void WriteFile(const std::string& path, const std::string& text)
+{
+    std::ofstream file(path, std::ios::binary);
+    file << text;
+    file.close();
+    Require(file.good(), ("the disk takes " + path).c_str());
 }
 
 long PeakMemory()
@@ -115,6 +140,11 @@ void PrintFaster(const std::string& what, const std::string& value, double times
     }
     std::printf("\n");
     std::fflush(stdout);
+}
+
+void PrintHead(const std::string& text)
+{
+    std::printf("\n%s\n", text.c_str());
 }
 
 std::string Milliseconds(double value)

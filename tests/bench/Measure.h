@@ -13,6 +13,9 @@ namespace ls::bench {
 /// page cache, so nothing else is waited for; a clock on the wall would count what others do on the machine.
 [[nodiscard]] double TimeOf(const std::function<void()>& work);
 
+/// The medians of any number of pieces of work that are measured in turns, so that all see the same machine.
+[[nodiscard]] std::vector<double> MeasureInTurns(int rounds, const std::vector<std::function<void()>>& works);
+
 /// The medians of two pieces of work that are measured in turns, so that both see the same machine.
 struct Medians
 {
@@ -25,8 +28,14 @@ struct Medians
                                   const std::function<void()>& second);
 [[nodiscard]] double Measure(int rounds, const std::function<void()>& work);
 
+/// Whether the shell finds a program.
+[[nodiscard]] bool Installed(const std::string& program);
+
 /// Starts a command line of the shell and gives what it prints; ends the program when it fails.
 [[nodiscard]] std::string OutputOf(const std::string& command);
+
+/// Writes a file anew; ends the program when the disk does not take it.
+void WriteFile(const std::string& path, const std::string& text);
 
 /// The most memory that this process has had resident since it was started, in KiB.
 [[nodiscard]] long PeakMemory();
@@ -36,6 +45,9 @@ void PrintRow(const std::string& what, const std::string& value, double ratio = 
 
 /// The same for something that is to be at least so many times as fast as a peer; 0 asks for nothing.
 void PrintFaster(const std::string& what, const std::string& value, double times, double atLeast);
+
+/// A line that begins a part of the table.
+void PrintHead(const std::string& text);
 [[nodiscard]] std::string Milliseconds(double value);
 
 /// Ends the program when something that a measurement rests on is not so: a fast wrong result is none.

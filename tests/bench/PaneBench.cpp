@@ -124,6 +124,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QGuiApplication application(argc, argv);
+    std::printf("\npane\n");
     for (const Scene& scene :
          {Scene{"plain text", 1, 0}, Scene{"a new style every 20 characters", 1, 20},
           Scene{"a new style every 5 characters", 1, 5}, Scene{"plain text, scale 1.5", 1.5, 0},

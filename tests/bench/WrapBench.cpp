@@ -1,0 +1,95 @@
+#include "base/LineCursor.h"
+#include "bench/BenchBooks.h"
+#include "bench/Benchmarks.h"
+#include "bench/Measure.h"
+#include "render/WrapSegment.h"
+
+#include <filesystem>
+#include <fstream>
+
+namespace ls::bench {
+
+namespace {
+
+constexpr int Width = 80;
+constexpr std::size_t TextSize = 64 * MiB;
+constexpr std::size_t PieceSize = 32 * 1024; // what a cache holds
+constexpr double AtLeast = 5;
+
+// Letters, blanks and commas only: where nothing is marked up, both programs have the same work.
+std::string PlainProse(std::size_t size)
+{
+    std::string prose = Prose(size);
+    for (char& c : prose) {
+        c = c == '<' || c == '>' || c == '&' || c == ';' || c == '[' || c == ']' ? ',' : c;
+    }
+    return prose;
+}
+
+// Cut into lines of `lineLength`, each ended by CR LF; made when it is not there yet.
+std::string TextOf(const std::string& path, const std::string& prose, std::size_t lineLength)
+{
+    if (!std::filesystem::exists(path)) {
+        std::string text;
+        for (std::size_t at = 0; at < prose.size(); at += lineLength) {
+            text += prose.substr(at, lineLength) + "\r\n";
+        }
+        WriteFile(path, text);
+    }
+    return path;
+}
+
+// What fold does: reads the text and writes it wrapped, in pieces.
+void WrapFile(const std::string& path)
+{
+    LinuxFileSystem files;
+    std::unique_ptr<BookFile> file;
+    Require(files.OpenForReading(path, Sharing::Shared, file).Ok(), "the text opens");
+    std::ofstream out("/dev/null", std::ios::binary);
+    LineCursor cursor(*file);
+    std::string_view line;
+    std::string segment;
+    std::string wrapped;
+    std::size_t total = 0;
+    while (!cursor.AtEnd()) {
+        Require(cursor.ReadLine(line).Ok(), "a line is read");
+        LineRemainder rest(line);
+        do {
+            WrapSegment(rest, Width, 0, segment);
+            wrapped += segment;
+            wrapped += '\n';
+        } while (!rest.Blank());
+        if (wrapped.size() > PieceSize) {
+            total += wrapped.size();
+            out << wrapped;
+            wrapped.clear();
+        }
+    }
+    out << wrapped << std::flush;
+    Require(out.good() && total > TextSize * 9 / 10, "the whole text is wrapped");
+}
+
+void BenchText(const std::string& what, const std::string& path, double atLeast)
+{
+    const std::vector<double> times = MeasureInTurns(
+        5, {[&path] { WrapFile(path); },
+            [&path] {
+                (void)OutputOf("LC_ALL=C fold -s -w " + std::to_string(Width) + " '" + path + "' >/dev/null");
+            }});
+    PrintRow("fold -s of " + what, Milliseconds(times[1]));
+    PrintFaster("wrap of the same text and width", Milliseconds(times[0]), times[1] / times[0], atLeast);
+}
+
+} // namespace
+
+void BenchWrap(const std::string& folder)
+{
+    const std::string plain = PlainProse(TextSize);
+    BenchText("64 MiB, lines of 500", TextOf(folder + "/wrap-500.txt", plain, 500), AtLeast);
+    BenchText("64 MiB, lines of 5,000", TextOf(folder + "/wrap-5000.txt", plain, 5000), AtLeast);
+    // Here the two do not have the same work: fold takes tags for text, and keeps no line in memory.
+    BenchText("64 MiB with tags, lines of 500", TextOf(folder + "/wrap-tags.txt", Prose(TextSize), 500), 0);
+    BenchText("64 MiB, one line", TextOf(folder + "/wrap-1.txt", plain, TextSize), 0);
+}
+
+} // namespace ls::bench
