@@ -1,0 +1,143 @@
+// The built program on a system that refuses: full devices, limits of the user, rights, folders for files.
+
+#include "platform/ChildProcess.h"
+#include "support/ScratchFolder.h"
+#include "support/TestSeams.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include <sys/stat.h>
+
+namespace ls {
+namespace {
+
+const std::string SmallBook =
+    test::CrLf({"LODESTAR BOOK V5.3", "[A]", "text", "<IXML>", "<LOGIC>", "TARGET R", "R(1)=X(1)",
+                "R(2)=X(2)", "</LOGIC>", "<DEFINITIONS>", "<Q ID=R></Q>", "<Q ID=X>x?</Q>",
+                "<AV ID=R(1)>One.</AV>", "<AV ID=R(2)>Two.</AV>", "</DEFINITIONS>", "</IXML>"});
+
+class ProgramFaults : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        scratch.Write("a.IDA", SmallBook);
+        scratch.Write("long.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\n" + std::string(100'000, 'x') + "\r\n");
+        scratch.Write("notes.txt", std::string(100'000, 'x') + "\n");
+        scratch.Write("answers.json", "[[\"1\"]]");
+        scratch.MakeFolder("folder");
+    }
+
+    // Runs lsbook with arguments written for a shell, behind what sets the shell up; gives its status.
+    int Run(const std::string& setUp, const std::string& arguments)
+    {
+        const std::string command =
+            "cd '" + scratch.Path() + "' && " + setUp + " '" LS_LSBOOK "' " + arguments;
+        const int status = std::system(command.c_str()); // NOLINT(cert-env33-c): a test of the shell's view
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    test::ScratchFolder scratch;
+};
+
+struct Row
+{
+    const char* name;
+    const char* setUp;
+    const char* arguments;
+    const char* told; ///< on standard error
+};
+
+class Refusals : public ProgramFaults, public testing::WithParamInterface<Row>
+{
+};
+
+TEST_P(Refusals, command_isToldWithStatusThreeAndLeavesTheOldFile)
+{
+    scratch.Write("out", "older");
+    EXPECT_EQ(Run(GetParam().setUp, std::string(GetParam().arguments) + " </dev/null 2>stderr"), 3);
+    EXPECT_EQ(scratch.Read("stderr"), std::string(GetParam().told) + "\n");
+    EXPECT_EQ(scratch.Read("out"), "older");
+    EXPECT_EQ(scratch.Read("a.IDA"), SmallBook);
+    EXPECT_FALSE(scratch.Has("out.new"));
+    EXPECT_FALSE(scratch.Has("new"));
+}
+
+constexpr const char* NoOutput = "lsbook: standard output cannot be written";
+constexpr const char* Full = "warning: Failed to write due to error #61: Disk full";
+
+const Row Rows[] = {
+    {"infoFull", "", "info a.IDA >/dev/full", NoOutput},
+    {"topicsFull", "", "topics a.IDA >/dev/full", NoOutput},
+    {"showFull", "", "show a.IDA A >/dev/full", NoOutput},
+    {"textFull", "", "text a.IDA A --json >/dev/full", NoOutput},
+    {"pagesFull", "", "pages a.IDA A >/dev/full", NoOutput},
+    {"adviseFull", "", "advise a.IDA A --answers-json answers.json >/dev/full", NoOutput},
+    {"exploreFull", "", "advise a.IDA A --explore >/dev/full", NoOutput},
+    {"saveSizeFull", "", "save a.IDA saved >/dev/full", NoOutput},
+    {"helpFull", "", "--help >/dev/full", NoOutput},
+    {"versionFull", "", "--version >/dev/full", NoOutput},
+    {"saveBeyondLimit", "ulimit -f 8;", "save long.IDA out --force", Full},
+    {"saveNewBeyondLimit", "ulimit -f 8;", "save long.IDA new", Full},
+    {"exportBeyondLimit", "ulimit -f 8;", "export long.IDA A -o out --force", Full},
+    {"exportNewBeyondLimit", "ulimit -f 8;", "export long.IDA A -o new", Full},
+    {"convertBeyondLimit", "ulimit -f 8;", "convert notes.txt out --force", Full},
+    {"saveNoDescriptor", "prlimit --nofile=4", "save a.IDA new",
+     "warning: Failed to open output file due to error #67: Too many files"},
+    {"exportNoDescriptor", "prlimit --nofile=4", "export a.IDA A -o new",
+     "warning: Failed to open <<new>> due to error #67: Too many files."},
+    {"convertNoDescriptor", "prlimit --nofile=4", "convert notes.txt new",
+     "warning: Failed to open output file due to error #67: Too many files"},
+    {"infoOfFolder", "", "info folder",
+     "critical: Error opening <<folder>> with code 75: Path/File access error"},
+    {"convertFolder", "", "convert folder new",
+     "critical: Error opening <<folder>> with code 75: Path/File access error"},
+    {"exportOverFolder", "", "export a.IDA A -o folder --force",
+     "warning: Failed to open <<folder>> due to error #75: Path/File access error."},
+    {"saveOverFolder", "", "save a.IDA folder --force",
+     "warning: Failed to open output file due to error #75: Path/File access error"},
+    {"answersFromFolder", "", "advise a.IDA A --answers-json folder",
+     "critical: Error reading <<folder>> with code 75: Path/File access error"},
+    {"exportOverDevice", "", "export a.IDA A -o /dev/full --force",
+     "warning: Failed to open <</dev/full>> due to error #68: Device unavailable."},
+    {"missingFolder", "", "save a.IDA none/new",
+     "warning: Failed to open output file due to error #76: Path not found"},
+};
+
+INSTANTIATE_TEST_SUITE_P(System, Refusals, testing::ValuesIn(Rows),
+                         [](const auto& row) { return row.param.name; });
+
+// Root is refused nothing, so these are asked by somebody else.
+TEST_F(ProgramFaults, rightsThatLack_areToldWithStatusThree)
+{
+    ASSERT_EQ(::chmod(scratch.Path().c_str(), 0755), 0);
+    ASSERT_EQ(::chmod(scratch.Write("secret.IDA", SmallBook).c_str(), 0), 0);
+    ASSERT_EQ(::chmod(scratch.Write("fixed", "older").c_str(), 0444), 0);
+    scratch.Write("stderr", "");
+    ASSERT_EQ(::chmod((scratch / "stderr").c_str(), 0666), 0);
+    const std::pair<const char*, const char*> cases[] = {
+        {"info secret.IDA", "critical: Error opening <<secret.IDA>> with code 70: Permission denied\n"},
+        {"save a.IDA new", "warning: Failed to open output file due to error #70: Permission denied\n"},
+        {"export a.IDA A -o new", "warning: Failed to open <<new>> due to error #70: Permission denied.\n"},
+        {"export a.IDA A -o fixed --force",
+         "warning: Failed to open <<fixed>> due to error #70: Permission denied.\n"},
+        {"save a.IDA fixed --force",
+         "warning: Failed to open output file due to error #70: Permission denied\n"},
+        {"advise a.IDA A --answers-json secret.IDA",
+         "critical: Error reading <<secret.IDA>> with code 70: Permission denied\n"},
+    };
+    for (const auto& [arguments, told] : cases) {
+        const int status = test::RunInChild([&] {
+            return test::BecomeOrdinaryUser() ? Run("", std::string(arguments) + " </dev/null 2>stderr")
+                                              : 255;
+        });
+        EXPECT_EQ(status, 3) << arguments;
+        EXPECT_EQ(scratch.Read("stderr"), told);
+        EXPECT_EQ(scratch.Read("fixed"), "older");
+    }
+}
+
+} // namespace
+} // namespace ls
