@@ -35,7 +35,7 @@ inline Journal FullJournal()
     journal.header = JournalHeader{"An \"author\"", "(c)\n@END", "http://127.0.0.1/", "YES"};
     journal.topics = std::vector<JournalTopic>{
         {"[C]", 3, false}, {"[A]", 1, true}, {"[New]", 0, false}, {"[B]", 2, false}};
-    journal.recs = {{1, "[C]", false, std::string("text\r\n@TOPIC 3 00000000\n\0nul\x80\xFF\r\n", 34), ""},
+    journal.recs = {{1, "[C]", false, std::string("text\r\n@TOPIC 3 00000000\n\0nul\x80\xFF\r\n", 32), ""},
                     {2, "[A]", true, "\r\n", "<IXML>\r\n<LOGIC>\r\n"},
                     {3, "[New]", false, "Insert text here.", ""}};
     journal.running.text = RunningText{3, "[New]", "typed \xE2\x86\x92\n[not a topic]"};
