@@ -1,0 +1,197 @@
+// The window at the limits of counts, sizes and paths.
+
+#include "gui/MainFormFixture.h"
+
+#include <sys/resource.h>
+
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+#include <algorithm>
+#include <fstream>
+#include <functional>
+
+namespace ls {
+namespace {
+
+using test::Find;
+using test::ModalScript;
+using test::Press;
+
+constexpr int Limit = 32767;
+constexpr const char* Header = "LODESTAR BOOK V5.3\r\n";
+constexpr const char* TheFileForm = "form|FileForm|Lodestar Advisor Open";
+constexpr const char* Overflow = "critical|Lodestar Advisor|Overflow";
+
+struct MainFormLimitsTest : MainFormFixture
+{
+    // A book of a header, `before`, `count` times what `piece` gives for 1, 2, ..., and `behind`.
+    std::string WriteMany(int count, const std::string& before, const std::function<std::string(int)>& piece,
+                          const std::string& behind = {})
+    {
+        std::string bytes = Header + before;
+        for (int i = 1; i <= count; ++i) {
+            bytes += piece(i);
+        }
+        return Write("Many.IDA", bytes + behind);
+    }
+
+    // A book of "A" and "B", and between them "Hole": 4 GiB of zero bytes that take no room on the disk.
+    std::string WriteWithHole()
+    {
+        const std::string path = Write("Hole.IDA", Header + std::string("[A]\r\na\r\n[Hole]\r\n"));
+        EXPECT_TRUE(QFile::resize(QString::fromStdString(path), qint64{1} << 32));
+        std::ofstream(path, std::ios::binary | std::ios::app) << "\r\n[B]\r\nb\r\n";
+        return path;
+    }
+
+    void GoTo(int index)
+    {
+        Get<QComboBox>("TopicList").setCurrentIndex(index);
+        Press(form, "GoToButton");
+    }
+};
+
+std::string Topic(int number)
+{
+    return "[T" + std::to_string(number) + "]\r\nbody " + std::to_string(number) + "\r\n";
+}
+
+TEST_F(MainFormLimitsTest, allTopicsThatCanBeCounted_areListedAndReached)
+{
+    Start(WriteMany(Limit, "", Topic));
+    EXPECT_EQ(Get<QComboBox>("TopicList").count(), Limit);
+    GoTo(Limit - 1);
+    EXPECT_EQ(PaneText(), "body 32767");
+}
+
+std::string Reference(int number)
+{
+    return "<XREF TOPIC=B>note " + std::to_string(number) + "</XREF>\r\n";
+}
+
+TEST_F(MainFormLimitsTest, allReferencesThatCanBeCounted_areListed)
+{
+    Start(WriteMany(Limit, "[A]\r\n", Reference, "[B]\r\nb\r\n"));
+    ModalScript script;
+    int listed = 0;
+    script.Do([&listed](QWidget& window) {
+        listed = Find<QListWidget>(window, "ToList")->count();
+        Press(window, "CloseButton");
+    });
+    Press(form, "XRButton");
+    EXPECT_EQ(listed, Limit);
+}
+
+TEST_F(MainFormLimitsTest, oneReferenceMore_isRefused)
+{
+    Start(WriteThree());
+    ModalScript script;
+    const std::string path = WriteMany(Limit + 1, "[A]\r\n", Reference, "[B]\r\nb\r\n");
+    script.Do([path](QWidget& chooser) { ChooseFile(chooser, path); }).Answer(Reply::Ok);
+    Press(form, "OpenItem");
+    EXPECT_EQ(script.Seen(), (Strings{TheFileForm, Overflow}));
+    EXPECT_EQ(ItemTexts(), Strings{});
+    ExpectUsable(script);
+}
+
+std::string Rule(int number)
+{
+    return "G(" + std::to_string(number) + ")=X(" + std::to_string(number) + ")\r\n";
+}
+
+TEST_F(MainFormLimitsTest, oneRuleMoreThanCanBeCounted_isNoAdvisor)
+{
+    Start(WriteMany(Limit + 1, "[A]\r\n<IXML>\r\n<LOGIC>\r\nTARGET G\r\n", Rule,
+                    "</LOGIC>\r\n<DEFINITIONS>\r\n<Q ID=X>Which?</Q>\r\n</DEFINITIONS>\r\n</IXML>\r\n"));
+    ModalScript script;
+    QString told;
+    script.Answer(Reply::Ok).Do([&told](QWidget& window) {
+        told = Find<QPlainTextEdit>(window, "MessageBox")->toPlainText();
+        Press(window, "NextButton");
+    });
+    Press(form, "AdvisorButton");
+    EXPECT_EQ(script.Seen().front(), Overflow);
+    EXPECT_EQ(told, QStringLiteral("Failure loading logic section for topic <<[A]>>; I can't proceed."));
+    ExpectUsable(script);
+}
+
+TEST_F(MainFormLimitsTest, bookPastFourGibibytes_isReadBehindThem)
+{
+    Start(WriteWithHole());
+    EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. Hole", "3. B"}));
+    GoTo(2);
+    EXPECT_EQ(PaneText(), "b");
+}
+
+// While one lives, the program may take this much more memory.
+class MemoryLeft
+{
+public:
+    explicit MemoryLeft(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_AS, &m_before);
+        std::ifstream sizes("/proc/self/statm");
+        rlim_t pages = 0;
+        sizes >> pages;
+        rlimit less = m_before;
+        less.rlim_cur = pages * 4096 + bytes;
+        EXPECT_EQ(setrlimit(RLIMIT_AS, &less), 0);
+    }
+    ~MemoryLeft() { setrlimit(RLIMIT_AS, &m_before); }
+    MemoryLeft(const MemoryLeft&) = delete;
+    MemoryLeft& operator=(const MemoryLeft&) = delete;
+
+private:
+    rlimit m_before{};
+};
+
+TEST_F(MainFormLimitsTest, topicThatDoesNotFitIntoMemory_isToldAndTheWindowGoesOn)
+{
+    Start(WriteWithHole());
+    ModalScript script;
+    script.Answer(Reply::Ok);
+    {
+        const MemoryLeft left(rlim_t{1} << 30);
+        Press(form, "NextButton");
+    }
+    EXPECT_EQ(script.Seen(), Strings{"critical|Lodestar Advisor|Out of memory"});
+    GoTo(2);
+    EXPECT_EQ(PaneText(), "b");
+    ExpectUsable(script);
+}
+
+TEST_F(MainFormLimitsTest, titleOfTenThousandCharacters_isListedInShortAndFollowed)
+{
+    const std::string title(10000, 'w');
+    Start(Write("Long.IDA",
+                Header + ("[A]\r\n<XREF TOPIC=" + title) + ">n</XREF>\r\n[" + title + "]\r\nbody\r\n"));
+    EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. " + std::string(497, 'w')}));
+    ModalScript script;
+    script.Do([](QWidget& window) {
+        Find<QListWidget>(window, "ToList")->setCurrentRow(0);
+        Press(window, "ToGoButton");
+    });
+    Press(form, "XRButton");
+    EXPECT_EQ(PaneText(), "body");
+}
+
+TEST_F(MainFormLimitsTest, pathOfFourThousandBytes_isOpenedAndKeptAmongTheRecentFiles)
+{
+    std::string deep = Path("");
+    while (deep.size() + 2 < 3994) {
+        deep += "/" + std::string(std::min<std::size_t>(200, 3994 - deep.size() - 1), 'd');
+        ASSERT_TRUE(QDir().mkdir(QString::fromStdString(deep)));
+    }
+    const std::string path = deep + "/a.IDA";
+    ASSERT_EQ(path.size(), 4000U);
+    std::ofstream(path, std::ios::binary) << Header << "[A]\r\na\r\n";
+    Start(WriteThree());
+    ModalScript script;
+    Open(script, path);
+    EXPECT_EQ(PaneText(), "a");
+    EXPECT_EQ(global.settings.RecentFiles[0], path);
+}
+
+} // namespace
+} // namespace ls
