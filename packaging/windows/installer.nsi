@@ -138,6 +138,8 @@ Section "Uninstall"
   Delete "${MENU}\User's Guide.lnk"
   RMDir "${MENU}"
   RMDir "${SETTINGS}"
+  ; Edits that are not saved yet are kept here; none are left of a program that was closed.
+  RMDir "$LOCALAPPDATA\Lodestar Advisor"
 
   ; A type that somebody else has taken since is left alone.
   ReadRegStr $0 HKCU "${CLASSES}\.IDA" ""

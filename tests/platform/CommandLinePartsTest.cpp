@@ -35,6 +35,40 @@ INSTANTIATE_TEST_SUITE_P(
         NameCase{"emptyLine", "", ""}),
     [](const auto& row) { return row.param.name; });
 
+struct QuoteCase
+{
+    const char* name;
+    const char* line;
+    const char* quoted;
+};
+
+class WithQuotedValuesTest : public testing::TestWithParam<QuoteCase>
+{
+};
+
+TEST_P(WithQuotedValuesTest, quotedParameter_hasItsValueQuoted)
+{
+    EXPECT_EQ(WithQuotedValues(GetParam().line), GetParam().quoted);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, WithQuotedValuesTest,
+    testing::Values(QuoteCase{"behindAPlainBook", R"(Guide.IDA "/INIDIR=C:\My Settings")",
+                              R"(Guide.IDA /INIDIR="C:\My Settings")"},
+                    QuoteCase{"severalBehindAQuotedBook",
+                              R"("C:\My Books\G.IDA" "/TOPIC=A B" "/INIDIR=C:\S T")",
+                              R"("C:\My Books\G.IDA" /TOPIC="A B" /INIDIR="C:\S T")"},
+                    QuoteCase{"alone", R"("/TOPIC=A B")", R"(/TOPIC="A B")"},
+                    QuoteCase{"lowerCaseBehindATab", "G.IDA\t\"/topic=A B\"", "G.IDA\t/topic=\"A B\""},
+                    QuoteCase{"valueQuotedAlready", R"(G.IDA /TOPIC="A B")", R"(G.IDA /TOPIC="A B")"},
+                    QuoteCase{"insideAnotherValue", R"(G.IDA /TOPIC="See "/INIDIR=C:\S)",
+                              R"(G.IDA /TOPIC="See "/INIDIR=C:\S)"},
+                    QuoteCase{"bookInQuotes", R"("/dir/G.IDA")", R"("/dir/G.IDA")"},
+                    QuoteCase{"nameWithoutLetters", R"("/=A B")", R"("/=A B")"},
+                    QuoteCase{"noEqualsSign", R"("/TOPIC")", R"("/TOPIC")"},
+                    QuoteCase{"loneQuote", R"(G.IDA ")", R"(G.IDA ")"}, QuoteCase{"emptyLine", "", ""}),
+    [](const auto& row) { return row.param.name; });
+
 struct LaunchCase
 {
     const char* name;

@@ -8,6 +8,28 @@
 
 namespace ls {
 
+namespace {
+
+bool IsLetter(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+// The length of "/NAME=" at the start of a text; 0 when it does not begin so.
+std::size_t ParameterNameLength(std::string_view text)
+{
+    if (!text.starts_with('/')) {
+        return 0;
+    }
+    std::size_t end = 1;
+    while (end < text.size() && IsLetter(text[end])) {
+        ++end;
+    }
+    return end > 1 && end < text.size() && text[end] == '=' ? end + 1 : 0;
+}
+
+} // namespace
+
 std::string BehindProgramName(std::string_view line)
 {
     bool quoted = false;
@@ -18,6 +40,26 @@ std::string BehindProgramName(std::string_view line)
     }
     at = std::min(line.find_first_not_of(" \t", at), line.size());
     return std::string(line.substr(at));
+}
+
+std::string WithQuotedValues(std::string_view line)
+{
+    std::string result;
+    bool quoted = false;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        const bool startsWord = at == 0 || line[at - 1] == ' ' || line[at - 1] == '\t';
+        if (line[at] == '"' && !quoted && startsWord) {
+            const std::size_t length = ParameterNameLength(line.substr(at + 1));
+            result.append(line.substr(at + 1, length));
+            at += length;
+            result += '"';
+            quoted = true;
+            continue;
+        }
+        quoted = quoted != (line[at] == '"');
+        result += line[at];
+    }
+    return result;
 }
 
 LaunchLine ToLaunchLine(std::string_view commandLine)

@@ -9,6 +9,11 @@ namespace ls {
 /// between. The name ends at the first blank or TAB that does not stand between two double quotes.
 [[nodiscard]] std::string BehindProgramName(std::string_view line);
 
+/// The line with each parameter that stands in quotes as a whole ("/INIDIR=C:\My Settings" in quotes, as
+/// shells and scripts write it) quoted in its value instead: /INIDIR="C:\My Settings". The quote in front
+/// would otherwise count as a part of the book's path.
+[[nodiscard]] std::string WithQuotedValues(std::string_view line);
+
 /// A command line that is to be started.
 struct LaunchLine
 {

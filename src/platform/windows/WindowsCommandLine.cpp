@@ -9,7 +9,7 @@ namespace ls {
 
 CommandLine ReadCommandLine(int /*argc*/, char** /*argv*/, const Seams& /*seams*/)
 {
-    return ParseCommandLine(BehindProgramName(FromWide(::GetCommandLineW())));
+    return ParseCommandLine(WithQuotedValues(BehindProgramName(FromWide(::GetCommandLineW()))));
 }
 
 } // namespace ls
