@@ -107,6 +107,41 @@ TEST_F(PrintPdfTest, pagesCutWhileTheyAreMade_areNotTakenForDone)
     EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
 }
 
+// Each call in turn, for a file that is new and for one that is replaced.
+TEST_F(PrintPdfTest, eachCallFailingWhileTheFileIsStored_keepsTheOldOneAndLeavesNoHalfOne)
+{
+    Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
+    for (const bool replace : {false, true}) {
+        std::string failed = "first";
+        for (int failAt = 1; !failed.empty() && failAt < 50; ++failAt) {
+            test::MemoryFileSystem memory;
+            if (replace) {
+                memory["/work/a.pdf"] = "precious";
+            }
+            int calls = 0;
+            failed.clear();
+            memory.fail = [&](const std::string& operation) {
+                failed = ++calls == failAt ? operation : failed;
+                return calls == failAt ? error::DeviceIo : 0;
+            };
+            SystemPrinter onMemory(memory, service);
+            onMemory.SetFile("/work/a.pdf", replace);
+            const FileError told = PrintTopic(book, seams, onMemory, settings, "A", 1).failed;
+            SCOPED_TRACE(failed);
+            EXPECT_EQ(told, failed.empty() ? FileError{} : MakeFileError(error::DeviceIo));
+            EXPECT_FALSE(memory.Has("/work/a.pdf.new"));
+            if (failed.empty()) {
+                EXPECT_GT(failAt, 4) << "creating, writing, finishing and naming failed";
+                EXPECT_TRUE(memory["/work/a.pdf"].starts_with("%PDF"));
+            } else {
+                EXPECT_EQ(memory.Has("/work/a.pdf"), replace);
+                EXPECT_TRUE(!replace || memory["/work/a.pdf"] == "precious");
+            }
+        }
+        EXPECT_EQ(failed, "");
+    }
+}
+
 struct StoreFault
 {
     const char* name;
