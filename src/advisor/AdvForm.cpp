@@ -94,7 +94,7 @@ void AdvForm::ShowText(const std::string& text)
 
 void AdvForm::SetButtonCaption(const std::string& caption)
 {
-    m_ui->NextButton->setText(Shown(caption));
+    m_ui->NextButton->setText(u'&' + Shown(caption)); // "Next", "Close"
     if (m_dialog.Over()) {
         m_ui->AnswerCombo->setEnabled(false); // the only action left is the button
         FocusNext();

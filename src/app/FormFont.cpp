@@ -1,13 +1,17 @@
 #include "app/FormFont.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
+#include <QGuiApplication>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace ls {
 
 namespace {
 
-constexpr double FormFontPoints = 9.75;
+constexpr double DesignedPoints = 9.75;
 
 // An unknown name alone would give whatever face the system falls back to, often a wider one that clips
 // captions.
@@ -24,12 +28,19 @@ QString FormFamily()
     return designed;
 }
 
+// Who needs larger letters has told the desktop.
+double DesktopPoints()
+{
+    const QFont font = QGuiApplication::font();
+    return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+}
+
 } // namespace
 
 QFont FormFont()
 {
     QFont font(FormFamily());
-    font.setPointSizeF(FormFontPoints);
+    font.setPointSizeF(std::max(DesignedPoints, DesktopPoints()));
     return font;
 }
 

@@ -1,10 +1,16 @@
 #include "app/FormMessages.h"
 
+#include "app/Mnemonic.h"
+#include "app/TitleWidth.h"
+
 #include <QApplication>
+#include <QDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSpacerItem>
 
 #include <algorithm>
 #include <vector>
@@ -44,6 +50,22 @@ QMessageBox::StandardButton ButtonOf(Reply reply)
         break;
     }
     return QMessageBox::Ok;
+}
+
+// Every button of a box has its letter, whatever the desktop calls its own.
+QString CaptionOf(Reply reply)
+{
+    switch (reply) {
+    case Reply::Cancel:
+        return QStringLiteral("&Cancel");
+    case Reply::Yes:
+        return QStringLiteral("&Yes");
+    case Reply::No:
+        return QStringLiteral("&No");
+    case Reply::Ok:
+        break;
+    }
+    return QStringLiteral("&OK");
 }
 
 std::vector<Reply> RepliesOf(Buttons buttons)
@@ -91,12 +113,24 @@ QString Shortened(const std::string& text)
     return QString::fromStdString(text.substr(0, head) + " ... " + text.substr(rest));
 }
 
-// The prompt is its edit's label: a lone "&" would be taken for the mark of a shortcut.
-void SetPrompt(QInputDialog& box, QString prompt)
+// The prompt is its edit's label, and leads to it by a letter that neither button has.
+void SetPrompt(QInputDialog& box, const QString& prompt)
 {
-    box.setLabelText(prompt.replace(u'&', QStringLiteral("&&")));
+    box.setLabelText(WithMnemonic(prompt, u"OC"));
     if (auto* label = box.findChild<QLabel*>(); label != nullptr) {
         label->setTextFormat(Qt::PlainText);
+    }
+}
+
+// A box takes its width from its text; one of few words would cut its title. The toolkit fits boxes to their
+// layout, so it is there that the room is asked for.
+void WidenToTitle(QDialog& box)
+{
+    auto* room = new QSpacerItem(TitleWidth(box.windowTitle()), 0);
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()); grid != nullptr) {
+        grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
+    } else {
+        box.layout()->addItem(room); // the layout owns it
     }
 }
 
@@ -111,16 +145,18 @@ QWidget* FormMessages::Window() const
 Reply FormMessages::ShowBox(const std::string& text, Icon icon, Buttons buttons, const std::string& title)
 {
     QMessageBox box(Window());
+    box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(QString::fromStdString(title));
     box.setText(Shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     box.setIcon(PictureOf(icon));
     const std::vector<Reply> replies = RepliesOf(buttons);
     for (const Reply reply : replies) {
-        box.addButton(ButtonOf(reply));
+        box.addButton(ButtonOf(reply))->setText(CaptionOf(reply));
     }
     box.setDefaultButton(ButtonOf(EnterReply(buttons)));
     box.setEscapeButton(ButtonOf(SafeReply(buttons)));
+    WidenToTitle(box);
     const int pressed = box.exec();
     const auto given = std::find_if(replies.begin(), replies.end(),
                                     [pressed](Reply reply) { return ButtonOf(reply) == pressed; });
@@ -131,9 +167,13 @@ std::optional<std::string> FormMessages::ShowInputBox(const std::string& prompt,
                                                       const std::string& initial)
 {
     QInputDialog box(Window());
+    box.setObjectName(QStringLiteral("InputBox"));
     box.setWindowTitle(QString::fromStdString(title));
     SetPrompt(box, Shortened(prompt));
+    box.setOkButtonText(CaptionOf(Reply::Ok));
+    box.setCancelButtonText(CaptionOf(Reply::Cancel));
     box.setTextValue(QString::fromStdString(initial));
+    WidenToTitle(box);
     if (box.exec() != QDialog::Accepted) {
         return std::nullopt;
     }

@@ -1,6 +1,7 @@
 #include "app/FormProgress.h"
 
 #include "app/FormFont.h"
+#include "app/TitleWidth.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -16,7 +17,7 @@ namespace {
 
 constexpr int BarLength = 1000;
 constexpr int MillisecondsBetweenMoves = 50;
-constexpr int BoxWidth = 360; // as narrow as its label, it would cut its title
+constexpr int BoxWidth = 360; // that of a usual label, so that the bar is not as short as a short one
 
 int BarPosition(std::int64_t done, std::int64_t total)
 {
@@ -57,8 +58,8 @@ void FormProgress::Open()
     m_dialog = std::make_unique<QProgressDialog>(m_window);
     m_dialog->setObjectName(QStringLiteral("ProgressBox"));
     m_dialog->setFont(FormFont());
-    m_dialog->setMinimumWidth(BoxWidth);
     m_dialog->setWindowTitle(QStringLiteral("Lodestar Advisor"));
+    m_dialog->setMinimumWidth(std::max(BoxWidth, TitleWidth(m_dialog->windowTitle())));
     m_dialog->setWindowModality(Qt::ApplicationModal);
     auto* label = new QLabel(m_box.label);
     label->setTextFormat(Qt::PlainText);
@@ -72,6 +73,7 @@ void FormProgress::Open()
     m_dialog->setAutoClose(false);
     // Escape is the cancel button's shortcut only while the box is active; before that it closes the box.
     connect(m_dialog.get(), &QDialog::rejected, m_dialog.get(), &QProgressDialog::cancel);
+    m_dialog->setCancelButtonText(QStringLiteral("&Cancel"));
     if (!m_box.canCancel) {
         m_dialog->setCancelButton(nullptr);
         m_dialog->installEventFilter(this);

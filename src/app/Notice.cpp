@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace ls {
 
@@ -19,6 +20,7 @@ void ShowNotice(QWidget* window, const std::string& text)
     box->setText(QString::fromStdString(text));
     box->setIcon(QMessageBox::Warning);
     box->setStandardButtons(QMessageBox::Ok);
+    box->button(QMessageBox::Ok)->setText(QStringLiteral("&OK")); // with its letter on every desktop
     box->setWindowModality(Qt::NonModal);
     box->show();
 }

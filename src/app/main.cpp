@@ -3,6 +3,7 @@
 #include "app/AskRecoveryBox.h"
 #include "app/FormFont.h"
 #include "app/FormMessages.h"
+#include "app/FormStyle.h"
 #include "app/Global.h"
 #include "app/JournalKeeper.h"
 #include "app/Notice.h"
@@ -30,6 +31,7 @@ constexpr int EndedByFault = 4;
 void SetUpApplication()
 {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    ls::SetFormStyle();
     QApplication::setFont(ls::FormFont());
     QApplication::setApplicationName(QStringLiteral("lsadvisor"));
     QApplication::setApplicationVersion(QStringLiteral(LS_VERSION));

@@ -18,6 +18,8 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace ls {
 
 namespace {
@@ -88,6 +90,10 @@ void LgEdForm::SetUpLists()
 void LgEdForm::SetUpBoxes()
 {
     SetFixedPitch(*m_ui->LogicTextbox);
+    for (QPlainTextEdit* box : {m_ui->VQuestionBox, m_ui->VCAnswerBox}) {
+        constexpr int shownLines = 6; // with its frame a little less
+        box->setFixedHeight(std::max(box->minimumHeight(), shownLines * box->fontMetrics().lineSpacing()));
+    }
     m_ui->VQuestionBox->installEventFilter(this);
     m_ui->VCAnswerBox->installEventFilter(this);
     const TextBoxCommands::Items items{m_ui->UndoItem, m_ui->RedoItem, m_ui->SelectAllItem, m_ui->FindItem,

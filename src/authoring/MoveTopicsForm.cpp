@@ -87,8 +87,8 @@ void MoveTopicsForm::TakeTopics()
     m_ui->MoveToList->setFocus();
     m_ui->InstructionLabel->setBuddy(m_ui->MoveToList);
     m_ui->InstructionLabel->setText(
-        QStringLiteral("Step 2: Pick the topic that the item(s) will be moved after."));
-    m_ui->DoneButton->setText(QStringLiteral("Done"));
+        QStringLiteral("Step 2: &Pick the topic that the item(s) will be moved after."));
+    m_ui->DoneButton->setText(QStringLiteral("&Done"));
 }
 
 void MoveTopicsForm::TakeTarget()

@@ -2,22 +2,24 @@
 
 #include "app/FormFont.h"
 #include "app/Global.h"
+#include "app/Mnemonic.h"
 #include "authoring/InfoForm.h"
 #include "base/DdeServer.h"
 #include "base/ProgramEnd.h"
 #include "browser/HelpPages.h"
 #include "files/FileChooser.h"
 #include "files/FileFormRules.h"
+#include "files/FitFileForm.h"
 #include "files/OpenForm.h"
 #include "files/PathText.h"
 #include "files/ProgramSelector.h"
+#include "reader/ButtonIcons.h"
 #include "ui_FileForm.h"
 
 #include <QApplication>
 #include <QCompleter>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -27,6 +29,7 @@ namespace {
 
 constexpr int TimerMilliseconds = 10;
 constexpr const char* HelpPage = "Lodestar_Open.htm";
+constexpr QStringView TakenLetters = u"BUSLOCI"; // by the captions that the form always has
 
 } // namespace
 
@@ -36,8 +39,9 @@ FileForm::FileForm(QWidget* parent, Global& global, const Seams& seams, const Fo
 {
     setFont(FormFont());
     m_ui->setupUi(this);
+    resize(FitFileForm(*m_ui, size()));
     setModal(true);
-    m_ui->HelpButton->setIcon(style()->standardIcon(QStyle::SP_DialogHelpButton));
+    m_ui->HelpButton->setIcon(ButtonIcon(ButtonPicture::QuestionMark));
     m_timer1->setObjectName(QStringLiteral("Timer1"));
     m_timer1->setInterval(TimerMilliseconds);
     m_ui->FilenameBox->setCompleter(
@@ -69,8 +73,9 @@ void FileForm::Form_Load()
     m_helpLeft = m_ui->HelpButton->x();
     const FileFormView view = LoadFileForm(m_global.fileDialog, m_global.settings, m_seams);
     setWindowTitle(PathText(view.caption));
-    m_ui->TitleLabel->setText(PathText(view.title));
-    m_ui->DefaultLabel->setText(PathText(view.defaultLabel));
+    m_ui->TitleLabel->setText(WithMnemonic(PathText(view.title), TakenLetters));
+    m_defaultLabel = PathText(view.defaultLabel);
+    ShowDefaultFolder();
     m_ui->InfoButton->setVisible(view.showInfo);
     m_ui->HelpButton->setEnabled(HasHelpPage(HelpPage, m_seams));
     if (!view.showSharing) {
@@ -105,6 +110,19 @@ void FileForm::Form_Resize()
     m_ui->BrowseButton->move(m_browseLeft + extra, m_ui->BrowseButton->y());
     m_ui->HelpButton->move(m_helpLeft + extra, m_ui->HelpButton->y());
     m_ui->FilenameBox->resize(m_nameWidth + extra, m_ui->FilenameBox->height());
+    for (QWidget* label : {m_ui->TitleLabel, m_ui->DefaultLabel}) {
+        label->resize(m_designWidth + extra - 2 * label->x(), label->height());
+    }
+    ShowDefaultFolder();
+}
+
+// A folder that is too long for the form loses its middle, and stands in the tool tip.
+void FileForm::ShowDefaultFolder()
+{
+    QLabel& label = *m_ui->DefaultLabel;
+    const QString shown = label.fontMetrics().elidedText(m_defaultLabel, Qt::ElideMiddle, label.width());
+    label.setText(shown);
+    label.setToolTip(shown == m_defaultLabel ? QString() : m_defaultLabel);
 }
 
 void FileForm::resizeEvent(QResizeEvent* event)

@@ -42,6 +42,7 @@ private:
     void Form_Load();
     void HideSharing();
     void Form_Resize();
+    void ShowDefaultFolder();
     void OKButton_Click();
     void BrowseButton_Click();
     void HelpButton_Click();
@@ -66,6 +67,7 @@ private:
     int m_browseLeft = 0;
     int m_nameWidth = 0;
     int m_helpLeft = 0;
+    QString m_defaultLabel;
 };
 
 } // namespace ls

@@ -66,6 +66,7 @@ void BookCommands::AskForFile()
 void BookCommands::OpenChosenFile()
 {
     ForgetBook();
+    m_navigation.ForgetHistory();
     m_book.BookPath = PathOfChosenBook(m_dialog, m_book.WorkDir);
     ClearView();
     if (OpenBookPath()) {
@@ -176,6 +177,7 @@ void BookCommands::NewItem_Click()
 {
     if (m_seams.messages.MsgBox("Start over?", Icon::Question, Buttons::OkCancel) == Reply::Ok) {
         ForgetBook();
+        m_navigation.ForgetHistory();
         ClearView();
     }
 }

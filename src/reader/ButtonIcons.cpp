@@ -35,6 +35,15 @@ QPainterPath GlobePath()
     return path;
 }
 
+QPainterPath QuestionMarkPath()
+{
+    QPainterPath path(QPointF(5, 5.5));
+    path.cubicTo(5, 1.5, 11, 1.5, 11, 5.5);
+    path.cubicTo(11, 8, 8, 7.5, 8, 10.25);
+    path.addEllipse(QPointF(8, 13.5), 0.25, 0.25);
+    return path;
+}
+
 QPainterPath PathOf(ButtonPicture picture)
 {
     switch (picture) {
@@ -42,6 +51,8 @@ QPainterPath PathOf(ButtonPicture picture)
         return QTransform(-1, 0, 0, 1, Grid, 0).map(ArrowRightPath());
     case ButtonPicture::ArrowRight:
         return ArrowRightPath();
+    case ButtonPicture::QuestionMark:
+        return QuestionMarkPath();
     case ButtonPicture::Globe:
         break;
     }

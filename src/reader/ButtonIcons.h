@@ -10,7 +10,8 @@ enum class ButtonPicture
 {
     ArrowLeft,
     ArrowRight,
-    Globe
+    Globe,
+    QuestionMark
 };
 
 [[nodiscard]] QIcon ButtonIcon(ButtonPicture picture);

@@ -9,6 +9,7 @@
 #include "browser/WebReferral.h"
 #include "check/CheckItem.h"
 #include "files/ProgramSelector.h"
+#include "reader/FitMainForm.h"
 #include "reader/MainFormView.h"
 #include "render/ExportItem.h"
 #include "render/PrintItem.h"
@@ -61,7 +62,7 @@ QSize MainForm::SetUpUi()
 {
     setFont(FormFont());
     m_ui->setupUi(this);
-    const QSize inner = size();
+    const QSize inner = FitMainForm(*m_ui, size());
     resize(inner + QSize(0, m_ui->menubar->sizeHint().height()));
     return inner;
 }
@@ -99,6 +100,9 @@ void MainForm::ConnectItems()
     connect(m_ui->CheckItem, &QAction::triggered, this, &MainForm::CheckItem_Click);
     connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
     connect(m_ui->ContentsItem, &QAction::triggered, this, &MainForm::ContentsItem_Click);
+    connect(m_ui->GoBackItem, &QAction::triggered, this, &MainForm::GoBackItem_Click);
+    connect(m_ui->GoForwardItem, &QAction::triggered, this, &MainForm::GoForwardItem_Click);
+    connect(m_ui->PickTopicItem, &QAction::triggered, this, &MainForm::PickTopicItem_Click);
     connect(m_ui->HelpItem, &QAction::triggered, this, &MainForm::HelpItem_Click);
     connect(m_ui->AboutItem, &QAction::triggered, this, &MainForm::AboutItem_Click);
     m_ui->HelpItem->setEnabled(HasHelpPage(HelpPage, m_seams));
@@ -116,6 +120,7 @@ void MainForm::Run(const std::function<void()>& command)
         const QScopedValueRollback<bool> running(m_running, true);
         RunGuarded(command, m_seams);
     }
+    EnableHistory();
     Q_EMIT CommandDone();
     if (m_seams.end.Ended()) {
         close();
@@ -123,6 +128,12 @@ void MainForm::Run(const std::function<void()>& command)
     if (std::exchange(m_resizedMeanwhile, false)) {
         m_afterResize.start();
     }
+}
+
+void MainForm::EnableHistory()
+{
+    m_ui->GoBackItem->setEnabled(m_navigation.CanGoBack());
+    m_ui->GoForwardItem->setEnabled(m_navigation.CanGoForward());
 }
 
 void MainForm::Form_Load(const CommandLine& commandLine, const std::function<bool()>& recover)
@@ -222,6 +233,21 @@ void MainForm::AlphaItem_Click()
 void MainForm::ContentsItem_Click()
 {
     Run([this] { m_navigation.ContentsItem_Click(); });
+}
+
+void MainForm::GoBackItem_Click()
+{
+    Run([this] { m_navigation.GoBackItem_Click(); });
+}
+
+void MainForm::GoForwardItem_Click()
+{
+    Run([this] { m_navigation.GoForwardItem_Click(); });
+}
+
+void MainForm::PickTopicItem_Click()
+{
+    m_ui->TopicList->setFocus();
 }
 
 void MainForm::NewItem_Click()

@@ -91,8 +91,12 @@ private:
     void AboutItem_Click();
     void AlphaItem_Click();
     void ContentsItem_Click();
+    void GoBackItem_Click();
+    void GoForwardItem_Click();
+    void PickTopicItem_Click();
 
     void Run(const std::function<void()>& command);
+    void EnableHistory();
     bool FilterList(QObject* watched, QEvent* event);
 
     std::unique_ptr<Ui::MainForm> m_ui;

@@ -91,6 +91,7 @@ void Navigation::Show(const std::string& name, Count16 number)
     m_view.ShowLines(m_shown);
     if (!m_book.IsPlainText()) {
         m_view.SetDefault(DefaultButton::Done);
+        m_history.Visit(m_book);
     }
 }
 
@@ -119,6 +120,21 @@ void Navigation::GoToItem(int index)
     m_view.SelectItem(index);
     TopicList_Change();
     GoToButton_Click();
+}
+
+// One that cannot be shown is told of by its message, and does not stand in the way of those behind it.
+void Navigation::ShowFromHistory(int number)
+{
+    if (number == 0) {
+        return;
+    }
+    m_book.CurrentTopicName = WithoutBrackets(m_book.TopicNames(static_cast<std::size_t>(number)));
+    m_book.CurrentTopicNo = number;
+    FillTopicList();
+    GoToCurrentTopic();
+    if (m_book.CurrentTopicName.empty()) {
+        m_history.DropCurrent();
+    }
 }
 
 void Navigation::AdvisorButton_Click()

@@ -3,6 +3,7 @@
 #include "base/Count16.h"
 #include "base/Seams.h"
 #include "book/Book.h"
+#include "reader/TopicHistory.h"
 #include "render/ShowTopic.h"
 
 #include <string>
@@ -35,6 +36,16 @@ public:
     void NextItem_Click();
     void PrevTopic_Click();
 
+    /// Show the topic that was shown before the one on show, and go the way back: the order in which topics
+    /// were shown, not that of the list. Nothing happens where there is none.
+    void GoBackItem_Click() { ShowFromHistory(m_history.GoBack(m_book)); }
+    void GoForwardItem_Click() { ShowFromHistory(m_history.GoForward(m_book)); }
+    [[nodiscard]] bool CanGoBack() const { return m_history.TopicBehind(m_book) != 0; }
+    [[nodiscard]] bool CanGoForward() const { return m_history.TopicAhead(m_book) != 0; }
+
+    /// Another book is to be opened or begun.
+    void ForgetHistory() { m_history.Clear(); }
+
     /// Runs the advisor on the topic on show, where it has a logic block in the file.
     void AdvisorButton_Click();
 
@@ -59,10 +70,12 @@ private:
     void ChangeOrder(bool alphabetic);
     void Show(const std::string& name, Count16 number);
     void GoToItem(int index);
+    void ShowFromHistory(int number);
 
     Book& m_book;
     Seams m_seams;
     MainView& m_view;
+    TopicHistory m_history;
     ShownTopic m_shown; // kept for the memory of its lines
 };
 

@@ -6,10 +6,9 @@
 #include "base/ProgramEnd.h"
 #include "browser/HelpPages.h"
 #include "files/ProgramSelector.h"
+#include "reader/ButtonIcons.h"
 #include "render/PrtFormRules.h"
 #include "ui_PrtForm.h"
-
-#include <QStyle>
 
 namespace ls {
 
@@ -24,7 +23,7 @@ PrtForm::PrtForm(QWidget* parent, Global& global, const Seams& seams, const Form
 {
     setFont(FormFont());
     m_ui->setupUi(this);
-    m_ui->HelpButton->setIcon(style()->standardIcon(QStyle::SP_DialogHelpButton));
+    m_ui->HelpButton->setIcon(ButtonIcon(ButtonPicture::QuestionMark));
     Form_Load();
     connect(m_ui->PrinterCombo, &QComboBox::activated, this, &PrtForm::PrinterCombo_Click);
     connect(m_ui->OKButton, &QPushButton::clicked, this, &PrtForm::OKButton_Click);

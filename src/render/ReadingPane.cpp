@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPalette>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -31,12 +32,28 @@ Colour ColourOf(const QColor& colour)
             static_cast<std::uint8_t>(colour.blue())};
 }
 
+// The page is white on every desktop, so what is drawn on it must not take a colour of a dark one.
+QPalette PageColours()
+{
+    QPalette page;
+    for (const QPalette::ColorRole paper : {QPalette::Window, QPalette::Base}) {
+        page.setColor(paper, Qt::white);
+    }
+    for (const QPalette::ColorRole ink : {QPalette::WindowText, QPalette::Text}) {
+        page.setColor(ink, Qt::black);
+    }
+    page.setColor(QPalette::Highlight, QColor(0, 95, 170));
+    page.setColor(QPalette::HighlightedText, Qt::white);
+    return page;
+}
+
 } // namespace
 
 ReadingPane::ReadingPane(QWidget* parent)
     : QWidget(parent), m_typeSize(NormalTypeSize), m_metrics(MeasureCells(logicalDpiY()))
 {
     InstallPaneAccessible();
+    setPalette(PageColours());
     setCursor(Qt::IBeamCursor);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -72,7 +72,7 @@ private:
         } else if (event.Has("advice") || event.Has("text")) {
             EXPECT_EQ(Text(window), WithNewlines(event["text"].String()));
         } else if (event.Has("button")) {
-            EXPECT_EQ(Find<QPushButton>(window, "NextButton")->text().toStdString(),
+            EXPECT_EQ(Find<QPushButton>(window, "NextButton")->text().remove(u'&').toStdString(),
                       event["button"].String());
         }
     }

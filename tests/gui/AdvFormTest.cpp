@@ -50,7 +50,10 @@ struct AdvFormTest : MainFormFixture
     {
         return Find<QPlainTextEdit>(window, "MessageBox")->toPlainText();
     }
-    static QString Caption(const QWidget& window) { return Find<QPushButton>(window, "NextButton")->text(); }
+    static QString Caption(const QWidget& window)
+    {
+        return Find<QPushButton>(window, "NextButton")->text().remove(u'&');
+    }
 
     static Strings Choices(const QWidget& window)
     {

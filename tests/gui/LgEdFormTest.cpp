@@ -132,7 +132,7 @@ TEST_F(LgEdFormDesign, mnemonics_areAllDifferent)
                 << letter << ": " << caption.toStdString() << " and " << owners[letter];
         }
     }
-    EXPECT_EQ(owners.size(), 15U);
+    EXPECT_EQ(owners.size(), 18U);
 }
 
 TEST_F(LgEdFormDesign, buddies_takeTheFocusByTheirLabels)

@@ -47,6 +47,17 @@ std::string ButtonNames(QMessageBox::StandardButtons buttons)
     return names == "OK" ? "" : "|" + names;
 }
 
+// A caption as a user reads it: "&" only underlines, and "&&" is one.
+QString WithoutMark(const QString& caption)
+{
+    QString read;
+    for (qsizetype at = 0; at < caption.size(); ++at) {
+        at += caption[at] == u'&' && at + 1 < caption.size() ? 1 : 0;
+        read += caption[at];
+    }
+    return read;
+}
+
 QMessageBox::StandardButton ButtonOf(Reply reply)
 {
     switch (reply) {
@@ -103,8 +114,8 @@ std::string Describe(const QWidget& window)
     }
     if (const auto* box = qobject_cast<const QInputDialog*>(&window); box != nullptr) {
         const auto* prompt = box->findChild<QLabel*>();
-        return "input|" + title + "|" + (prompt != nullptr ? prompt->text().toStdString() : "") + "|" +
-               box->textValue().toStdString();
+        return "input|" + title + "|" + (prompt != nullptr ? WithoutMark(prompt->text()).toStdString() : "") +
+               "|" + box->textValue().toStdString();
     }
     return "form|" + window.objectName().toStdString() + "|" + title;
 }

@@ -42,8 +42,14 @@ struct MoveTopicsFormTest : testing::Test
 
     [[nodiscard]] QListWidget& From() const { return *Find<QListWidget>(*form, "MoveFromList"); }
     [[nodiscard]] QListWidget& To() const { return *Find<QListWidget>(*form, "MoveToList"); }
-    [[nodiscard]] QString Instruction() const { return Find<QLabel>(*form, "InstructionLabel")->text(); }
-    [[nodiscard]] QString Caption() const { return Find<QPushButton>(*form, "DoneButton")->text(); }
+    [[nodiscard]] QString Instruction() const
+    {
+        return Find<QLabel>(*form, "InstructionLabel")->text().remove(u'&');
+    }
+    [[nodiscard]] QString Caption() const
+    {
+        return Find<QPushButton>(*form, "DoneButton")->text().remove(u'&');
+    }
     void Done() { test::Press(*form, "DoneButton"); }
     Strings Boxes() { return world.messages.Take(); }
 
@@ -80,7 +86,7 @@ TEST_F(MoveTopicsFormTest, design_titleCaptionsAndTabOrder)
     EXPECT_EQ(Instruction(),
               QStringLiteral("Step 1: Pick the topics to move to a new position in the list."));
     EXPECT_EQ(Caption(), QStringLiteral("Next"));
-    EXPECT_EQ(Find<QPushButton>(*form, "CancelButton")->text(), QStringLiteral("Cancel"));
+    EXPECT_EQ(Find<QPushButton>(*form, "CancelButton")->text().remove(u'&'), QStringLiteral("Cancel"));
     EXPECT_TRUE(From().isVisible());
     EXPECT_FALSE(To().isVisible());
     for (const char* name : {"MoveFromList", "DoneButton", "CancelButton", "MoveFromList"}) {
@@ -342,7 +348,7 @@ TEST_F(ReorderItemTest, plainTextFile_hasNothingToMove)
     script.Answer(Reply::Ok);
     Start(Write("Note.TXT", "just text\r\n"));
     script.Do([](QWidget& window) {
-        EXPECT_EQ(Find<QLabel>(window, "InstructionLabel")->text(),
+        EXPECT_EQ(Find<QLabel>(window, "InstructionLabel")->text().remove(u'&'),
                   QStringLiteral("There are no topics available to move."));
         test::Press(window, "CancelButton");
     });

@@ -78,7 +78,8 @@ TEST_F(SaveItemFormTest, save_proposedName_isSavedAndOpen)
             EXPECT_EQ(test::Find<QComboBox>(chooser, "FilenameBox")->currentText().toStdString(),
                       Path("Three (001).IDA"));
             EXPECT_EQ(test::Find<QComboBox>(chooser, "FilenameBox")->count(), 0);
-            EXPECT_EQ(test::Find<QLabel>(chooser, "TitleLabel")->text(), QStringLiteral("Save the book as:"));
+            EXPECT_EQ(test::Find<QLabel>(chooser, "TitleLabel")->text().remove(u'&'),
+                      QStringLiteral("Save the book as:"));
             EXPECT_FALSE(test::Find<QWidget>(chooser, "SharingFrame")->isVisible());
             test::TakePicture(chooser, "main-save");
             Press(chooser, "OKButton");

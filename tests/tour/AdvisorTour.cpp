@@ -34,7 +34,7 @@ QString TextIn(const QWidget* window)
 bool AsksMore(const QWidget* window)
 {
     const auto* next = In<QPushButton>(window, "NextButton");
-    return next != nullptr && next->text() == QStringLiteral("Next");
+    return next != nullptr && next->text() == QStringLiteral("&Next");
 }
 
 } // namespace
@@ -125,7 +125,7 @@ Tour::Fault Tour::LookAtAdvice()
         return QStringLiteral("the list is still there");
     if (TextIn(m_form).isEmpty())
         return QStringLiteral("there is no advice");
-    if (next->text() != QStringLiteral("Close") || !next->hasFocus())
+    if (next->text() != QStringLiteral("&Close") || !next->hasFocus())
         return QStringLiteral("the button does not offer to close");
     return {};
 }

@@ -152,7 +152,7 @@ bool Tour::WalkProperties()
 
 Tour::Fault Tour::LookAtForm()
 {
-    return m_form != nullptr && m_form->isActiveWindow()
+    return m_form != nullptr && QTest::qWaitForWindowActive(m_form)
                ? Fault()
                : QStringLiteral("the form is not the active window");
 }

@@ -77,6 +77,8 @@ private:
     Fault FindText();
     Fault EnlargeType();
 
+    Fault PressOk();
+
     Fault LookAtEditor();
     Fault PickVariable();
     Fault PickChoice();
@@ -85,6 +87,12 @@ private:
     [[nodiscard]] bool TakeAuthor();
     [[nodiscard]] bool TakePrint();
     [[nodiscard]] bool WalkPrint();
+    [[nodiscard]] bool TakeFiles();
+    [[nodiscard]] bool WalkItem(const char* menu, const char* item, const char* form, bool (Tour::*walk)());
+    [[nodiscard]] bool WalkStartOver();
+    [[nodiscard]] bool WalkFileForm();
+    [[nodiscard]] bool WalkSelector();
+    [[nodiscard]] bool WalkTitle();
     [[nodiscard]] bool TakeCheck();
     [[nodiscard]] bool WalkCheck();
     [[nodiscard]] bool TakeFind();

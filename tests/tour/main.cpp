@@ -1,7 +1,9 @@
-// lstour: a walk through the real main window. lstour PICTURE_FOLDER BOOK [/NAME=VALUE...]
+// lstour: a walk through the real main window. lstour [--dark] PICTURE_FOLDER BOOK [/NAME=VALUE...]
 
 #include "Tour.h"
+#include "app/FormFont.h"
 #include "app/FormMessages.h"
+#include "app/FormStyle.h"
 #include "app/Global.h"
 #include "app/ProgramIcon.h"
 #include "platform/Console.h"
@@ -13,6 +15,7 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QPalette>
 #include <QtTest/qtestsystem.h>
 
 #include <cstdio>
@@ -21,6 +24,26 @@
 namespace {
 
 constexpr int WrongUsage = 2;
+
+// A desktop in the dark, as many users have theirs.
+void DarkenDesktop()
+{
+    const QColor window(49, 54, 59);
+    const QColor text(239, 240, 241);
+    QPalette dark(window); // with its shades for edges and shadows
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        dark.setColor(role, text);
+        dark.setColor(QPalette::Disabled, role, QColor(130, 135, 140));
+    }
+    dark.setColor(QPalette::Base, QColor(35, 38, 41));
+    dark.setColor(QPalette::AlternateBase, QColor(42, 46, 50));
+    dark.setColor(QPalette::ToolTipBase, window);
+    dark.setColor(QPalette::PlaceholderText, QColor(160, 165, 170));
+    dark.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    dark.setColor(QPalette::HighlightedText, QColor(35, 38, 41));
+    QApplication::setPalette(dark);
+}
 
 // The window as the program makes it, but worked by the tour instead of a user.
 bool TakeTour(const QDir& pictures, const std::vector<std::string>& arguments)
@@ -55,11 +78,18 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    ls::SetFormStyle();
+    QApplication::setFont(ls::FormFont());
     QApplication::setWindowIcon(ls::ProgramIcon());
     std::vector<std::string> arguments = ls::ProgramArguments(argc, argv);
+    if (!arguments.empty() && arguments.front() == "--dark") {
+        arguments.erase(arguments.begin());
+        DarkenDesktop();
+    }
     const QDir pictures(arguments.empty() ? QString() : QString::fromLocal8Bit(arguments.front().c_str()));
     if (arguments.size() < 2 || !pictures.exists()) {
-        std::fputs("usage: lstour PICTURE_FOLDER BOOK [/NAME=VALUE...]; the folder must exist\n", stderr);
+        std::fputs("usage: lstour [--dark] PICTURE_FOLDER BOOK [/NAME=VALUE...]; the folder must exist\n",
+                   stderr);
         return WrongUsage;
     }
     arguments.erase(arguments.begin());

@@ -1,0 +1,242 @@
+// What the keyboard needs in every window: a letter for Alt at everything that is worked, each letter once,
+// and a Tab key that goes as the eye does.
+
+#include "gui/EveryForm.h"
+
+#include <QGroupBox>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+
+#include <gtest/gtest-spi.h>
+
+#include <map>
+
+namespace ls {
+namespace {
+
+struct FormKeysTest : EveryForm
+{
+};
+
+// Keys and who has them. A second owner fails the test.
+class KeyTable
+{
+public:
+    explicit KeyTable(std::string place) : m_place(std::move(place)) {}
+
+    void Add(const QKeySequence& key, const QString& owner)
+    {
+        const auto [at, added] = m_owners.emplace(key.toString(), owner.toStdString());
+        EXPECT_TRUE(added) << m_place << ": " << key.toString().toStdString() << " is for " << at->second
+                           << " and " << owner.toStdString();
+    }
+
+    void AddLetter(const QString& caption, const QString& owner)
+    {
+        const QKeySequence key = QKeySequence::mnemonic(caption);
+        EXPECT_FALSE(key.isEmpty()) << m_place << ": " << owner.toStdString() << " has no letter in '"
+                                    << caption.toStdString() << "'";
+        if (!key.isEmpty()) {
+            Add(key, owner);
+        }
+    }
+
+private:
+    std::string m_place;
+    std::map<QString, std::string> m_owners;
+};
+
+QString NameOf(const QWidget& control)
+{
+    return control.objectName().isEmpty() ? QString::fromLatin1(control.metaObject()->className())
+                                          : control.objectName();
+}
+
+// Controls that the form hides are to be free of clashes with those that it shows: they may come.
+void AddControls(const QWidget& form, KeyTable& keys)
+{
+    for (const auto* button : form.findChildren<QAbstractButton*>()) {
+        if (button->objectName().startsWith(QStringLiteral("qt_")) ||
+            button->inherits("QLineEditIconButton")) {
+            continue; // the toolkit's own: for a menu bar that is too narrow, and to empty a box
+        }
+        if (!button->text().isEmpty()) {
+            keys.AddLetter(button->text(), NameOf(*button));
+        } else {
+            EXPECT_FALSE(button->shortcut().isEmpty()) << NameOf(*button).toStdString() << " has no key";
+            keys.Add(button->shortcut(), NameOf(*button));
+        }
+    }
+    for (const auto* label : form.findChildren<QLabel*>()) {
+        if (label->buddy() != nullptr && label->buddy()->isVisibleTo(&form)) {
+            keys.AddLetter(label->text(), NameOf(*label));
+        }
+    }
+    for (const auto* group : form.findChildren<QGroupBox*>()) {
+        keys.AddLetter(group->title(), NameOf(*group));
+    }
+}
+
+void AddMenus(const std::string& name, const QWidget& form, KeyTable& keys)
+{
+    for (const auto* bar : form.findChildren<QMenuBar*>()) {
+        for (const QAction* menu : bar->actions()) {
+            keys.AddLetter(menu->text(), menu->menu()->objectName());
+        }
+    }
+    for (const auto* menu : form.findChildren<QMenu*>()) {
+        KeyTable letters(name + ", " + menu->objectName().toStdString());
+        for (const QAction* item : menu->actions()) {
+            if (!item->isSeparator()) {
+                letters.AddLetter(item->text(), item->objectName());
+            }
+        }
+    }
+    for (const auto* item : form.findChildren<QAction*>()) {
+        if (!item->shortcut().isEmpty() && !item->objectName().isEmpty()) {
+            keys.Add(item->shortcut(), item->objectName());
+        }
+    }
+}
+
+TEST_F(FormKeysTest, everyForm_hasALetterForEverythingAndEachOnce)
+{
+    int forms = 0;
+    ForEach([&forms](const std::string& name, QWidget& window) {
+        SCOPED_TRACE(name);
+        KeyTable keys(name);
+        AddControls(window, keys);
+        AddMenus(name, window, keys);
+        ++forms;
+    });
+    EXPECT_EQ(forms, 24) << "thirteen forms, some of them looked at twice, and the boxes";
+}
+
+TEST_F(FormKeysTest, letterThatStandsTwice_isFound)
+{
+    KeyTable keys("a form");
+    keys.AddLetter(QStringLiteral("&Close"), QStringLiteral("first"));
+    EXPECT_NONFATAL_FAILURE(keys.AddLetter(QStringLiteral("&Colour"), QStringLiteral("second")),
+                            "Alt+C is for first and second");
+    EXPECT_NONFATAL_FAILURE(keys.AddLetter(QStringLiteral("Colour"), QStringLiteral("third")),
+                            "third has no letter");
+}
+
+QString ReadText(const char* path)
+{
+    QFile file(QString::fromLatin1(path));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
+    return QString::fromUtf8(file.readAll());
+}
+
+// The sheet of the help page, without its tags, and that of the guide.
+QString SheetOfHelp()
+{
+    QString page = ReadText(LS_HELP "/Lodestar_Reader.htm");
+    page = page.mid(page.indexOf(QStringLiteral("<h2 id=\"keys\">")));
+    page.replace(QStringLiteral("&larr;"), QStringLiteral("Left"));
+    page.replace(QStringLiteral("&rarr;"), QStringLiteral("Right"));
+    return page.remove(QRegularExpression(QStringLiteral("<[^>]*>")));
+}
+
+QString SheetOfGuide()
+{
+    const QString guide = ReadText(LS_SAMPLES "/Guide.IDA");
+    return guide.mid(guide.indexOf(QStringLiteral("[Keys]\r\n")));
+}
+
+// "Ctrl+PgUp" as a reader knows it.
+QString KeyAsWritten(const QKeySequence& key)
+{
+    return key.toString()
+        .replace(QStringLiteral("PgUp"), QStringLiteral("Page Up"))
+        .replace(QStringLiteral("PgDown"), QStringLiteral("Page Down"));
+}
+
+TEST_F(FormKeysTest, sheetsOfKeys_nameEveryKeyOfMenusAndButtons)
+{
+    const QString help = SheetOfHelp();
+    const QString guide = SheetOfGuide();
+    int keys = 0;
+    const auto look = [&](const QKeySequence& key) {
+        ++keys;
+        EXPECT_TRUE(help.contains(KeyAsWritten(key))) << "help page: " << key.toString().toStdString();
+        EXPECT_TRUE(guide.contains(KeyAsWritten(key))) << "guide: " << key.toString().toStdString();
+    };
+    ForEach([&look](const std::string& /*name*/, QWidget& window) {
+        for (const auto* item : window.findChildren<QAction*>()) {
+            if (!item->shortcut().isEmpty() && !item->objectName().isEmpty()) {
+                look(item->shortcut());
+            }
+        }
+        for (const auto* button : window.findChildren<QAbstractButton*>()) {
+            if (button->text().isEmpty() && !button->shortcut().isEmpty()) {
+                look(button->shortcut());
+            }
+        }
+    });
+    EXPECT_GT(keys, 20);
+}
+
+// The controls at which the Tab key stops, in its order.
+std::vector<QWidget*> TabStops(QWidget& form)
+{
+    std::vector<QWidget*> stops;
+    for (QWidget* control = form.nextInFocusChain(); control != &form;
+         control = control->nextInFocusChain()) {
+        if ((control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisibleTo(&form) &&
+            control->focusProxy() == nullptr && control->isEnabled() && control->window() == &form) {
+            stops.push_back(control);
+        }
+    }
+    return stops;
+}
+
+QRect PlaceIn(const QWidget& form, const QWidget& control)
+{
+    return {control.mapTo(&form, QPoint(0, 0)), control.size()};
+}
+
+bool Overlap(int start, int end, int otherStart, int otherEnd)
+{
+    return start < otherEnd && otherStart < end;
+}
+
+// What stands right of another in its row, or below it in its column, is read after it. Where neither holds,
+// as in two columns side by side, either may come first.
+bool IsReadBefore(const QRect& first, const QRect& second)
+{
+    const bool sameRow = Overlap(first.top(), first.bottom(), second.top(), second.bottom());
+    const bool sameColumn = Overlap(first.left(), first.right(), second.left(), second.right());
+    return (sameRow && first.right() <= second.left()) || (sameColumn && first.bottom() <= second.top());
+}
+
+TEST_F(FormKeysTest, tabKey_goesAsTheEyeDoes)
+{
+    ForEach([](const std::string& name, QWidget& window) {
+        const std::vector<QWidget*> stops = TabStops(window);
+        EXPECT_FALSE(stops.empty()) << name;
+        for (std::size_t i = 0; i < stops.size(); ++i) {
+            for (std::size_t later = i + 1; later < stops.size(); ++later) {
+                EXPECT_FALSE(IsReadBefore(PlaceIn(window, *stops[later]), PlaceIn(window, *stops[i])))
+                    << name << ": " << NameOf(*stops[later]).toStdString() << " comes after "
+                    << NameOf(*stops[i]).toStdString();
+            }
+        }
+    });
+}
+
+TEST_F(FormKeysTest, readingOrder_knowsRowsAndColumns)
+{
+    const QRect here(100, 100, 50, 20);
+    EXPECT_TRUE(IsReadBefore(here, here.translated(60, 5))) << "right of it";
+    EXPECT_TRUE(IsReadBefore(here, here.translated(10, 30))) << "below it";
+    EXPECT_FALSE(IsReadBefore(here, here.translated(-60, 0))) << "left of it";
+    EXPECT_FALSE(IsReadBefore(here, here.translated(0, -30))) << "above it";
+    EXPECT_FALSE(IsReadBefore(here, here.translated(60, -30))) << "the next column";
+}
+
+} // namespace
+} // namespace ls
