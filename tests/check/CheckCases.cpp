@@ -67,7 +67,7 @@ std::vector<CheckCase> ReadCheckCases()
 {
     std::vector<std::string> paths;
     for (const auto& entry : std::filesystem::directory_iterator(LS_TEST_DATA "/check")) {
-        paths.push_back(entry.path());
+        paths.push_back(entry.path().string());
     }
     std::sort(paths.begin(), paths.end());
     std::vector<CheckCase> cases;

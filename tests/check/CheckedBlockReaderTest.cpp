@@ -118,7 +118,7 @@ TEST(CheckedBlockReader, casesOfTheAdvisor_areReadAsTheLoaderReadsThem)
     for (const auto& entry : std::filesystem::directory_iterator(LS_TEST_DATA "/cases/advisor")) {
         if (entry.path().extension() == ".IDA") {
             SCOPED_TRACE(entry.path());
-            Compare(test::ReadWholeFile(entry.path()));
+            Compare(test::ReadWholeFile(entry.path().string()));
             ++books;
         }
     }

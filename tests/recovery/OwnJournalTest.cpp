@@ -17,7 +17,7 @@ struct OwnJournalTest : RecoveryFixture
         return reading.journal;
     }
 
-    long Writes()
+    std::ptrdiff_t Writes()
     {
         return std::count_if(files.log.begin(), files.log.end(),
                              [](const std::string& is) { return is.starts_with("write"); });

@@ -32,6 +32,11 @@ ScratchFolder::~ScratchFolder()
     fs::remove_all(m_path, ignored);
 }
 
+std::string ScratchFolder::operator/(const std::string& name) const
+{
+    return m_path + static_cast<char>(fs::path::preferred_separator) + name;
+}
+
 std::string ScratchFolder::Write(const std::string& name, const std::string& bytes) const
 {
     const fs::path path = *this / name;

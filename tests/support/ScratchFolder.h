@@ -17,7 +17,7 @@ public:
     [[nodiscard]] const std::string& Path() const { return m_path; }
 
     /// The full path of a name in the folder.
-    [[nodiscard]] std::string operator/(const std::string& name) const { return m_path + "/" + name; }
+    [[nodiscard]] std::string operator/(const std::string& name) const;
 
     /// Writes a file, in place of an older one, and makes the folders above it. Gives its full path.
     std::string Write(const std::string& name, const std::string& bytes) const;

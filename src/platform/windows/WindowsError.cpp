@@ -127,6 +127,10 @@ FileError ErrorOfPath(DWORD code, const std::wstring& path)
     if (maybeFolder && IsFolder(path)) {
         return MakeFileError(error::PathFileAccess);
     }
+    // The console of a program that has none: a path leads to no handle but that one.
+    if (code == ERROR_INVALID_HANDLE) {
+        return MakeFileError(error::DeviceUnavailable);
+    }
     const bool missing = code == ERROR_PATH_NOT_FOUND || code == ERROR_FILE_NOT_FOUND;
     if (missing && OnMissingDrive(path)) {
         return MakeFileError(error::DeviceUnavailable);

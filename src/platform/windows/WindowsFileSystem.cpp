@@ -94,6 +94,17 @@ std::string SearchPattern(const std::string& folder)
     return folder + (complete ? "*" : "\\*");
 }
 
+// Systems differ in what they say of a search below a file: that it is no folder, or that the name is bad.
+FileError ErrorOfSearch(DWORD code, const std::string& folder, const std::wstring& pattern)
+{
+    std::wstring wide;
+    if (code == ERROR_INVALID_NAME && ToWidePath(folder, wide).Ok() &&
+        ::GetFileAttributesW(wide.c_str()) != INVALID_FILE_ATTRIBUTES) {
+        return MakeFileError(error::PathNotFound);
+    }
+    return ErrorOfPath(code, pattern);
+}
+
 class Search
 {
 public:
@@ -225,7 +236,7 @@ FileError WindowsFileSystem::List(const std::string& folder, std::vector<FolderE
     if (!search.IsOpen()) {
         // Every folder has at least its "."; only a drive's root can be quite empty.
         const DWORD code = ::GetLastError();
-        return code == ERROR_FILE_NOT_FOUND ? FileError{} : ErrorOfPath(code, pattern);
+        return code == ERROR_FILE_NOT_FOUND ? FileError{} : ErrorOfSearch(code, folder, pattern);
     }
     do {
         AddEntry(search.Found(), entries);

@@ -124,7 +124,7 @@ Processes::Started WindowsProcesses::Start(const std::string& commandLine)
 {
     const LaunchLine launch = ToLaunchLine(commandLine);
     const std::optional<std::wstring> line = ToWide(launch.line);
-    if (launch.program.empty() || !line || commandLine.find('\0') != std::string::npos) {
+    if (launch.line.empty() || !line || commandLine.find('\0') != std::string::npos) {
         return {MakeFileError(error::InvalidCall), 0};
     }
     std::wstring program;

@@ -1,0 +1,10 @@
+# GTest::gtest and GTest::gtest_main: installed for this system; for another one they are built from the sources that
+# Debian's package googletest puts on the disk.
+if(NOT CMAKE_CROSSCOMPILING)
+  find_package(GTest REQUIRED)
+  return()
+endif()
+
+set(LS_GOOGLETEST /usr/src/googletest/googletest CACHE PATH "Sources of the test framework, for cross builds")
+enable_language(C)
+add_subdirectory(${LS_GOOGLETEST} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)

@@ -1,0 +1,63 @@
+// The fixture by the built program: what tests of the command line expect in process is expected of it, too.
+
+#include "CliFixture.h"
+
+#include "support/RunProgram.h"
+#include "support/ScratchFolder.h"
+
+#include <filesystem>
+
+namespace ls::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* Folder = "/work";
+
+void WriteAll(MemoryFileSystem& files, const ScratchFolder& folder)
+{
+    std::vector<FolderEntry> entries;
+    EXPECT_TRUE(files.List(Folder, entries).Ok());
+    for (const FolderEntry& entry : entries) {
+        folder.Write(entry.name, files[std::string(Folder) + "/" + entry.name]);
+    }
+}
+
+void ReadAll(MemoryFileSystem& files, const ScratchFolder& folder)
+{
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder.Path())) {
+        const std::string name = entry.path().filename().string();
+        files[std::string(Folder) + "/" + name] = folder.Read(name);
+    }
+}
+
+} // namespace
+
+int CliFixture::Run(const std::vector<std::string>& arguments)
+{
+    EXPECT_TRUE(in.empty() && !inIsTerminal && !outIsTerminal && !errIsTerminal);
+    const ScratchFolder folder;
+    WriteAll(files, folder);
+    const ProgramRun run = RunProgram(LS_LSBOOK, arguments, folder.Path());
+    ReadAll(files, folder);
+    out = run.out;
+    err = run.err;
+    return run.status;
+}
+
+std::string CliFixture::Out(const std::vector<std::string>& arguments, int status)
+{
+    EXPECT_EQ(Run(arguments), status);
+    EXPECT_EQ(err, "");
+    return out;
+}
+
+Json CliFixture::OutJson(const std::vector<std::string>& arguments, int status)
+{
+    std::vector<std::string> withJson = arguments;
+    withJson.emplace_back("--json");
+    return Json::Parse(Out(withJson, status));
+}
+
+} // namespace ls::test

@@ -1,0 +1,85 @@
+#include "support/RunProgram.h"
+
+#include "platform/windows/WideText.h"
+#include "platform/windows/WindowsHandle.h"
+#include "support/ScratchFolder.h"
+
+#include <windows.h>
+
+namespace ls::test {
+
+namespace {
+
+// The argument as a program's start-up code takes it out of the one string again: backslashes are special
+// before a double quote only.
+std::string Quoted(const std::string& argument)
+{
+    std::string quoted = "\"";
+    std::size_t backslashes = 0;
+    for (const char c : argument) {
+        backslashes = c == '\\' ? backslashes + 1 : 0;
+        if (c == '"') {
+            quoted.append(backslashes + 1, '\\');
+        }
+        quoted += c;
+        backslashes = c == '"' ? 0 : backslashes;
+    }
+    return quoted.append(backslashes, '\\') + '"';
+}
+
+std::wstring CommandLine(const std::string& program, const std::vector<std::string>& arguments)
+{
+    std::string line = Quoted(program);
+    for (const std::string& argument : arguments) {
+        line += " " + Quoted(argument);
+    }
+    return ToWide(line).value_or(std::wstring());
+}
+
+WindowsHandle OpenStream(const std::string& path, DWORD access, DWORD disposition)
+{
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    return WindowsHandle(::CreateFileW(ToWide(path).value_or(L"").c_str(), access,
+                                       FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, disposition,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+int WaitForEnd(const PROCESS_INFORMATION& process)
+{
+    const WindowsHandle thread(process.hThread);
+    const WindowsHandle program(process.hProcess);
+    DWORD status = 0;
+    ::WaitForSingleObject(program.Get(), INFINITE);
+    return ::GetExitCodeProcess(program.Get(), &status) != 0 ? static_cast<int>(status) : -1;
+}
+
+} // namespace
+
+ProgramRun RunProgram(const std::string& program, const std::vector<std::string>& arguments,
+                      const std::string& folder)
+{
+    const ScratchFolder output;
+    ProgramRun run;
+    {
+        const WindowsHandle in = OpenStream("NUL", GENERIC_READ, OPEN_EXISTING);
+        const WindowsHandle out = OpenStream(output / "out", GENERIC_WRITE, CREATE_NEW);
+        const WindowsHandle err = OpenStream(output / "err", GENERIC_WRITE, CREATE_NEW);
+        STARTUPINFOW start = {};
+        start.cb = sizeof start;
+        start.dwFlags = STARTF_USESTDHANDLES;
+        start.hStdInput = in.Get();
+        start.hStdOutput = out.Get();
+        start.hStdError = err.Get();
+        PROCESS_INFORMATION process = {};
+        std::wstring line = CommandLine(program, arguments);
+        if (::CreateProcessW(ToWide(program).value_or(L"").c_str(), line.data(), nullptr, nullptr, TRUE, 0,
+                             nullptr, ToWide(folder).value_or(L"").c_str(), &start, &process) != 0) {
+            run.status = WaitForEnd(process);
+        }
+    }
+    run.out = output.Read("out");
+    run.err = output.Read("err");
+    return run;
+}
+
+} // namespace ls::test
