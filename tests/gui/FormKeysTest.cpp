@@ -12,6 +12,7 @@
 #include <gtest/gtest-spi.h>
 
 #include <map>
+#include <set>
 
 namespace ls {
 namespace {
@@ -131,20 +132,36 @@ QString ReadText(const char* path)
     return QString::fromUtf8(file.readAll());
 }
 
-// The sheet of the help page, without its tags, and that of the guide.
-QString SheetOfHelp()
+// The keys that a sheet names, whole: "Ctrl+Page Up" names no "Ctrl+P".
+using Keys = std::set<QString>;
+
+Keys KeysOf(const QString& sheet, const QString& pattern)
+{
+    Keys keys;
+    QRegularExpressionMatchIterator found = QRegularExpression(pattern).globalMatch(sheet);
+    while (found.hasNext()) {
+        QString key = found.next().captured();
+        keys.insert(key.remove(QRegularExpression(QStringLiteral("<[^>]*>"))));
+    }
+    return keys;
+}
+
+// Its keys are set one by one: <kbd>Ctrl</kbd>+<kbd>G</kbd>.
+Keys KeysOfHelp()
 {
     QString page = ReadText(LS_HELP "/Lodestar_Reader.htm");
     page = page.mid(page.indexOf(QStringLiteral("<h2 id=\"keys\">")));
     page.replace(QStringLiteral("&larr;"), QStringLiteral("Left"));
     page.replace(QStringLiteral("&rarr;"), QStringLiteral("Right"));
-    return page.remove(QRegularExpression(QStringLiteral("<[^>]*>")));
+    return KeysOf(page, QStringLiteral("<kbd>[^<]*</kbd>(\\+<kbd>[^<]*</kbd>)*"));
 }
 
-QString SheetOfGuide()
+Keys KeysOfGuide()
 {
     const QString guide = ReadText(LS_SAMPLES "/Guide.IDA");
-    return guide.mid(guide.indexOf(QStringLiteral("[Keys]\r\n")));
+    const qsizetype start = guide.indexOf(QStringLiteral("[Keys]\r\n"));
+    return KeysOf(guide.mid(start, guide.indexOf(QStringLiteral("<XREF"), start) - start),
+                  QStringLiteral("<B>[^<]*</B>"));
 }
 
 // "Ctrl+PgUp" as a reader knows it.
@@ -155,29 +172,52 @@ QString KeyAsWritten(const QKeySequence& key)
         .replace(QStringLiteral("PgDown"), QStringLiteral("Page Down"));
 }
 
-TEST_F(FormKeysTest, sheetsOfKeys_nameEveryKeyOfMenusAndButtons)
+// The keys of all menus, and of the buttons that have no caption.
+Keys KeysOfForms(EveryForm& forms)
 {
-    const QString help = SheetOfHelp();
-    const QString guide = SheetOfGuide();
-    int keys = 0;
-    const auto look = [&](const QKeySequence& key) {
-        ++keys;
-        EXPECT_TRUE(help.contains(KeyAsWritten(key))) << "help page: " << key.toString().toStdString();
-        EXPECT_TRUE(guide.contains(KeyAsWritten(key))) << "guide: " << key.toString().toStdString();
-    };
-    ForEach([&look](const std::string& /*name*/, QWidget& window) {
+    Keys keys;
+    forms.ForEach([&keys](const std::string& /*name*/, QWidget& window) {
         for (const auto* item : window.findChildren<QAction*>()) {
             if (!item->shortcut().isEmpty() && !item->objectName().isEmpty()) {
-                look(item->shortcut());
+                keys.insert(KeyAsWritten(item->shortcut()));
             }
         }
         for (const auto* button : window.findChildren<QAbstractButton*>()) {
             if (button->text().isEmpty() && !button->shortcut().isEmpty()) {
-                look(button->shortcut());
+                keys.insert(KeyAsWritten(button->shortcut()));
             }
         }
     });
-    EXPECT_GT(keys, 20);
+    return keys;
+}
+
+TEST_F(FormKeysTest, sheetsOfKeys_nameEveryKeyOfMenusAndButtons)
+{
+    const Keys help = KeysOfHelp();
+    const Keys guide = KeysOfGuide();
+    const Keys keys = KeysOfForms(*this);
+    for (const QString& key : keys) {
+        EXPECT_EQ(help.count(key), 1U) << "help page: " << key.toStdString();
+        EXPECT_EQ(guide.count(key), 1U) << "guide: " << key.toStdString();
+    }
+    EXPECT_GT(keys.size(), 20U);
+}
+
+// What the pane, the find bar and the boxes for text do themselves has tests of its own.
+TEST_F(FormKeysTest, sheetsOfKeys_nameNoOtherKeys)
+{
+    Keys known = KeysOfForms(*this);
+    for (const char* key : {"Ctrl+Home", "Ctrl+End", "Ctrl+X", "Ctrl+V", "Shift+Tab", "Shift+Enter"}) {
+        known.insert(QString::fromLatin1(key));
+    }
+    const QRegularExpression made(QStringLiteral("^(F[0-9]+|(Ctrl|Alt|Shift)\\+.+)$"));
+    for (const Keys& sheet : {KeysOfHelp(), KeysOfGuide()}) {
+        for (const QString& key : sheet) {
+            if (made.match(key).hasMatch()) {
+                EXPECT_EQ(known.count(key), 1U) << key.toStdString();
+            }
+        }
+    }
 }
 
 // The controls at which the Tab key stops, in its order.
