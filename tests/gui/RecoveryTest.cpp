@@ -357,6 +357,8 @@ TEST_F(RecoveryTest, recoveryBox_eachButton_givesItsChoice)
     test::ModalScript script;
     script.Escape();
     EXPECT_EQ(AskRecoveryBox(&form, "Recover?"), RecoveryChoice::Later);
+    script.Do([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(AskRecoveryBox(&form, "Recover?"), RecoveryChoice::Recover) << "Enter is safe, too";
 }
 
 TEST_F(RecoveryTest, recoveredAtTheStart_isShownAndCanBeSaved)
