@@ -35,6 +35,9 @@ void BenchExport(const std::string& folder);
 /// Ten times the topics, lines and rules beside the tenth of them.
 void BenchGrowth(const std::string& folder);
 
+/// Writes the recovery journal of books with edits, and looks at one without.
+void BenchJournal(const std::string& folder);
+
 /// Loads rule bases of 100 to 30,000 rules and holds a whole dialogue on each, beside CLIPS and SWI-Prolog.
 void BenchAdvisor(const std::string& folder);
 

@@ -87,9 +87,11 @@ void BenchWrap(const std::string& folder)
     const std::string plain = PlainProse(TextSize);
     BenchText("64 MiB, lines of 500", TextOf(folder + "/wrap-500.txt", plain, 500), AtLeast);
     BenchText("64 MiB, lines of 5,000", TextOf(folder + "/wrap-5000.txt", plain, 5000), AtLeast);
-    // Here the two do not have the same work: fold takes tags for text, and keeps no line in memory.
-    BenchText("64 MiB with tags, lines of 500", TextOf(folder + "/wrap-tags.txt", Prose(TextSize), 500), 0);
-    BenchText("64 MiB, one line", TextOf(folder + "/wrap-1.txt", plain, TextSize), 0);
+    // These miss the aim. The two do not have the same work: fold takes tags for text, and keeps no line in
+    // memory.
+    BenchText("64 MiB with tags, lines of 500", TextOf(folder + "/wrap-tags.txt", Prose(TextSize), 500),
+              AtLeast);
+    BenchText("64 MiB, one line", TextOf(folder + "/wrap-1.txt", plain, TextSize), AtLeast);
 }
 
 } // namespace ls::bench

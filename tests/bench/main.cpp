@@ -28,6 +28,7 @@ constexpr Benchmark Benchmarks[] = {
     {"lines", [](const std::string&, const std::string&) { BenchLines(); }},
     {"export", [](const std::string&, const std::string& folder) { BenchExport(folder); }},
     {"growth", [](const std::string&, const std::string& folder) { BenchGrowth(folder); }},
+    {"journal", [](const std::string&, const std::string& folder) { BenchJournal(folder); }},
     {"advisor", [](const std::string&, const std::string& folder) { BenchAdvisor(folder); }},
 };
 
