@@ -68,6 +68,9 @@ TEST_P(Refusals, command_isToldWithStatusThreeAndLeavesTheOldFile)
 constexpr const char* NoOutput = "lsbook: standard output cannot be written";
 constexpr const char* Full = "warning: Failed to write due to error #61: Disk full";
 
+// One descriptor beside the standard streams: 3 is closed first, as a caller may have left it open.
+constexpr const char* FourDescriptors = "exec 3>&-; prlimit --nofile=4";
+
 const Row Rows[] = {
     {"infoFull", "", "info a.IDA >/dev/full", NoOutput},
     {"topicsFull", "", "topics a.IDA >/dev/full", NoOutput},
@@ -84,11 +87,11 @@ const Row Rows[] = {
     {"exportBeyondLimit", "ulimit -f 8;", "export long.IDA A -o out --force", Full},
     {"exportNewBeyondLimit", "ulimit -f 8;", "export long.IDA A -o new", Full},
     {"convertBeyondLimit", "ulimit -f 8;", "convert notes.txt out --force", Full},
-    {"saveNoDescriptor", "prlimit --nofile=4", "save a.IDA new",
+    {"saveNoDescriptor", FourDescriptors, "save a.IDA new",
      "warning: Failed to open output file due to error #67: Too many files"},
-    {"exportNoDescriptor", "prlimit --nofile=4", "export a.IDA A -o new",
+    {"exportNoDescriptor", FourDescriptors, "export a.IDA A -o new",
      "warning: Failed to open <<new>> due to error #67: Too many files."},
-    {"convertNoDescriptor", "prlimit --nofile=4", "convert notes.txt new",
+    {"convertNoDescriptor", FourDescriptors, "convert notes.txt new",
      "warning: Failed to open output file due to error #67: Too many files"},
     {"infoOfFolder", "", "info folder",
      "critical: Error opening <<folder>> with code 75: Path/File access error"},

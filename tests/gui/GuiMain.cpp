@@ -10,8 +10,9 @@ int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
     QStandardPaths::setTestModeEnabled(true);
-    QApplication::setStyle(QStringLiteral("fusion"));
     const QApplication application(argc, argv);
+    // Set behind the start: an application owns, and frees, only such a style.
+    QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
     const ls::test::StuckBoxGuard guard;
     return RUN_ALL_TESTS();
