@@ -406,16 +406,5 @@ TEST_F(LogicLoaderTest, questions_oneTooMany_failWithOverflow)
     EXPECT_EQ(world.seams.messages.Take(), (Texts{"critical|Lodestar Advisor|Overflow"}));
 }
 
-TEST_F(LogicLoaderTest, assumption_thatWouldFillMemory_fails)
-{
-    const std::string assumption(1024 * 1024, 'X');
-    world.Open("[A]\r\n<IXML>\r\n<LOGIC>\r\nASSUME " + assumption + "\r\n" + ManyLines("AV(1)=A(B)", 300) +
-               "<DEFINITIONS>\r\n");
-    world.Show("A");
-    EXPECT_FALSE(AdvisorReader(world).Load());
-    EXPECT_EQ(world.seams.messages.Take(), (Texts{"critical|Lodestar Advisor|Out of memory"}));
-    EXPECT_EQ(tables.RuleCount, 255);
-}
-
 } // namespace
 } // namespace ls

@@ -1,0 +1,25 @@
+// Rules whose texts would fill the memory: what comes before them takes more than 256 MiB by itself.
+
+#include "AdvisorWorld.h"
+
+namespace ls {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+TEST(LogicMemory, assumptionThatWouldFillMemory_fails)
+{
+    test::AdvisorWorld world;
+    std::string block = "[A]\r\n<IXML>\r\n<LOGIC>\r\nASSUME " + std::string(1024 * 1024, 'X') + "\r\n";
+    for (int i = 0; i < 300; ++i) {
+        block += "AV(1)=A(B)\r\n";
+    }
+    world.Open(block + "<DEFINITIONS>\r\n");
+    world.Show("A");
+    EXPECT_FALSE(test::AdvisorReader(world).Load());
+    EXPECT_EQ(world.seams.messages.Take(), (Texts{"critical|Lodestar Advisor|Out of memory"}));
+    EXPECT_EQ(world.tables.RuleCount, 255);
+}
+
+} // namespace
+} // namespace ls
