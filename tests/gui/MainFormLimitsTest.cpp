@@ -21,6 +21,7 @@ using test::Press;
 constexpr int Limit = 32767;
 constexpr const char* Header = "LODESTAR BOOK V5.3\r\n";
 constexpr const char* TheFileForm = "form|FileForm|Lodestar Advisor Open";
+constexpr const char* TheAdvForm = "form|AdvForm|Lodestar Advisor - Questions and Answers";
 constexpr const char* Overflow = "critical|Lodestar Advisor|Overflow";
 
 struct MainFormLimitsTest : MainFormFixture
@@ -65,6 +66,18 @@ TEST_F(MainFormLimitsTest, allTopicsThatCanBeCounted_areListedAndReached)
     EXPECT_EQ(PaneText(), "body 32767");
 }
 
+TEST_F(MainFormLimitsTest, oneTopicMore_isRefused)
+{
+    Start(WriteThree());
+    ModalScript script;
+    const std::string path = WriteMany(Limit + 1, "", Topic);
+    script.Do([path](QWidget& chooser) { ChooseFile(chooser, path); }).Answer(Reply::Ok);
+    Press(form, "OpenItem");
+    EXPECT_EQ(script.Seen(), (Strings{TheFileForm, Overflow}));
+    EXPECT_EQ(ItemTexts(), Strings{});
+    ExpectUsable(script);
+}
+
 std::string Reference(int number)
 {
     return "<XREF TOPIC=B>note " + std::to_string(number) + "</XREF>\r\n";
@@ -100,18 +113,45 @@ std::string Rule(int number)
     return "G(" + std::to_string(number) + ")=X(" + std::to_string(number) + ")\r\n";
 }
 
-TEST_F(MainFormLimitsTest, oneRuleMoreThanCanBeCounted_isNoAdvisor)
+constexpr const char* LogicStart = "[A]\r\n<IXML>\r\n<LOGIC>\r\nTARGET G\r\n";
+constexpr const char* LogicEnd =
+    "</LOGIC>\r\n<DEFINITIONS>\r\n<Q ID=X>Which?</Q>\r\n<Q ID=G></Q>\r\n<AV ID=G(32767)>The last.</AV>\r\n"
+    "</DEFINITIONS>\r\n</IXML>\r\n";
+
+QString AdvisorText(const QWidget& window)
 {
-    Start(WriteMany(Limit + 1, "[A]\r\n<IXML>\r\n<LOGIC>\r\nTARGET G\r\n", Rule,
-                    "</LOGIC>\r\n<DEFINITIONS>\r\n<Q ID=X>Which?</Q>\r\n</DEFINITIONS>\r\n</IXML>\r\n"));
+    return Find<QPlainTextEdit>(window, "MessageBox")->toPlainText();
+}
+
+TEST_F(MainFormLimitsTest, allRulesThatCanBeCounted_areAskedAndAnswered)
+{
+    Start(WriteMany(Limit, LogicStart, Rule, LogicEnd));
     ModalScript script;
-    QString told;
-    script.Answer(Reply::Ok).Do([&told](QWidget& window) {
-        told = Find<QPlainTextEdit>(window, "MessageBox")->toPlainText();
+    script.Do([](QWidget& window) {
+        EXPECT_EQ(AdvisorText(window), QStringLiteral("Which?"));
+        auto* answers = Find<QComboBox>(window, "AnswerCombo");
+        EXPECT_EQ(answers->count(), 1 + Limit);
+        answers->setCurrentIndex(answers->findText(QStringLiteral("32767")));
+        Press(window, "NextButton");
+        EXPECT_EQ(AdvisorText(window), QStringLiteral("The last."));
         Press(window, "NextButton");
     });
     Press(form, "AdvisorButton");
-    EXPECT_EQ(script.Seen().front(), Overflow);
+    EXPECT_EQ(script.Seen(), Strings{TheAdvForm});
+    ExpectUsable(script);
+}
+
+TEST_F(MainFormLimitsTest, oneRuleMoreThanCanBeCounted_isNoAdvisor)
+{
+    Start(WriteMany(Limit + 1, LogicStart, Rule, LogicEnd));
+    ModalScript script;
+    QString told;
+    script.Answer(Reply::Ok).Do([&told](QWidget& window) {
+        told = AdvisorText(window);
+        Press(window, "NextButton");
+    });
+    Press(form, "AdvisorButton");
+    EXPECT_EQ(script.Seen(), (Strings{Overflow, TheAdvForm}));
     EXPECT_EQ(told, QStringLiteral("Failure loading logic section for topic <<[A]>>; I can't proceed."));
     ExpectUsable(script);
 }
