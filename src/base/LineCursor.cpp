@@ -14,6 +14,9 @@ constexpr std::size_t LastBlock = 256 * 1024;
 
 constexpr std::size_t Chunk = 4 * 1024;
 
+// A line that is longer gets its room at once: growing would take three times as much memory at its end.
+constexpr std::size_t LongLine = 16 * 1024 * 1024;
+
 // Whether each CR of the bytes stands before an LF; one byte behind them is looked at too. No branch in the
 // loop, so that many bytes are tested at a time.
 bool EachCrHasLf(const char* bytes, std::size_t size)
@@ -70,6 +73,29 @@ void LineCursor::AppendRestOfBlock(std::string& line)
 {
     line.append(m_block.get() + m_next, m_size - m_next);
     m_next = m_size;
+    if (line.size() > LongLine && line.capacity() - line.size() < m_capacity) {
+        line.reserve(line.size() + RestOfLine());
+    }
+}
+
+// How many bytes the line has behind the block, which is used up: a look ahead, from which nothing but the
+// number is kept.
+std::size_t LineCursor::RestOfLine()
+{
+    Seek(Position());
+    std::size_t rest = 0;
+    for (std::size_t size = 1; size > 0;) {
+        const FileError failed =
+            m_file->ReadAt(m_blockPos + static_cast<FilePos>(rest), m_block.get(), m_capacity, size);
+        if (!failed.Ok()) {
+            break; // whoever reads on gets it
+        }
+        if (const void* end = std::memchr(m_block.get(), '\r', size); end != nullptr) {
+            return rest + static_cast<std::size_t>(static_cast<const char*>(end) - m_block.get());
+        }
+        rest += size;
+    }
+    return rest;
 }
 
 // Stands on a CR: passes it and the LF that may follow, which may lie in the next block.
@@ -88,6 +114,11 @@ FileError LineCursor::PassLineEnd()
 FileError LineCursor::ReadLine(std::string& line)
 {
     line.clear();
+    return AppendLine(line);
+}
+
+FileError LineCursor::AppendLine(std::string& text)
+{
     if (m_next == m_size && !Fill()) {
         return m_error.Ok() ? MakeFileError(error::InputPastEnd) : m_error;
     }
@@ -96,11 +127,11 @@ FileError LineCursor::ReadLine(std::string& line)
         const void* end = std::memchr(from, '\r', m_size - m_next);
         if (end != nullptr) {
             const auto length = static_cast<std::size_t>(static_cast<const char*>(end) - from);
-            line.append(from, length);
+            text.append(from, length);
             m_next += length;
             return PassLineEnd();
         }
-        AppendRestOfBlock(line);
+        AppendRestOfBlock(text);
         if (!Fill()) {
             return m_error; // the last line may lack its line end
         }
@@ -120,6 +151,27 @@ FileError LineCursor::ReadLine(std::string_view& line)
     FileError failed = ReadLine(m_line);
     line = m_line;
     return failed;
+}
+
+FileError LineCursor::ReadPiece(std::string_view& piece, bool& more)
+{
+    piece = {};
+    if (m_next == m_size && !Fill()) {
+        const bool missing = m_error.Ok() && !more; // a last line may lack its line end
+        more = false;
+        return missing ? MakeFileError(error::InputPastEnd) : m_error;
+    }
+    const std::string_view block(m_block.get() + m_next, m_size - m_next);
+    const std::size_t length = std::min(block.find('\r'), block.size());
+    if (length == 0) {
+        more = false;
+        return PassLineEnd();
+    }
+    piece = block.substr(0, length);
+    m_next += length;
+    // Passing a CR at the block's end would fill the block anew: the piece would be gone.
+    more = length + 1 >= block.size();
+    return more ? FileError{} : PassLineEnd();
 }
 
 std::string_view LineCursor::ReadCrLfLines(FilePos end)

@@ -37,6 +37,13 @@ public:
     /// The same without a copy: the line is valid until the cursor's next call.
     FileError ReadLine(std::string_view& line);
 
+    /// Appends one line, without its line end, to what `text` has.
+    FileError AppendLine(std::string& text);
+
+    /// Reads a line piece by piece, so that one of any length costs no memory: `more` is false before the
+    /// first piece and after the last, which may be empty. A piece is valid until the cursor's next call.
+    FileError ReadPiece(std::string_view& piece, bool& more);
+
     /// Passes several whole lines that all end in CR LF, before `end`, and gives their bytes, line ends
     /// included; valid until the cursor's next call. Nothing is passed, and the result is empty, where the
     /// next line is not like that, lies across a block's end, or cannot be read: `ReadLine` then does.
@@ -49,6 +56,7 @@ public:
 private:
     bool Fill();
     void AppendRestOfBlock(std::string& line);
+    [[nodiscard]] std::size_t RestOfLine();
     FileError PassLineEnd();
     FileError SkipLine();
 

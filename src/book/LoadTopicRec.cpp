@@ -5,6 +5,7 @@
 #include "book/BookLoader.h"
 #include "book/TopicEnd.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ls {
@@ -15,6 +16,7 @@ constexpr std::string_view LineEnd = "\r\n";
 constexpr std::string_view LogicOpening = "<IXML>";
 constexpr std::string_view LogicTag = "<LOGIC>";
 constexpr std::string_view IndexLine = "<INDEX>";
+constexpr std::size_t LargeTopic = 16 * 1024 * 1024; // bytes
 
 // Reads the lines of one topic up to the place where it ends in the file.
 class TopicReader
@@ -22,18 +24,26 @@ class TopicReader
 public:
     TopicReader(LineCursor& cursor, FilePos end) : m_cursor(cursor), m_end(end) {}
 
-    // False at the end of the topic, and after an error, which `Failed` tells.
-    bool Next(std::string& line)
+    // Appends the next line to `text`, where it then begins at `start`. False at the end of the topic, and
+    // after an error, which `Failed` tells. Nothing is copied: a line may fill half of the memory.
+    bool Append(std::string& text, std::size_t& start)
     {
+        start = text.size();
         if (!m_failed.Ok() || m_cursor.Position() >= m_end) {
             return false;
         }
-        m_failed = m_cursor.ReadLine(line);
+        m_failed = m_cursor.AppendLine(text);
         if (!m_failed.Ok()) {
             return false;
         }
-        TrimEnd(line);
+        TrimEnd(text, start);
         return true;
+    }
+
+    // The bytes of the topic that are left.
+    [[nodiscard]] std::size_t Rest() const
+    {
+        return static_cast<std::size_t>(std::max<FilePos>(0, m_end - m_cursor.Position()));
     }
 
     // A read error, or a file that ends before the topic does: somebody cut it after the scan.
@@ -42,11 +52,12 @@ public:
 private:
     // With a blank behind it "<INDEX>" is a line like any other. Without it, a saved book would list no
     // topics.
-    static void TrimEnd(std::string& line)
+    static void TrimEnd(std::string& text, std::size_t start)
     {
-        const std::size_t size = TrimRight(line).size();
-        const bool keepBlank = size < line.size() && std::string_view(line).substr(0, size) == IndexLine;
-        line.resize(keepBlank ? size + 1 : size);
+        const std::string_view line = std::string_view(text).substr(start);
+        const std::string_view trimmed = TrimRight(line);
+        const bool keepBlank = trimmed.size() < line.size() && trimmed == IndexLine;
+        text.resize(start + trimmed.size() + (keepBlank ? 1 : 0));
     }
 
     LineCursor& m_cursor;
@@ -54,15 +65,26 @@ private:
     FileError m_failed;
 };
 
+// Appends the lines that are left.
+void ReadRest(TopicReader& reader, std::string& text)
+{
+    for (std::size_t start = 0; reader.Append(text, start);) {
+        text.append(LineEnd);
+    }
+}
+
 // The text up to the logic block or the topic's end; true when a logic block follows.
 bool ReadText(TopicReader& reader, std::string& text)
 {
-    std::string line;
-    while (reader.Next(line)) {
-        if (EqualsUpper(Trim(line), LogicOpening)) {
+    if (reader.Rest() > LargeTopic) {
+        text.reserve(reader.Rest() + LineEnd.size()); // growing would need up to three times as much
+    }
+    for (std::size_t start = 0; reader.Append(text, start);) {
+        if (EqualsUpper(Trim(std::string_view(text).substr(start)), LogicOpening)) {
+            text.resize(start);
             return true;
         }
-        text.append(line).append(LineEnd);
+        text.append(LineEnd);
     }
     return false;
 }
@@ -70,14 +92,13 @@ bool ReadText(TopicReader& reader, std::string& text)
 std::string ReadLogic(TopicReader& reader)
 {
     std::string line;
-    if (!reader.Next(line) || !EqualsUpper(Trim(line), LogicTag)) {
+    std::size_t start = 0;
+    if (!reader.Append(line, start) || !EqualsUpper(Trim(line), LogicTag)) {
         return {};
     }
     std::string logic;
     logic.append(LogicOpening).append(LineEnd).append(LogicTag).append(LineEnd);
-    while (reader.Next(line)) {
-        logic.append(line).append(LineEnd);
-    }
+    ReadRest(reader, logic);
     return logic;
 }
 
@@ -88,16 +109,17 @@ bool LoadPlainText(Book& book, const Seams& seams, std::string* plainText)
     }
     plainText->clear();
     LineCursor cursor(*book.File);
-    std::string line;
     while (!cursor.AtEnd()) {
-        if (const FileError failed = cursor.ReadLine(line); !failed.Ok()) {
+        const std::size_t start = plainText->size();
+        if (const FileError failed = cursor.AppendLine(*plainText); !failed.Ok()) {
             // Half a file would pass for the whole.
             plainText->clear();
             // The file has no topic that the message could name.
             ShowFetchError(seams, ToBook(FromPath(book.BookPath)).value_or(std::string()), failed);
             return false;
         }
-        plainText->append(TrimRight(line)).append(LineEnd);
+        plainText->resize(start + TrimRight(std::string_view(*plainText).substr(start)).size());
+        plainText->append(LineEnd);
     }
     return true;
 }
@@ -148,10 +170,7 @@ bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number, std
     std::string block;
     if (ReadText(reader, text)) {
         block.append(LogicOpening).append(LineEnd);
-        std::string line;
-        while (reader.Next(line)) {
-            block.append(line).append(LineEnd);
-        }
+        ReadRest(reader, block);
     }
     if (!reader.Failed().Ok()) {
         ShowFetchError(seams, name, reader.Failed());

@@ -118,18 +118,31 @@ private:
     void CopyLines(std::size_t number)
     {
         const FilePos end = m_ends.Of(m_book.TopicPos(number));
-        std::string_view line;
         while (m_cursor->Position() < end && m_outcome == WriteOutcome::Written) {
             if (const std::string_view lines = m_cursor->ReadCrLfLines(end); !lines.empty()) {
                 Put(lines);
-            } else if (Read(line)) {
-                PutLine(line);
+            } else {
+                CopyLine();
             }
         }
         // A line that runs across the end that the scan saw: somebody changed the file.
         if (m_outcome == WriteOutcome::Written && m_cursor->Position() != end) {
             StopAtChange(number);
         }
+    }
+
+    // A line may be longer than the memory.
+    void CopyLine()
+    {
+        std::string_view piece;
+        bool more = false;
+        do {
+            if (!Check(m_cursor->ReadPiece(piece, more))) {
+                return;
+            }
+            Put(piece);
+        } while (more && m_outcome == WriteOutcome::Written);
+        Put(LineEnd);
     }
 
     // A block that does not begin with "<IXML>" and "<LOGIC>" was never taken into the logic editor, so an
@@ -161,9 +174,11 @@ private:
         }
     }
 
-    bool Read(std::string_view& line)
+    bool Read(std::string_view& line) { return Check(m_cursor->ReadLine(line)); }
+
+    // Whether reading went well; false after a message.
+    bool Check(const FileError& failed)
     {
-        const FileError failed = m_cursor->ReadLine(line);
         if (!failed.Ok()) {
             Stop("Failed to read original text due to error #" + std::to_string(failed.number) + ": " +
                  failed.description);
@@ -173,15 +188,21 @@ private:
 
     void PutLine(std::string_view line)
     {
-        m_buffer.append(line);
+        Put(line);
         Put(LineEnd);
     }
 
-    // A full buffer goes to the file, and the progress is told.
+    // A full buffer goes to the file, and the progress is told. An edited text may be longer than any buffer.
     void Put(std::string_view bytes)
     {
-        m_buffer.append(bytes);
-        if (m_buffer.size() >= BufferSize) {
+        const bool large = bytes.size() > 2 * BufferSize;
+        if (large) {
+            Flush();
+            Write(bytes);
+        } else {
+            m_buffer.append(bytes);
+        }
+        if (large || m_buffer.size() >= BufferSize) {
             Flush();
             TellProgress();
         }
@@ -189,12 +210,17 @@ private:
 
     void Flush()
     {
-        if (m_outcome != WriteOutcome::Written || m_buffer.empty()) {
+        Write(m_buffer);
+        m_buffer.clear();
+    }
+
+    void Write(std::string_view bytes)
+    {
+        if (m_outcome != WriteOutcome::Written || bytes.empty()) {
             return;
         }
-        const FileError failed = m_output.Write(m_buffer);
-        m_written += static_cast<FilePos>(m_buffer.size());
-        m_buffer.clear();
+        const FileError failed = m_output.Write(bytes);
+        m_written += static_cast<FilePos>(bytes.size());
         if (!failed.Ok()) {
             ShowWriteError(failed);
             m_outcome = WriteOutcome::Failed;

@@ -13,6 +13,8 @@ namespace ls {
 
 namespace {
 
+constexpr std::size_t Piece =
+    256 * 1024; // of a text that is written: its conversions need several times as much
 constexpr const char* NoBookQuestion = "The file you opened is not a Lodestar Book or Advice file.";
 
 } // namespace
@@ -154,6 +156,18 @@ void CommandContext::WriteJson(const std::function<void(JsonWriter&)>& members, 
 void CommandContext::Line(std::string_view utf8)
 {
     m_environment->out << LineForStream(utf8, m_environment->outIsTerminal) << '\n';
+}
+
+void CommandContext::Write(std::string_view bookText)
+{
+    while (!bookText.empty()) {
+        std::size_t size = std::min(Piece, bookText.size());
+        while (size < bookText.size() && bookText[size - 1] == '\r') {
+            ++size; // no line end is torn
+        }
+        m_environment->out << Shown(WithNewlines(bookText.substr(0, size)));
+        bookText.remove_prefix(size);
+    }
 }
 
 std::string CommandContext::Shown(std::string_view bookText) const

@@ -76,6 +76,9 @@ public:
     /// Writes a line of text for people; the text is UTF-8.
     void Line(std::string_view utf8);
 
+    /// Writes book text as lines of the output; one of any length costs no memory.
+    void Write(std::string_view bookText);
+
     /// Book text as UTF-8, fit for the output.
     [[nodiscard]] std::string Shown(std::string_view bookText) const;
 

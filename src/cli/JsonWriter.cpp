@@ -11,6 +11,8 @@ namespace ls {
 
 namespace {
 
+constexpr std::size_t Piece = 256 * 1024; // of a text: what it becomes may be six times as long
+
 void AppendEscape(std::string& text, char32_t c)
 {
     constexpr std::string_view Digits = "0123456789abcdef";
@@ -71,7 +73,14 @@ JsonWriter& JsonWriter::String(std::string_view utf8)
 
 JsonWriter& JsonWriter::BookText(std::string_view bytes)
 {
-    return String(FromBook(bytes));
+    BeginElement();
+    *m_stream << '"';
+    for (; bytes.size() > Piece; bytes.remove_prefix(Piece)) { // each byte is a character
+        WriteCharacters(FromBook(bytes.substr(0, Piece)));
+    }
+    WriteCharacters(FromBook(bytes));
+    *m_stream << '"';
+    return *this;
 }
 
 JsonWriter& JsonWriter::Number(std::int64_t number)
@@ -156,11 +165,18 @@ void JsonWriter::BeginLine(std::size_t depth)
 
 void JsonWriter::WriteString(std::string_view utf8)
 {
-    std::string text = "\"";
+    *m_stream << '"';
+    WriteCharacters(utf8);
+    *m_stream << '"';
+}
+
+void JsonWriter::WriteCharacters(std::string_view utf8)
+{
+    std::string text;
     for (std::size_t at = 0; at < utf8.size();) {
         AppendCharacter(text, NextUtf8(utf8, at));
     }
-    *m_stream << text << '"';
+    *m_stream << text;
 }
 
 } // namespace ls

@@ -54,6 +54,7 @@ private:
     void BeginElement();
     void BeginLine(std::size_t depth);
     void WriteString(std::string_view utf8);
+    void WriteCharacters(std::string_view utf8);
 
     std::ostream* m_stream;
     std::vector<Container> m_open;

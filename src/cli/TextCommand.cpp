@@ -3,9 +3,8 @@
 #include "cli/CommandContext.h"
 #include "cli/Commands.h"
 #include "cli/JsonWriter.h"
-#include "cli/TerminalText.h"
 
-#include <ostream>
+#include <utility>
 
 namespace ls {
 
@@ -28,7 +27,7 @@ Status Load(CommandContext& context, TopicRec& rec)
     if (book.IsPlainText()) {
         return Status::Done;
     }
-    rec = book.TopicRecs(static_cast<std::size_t>(number));
+    rec = std::move(book.TopicRecs(static_cast<std::size_t>(number))); // nothing else asks for it any more
     return Status::Done;
 }
 
@@ -58,7 +57,7 @@ Status Run(CommandContext& context)
             json.Key("logic").BookText(rec.Logic);
         });
     } else {
-        context.Env().out << context.Shown(WithNewlines(logic ? rec.Logic : rec.Text));
+        context.Write(logic ? rec.Logic : rec.Text);
     }
     return status;
 }

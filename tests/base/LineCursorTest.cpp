@@ -68,6 +68,78 @@ TEST_F(LineCursorTest, readLineView_anyPlaceOfALineEnd_readsTheSameLines)
     }
 }
 
+TEST_F(LineCursorTest, appendLine_keepsWhatTheTextHas)
+{
+    Open("a\rb");
+    LineCursor cursor(*file);
+    std::string text = "before ";
+    ASSERT_TRUE(cursor.AppendLine(text).Ok());
+    EXPECT_EQ(text, "before a");
+    ASSERT_TRUE(cursor.AppendLine(text).Ok());
+    EXPECT_EQ(text, "before ab");
+    EXPECT_EQ(cursor.AppendLine(text).number, error::InputPastEnd);
+}
+
+TEST_F(LineCursorTest, readLine_veryLong_isWholeAndTakesNoMoreRoomThanItNeeds)
+{
+    constexpr std::size_t Length = 70'000'000;
+    Open(std::string(Length, 'x') + "\r\nlast");
+    LineCursor cursor(*file);
+    std::string line;
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line.size(), Length);
+    EXPECT_EQ(line.find_first_not_of('x'), std::string::npos);
+    EXPECT_LT(line.capacity(), Length + 1'000'000);
+    ASSERT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "last");
+}
+
+TEST_F(LineCursorTest, readPiece_anyPlaceOfALineEnd_piecesAreTheLines)
+{
+    constexpr std::size_t FirstBlock = 16 * 1024;
+    for (const char* lineEnd : {"\r\n", "\r"}) {
+        for (std::size_t length = FirstBlock - 4; length < FirstBlock + 4; ++length) {
+            Open(std::string(length, 'x') + lineEnd + "second" + lineEnd + lineEnd +
+                 std::string(3 * FirstBlock, 'l'));
+            LineCursor cursor(*file);
+            std::vector<std::string> lines;
+            while (!cursor.AtEnd()) {
+                std::string_view piece;
+                bool more = false;
+                lines.emplace_back();
+                do {
+                    ASSERT_TRUE(cursor.ReadPiece(piece, more).Ok());
+                    lines.back() += piece;
+                } while (more);
+            }
+            EXPECT_EQ(lines, Lines()) << length;
+        }
+    }
+}
+
+TEST_F(LineCursorTest, readPiece_atTheEnd_isError62)
+{
+    Open("");
+    LineCursor cursor(*file);
+    std::string_view piece;
+    bool more = false;
+    EXPECT_EQ(cursor.ReadPiece(piece, more).number, error::InputPastEnd);
+    EXPECT_FALSE(more);
+}
+
+TEST_F(LineCursorTest, readPiece_errorWithinALine_isGivenAndEndsIt)
+{
+    Open(std::string(20000, 'x'));
+    LineCursor cursor(*file);
+    std::string_view piece;
+    bool more = false;
+    ASSERT_TRUE(cursor.ReadPiece(piece, more).Ok());
+    ASSERT_TRUE(more);
+    files.fail = [](const std::string&) { return error::DeviceIo; };
+    EXPECT_EQ(cursor.ReadPiece(piece, more).number, error::DeviceIo);
+    EXPECT_FALSE(more);
+}
+
 TEST_F(LineCursorTest, readLineView_atTheEnd_isError62)
 {
     Open("a\r\n");

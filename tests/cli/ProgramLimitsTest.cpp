@@ -202,6 +202,20 @@ TEST_F(ProgramLimits, lineOfOneGibibyte_isShownUntilTheLinesEnd)
     EXPECT_EQ(out, "b\n");
 }
 
+TEST_F(ProgramLimits, lineOfOneGibibyte_isInMemoryOnceAndSavedWithoutBeingThere)
+{
+    // Besides the line: the program, its libraries and a little work.
+    constexpr const char* OnceAndABit = "ulimit -v 1179648; ";
+    constexpr const char* NotOnce = "ulimit -v 131072; ";
+    WriteWithHole("[A]\r\nbefore\r\n", std::uintmax_t{1} << 30, "\r\nafter\r\n[B]\r\nb\r\n");
+    EXPECT_EQ(Run("show a.IDA A --rows 1", OnceAndABit), 1);
+    EXPECT_EQ(out + err, "before\n" + std::string(Overflow));
+    EXPECT_EQ(Run("text a.IDA A >text && tail -c 7 text", OnceAndABit), 0);
+    EXPECT_EQ(out, "\nafter\n");
+    EXPECT_EQ(Run("save a.IDA b.IDA >said && cmp a.IDA b.IDA", NotOnce), 0);
+    EXPECT_EQ(out, "");
+}
+
 TEST_F(ProgramLimits, titleOfTenThousandCharacters_isATitle)
 {
     const std::string title(10000, 'w');

@@ -53,6 +53,20 @@ TEST_F(Text, plainTextFile_isWhole)
     EXPECT_EQ(out, "[A]\n<IXML>\n");
 }
 
+// It is written piece by piece: whatever stands where two of them meet, nothing is lost or torn.
+TEST_F(Text, longText_isWhole)
+{
+    constexpr std::size_t Piece = 256 * 1024;
+    for (std::size_t length = Piece - 3; length < Piece + 2; ++length) {
+        const std::string line(length, 'x');
+        files["/work/a.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n" + line + "\r\n\r\nCaf\xE9\r\n";
+        EXPECT_TRUE(Out({"text", "a.IDA", "A"}) == line + "\n\nCaf\xC3\xA9\n") << length;
+        EXPECT_TRUE(Out({"text", "a.IDA", "A", "--json"}) ==
+                    "{\n  \"text\": \"" + line + "\\r\\n\\r\\nCaf\xC3\xA9\\r\\n\",\n  \"logic\": \"\"\n}\n")
+            << length;
+    }
+}
+
 TEST_F(Text, unknownTitle_isToldWordForWord)
 {
     EXPECT_EQ(Run({"text", "a.IDA", "cafe"}), 1);
