@@ -30,18 +30,21 @@ struct Listing
 {
     FileError failed;
     std::vector<std::string> folders;
+    std::vector<std::string> hiddenFolders;
     std::vector<std::string> files;
 };
 
-// What lies in a folder and is not hidden, sorted.
+// What lies in a folder, sorted. Files that are hidden are left out.
 Listing ListingOf(FileSystem& files, const std::string& folder)
 {
     Listing listing;
     std::vector<FolderEntry> entries;
     listing.failed = files.List(folder, entries);
     for (FolderEntry& entry : entries) {
-        if (!entry.hidden) {
-            (entry.isFolder ? listing.folders : listing.files).push_back(std::move(entry.name));
+        if (entry.isFolder) {
+            (entry.hidden ? listing.hiddenFolders : listing.folders).push_back(std::move(entry.name));
+        } else if (!entry.hidden) {
+            listing.files.push_back(std::move(entry.name));
         }
     }
     SortNames(listing.folders);
@@ -155,6 +158,7 @@ FileError FileSelector::ReadFolder(const std::string& folder)
         return listing.failed;
     }
     m_subfolders = std::move(listing.folders);
+    m_hiddenFolders = std::move(listing.hiddenFolders);
     m_allFiles = std::move(listing.files);
     m_folderPath = WithoutTrailingSeparator(m_seams.paths, folder);
     SelectDriveOf(m_folderPath);
@@ -262,9 +266,15 @@ FileSelector::Outcome FileSelector::Apply()
     return ChooseName(parts.Pattern());
 }
 
+// Where there are drives, a name in another case is the same folder.
 bool FileSelector::IsSubfolder(const std::string& name) const
 {
-    return std::find(m_subfolders.begin(), m_subfolders.end(), name) != m_subfolders.end();
+    const bool anyCase = m_seams.paths.drives;
+    const auto isMeant = [&](const std::string& folder) {
+        return folder == name || (anyCase && LowerCaseAscii(folder) == LowerCaseAscii(name));
+    };
+    return std::any_of(m_subfolders.begin(), m_subfolders.end(), isMeant) ||
+           std::any_of(m_hiddenFolders.begin(), m_hiddenFolders.end(), isMeant);
 }
 
 FileSelector::Outcome FileSelector::ChooseName(const std::string& name)

@@ -88,8 +88,9 @@ private:
     std::vector<Volume> m_volumes;
     std::vector<std::string> m_driveLabels;
     int m_drive = -1;
-    std::string m_folderPath; ///< without a trailing separator, but for a root
-    std::vector<std::string> m_subfolders;
+    std::string m_folderPath;              ///< without a trailing separator, but for a root
+    std::vector<std::string> m_subfolders; ///< those that are listed, sorted
+    std::vector<std::string> m_hiddenFolders;
     std::vector<std::string> m_allFiles; ///< of the folder, sorted
     std::vector<FolderItem> m_folders;
     std::vector<std::string> m_files; ///< those that fit the pattern

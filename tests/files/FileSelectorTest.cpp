@@ -131,6 +131,15 @@ TEST_F(FileSelectorTest, ok_existingFileOutsideThePattern_isAccepted)
     EXPECT_EQ(selector->OkClicked("/work/.hidden.ida"), Outcome::Accepted);
 }
 
+TEST_F(FileSelectorTest, ok_folderThatIsHidden_isNoFile)
+{
+    world.files["/work/.my.folder/Deep.IDA"] = "";
+    Load("/work/*.IDA");
+    EXPECT_EQ(selector->OkClicked("/work/.my.folder"), Outcome::Stay);
+    EXPECT_EQ(world.messages.Take(),
+              (Strings{"exclamation|Lodestar Advisor|File does not exist: /work/.my.folder"}));
+}
+
 TEST_F(FileSelectorTest, ok_twoNamesThatDifferInCase_takesTheOneSpelled)
 {
     world.files["/work/guide.ida"] = "";
