@@ -100,16 +100,22 @@ int NumberOfCode(DWORD code)
     }
 }
 
-// Whether the path begins with the letter of a drive that this system does not have. A path in the long form
+// Whether a path that was not found begins with the letter of a drive that is not there (68), or whose disk
+// is not in it (71): Windows says that itself, Wine does not. 0 when it is neither. A path in the long form
 // has its letter behind "\\?\".
-bool OnMissingDrive(const std::wstring& path)
+int NumberOfDrive(const std::wstring& path)
 {
     const std::size_t at = path.starts_with(L"\\\\?\\") ? 4 : 0;
     if (path.size() < at + 2 || path[at + 1] != L':') {
-        return false;
+        return 0;
     }
     const std::wstring root = path.substr(at, 2) + L'\\';
-    return ::GetDriveTypeW(root.c_str()) == DRIVE_NO_ROOT_DIR;
+    const UINT type = ::GetDriveTypeW(root.c_str());
+    if (type == DRIVE_NO_ROOT_DIR) {
+        return error::DeviceUnavailable;
+    }
+    const bool disksChange = type == DRIVE_REMOVABLE || type == DRIVE_CDROM;
+    return disksChange && !IsFolder(root) ? error::DiskNotReady : 0;
 }
 
 } // namespace
@@ -132,10 +138,8 @@ FileError ErrorOfPath(DWORD code, const std::wstring& path)
         return MakeFileError(error::DeviceUnavailable);
     }
     const bool missing = code == ERROR_PATH_NOT_FOUND || code == ERROR_FILE_NOT_FOUND;
-    if (missing && OnMissingDrive(path)) {
-        return MakeFileError(error::DeviceUnavailable);
-    }
-    return ErrorOfCode(code);
+    const int number = missing ? NumberOfDrive(path) : 0;
+    return number != 0 ? MakeFileError(number) : ErrorOfCode(code);
 }
 
 bool IsFolder(const std::wstring& path)

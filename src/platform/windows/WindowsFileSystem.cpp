@@ -16,15 +16,25 @@ namespace ls {
 namespace {
 
 // A virus scanner or an indexer opens a file that was just closed, for a moment, and keeps it from being
-// renamed: then it is tried again, for about a second.
+// renamed or replaced: then it is tried again, for about a second.
 constexpr int RenameTries = 20;
 constexpr DWORD RenamePause = 50;
 
 // Whatever is no file on a disk is closed again: reading from it could wait for ever.
 FileError CheckKind(const WindowsHandle& handle)
 {
-    return ::GetFileType(handle.Get()) == FILE_TYPE_DISK ? FileError{}
-                                                         : MakeFileError(error::DeviceUnavailable);
+    ::SetLastError(ERROR_SUCCESS);
+    switch (::GetFileType(handle.Get())) {
+    case FILE_TYPE_DISK:
+        return {};
+    case FILE_TYPE_UNKNOWN: // also what it says when it failed
+        if (const DWORD code = ::GetLastError(); code != ERROR_SUCCESS) {
+            return ErrorOfCode(code);
+        }
+        [[fallthrough]];
+    default:
+        return MakeFileError(error::DeviceUnavailable);
+    }
 }
 
 // Opens the file, or makes it; `handle` is open only on success.
@@ -45,14 +55,29 @@ FileError OpenFile(const std::string& path, DWORD access, DWORD sharing, DWORD d
     FileError kind = CheckKind(handle);
     if (!kind.Ok()) {
         handle.Close();
+        if (disposition == CREATE_NEW) {
+            // Made a moment ago, and nobody gets it. A device has no file to take away.
+            ::DeleteFileW(wide.c_str());
+        }
     }
     return kind;
 }
 
 // An "access denied" is told by the new name where that is a folder (75), else it stands as it is (70).
+// A file that was not found is the old one, unless that is there.
 FileError ErrorOfRename(DWORD code, const std::wstring& from, const std::wstring& to)
 {
-    return ErrorOfPath(code, code == ERROR_FILE_NOT_FOUND ? from : to);
+    const bool oldIsMissing =
+        code == ERROR_FILE_NOT_FOUND && ::GetFileAttributesW(from.c_str()) == INVALID_FILE_ATTRIBUTES;
+    return ErrorOfPath(code, oldIsMissing ? from : to);
+}
+
+// Whether a rename failed since somebody has one of the two files open. Of one that is to be replaced the
+// system says "access denied" then, as it does of a folder.
+bool MayBeInUse(DWORD code, const std::wstring& to, DWORD flags)
+{
+    const bool replaces = (flags & MOVEFILE_REPLACE_EXISTING) != 0;
+    return code == ERROR_SHARING_VIOLATION || (replaces && code == ERROR_ACCESS_DENIED && !IsFolder(to));
 }
 
 FileError Rename(const std::string& from, const std::string& to, DWORD flags)
@@ -66,7 +91,7 @@ FileError Rename(const std::string& from, const std::string& to, DWORD flags)
         return bad;
     }
     DWORD code = ERROR_SHARING_VIOLATION;
-    for (int tries = 0; code == ERROR_SHARING_VIOLATION && tries < RenameTries; ++tries) {
+    for (int tries = 0; MayBeInUse(code, wideTo, flags) && tries < RenameTries; ++tries) {
         ::Sleep(tries == 0 ? 0 : RenamePause);
         code = ::MoveFileExW(wideFrom.c_str(), wideTo.c_str(), flags) != 0 ? 0 : ::GetLastError();
     }

@@ -20,6 +20,7 @@ const FileError NoFolder{76, "Path not found"};
 const FileError Folder{75, "Path/File access error"};
 const FileError BadName{52, "Bad file name or number"};
 const FileError NoDevice{68, "Device unavailable"};
+const FileError NoDisk{71, "Disk not ready"};
 
 // "αβ €.IDA": the first two letters are not in the code page of Western Europe.
 const char* const WideName = "\xCE\xB1\xCE\xB2 \xE2\x82\xAC.IDA";
@@ -129,6 +130,30 @@ TEST_F(WindowsFileSystemTest, open_missing_tellsFileFromFolderFromDrive)
     EXPECT_EQ(Open("Q:\\none\\a"), NoDevice);
     EXPECT_EQ(Open("\\\\?\\Q:\\a"), NoDevice);
     EXPECT_EQ(file, nullptr);
+}
+
+// tests/windows/with-wine makes such a drive.
+TEST_F(WindowsFileSystemTest, driveWithoutADisk_isNotReady)
+{
+    ASSERT_EQ(::GetDriveTypeW(L"E:\\"), UINT{DRIVE_CDROM});
+    EXPECT_EQ(Open("E:\\Guide.IDA"), NoDisk);
+    EXPECT_EQ(Open("E:\\none\\Guide.IDA"), NoDisk);
+    EXPECT_EQ(Open("e:Guide.IDA"), NoDisk);
+    EXPECT_EQ(Open("\\\\?\\E:\\Guide.IDA"), NoDisk);
+    EXPECT_EQ(Open("E:\\"), NoDisk);
+    EXPECT_EQ(file, nullptr);
+    std::unique_ptr<OutputFile> made;
+    EXPECT_EQ(files.CreateNew("E:\\Guide.IDA", made), NoDisk);
+    EXPECT_EQ(made, nullptr);
+    std::vector<FolderEntry> entries{{"old", false, false}};
+    EXPECT_EQ(files.List("E:\\", entries), NoDisk);
+    EXPECT_EQ(files.List("E:", entries), NoDisk);
+    EXPECT_TRUE(entries.empty());
+    EXPECT_FALSE(files.Exists("E:\\Guide.IDA"));
+    EXPECT_EQ(files.Remove("E:\\Guide.IDA"), NoDisk);
+    EXPECT_EQ(files.MakeFolder("E:\\books"), NoDisk);
+    EXPECT_EQ(files.RenameToNew(folder.Write("a", "book"), "E:\\a"), NoDisk);
+    EXPECT_EQ(Content(folder / "a"), "book");
 }
 
 TEST_F(WindowsFileSystemTest, open_folder_is75)

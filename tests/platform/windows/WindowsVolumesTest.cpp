@@ -29,6 +29,7 @@ TEST(WindowsVolumes, list_drives_leadToTheirCurrentFolders)
     ::SetCurrentDirectoryW(L"Z:\\");
     ::SetCurrentDirectoryW(ToWide(folder.Path())->c_str());
     EXPECT_EQ(FolderOf('c'), folder.Path());
+    EXPECT_EQ(FolderOf('e'), "E:\\") << "a drive without a disk is offered";
     EXPECT_EQ(FolderOf('q'), "none");
     ::SetCurrentDirectoryW(L"C:\\");
     EXPECT_EQ(FolderOf('c'), "C:\\") << "a root keeps its separator";
