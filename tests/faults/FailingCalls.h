@@ -1,25 +1,44 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace ls::test {
+
+/// A way in which calls of the system fail.
+struct SystemFault
+{
+    const char* name;
+    int code;     ///< what the system would say: an `errno`, or a code of `GetLastError`
+    bool forGood; ///< the calls behind the first one fail, too
+};
 
 /// Lets one of the system calls fail that the program's own code makes; the linker leads them through here.
 class FailingCalls
 {
 public:
-    /// The call of that number, counted from now, fails with `errnoValue`; from then on all of them when
-    /// `forGood` is set. 0 only counts.
-    FailingCalls(int failAt, int errnoValue, bool forGood = false);
+    /// The call of that number, counted from now, fails, or that one and all behind it. 0 only counts.
+    FailingCalls(int failAt, const SystemFault& fault);
     ~FailingCalls();
     FailingCalls(const FailingCalls&) = delete;
     FailingCalls& operator=(const FailingCalls&) = delete;
 
-    /// How many calls were made.
-    [[nodiscard]] int Count() const;
-
     /// The name of the call that failed first; empty when none did.
     [[nodiscard]] std::string Failed() const;
 };
+
+/// For what stands in a call's place: the code with which it is to fail now, if it is.
+[[nodiscard]] std::optional<int> CodeOfFailing(const char* call);
+
+/// Whether a `FailingCalls` is there, so that nobody needs to wait for anything.
+[[nodiscard]] bool CallsAreFailing();
+
+/// What the running system may say when a disk or a file fails.
+[[nodiscard]] std::vector<SystemFault> SystemFaults();
+
+/// The calls by which it saves a book, and the one that takes a file away.
+[[nodiscard]] std::vector<std::string> CallsOfSaving();
+[[nodiscard]] std::string CallOfRemoving();
 
 } // namespace ls::test

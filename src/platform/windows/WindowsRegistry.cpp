@@ -31,31 +31,44 @@ private:
     HKEY m_key;
 };
 
-// The bytes of a value as they are kept may lack the NUL that a text ends with, or have more than one.
-std::string WithoutNuls(std::string text)
+// A text as it is kept, up to its NUL: it may lack that one, or have more than one. `query(bytes, size)` asks
+// for it, or for its size alone when there is no room for bytes.
+template <class Char, class Query>
+std::optional<std::basic_string<Char>> ReadValue(Query query)
 {
-    return text.substr(0, text.find('\0'));
-}
-
-std::optional<std::string> WindowsRegistryKey::Text(const std::string& valueName)
-{
-    std::string bytes;
+    std::basic_string<Char> text;
     LONG result = ERROR_MORE_DATA;
     // Somebody may write a longer value between the question for its size and the one for its text.
     for (int tries = 0; result == ERROR_MORE_DATA && tries < 5; ++tries) {
         DWORD size = 0;
-        result = ::RegQueryValueExA(m_key, valueName.c_str(), nullptr, nullptr, nullptr, &size);
+        result = query(nullptr, &size);
         if (result != ERROR_SUCCESS) {
             return std::nullopt;
         }
-        bytes.assign(size, ' ');
-        result = ::RegQueryValueExA(m_key, valueName.c_str(), nullptr, nullptr,
-                                    reinterpret_cast<BYTE*>(bytes.data()), &size);
+        text.assign((size + sizeof(Char) - 1) / sizeof(Char), Char{' '});
+        result = query(reinterpret_cast<BYTE*>(text.data()), &size);
         if (result == ERROR_SUCCESS) {
-            bytes.resize(size);
+            text.resize(size / sizeof(Char));
         }
     }
-    return result == ERROR_SUCCESS ? std::optional(FromAnsi(WithoutNuls(std::move(bytes)))) : std::nullopt;
+    return result == ERROR_SUCCESS ? std::optional(text.substr(0, text.find(Char{}))) : std::nullopt;
+}
+
+std::optional<std::string> WindowsRegistryKey::Text(const std::string& valueName)
+{
+    const std::optional<std::string> narrow = ReadValue<char>([&](BYTE* bytes, DWORD* size) {
+        return ::RegQueryValueExA(m_key, valueName.c_str(), nullptr, nullptr, bytes, size);
+    });
+    const std::optional<std::wstring> name = ToWide(valueName);
+    if (!narrow || !name) {
+        return std::nullopt;
+    }
+    // A program may lie in a folder whose name the code page cannot write: "C:\Users\(Greek
+    // letters)\web.exe".
+    const std::optional<std::wstring> wide = ReadValue<wchar_t>([&](BYTE* bytes, DWORD* size) {
+        return ::RegQueryValueExW(m_key, name->c_str(), nullptr, nullptr, bytes, size);
+    });
+    return wide ? FromWide(*wide) : FromAnsi(*narrow);
 }
 
 bool WindowsRegistryKey::QueryType(const std::string& valueName, std::uint32_t& type, std::uint32_t& size)

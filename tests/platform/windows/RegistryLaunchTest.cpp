@@ -101,6 +101,8 @@ INSTANTIATE_TEST_SUITE_P(
                    "C:\\B\xC3\xBC"
                    "cher\\liseuse.exe C:\\DIR\\page.htm",
                    0, nullptr},
+        CommandRow{"lettersBeyondTheCodePage", "\"C:\\\xCE\xB1\xCE\xB2 Web\\web.exe\" \"%1\"", REG_SZ,
+                   "\"C:\\\xCE\xB1\xCE\xB2 Web\\web.exe\" C:\\DIR\\page.htm", 0, nullptr},
         CommandRow{"empty", "", REG_SZ, nullptr, -1, nullptr}),
     [](const auto& row) { return row.param.name; });
 

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "FailingCalls.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace ls::test {
+
+/// Does something again and again, each time with another one of its system calls failing.
+class SystemCalls : public testing::TestWithParam<SystemFault>
+{
+protected:
+    /// Calls `prepare`, then `act` with the next call failing, then `check` with that call's name, until
+    /// `act` has no more calls.
+    void ForEachCall(const std::function<void(const std::string& failed)>& check,
+                     const std::function<void()>& act, const std::function<void()>& prepare)
+    {
+        for (int failAt = 1; failAt < 500; ++failAt) {
+            prepare();
+            {
+                const FailingCalls failing(failAt, GetParam());
+                act();
+                calls.push_back(failing.Failed());
+            }
+            if (calls.back().empty()) {
+                break;
+            }
+            SCOPED_TRACE(std::to_string(failAt) + " " + calls.back());
+            check(calls.back());
+            if (HasFailure()) {
+                break;
+            }
+        }
+        EXPECT_TRUE(calls.back().empty()) << "it never came to its end";
+        EXPECT_GT(calls.size(), 1U) << "it called nothing";
+    }
+
+    ScratchFolder folder;
+    std::vector<std::string> calls; ///< the names of those that failed, in their order
+};
+
+} // namespace ls::test
