@@ -43,6 +43,7 @@ int CliFixture::Run(const std::vector<std::string>& arguments)
     ReadAll(files, folder);
     out = run.out;
     err = run.err;
+    EXPECT_NE(run.status, -1) << err;
     return run.status;
 }
 

@@ -60,6 +60,7 @@ ProgramRun RunProgram(const std::string& program, const std::vector<std::string>
 {
     const ScratchFolder output;
     ProgramRun run;
+    DWORD failed = 0;
     {
         const WindowsHandle in = OpenStream("NUL", GENERIC_READ, OPEN_EXISTING);
         const WindowsHandle out = OpenStream(output / "out", GENERIC_WRITE, CREATE_NEW);
@@ -75,10 +76,15 @@ ProgramRun RunProgram(const std::string& program, const std::vector<std::string>
         if (::CreateProcessW(ToWide(program).value_or(L"").c_str(), line.data(), nullptr, nullptr, TRUE, 0,
                              nullptr, ToWide(folder).value_or(L"").c_str(), &start, &process) != 0) {
             run.status = WaitForEnd(process);
+        } else {
+            failed = ::GetLastError();
         }
     }
     run.out = output.Read("out");
     run.err = output.Read("err");
+    if (failed != 0) {
+        run.err += program + " was not started: error " + std::to_string(failed);
+    }
     return run;
 }
 
