@@ -3,7 +3,7 @@
 //
 //   probe execute SERVICE TOPIC COMMAND   a DDE client: sends an execute string, and prints what became of
 //                                         it: "taken", "busy", "refused" or "nobody"
-//   probe run LINE                        starts a program by exactly this command line
+//   probe run LINE FOLDER                 starts a program by exactly this command line in that folder
 //   probe windows                         the titles of all windows on show
 //   probe clipboard                       the text on the clipboard
 //   probe copy TEXT                       puts a text there
@@ -82,12 +82,12 @@ int Execute(const std::wstring& service, const std::wstring& topic, const std::w
     return Done;
 }
 
-int Start(std::wstring line)
+int Start(std::wstring line, const std::wstring& folder)
 {
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     PROCESS_INFORMATION process = {};
-    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &start,
                           &process)) {
         return Failed;
     }
@@ -184,8 +184,8 @@ int Run(const std::vector<std::wstring>& words)
     if (verb == L"execute" && words.size() == 4) {
         return Execute(words[1], words[2], words[3]);
     }
-    if (verb == L"run" && words.size() == 2) {
-        return Start(words[1]);
+    if (verb == L"run" && words.size() == 3) {
+        return Start(words[1], words[2]);
     }
     if (verb == L"windows" && words.size() == 1) {
         return ::EnumWindows(SayTitle, 0) ? Done : Failed;
