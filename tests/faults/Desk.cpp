@@ -64,9 +64,9 @@ Reply AgreeingMessages::ShowBox(const std::string& text, Icon icon, Buttons butt
 }
 
 std::optional<std::string> AgreeingMessages::ShowInputBox(const std::string&, const std::string&,
-                                                          const std::string&)
+                                                          const std::string& initial)
 {
-    return input;
+    return input.empty() ? initial : input;
 }
 
 Desk::Desk()

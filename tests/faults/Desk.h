@@ -25,7 +25,7 @@ class AgreeingMessages : public Messages
 public:
     using Messages::Messages;
 
-    std::string input; ///< what is typed into an input box
+    std::string input; ///< what is typed into an input box; nothing takes what it proposes
 
     /// What was said since the last call, joined by " + "; questions left out.
     std::string Take();

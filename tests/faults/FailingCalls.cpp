@@ -11,6 +11,7 @@ struct Plan
     int failAt = 0;
     SystemFault fault{};
     const char* failed = "";
+    std::string path; ///< of the call that failed
 };
 
 Plan plan;
@@ -19,7 +20,7 @@ Plan plan;
 
 FailingCalls::FailingCalls(int failAt, const SystemFault& fault)
 {
-    plan = {true, 0, failAt, fault, ""};
+    plan = {true, 0, failAt, fault, "", {}};
 }
 
 FailingCalls::~FailingCalls()
@@ -32,7 +33,12 @@ std::string FailingCalls::Failed() const
     return plan.failed;
 }
 
-std::optional<int> CodeOfFailing(const char* call)
+std::string FailingCalls::Path() const
+{
+    return plan.path;
+}
+
+std::optional<int> CodeOfFailing(const char* call, const std::string& path)
 {
     if (!plan.active) {
         return std::nullopt;
@@ -40,6 +46,7 @@ std::optional<int> CodeOfFailing(const char* call)
     ++plan.calls;
     if (plan.calls == plan.failAt) {
         plan.failed = call;
+        plan.path = path;
     }
     const bool fails =
         plan.calls == plan.failAt || (plan.fault.forGood && plan.failAt > 0 && plan.calls > plan.failAt);

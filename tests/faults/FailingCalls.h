@@ -26,10 +26,14 @@ public:
 
     /// The name of the call that failed first; empty when none did.
     [[nodiscard]] std::string Failed() const;
+
+    /// The path that it was given; of a call on something open the path that was opened last.
+    [[nodiscard]] std::string Path() const;
 };
 
-/// For what stands in a call's place: the code with which it is to fail now, if it is.
-[[nodiscard]] std::optional<int> CodeOfFailing(const char* call);
+/// For what stands in a call's place: the code with which it is to fail now, if it is. `path` is what it was
+/// given, or nothing.
+[[nodiscard]] std::optional<int> CodeOfFailing(const char* call, const std::string& path = {});
 
 /// Whether a `FailingCalls` is there, so that nobody needs to wait for anything.
 [[nodiscard]] bool CallsAreFailing();

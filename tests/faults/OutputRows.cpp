@@ -5,6 +5,7 @@
 #include "browser/HelpPages.h"
 #include "browser/WebReferral.h"
 #include "render/ExportItem.h"
+#include "render/PrtFormRules.h"
 
 namespace ls::test {
 
@@ -28,6 +29,17 @@ void Help(Desk& desk)
     desk.shown = desk.processes.started.empty() ? "" : desk.processes.started.front();
 }
 
+// The print dialog's button, with the printer that writes a PDF file under the name that is proposed.
+void NamePdf(Desk& desk)
+{
+    desk.printer.names = {"PDF"};
+    desk.printer.fileTo = "PDF";
+    desk.printer.log.clear();
+    const bool accepted =
+        AcceptPrtForm(desk.global.print, desk.printer, desk.book, desk.seams, {"PDF", 1, false, false});
+    desk.shown = accepted ? desk.printer.log.back() : "no file";
+}
+
 } // namespace
 
 std::vector<FaultRow> OutputRows()
@@ -49,6 +61,19 @@ std::vector<FaultRow> OutputRows()
              desk.OpenEdited();
          },
          Refer},
+        {"pdfName", openEdited, NamePdf},
+        {"pdfNameTaken",
+         [](Desk& desk) {
+             desk.files["/work/A.pdf"] = "older";
+             desk.OpenEdited();
+         },
+         NamePdf},
+        {"pdfNameOfAFolder",
+         [](Desk& desk) {
+             desk.files.AddFolder("/work/A.pdf");
+             desk.OpenEdited();
+         },
+         NamePdf},
         {"helpPage",
          [](Desk& desk) { desk.files["/program/Lodestar_Reader.htm"] = "help"; },
          Help,

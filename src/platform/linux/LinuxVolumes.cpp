@@ -1,13 +1,18 @@
 #include "platform/linux/LinuxVolumes.h"
 
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/LinuxBookFile.h"
+
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
+
+#include <fcntl.h>
 
 namespace ls {
 
 namespace {
+
+constexpr std::size_t Block = 16 * 1024; // bytes
 
 bool IsOctal(char c)
 {
@@ -51,6 +56,32 @@ bool IsForPeople(const std::string& mountPoint)
     return mountPoint == "/mnt" || mountPoint == "/media";
 }
 
+// A table's lines; those before an error are whole. Such a file has no size: it is read until its end.
+std::string ReadLines(const std::string& path)
+{
+    std::string text;
+    FileDescriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!descriptor.IsOpen()) {
+        return text;
+    }
+    LinuxBookFile file(std::move(descriptor));
+    for (;;) {
+        const std::size_t before = text.size();
+        std::size_t got = 0;
+        text.resize(before + Block);
+        const FileError failed =
+            file.ReadAt(static_cast<FilePos>(before) + 1, text.data() + before, Block, got);
+        text.resize(before + got);
+        if (!failed.Ok()) {
+            text.resize(text.rfind('\n') + 1);
+            return text;
+        }
+        if (got < Block) {
+            return text;
+        }
+    }
+}
+
 } // namespace
 
 std::vector<Volume> VolumesOf(std::string_view mounts, const std::string& home)
@@ -78,10 +109,8 @@ std::vector<Volume> VolumesOf(std::string_view mounts, const std::string& home)
 
 std::vector<Volume> LinuxVolumes::List()
 {
-    std::ifstream table("/proc/self/mounts", std::ios::binary);
-    const std::string mounts((std::istreambuf_iterator<char>(table)), std::istreambuf_iterator<char>());
     const char* home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe): the program has one thread
-    return VolumesOf(mounts, home == nullptr ? "" : home);
+    return VolumesOf(ReadLines(m_table), home == nullptr ? "" : home);
 }
 
 } // namespace ls

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ls {
 
@@ -13,7 +14,13 @@ namespace ls {
 class LinuxVolumes : public Volumes
 {
 public:
+    explicit LinuxVolumes(std::string table = "/proc/self/mounts") : m_table(std::move(table)) {}
+
+    /// Of a table that cannot be read to its end those that were read; the root and the home folder anyway.
     std::vector<Volume> List() override;
+
+private:
+    std::string m_table;
 };
 
 /// The volumes of a mount table in the form of /proc/self/mounts, with the home folder behind the root.

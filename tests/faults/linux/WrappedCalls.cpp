@@ -30,12 +30,20 @@ std::string CallOfRemoving()
 
 namespace {
 
-// Whether this call is to fail; `errno` is set then.
-bool Fails(const char* call)
+std::string opened; ///< the path that was opened last
+
+// Whether this call is to fail; `errno` is set then. One without a path is made on what was opened last.
+bool Fails(const char* call, const char* path = nullptr)
 {
-    const std::optional<int> code = CodeOfFailing(call);
+    const std::optional<int> code = CodeOfFailing(call, path == nullptr ? opened : path);
     errno = code.value_or(errno);
     return code.has_value();
+}
+
+bool FailsToOpen(const char* call, const char* path)
+{
+    opened = path;
+    return Fails(call, path);
 }
 
 } // namespace
@@ -43,6 +51,7 @@ bool Fails(const char* call)
 } // namespace ls::test
 
 using ls::test::Fails;
+using ls::test::FailsToOpen;
 
 // The linker's names for a call and for the one that is asked instead.
 extern "C" {
@@ -57,6 +66,7 @@ int __real_fsync(int descriptor);
 int __real_close(int descriptor);
 int __real_rename(const char* from, const char* to);
 int __real_renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags);
+int __real_access(const char* path, int mode);
 int __real_unlink(const char* path);
 DIR* __real_opendir(const char* path);
 struct dirent* __real_readdir(DIR* stream);
@@ -72,21 +82,22 @@ int __wrap_fsync(int descriptor);
 int __wrap_close(int descriptor);
 int __wrap_rename(const char* from, const char* to);
 int __wrap_renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags);
+int __wrap_access(const char* path, int mode);
 int __wrap_unlink(const char* path);
 DIR* __wrap_opendir(const char* path);
 struct dirent* __wrap_readdir(DIR* stream);
 
 int __wrap_open(const char* path, int flags, mode_t mode)
 {
-    return Fails("open") ? -1 : __real_open(path, flags, mode);
+    return FailsToOpen("open", path) ? -1 : __real_open(path, flags, mode);
 }
 int __wrap_stat(const char* path, struct stat* status)
 {
-    return Fails("stat") ? -1 : __real_stat(path, status);
+    return Fails("stat", path) ? -1 : __real_stat(path, status);
 }
 int __wrap_lstat(const char* path, struct stat* status)
 {
-    return Fails("lstat") ? -1 : __real_lstat(path, status);
+    return Fails("lstat", path) ? -1 : __real_lstat(path, status);
 }
 int __wrap_fstat(int descriptor, struct stat* status)
 {
@@ -119,19 +130,23 @@ int __wrap_close(int descriptor)
 }
 int __wrap_rename(const char* from, const char* to)
 {
-    return Fails("rename") ? -1 : __real_rename(from, to);
+    return Fails("rename", from) ? -1 : __real_rename(from, to);
 }
 int __wrap_renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags)
 {
-    return Fails("renameat2") ? -1 : __real_renameat2(fromFolder, from, toFolder, to, flags);
+    return Fails("renameat2", from) ? -1 : __real_renameat2(fromFolder, from, toFolder, to, flags);
+}
+int __wrap_access(const char* path, int mode)
+{
+    return Fails("access", path) ? -1 : __real_access(path, mode);
 }
 int __wrap_unlink(const char* path)
 {
-    return Fails("unlink") ? -1 : __real_unlink(path);
+    return Fails("unlink", path) ? -1 : __real_unlink(path);
 }
 DIR* __wrap_opendir(const char* path)
 {
-    return Fails("opendir") ? nullptr : __real_opendir(path);
+    return FailsToOpen("opendir", path) ? nullptr : __real_opendir(path);
 }
 struct dirent* __wrap_readdir(DIR* stream)
 {

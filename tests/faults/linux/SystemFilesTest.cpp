@@ -1,0 +1,112 @@
+// Files of the system that the program reads without a seam: desktop entries and the table of mounts. Each
+// system call fails in turn; what comes of it stands in the table "faults/system.txt".
+
+#include "../FailingCalls.h"
+#include "../FaultRow.h"
+#include "browser/APISubs.h"
+#include "platform/linux/LinuxFileSystem.h"
+#include "platform/linux/LinuxRegistry.h"
+#include "platform/linux/LinuxVolumes.h"
+#include "support/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <functional>
+
+namespace ls {
+namespace {
+
+using test::FailingCalls;
+using test::Outcome;
+
+constexpr int MostCalls = 200;
+
+struct SystemFiles : testing::Test
+{
+    // What comes of each call failing, and of none, as the table has it.
+    [[nodiscard]] std::string TableOf(const std::function<Outcome()>& act, int errnoValue) const
+    {
+        std::vector<Outcome> outcomes;
+        std::string failed;
+        do {
+            const FailingCalls failing(static_cast<int>(outcomes.size()) + 1, {"", errnoValue, false});
+            outcomes.push_back(act());
+            failed = failing.Failed();
+            outcomes.back().call = failed.empty() ? "" : failed + " " + Short(failing.Path());
+        } while (!failed.empty() && outcomes.size() < MostCalls);
+        return test::TableText(outcomes);
+    }
+
+    // What the user sees does not depend on the reason.
+    void ExpectTable(const std::string& row, const std::function<Outcome()>& act) const
+    {
+        for (const int errnoValue : {EIO, EMFILE, ENOMEM}) {
+            EXPECT_EQ(TableOf(act, errnoValue), test::ReadTable("system.txt", row)) << errnoValue;
+        }
+    }
+
+    [[nodiscard]] std::string Short(const std::string& path) const
+    {
+        return path.starts_with(scratch.Path()) ? path.substr(scratch.Path().size() + 1) : path;
+    }
+
+    test::ScratchFolder scratch;
+};
+
+TEST_F(SystemFiles, browser_eachCallFailing_isAsIfTheFileWereNotThere)
+{
+    scratch.WriteProgram("bin/web", "");
+    scratch.WriteProgram("bin/other", "");
+    scratch.Write("config/mimeapps.list", "[Default Applications]\ntext/html=web.desktop\n");
+    scratch.Write("share/applications/web.desktop", "[Desktop Entry]\nType=Application\nExec=web %u\n");
+    scratch.Write("share/applications/other.desktop", "[Desktop Entry]\nType=Application\nExec=other %u\n");
+    scratch.Write("share/applications/mimeinfo.cache", "[MIME Cache]\ntext/html=other.desktop\n");
+    ExpectTable("browser", [this] {
+        test::RecordingProcesses processes;
+        processes.environment = {{"XDG_CONFIG_HOME", scratch / "config"},
+                                 {"XDG_CONFIG_DIRS", scratch / "etc"},
+                                 {"XDG_DATA_HOME", scratch / "data"},
+                                 {"XDG_DATA_DIRS", scratch / "share"},
+                                 {"PATH", scratch / "bin"}};
+        LinuxRegistry registry(processes);
+        LinuxFileSystem files;
+        ProgramEnd end;
+        test::AgreeingMessages messages{end};
+        std::string program = ".HTM";
+        std::string page = "/page.htm";
+        const std::int16_t result =
+            LaunchProgram({files, messages, processes, end, UnixPaths}, registry, program, page);
+        Outcome outcome;
+        outcome.told = messages.Take();
+        outcome.left = result == launch::Started ? Short(processes.started.front()) : "no browser";
+        return outcome;
+    });
+}
+
+// A table of two blocks, in which a disk stands at the beginning, and one where they meet: "/media/la|st".
+std::string Mounts()
+{
+    constexpr std::size_t block = 16 * 1024;
+    const std::string before = "/dev/sdc1 /media/la";
+    std::string table = "/dev/sdb1 /media/first vfat rw 0 0\n";
+    table.resize(block - before.size() - 1, '#');
+    return table + "\n" + before + "st vfat rw 0 0\n";
+}
+
+TEST_F(SystemFiles, disks_eachCallFailing_listsThoseThatWereRead)
+{
+    LinuxVolumes volumes(scratch.Write("mounts", Mounts()));
+    ExpectTable("disks", [&volumes] {
+        Outcome outcome;
+        for (const Volume& volume : volumes.List()) {
+            if (volume.folder == "/" || volume.folder.starts_with("/media/")) { // not the home folder
+                outcome.left += (outcome.left.empty() ? "" : " ") + volume.folder;
+            }
+        }
+        return outcome;
+    });
+}
+
+} // namespace
+} // namespace ls
