@@ -10,7 +10,7 @@ selector_checks=(selector_pathOrPatternTyped_listsWhatIsThere selector_wrongPath
 second_folder=(60 161) first_file_at=(290 92)
 disk_of_books=$scratch/disk # drive D: of this Windows
 
-# A second disk with a name, and a drive E: whose disk is gone.
+# A second disk with a name, and a drive E: for disks that has none.
 add_drives() {
     mkdir -p "$disk_of_books/Old Books" "$books/Part Two"
     cp -- "$root/samples/Advice.IDA" "$disk_of_books/Disk.IDA"
@@ -115,8 +115,7 @@ selector_wrongPathTyped_saysWhyAndStays() {
     key alt+d
     key e
     wait_for are_open 2 && picture 24-selector-no-disk
-    # Windows tells "Disk not ready"; Wine has nothing better to say.
-    says_and_stays "a drive without a disk" 'Sorry, you cannot choose drive e: due to error 76: Path not found'
+    says_and_stays "a drive without a disk" 'Sorry, you cannot choose drive e: due to error 71: Disk not ready'
     same "the drive goes on" "$books_there\\*.IDA" "$(path_in_selector)"
     same "its first book" "$books_there\\Advice.IDA" "$(first_file)"
     leave_selector
