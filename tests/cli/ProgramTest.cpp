@@ -75,6 +75,19 @@ TEST_F(Program, topicByAnAccentedTitle_isShown)
     EXPECT_EQ(err, "");
 }
 
+// Greek letters, which the code page of Western Europe lacks.
+TEST_F(Program, bookWithANameBeyondTheCodePage_isWrittenReadAndNamed)
+{
+    const std::string name = "\xCE\xB1\xCE\xB2 \xE2\x82\xAC.IDA";
+    scratch.Write("a.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "x"}));
+    EXPECT_EQ(Run({"save", "a.IDA", name}), 0);
+    EXPECT_EQ(Run({"topics", name}), 0);
+    EXPECT_EQ(out, "1. A\n");
+    EXPECT_EQ(Run({"save", "a.IDA", name}), 1) << "nothing is written over";
+    EXPECT_EQ(Run({"info", "\xCE\xB3" + name}), 3);
+    EXPECT_EQ(err, "critical: Error opening <<\xCE\xB3" + name + ">> with code 53: File not found\n");
+}
+
 TEST_F(Program, advise_statusTellsHowTheDialogueEnded)
 {
     scratch.Write("a.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "<IXML>", "<LOGIC>", "TARGET R",

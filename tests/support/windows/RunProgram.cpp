@@ -53,6 +53,22 @@ int WaitForEnd(const PROCESS_INFORMATION& process)
     return ::GetExitCodeProcess(program.Get(), &status) != 0 ? static_cast<int>(status) : -1;
 }
 
+// Gives the system's code of a failure, 0 for none. On a busy machine Wine cannot start one program in some
+// thousand and calls that an internal error, before anything of the program has run: then it is tried again.
+DWORD Start(const std::string& program, const std::wstring& commandLine, const std::string& folder,
+            STARTUPINFOW start, PROCESS_INFORMATION& process)
+{
+    DWORD failed = ERROR_INTERNAL_ERROR;
+    for (int tries = 0; failed == ERROR_INTERNAL_ERROR && tries < 3; ++tries) {
+        std::wstring line = commandLine;
+        const BOOL started =
+            ::CreateProcessW(ToWide(program).value_or(L"").c_str(), line.data(), nullptr, nullptr, TRUE, 0,
+                             nullptr, ToWide(folder).value_or(L"").c_str(), &start, &process);
+        failed = started != 0 ? 0 : ::GetLastError();
+    }
+    return failed;
+}
+
 } // namespace
 
 ProgramRun RunProgram(const std::string& program, const std::vector<std::string>& arguments,
@@ -72,13 +88,8 @@ ProgramRun RunProgram(const std::string& program, const std::vector<std::string>
         start.hStdOutput = out.Get();
         start.hStdError = err.Get();
         PROCESS_INFORMATION process = {};
-        std::wstring line = CommandLine(program, arguments);
-        if (::CreateProcessW(ToWide(program).value_or(L"").c_str(), line.data(), nullptr, nullptr, TRUE, 0,
-                             nullptr, ToWide(folder).value_or(L"").c_str(), &start, &process) != 0) {
-            run.status = WaitForEnd(process);
-        } else {
-            failed = ::GetLastError();
-        }
+        failed = Start(program, CommandLine(program, arguments), folder, start, process);
+        run.status = failed == 0 ? WaitForEnd(process) : -1;
     }
     run.out = output.Read("out");
     run.err = output.Read("err");
