@@ -1,3 +1,4 @@
+#include "support/Cases.h"
 #include "EventLines.h"
 #include "advisor/AdvisorRunner.h"
 #include "advisor/AdvisorTables.h"
@@ -7,8 +8,6 @@
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
 
 namespace ls {
 namespace {
@@ -82,18 +81,7 @@ std::string RunCase(const test::Json& data, const std::string& bookBytes)
     return happened;
 }
 
-std::vector<std::string> CaseNames()
-{
-    std::vector<std::string> names;
-    const std::filesystem::path folder = std::string(LS_TEST_DATA) + "/cases/advisor";
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        if (entry.path().extension() == ".json") {
-            names.push_back(entry.path().stem().string());
-        }
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
+constexpr const char* Folder = "cases/advisor";
 
 class AdvisorCases : public testing::TestWithParam<std::string>
 {
@@ -101,7 +89,7 @@ class AdvisorCases : public testing::TestWithParam<std::string>
 
 TEST_P(AdvisorCases, runsOfCase_giveItsEvents)
 {
-    const std::string stem = std::string(LS_TEST_DATA) + "/cases/advisor/" + GetParam();
+    const std::string stem = test::CasePath(Folder, GetParam());
     const test::Json data = test::Json::ParseFile(stem + ".json");
     std::string expected;
     for (const test::Json& event : data["events"].Items()) {
@@ -111,15 +99,11 @@ TEST_P(AdvisorCases, runsOfCase_giveItsEvents)
     EXPECT_EQ(RunCase(data, test::ReadWholeFile(stem + ".IDA")), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, AdvisorCases, testing::ValuesIn(CaseNames()), [](const auto& testCase) {
-    std::string name = testCase.param;
-    name.erase(std::remove(name.begin(), name.end(), '-'), name.end());
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(All, AdvisorCases, testing::ValuesIn(test::CaseNames(Folder)), test::CaseTestName);
 
 TEST(AdvisorCaseFiles, hundredCases_areThere)
 {
-    EXPECT_EQ(CaseNames().size(), 100U);
+    EXPECT_EQ(test::CaseNames(Folder).size(), 100U);
 }
 
 } // namespace

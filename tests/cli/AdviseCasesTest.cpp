@@ -3,9 +3,8 @@
 #include "CliFixture.h"
 #include "advisor/EventLines.h"
 #include "cli/JsonWriter.h"
+#include "support/Cases.h"
 
-#include <algorithm>
-#include <filesystem>
 #include <sstream>
 
 namespace ls {
@@ -14,19 +13,7 @@ namespace {
 using test::Json;
 using Strings = std::vector<std::string>;
 
-const std::string Folder = std::string(LS_TEST_DATA) + "/cases/advisor/";
-
-Strings CaseNames()
-{
-    Strings names;
-    for (const auto& entry : std::filesystem::directory_iterator(Folder)) {
-        if (entry.path().extension() == ".json") {
-            names.push_back(entry.path().stem().string());
-        }
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
+constexpr const char* Folder = "cases/advisor";
 
 class AdviseCase : public test::CliFixture, public testing::WithParamInterface<std::string>
 {
@@ -61,8 +48,8 @@ protected:
 
 TEST_P(AdviseCase, json_hasTheCasesEvents)
 {
-    const Json data = Json::ParseFile(Folder + GetParam() + ".json");
-    files["/work/case.IDA"] = test::ReadWholeFile(Folder + GetParam() + ".IDA");
+    const Json data = Json::ParseFile(test::CasePath(Folder, GetParam()) + ".json");
+    files["/work/case.IDA"] = test::ReadWholeFile(test::CasePath(Folder, GetParam()) + ".IDA");
     Run(Arguments(data));
     const Json events = Json::Parse(out);
     ASSERT_EQ(events.Items().size(), data["events"].Items().size());
@@ -71,8 +58,7 @@ TEST_P(AdviseCase, json_hasTheCasesEvents)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, AdviseCase, testing::ValuesIn(CaseNames()),
-                         [](const auto& row) { return "case" + row.param.substr(row.param.find('-') + 1); });
+INSTANTIATE_TEST_SUITE_P(All, AdviseCase, testing::ValuesIn(test::CaseNames(Folder)), test::CaseTestName);
 
 } // namespace
 } // namespace ls

@@ -47,18 +47,4 @@ int CliFixture::Run(const std::vector<std::string>& arguments)
     return run.status;
 }
 
-std::string CliFixture::Out(const std::vector<std::string>& arguments, int status)
-{
-    EXPECT_EQ(Run(arguments), status);
-    EXPECT_EQ(err, "");
-    return out;
-}
-
-Json CliFixture::OutJson(const std::vector<std::string>& arguments, int status)
-{
-    std::vector<std::string> withJson = arguments;
-    withJson.emplace_back("--json");
-    return Json::Parse(Out(withJson, status));
-}
-
 } // namespace ls::test

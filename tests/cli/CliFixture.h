@@ -11,7 +11,8 @@
 
 namespace ls::test {
 
-/// `lsbook` run in process, with files in memory.
+/// `lsbook` run in process, with files in memory; where CliByProgram.cpp takes the place of CliFixture.cpp,
+/// the built program with real files.
 class CliFixture : public testing::Test
 {
 protected:
@@ -19,10 +20,19 @@ protected:
     int Run(const std::vector<std::string>& arguments);
 
     /// Runs a command that must end with `status` and say nothing on standard error; gives its output.
-    std::string Out(const std::vector<std::string>& arguments, int status = 0);
+    std::string Out(const std::vector<std::string>& arguments, int status = 0)
+    {
+        EXPECT_EQ(Run(arguments), status);
+        EXPECT_EQ(err, "");
+        return out;
+    }
 
     /// The same with its output as JSON.
-    Json OutJson(const std::vector<std::string>& arguments, int status = 0);
+    Json OutJson(std::vector<std::string> arguments, int status = 0)
+    {
+        arguments.emplace_back("--json");
+        return Json::Parse(Out(arguments, status));
+    }
 
     MemoryFileSystem files;
     RecordingProcesses processes;

@@ -3,8 +3,8 @@
 #include "CliFixture.h"
 
 #include "base/CodePage.h"
+#include "support/Cases.h"
 
-#include <algorithm>
 #include <filesystem>
 
 namespace ls {
@@ -13,27 +13,15 @@ namespace {
 using test::Json;
 using Strings = std::vector<std::string>;
 
-const std::string Folder = std::string(LS_TEST_DATA) + "/cases/text/";
-
-Strings CaseNames()
-{
-    Strings names;
-    for (const auto& entry : std::filesystem::directory_iterator(Folder)) {
-        if (entry.path().extension() == ".json") {
-            names.push_back(entry.path().stem().string());
-        }
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
+constexpr const char* Folder = "cases/text";
 
 class TextCase : public test::CliFixture, public testing::WithParamInterface<std::string>
 {
 protected:
     void SetUp() override
     {
-        m_expected = Json::ParseFile(Folder + GetParam() + ".json");
-        files["/work/case.IDA"] = test::ReadWholeFile(Folder + GetParam() + ".IDA");
+        m_expected = Json::ParseFile(test::CasePath(Folder, GetParam()) + ".json");
+        files["/work/case.IDA"] = test::ReadWholeFile(test::CasePath(Folder, GetParam()) + ".IDA");
     }
 
     Json Of(Strings arguments)
@@ -61,7 +49,7 @@ TEST_P(TextCase, info_asExpected)
 
 TEST_P(TextCase, save_asExpected)
 {
-    const std::string expected = Folder + GetParam() + ".saved.IDA";
+    const std::string expected = test::CasePath(Folder, GetParam()) + ".saved.IDA";
     if (!std::filesystem::exists(expected)) {
         EXPECT_EQ(Run({"save", "case.IDA", "out.IDA"}), 1);
         EXPECT_EQ(m_expected["topics"].Items().size(), 0U)
@@ -131,14 +119,7 @@ TEST_P(TextCase, export_asExpected)
     }
 }
 
-std::string TestName(const testing::TestParamInfo<std::string>& info)
-{
-    std::string name = info.param;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, TextCase, testing::ValuesIn(CaseNames()), TestName);
+INSTANTIATE_TEST_SUITE_P(Cases, TextCase, testing::ValuesIn(test::CaseNames(Folder)), test::CaseTestName);
 
 } // namespace
 } // namespace ls

@@ -2,17 +2,8 @@
 // one in turn, once and for good.
 
 #include "SystemCallsFixture.h"
-#include "app/Global.h"
 #include "base/ReplaceFile.h"
-#include "book/BookLoader.h"
-#include "files/FileFormRules.h"
-#include "platform/SystemSeams.h"
-#include "reader/BookCommands.h"
-#include "reader/Navigation.h"
-#include "reader/RecordingView.h"
-#include "reader/SaveItem.h"
-#include "support/RecordingMessages.h"
-#include "support/RecordingProcesses.h"
+#include "reader/RealDesk.h"
 #include "support/TestSeams.h"
 
 #include <algorithm>
@@ -28,43 +19,9 @@ const std::string Unedited = test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "[B]"
 const std::string Edited = test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "[B]", "edited", ""});
 constexpr const char* Saved = "information|Lodestar Advisor|File saved";
 
-// The main window's rules on real files, with an edited book.
-struct Desk
-{
-    explicit Desk(const test::ScratchFolder& folder)
-    {
-        settings.IniDir = folder.Path();
-        book.BookPath = folder / "In.IDA";
-        book.LockBook = true;
-        EXPECT_TRUE(OpenBook(book, seams) && ScanBook(book, seams));
-        book.TopicRecs(2).Text = "edited\r\n";
-        book.BookChanged = true;
-    }
-
-    Strings SaveAs(const std::string& path)
-    {
-        view.onFileForm = [this, path] { AcceptFileName(dialog, path, false, book.LockBook, seams); };
-        save.SaveItem_Click();
-        return messages.Take();
-    }
-
-    ProgramEnd end;
-    std::unique_ptr<FileSystem> files = MakeFileSystem();
-    test::RecordingMessages messages{end};
-    test::RecordingProcesses processes;
-    Seams seams{*files, messages, processes, end, NativePaths()};
-    Book book;
-    Settings settings;
-    FileDialog dialog;
-    test::RecordingView view;
-    Navigation navigation{book, seams, view};
-    BookCommands commands{book, settings, dialog, seams, view, navigation};
-    SaveItem save{book, settings, dialog, seams, view, commands};
-};
-
 TEST_P(SystemCalls, save_eachCallFailing_losesNothing)
 {
-    std::unique_ptr<Desk> desk;
+    std::unique_ptr<test::RealDesk> desk;
     Strings boxes;
     folder.Write("In.IDA", Unedited);
     ForEachCall(
@@ -91,7 +48,8 @@ TEST_P(SystemCalls, save_eachCallFailing_losesNothing)
                     std::filesystem::remove(entry.path());
                 }
             }
-            desk = std::make_unique<Desk>(folder);
+            desk = std::make_unique<test::RealDesk>(folder.Path());
+            ASSERT_TRUE(desk->OpenEdited(folder / "In.IDA"));
         });
     for (const std::string& name : test::CallsOfSaving()) {
         EXPECT_NE(std::find(calls.begin(), calls.end(), name), calls.end()) << name << " never failed";

@@ -7,6 +7,7 @@
 #include "gui/Controls.h"
 #include "gui/ModalScript.h"
 #include "render/ShowTopic.h"
+#include "support/Cases.h"
 #include "support/Json.h"
 #include "support/TestSeams.h"
 
@@ -108,7 +109,7 @@ struct AdvFormCases : testing::TestWithParam<int>
 
 TEST_P(AdvFormCases, dialogue_throughTheWindow_showsItsEvents)
 {
-    const std::string stem = std::string(LS_TEST_DATA) + "/cases/advisor/case-" + std::to_string(GetParam());
+    const std::string stem = test::CasePath("cases/advisor", "case-" + std::to_string(GetParam()));
     const Json data = Json::ParseFile(stem + ".json");
     OpenCase(stem);
     for (const Json& event : data["events"].Items()) {

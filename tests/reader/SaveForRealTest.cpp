@@ -1,19 +1,8 @@
 // Saving on the real file system: on a disk that is full, and in a process that is killed while it saves.
 
-#include "book/Book.h"
-#include "book/BookLoader.h"
-#include "files/FileDialog.h"
-#include "files/FileFormRules.h"
+#include "RealDesk.h"
 #include "platform/ChildProcess.h"
-#include "platform/linux/LinuxFileSystem.h"
-#include "reader/BookCommands.h"
-#include "reader/Navigation.h"
-#include "reader/RecordingView.h"
-#include "reader/SaveItem.h"
-#include "reader/Settings.h"
-#include "support/RecordingProcesses.h"
 #include "support/ScratchFolder.h"
-#include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
 
@@ -60,46 +49,13 @@ std::string BookText(std::size_t bytesOfTopic, bool edited)
     return bytes;
 }
 
-/// The main window's rules on real files: `input` is open, locked, and its second topic edited.
-struct RealWorld
+// The settings remember a file of another day.
+struct RealWorld : test::RealDesk
 {
-    explicit RealWorld(const std::string& iniDir)
+    explicit RealWorld(const std::string& iniDir) : RealDesk(iniDir)
     {
-        settings.IniDir = iniDir;
         AddRecentFile(settings, "/elsewhere/Old.IDA");
     }
-
-    bool OpenEdited(const std::string& input)
-    {
-        book.BookPath = input;
-        book.LockBook = true;
-        if (!OpenBook(book, seams) || !ScanBook(book, seams)) {
-            return false;
-        }
-        book.TopicRecs(2).Text = "edited\r\n";
-        book.BookChanged = true;
-        return true;
-    }
-
-    Strings SaveAs(const std::string& path)
-    {
-        view.onFileForm = [this, path] { AcceptFileName(dialog, path, false, book.LockBook, seams); };
-        save.SaveItem_Click();
-        return messages.Take();
-    }
-
-    ProgramEnd end;
-    LinuxFileSystem files;
-    test::RecordingMessages messages{end};
-    test::RecordingProcesses processes;
-    Seams seams{files, messages, processes, end, UnixPaths};
-    Book book;
-    Settings settings;
-    FileDialog dialog;
-    test::RecordingView view;
-    Navigation navigation{book, seams, view};
-    BookCommands commands{book, settings, dialog, seams, view, navigation};
-    SaveItem save{book, settings, dialog, seams, view, commands};
 };
 
 struct SaveForReal : testing::Test

@@ -1,11 +1,6 @@
 // Programs that are killed at any moment, with real files.
 
-#include "RecoveryFixture.h"
-#include "platform/SystemSeams.h"
-#include "recovery/FindJournals.h"
-#include "recovery/JournalFile.h"
-#include "recovery/OwnJournal.h"
-#include "support/ScratchFolder.h"
+#include "RealFilesFixture.h"
 
 #include <chrono>
 #include <csignal>
@@ -21,22 +16,11 @@
 namespace ls {
 namespace {
 
-struct KillTest : testing::Test
+struct KillTest : RealFilesFixture
 {
-    test::ScratchFolder scratch;
-    std::unique_ptr<FileSystem> files = MakeFileSystem();
-    ProgramEnd end;
-    test::RecordingMessages messages{end};
-    test::RecordingProcesses processes;
-    std::string folder = scratch / "state/lodestar-advisor";
-
-    [[nodiscard]] Seams Get() { return {*files, messages, processes, end, UnixPaths}; }
-
     /// The program: it types without a pause, and tells the number of each edit once its journal is written.
     [[noreturn]] void Edit(int told)
     {
-        Book book;
-        static_cast<void>(AddTopic(book, "One"));
         OwnJournal own(Get(), folder);
         for (std::int64_t edit = 1;; ++edit) {
             book.TopicRecs(1).Text = std::string(static_cast<std::size_t>(1000 + edit % 5000), 'x');
@@ -91,27 +75,12 @@ TEST_F(KillTest, killedAtAnyMoment_nothingThatWasSeenIsLost)
         ASSERT_EQ(reading.journal.recs.size(), 1U);
         EXPECT_EQ(reading.journal.recs.front().text.size(), static_cast<std::size_t>(1000 + kept % 5000));
         EXPECT_EQ(found.front().claim->Remove(), FileError{});
-        std::vector<FolderEntry> entries;
-        EXPECT_TRUE(files->List(folder, entries).Ok());
-        EXPECT_TRUE(entries.empty()) << entries.front().name;
+        EXPECT_EQ(Entries(), Strings{});
     }
-}
-
-TEST_F(KillTest, runningProgram_keepsItsJournalToItself)
-{
-    Book book;
-    ASSERT_TRUE(AddTopic(book, "One"));
-    auto own = std::make_unique<OwnJournal>(Get(), folder);
-    ASSERT_EQ(own->Update(book, {}, 1), FileError{});
-    EXPECT_TRUE(FindJournals(Get(), folder).journals.empty());
-    own.reset();
-    EXPECT_EQ(FindJournals(Get(), folder).journals.size(), 1U);
 }
 
 TEST_F(KillTest, folderRemovedMeanwhile_isMadeAgain)
 {
-    Book book;
-    ASSERT_TRUE(AddTopic(book, "One"));
     OwnJournal own(Get(), folder);
     ASSERT_EQ(own.Update(book, {}, 1), FileError{});
     std::filesystem::remove_all(scratch / "state");
@@ -124,18 +93,15 @@ TEST_F(KillTest, folderRemovedMeanwhile_isMadeAgain)
 TEST_F(KillTest, journalAndItsFolder_areForThisUserOnly)
 {
     const mode_t mask = ::umask(0);
-    Book book;
-    ASSERT_TRUE(AddTopic(book, "One"));
     OwnJournal own(Get(), folder);
     EXPECT_EQ(own.Update(book, {}, 1), FileError{});
     ::umask(mask);
-    std::vector<FolderEntry> entries;
-    ASSERT_TRUE(files->List(folder, entries).Ok());
+    const Strings entries = Entries();
     ASSERT_EQ(entries.size(), 2U);
-    for (const FolderEntry& entry : entries) {
-        EXPECT_EQ(std::filesystem::status(folder + "/" + entry.name).permissions(),
+    for (const std::string& entry : entries) {
+        EXPECT_EQ(std::filesystem::status(folder + "/" + entry).permissions(),
                   std::filesystem::perms::owner_read | std::filesystem::perms::owner_write)
-            << entry.name;
+            << entry;
     }
     EXPECT_EQ(std::filesystem::status(folder).permissions(), std::filesystem::perms::owner_all);
 }

@@ -1,33 +1,11 @@
 // Journals in real files of the system that the test runs on.
 
-#include "RecoveryFixture.h"
-#include "platform/SystemSeams.h"
-#include "support/ScratchFolder.h"
+#include "RealFilesFixture.h"
 
 namespace ls {
 namespace {
 
-struct RealFilesTest : testing::Test
-{
-    test::ScratchFolder scratch;
-    std::unique_ptr<FileSystem> files = MakeFileSystem();
-    ProgramEnd end;
-    test::RecordingMessages messages{end};
-    test::RecordingProcesses processes;
-    std::string folder = JoinPath(NativePaths(), scratch / "state", "lodestar-advisor");
-    Book book;
-
-    [[nodiscard]] Seams Get() { return {*files, messages, processes, end, NativePaths()}; }
-
-    void SetUp() override { ASSERT_TRUE(AddTopic(book, "One")); }
-
-    [[nodiscard]] std::size_t Entries()
-    {
-        std::vector<FolderEntry> entries;
-        EXPECT_TRUE(files->List(folder, entries).Ok());
-        return entries.size();
-    }
-};
+using RealFilesTest = RealFilesFixture;
 
 TEST_F(RealFilesTest, runningProgram_keepsItsJournalToItself)
 {
@@ -55,16 +33,16 @@ TEST_F(RealFilesTest, journalOfAnEndedProgram_holdsTheLastEdit)
     ASSERT_EQ(reading.journal.recs.size(), 1U);
     EXPECT_EQ(reading.journal.recs.front().text, "edited\r\n");
     EXPECT_EQ(search.journals.front().claim->Remove(), FileError{});
-    EXPECT_EQ(Entries(), 0U);
+    EXPECT_EQ(Entries(), Strings{});
 }
 
 TEST_F(RealFilesTest, editsThatWereSaved_leaveNothing)
 {
     OwnJournal own(Get(), folder);
     ASSERT_EQ(own.Update(book, {}, 1), FileError{});
-    EXPECT_EQ(Entries(), 2U);
+    EXPECT_EQ(Entries().size(), 2U);
     EXPECT_EQ(own.Remove(), FileError{});
-    EXPECT_EQ(Entries(), 0U);
+    EXPECT_EQ(Entries(), Strings{});
 }
 
 } // namespace

@@ -4,13 +4,11 @@
 #include "base/Text.h"
 #include "book/BookLoader.h"
 #include "render/ShowTopic.h"
+#include "support/Cases.h"
 #include "support/Json.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
-#include <filesystem>
 
 namespace ls {
 namespace {
@@ -19,27 +17,15 @@ using test::Json;
 using test::TestSeams;
 using Strings = std::vector<std::string>;
 
-const std::string Folder = std::string(LS_TEST_DATA) + "/cases/text/";
-
-Strings CaseNames()
-{
-    Strings names;
-    for (const auto& entry : std::filesystem::directory_iterator(Folder)) {
-        if (entry.path().extension() == ".json") {
-            names.push_back(entry.path().stem().string());
-        }
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
+constexpr const char* Folder = "cases/text";
 
 class BookCase : public testing::TestWithParam<std::string>
 {
 protected:
     void SetUp() override
     {
-        m_expected = Json::ParseFile(Folder + GetParam() + ".json");
-        m_test.files["/case.IDA"] = test::ReadWholeFile(Folder + GetParam() + ".IDA");
+        m_expected = Json::ParseFile(test::CasePath(Folder, GetParam()) + ".json");
+        m_test.files["/case.IDA"] = test::ReadWholeFile(test::CasePath(Folder, GetParam()) + ".IDA");
         m_book.BookPath = "/case.IDA";
         const bool isBook = m_expected["info"]["is_book"].Bool();
         if (!isBook) {
@@ -121,14 +107,7 @@ TEST_P(BookCase, topics_shownAsExpected)
     }
 }
 
-std::string TestName(const testing::TestParamInfo<std::string>& info)
-{
-    std::string name = info.param;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Cases, BookCase, testing::ValuesIn(CaseNames()), TestName);
+INSTANTIATE_TEST_SUITE_P(Cases, BookCase, testing::ValuesIn(test::CaseNames(Folder)), test::CaseTestName);
 
 } // namespace
 } // namespace ls
