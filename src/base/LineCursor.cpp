@@ -37,6 +37,7 @@ void LineCursor::Seek(FilePos pos)
     m_blockPos = pos < 1 ? 1 : pos;
     m_size = 0;
     m_next = 0;
+    m_inLine = false;
     m_error = {};
 }
 
@@ -49,19 +50,48 @@ bool LineCursor::Fill()
     }
     m_blockPos = Position();
     m_next = 0;
-    const std::size_t wanted = m_capacity == 0       ? FirstBlock
-                               : m_size < m_capacity ? m_capacity
-                                                     : std::min(2 * m_capacity, LastBlock);
-    if (m_capacity < wanted) {
-        m_block = std::make_unique_for_overwrite<char[]>(wanted);
-        m_capacity = wanted;
-    }
+    const std::size_t wanted =
+        m_capacity == 0 ? FirstBlock : std::min(m_size < m_capacity ? m_capacity : 2 * m_capacity, LastBlock);
     m_size = 0;
+    if (m_capacity < wanted || m_capacity > LastBlock) { // it grows beyond that for a single line only
+        SetCapacity(wanted, 0);
+    }
     m_error = m_file->ReadAt(m_blockPos, m_block.get(), m_capacity, m_size);
     if (!m_error.Ok()) {
         m_size = 0;
     }
     return m_size > 0;
+}
+
+// Changes the block's size, and moves as many bytes from m_next on to its front.
+void LineCursor::SetCapacity(std::size_t wanted, std::size_t kept)
+{
+    auto block = std::make_unique_for_overwrite<char[]>(wanted);
+    std::copy_n(m_block.get() + m_next, kept, block.get());
+    m_block = std::move(block);
+    m_capacity = wanted;
+}
+
+// Moves the bytes from Position() on to the block's front and reads more behind them; at least as many as
+// they are, so that a line is not moved more often than it is read. Else as Fill.
+bool LineCursor::FillBehind()
+{
+    if (!m_error.Ok()) {
+        return false;
+    }
+    const std::size_t kept = m_size - m_next;
+    if (m_capacity < LastBlock || kept > m_capacity / 2) {
+        SetCapacity(std::max(std::min(kept + 2 * m_capacity, LastBlock), 2 * kept), kept);
+    } else {
+        std::memmove(m_block.get(), m_block.get() + m_next, kept);
+    }
+    m_blockPos = Position();
+    m_next = 0;
+    std::size_t got = 0;
+    m_error =
+        m_file->ReadAt(m_blockPos + static_cast<FilePos>(kept), m_block.get() + kept, m_capacity - kept, got);
+    m_size = kept + (m_error.Ok() ? got : 0);
+    return m_size > kept;
 }
 
 bool LineCursor::AtEnd()
@@ -172,6 +202,55 @@ FileError LineCursor::ReadPiece(std::string_view& piece, bool& more)
     // Passing a CR at the block's end would fill the block anew: the piece would be gone.
     more = length + 1 >= block.size();
     return more ? FileError{} : PassLineEnd();
+}
+
+// Takes the line if its end is in the block; `searched` bytes of it have none. A CR at the block's end is not
+// passed, as its LF may follow.
+bool LineCursor::TakeWholeLine(std::size_t searched, std::string_view& line)
+{
+    const std::string_view rest(m_block.get() + m_next, m_size - m_next);
+    const std::size_t length = rest.find('\r', searched);
+    if (length == std::string_view::npos || length + 1 == rest.size()) {
+        line = rest.substr(0, length);
+        return false;
+    }
+    line = rest.substr(0, length);
+    m_next += length + (rest[length + 1] == '\n' ? 2 : 1);
+    return true;
+}
+
+FileError LineCursor::BeginLine(std::string_view& line, bool& whole)
+{
+    if (m_next == m_size && !Fill()) {
+        line = {};
+        return m_error.Ok() ? MakeFileError(error::InputPastEnd) : m_error;
+    }
+    whole = TakeWholeLine(0, line);
+    return whole ? FileError{} : ReadOn(line, 0, whole);
+}
+
+FileError LineCursor::ReadOn(std::string_view& line, std::size_t passed, bool& whole)
+{
+    m_next += passed;
+    const std::size_t searched = line.size() - passed;
+    const bool more = FillBehind();
+    whole = TakeWholeLine(searched, line);
+    m_inLine = !whole;
+    if (!more) {
+        m_next = m_size; // the last line may lack its line end
+        m_inLine = false;
+        whole = true;
+    }
+    return m_error;
+}
+
+FileError LineCursor::EndLine()
+{
+    if (!m_inLine) {
+        return {};
+    }
+    m_inLine = false;
+    return SkipLine();
 }
 
 std::string_view LineCursor::ReadCrLfLines(FilePos end)

@@ -43,6 +43,17 @@ public:
     /// Reads a line piece by piece, so that one of any length costs no memory: `more` is false before the
     /// first piece and after the last, which may be empty. A piece is valid until the cursor's next call.
     FileError ReadPiece(std::string_view& piece, bool& more);
+    /// Begins a line of any length: gives all of it, with `whole` set, or what one block holds of it, at
+    /// least. `ReadOn` or `EndLine` must follow then. What is given is valid until the cursor's next call.
+    FileError BeginLine(std::string_view& line, bool& whole);
+
+    /// Gives more of a line that was begun and not given whole: what was given before without the first
+    /// `passed` characters, and what follows it. So a line of any length can be read in the memory of what is
+    /// looked at together. At an error `line` is what is left of what was given before.
+    FileError ReadOn(std::string_view& line, std::size_t passed, bool& whole);
+
+    /// Passes over the rest of a line that was begun, if there is any.
+    FileError EndLine();
 
     /// Passes several whole lines that all end in CR LF, before `end`, and gives their bytes, line ends
     /// included; valid until the cursor's next call. Nothing is passed, and the result is empty, where the
@@ -55,6 +66,9 @@ public:
 
 private:
     bool Fill();
+    bool FillBehind();
+    bool TakeWholeLine(std::size_t searched, std::string_view& line);
+    void SetCapacity(std::size_t wanted, std::size_t kept);
     void AppendRestOfBlock(std::string& line);
     [[nodiscard]] std::size_t RestOfLine();
     FileError PassLineEnd();
@@ -66,6 +80,7 @@ private:
     std::size_t m_size = 0;     ///< bytes in m_block
     std::size_t m_next = 0;     ///< the next of them
     FilePos m_blockPos = 1;     ///< position of m_block's first byte
+    bool m_inLine = false;      ///< a line begins at m_next that was given in part
     FileError m_error;          ///< of the last Fill that failed
     std::string m_line;         ///< a line that does not lie in one block, put together
 };

@@ -46,8 +46,9 @@ public:
     bool Take(TopicBody& body)
     {
         std::string_view line;
-        while (body.Next(line)) {
-            line = TrimRight(line);
+        LineCursor* more = nullptr;
+        while (body.NextPart(line, more)) {
+            line = more == nullptr ? TrimRight(line) : line;
             if (!m_plainText) {
                 if (BeginsUpper(line, XrefBeginning)) {
                     m_skip = true;
@@ -61,7 +62,7 @@ public:
                 }
             }
             if (!m_skip) {
-                Wrap(line);
+                Wrap(line, more);
             }
         }
         return false;
@@ -70,10 +71,10 @@ public:
     [[nodiscard]] bool Overflowed() const { return m_overflowed; }
 
 private:
-    void Wrap(std::string_view line)
+    void Wrap(std::string_view line, LineCursor* more)
     {
         const int hang = ListIndent(line);
-        LineRemainder rest(line);
+        LineRemainder rest(line, more);
         int indent = 0;
         do {
             std::string* segment = m_shown->lines.AddLine();

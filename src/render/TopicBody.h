@@ -18,6 +18,15 @@ public:
     /// after an error, which `Failed` tells.
     virtual bool Next(std::string_view& line) = 0;
 
+    /// The same; but of a line that is too long to be had at once its beginning, and in `rest` the cursor
+    /// that reads on in it (nullptr: the line is whole). A beginning has at least some characters between its
+    /// blanks: what the line is, it tells.
+    virtual bool NextPart(std::string_view& line, LineCursor*& rest)
+    {
+        rest = nullptr;
+        return Next(line);
+    }
+
     [[nodiscard]] virtual FileError Failed() const { return {}; }
 };
 
@@ -28,11 +37,13 @@ public:
     explicit FileBody(LineCursor& cursor) : m_cursor(&cursor) {}
 
     bool Next(std::string_view& line) override;
+    bool NextPart(std::string_view& line, LineCursor*& rest) override;
     [[nodiscard]] FileError Failed() const override { return m_failed; }
 
 private:
     LineCursor* m_cursor;
     FileError m_failed;
+    bool m_inLine = false; ///< the last one was given in part
 };
 
 /// Lines of a text in memory, parted by CR LF. One at the end begins no further line.

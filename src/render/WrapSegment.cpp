@@ -1,5 +1,8 @@
 #include "render/WrapSegment.h"
 
+#include "base/Text.h"
+#include "render/EightBytes.h"
+
 #include <algorithm>
 #include <bit>
 #include <cassert>
@@ -11,30 +14,15 @@ namespace {
 
 constexpr std::size_t TabSpaces = 5;
 
-// How far a search for markup goes that finds none: some rows.
-constexpr std::size_t LookAhead = 1024;
-
-bool IsMarkup(char c)
-{
-    return c == '<' || c == '&';
-}
-
 // The last blank, from 0. Words are short, so it is nearly always among the last eight characters, which are
 // looked at together: a loop over them would end somewhere else for each row.
 std::size_t FindLastBlank(std::string_view row)
 {
-    std::uint64_t tail = 0;
-    if (row.size() < sizeof tail) {
+    if (row.size() < 8) {
         return row.rfind(' ');
     }
-    for (std::size_t i = 0; i < sizeof tail;
-         ++i) { // one load where the processor has its bytes in this order
-        const auto c = static_cast<unsigned char>(row[row.size() - sizeof tail + i]);
-        tail |= std::uint64_t{c} << (8 * i);
-    }
-    constexpr std::uint64_t blanks = 0x2020202020202020;
-    constexpr std::uint64_t lowBits = 0x7F7F7F7F7F7F7F7F;
-    const std::uint64_t other = tail ^ blanks;
+    constexpr std::uint64_t lowBits = InEachByte(0x7F);
+    const std::uint64_t other = EightBytes(row.data() + row.size() - 8) ^ InEachByte(' ');
     const std::uint64_t found = ~(((other & lowBits) + lowBits) | other | lowBits); // 0x80 for each blank
     return found == 0 ? row.rfind(' ')
                       : row.size() - 1 - static_cast<std::size_t>(std::countl_zero(found)) / 8;
@@ -42,9 +30,25 @@ std::size_t FindLastBlank(std::string_view row)
 
 } // namespace
 
-LineRemainder::LineRemainder(std::string_view text)
-    : m_text(text), m_contentEnd(text.find_last_not_of(' ') + 1) // 0 when there is none
+LineRemainder::LineRemainder(std::string_view text, LineCursor* rest)
+    : m_rest(rest), m_read(text), m_text(rest == nullptr ? text : TrimRight(text)),
+      m_contentEnd(m_text.find_last_not_of(' ') + 1), // 0 when there is none
+      m_markup(m_text)
 {
+    NeedMoreThan(0);
+}
+
+// Lets the cursor drop what has been taken, and read more.
+void LineRemainder::ReadOn()
+{
+    bool whole = true;
+    (void)m_rest->ReadOn(m_read, m_at, whole); // an error stays in the cursor, and ends the line
+    m_rest = whole ? nullptr : m_rest;
+    m_text = TrimRight(m_read);
+    m_contentEnd = m_text.size();
+    m_at = 0;
+    m_markup.Begin(m_text);
+    m_marks = {};
 }
 
 void LineRemainder::OpenLeadingTab()
@@ -68,37 +72,29 @@ void LineRemainder::Pass(std::size_t count)
     m_at += count - spaces;
 }
 
-void LineRemainder::TakeAll(std::string& segment)
+// False, and nothing is taken, when the line goes on behind what is known.
+bool LineRemainder::TakeRest(std::string& segment)
 {
+    if (m_rest != nullptr) {
+        return false;
+    }
     AppendFront(Size(), segment);
     Pass(Size());
+    return true;
 }
 
-// Whether so many characters, and they are there, hold no markup. It is searched beyond them: most rows of
-// plain text need no search of their own.
-bool LineRemainder::IsPlain(std::size_t count)
+// Most rows hold only simple markup, or none: they need no walk. Everything else is left to that, and nothing
+// is taken.
+bool LineRemainder::TakeSimpleRow(std::size_t columns, std::size_t hang, std::string& segment)
 {
-    if (m_at + count <= m_plainEnd) {
-        return true;
-    }
-    if (m_at <= m_plainEnd && IsMarkup(m_text[m_plainEnd])) {
+    const std::size_t end = m_spaces > 0 ? MarkupSpans::Unknown : m_markup.EndOfRow(m_at, columns - hang);
+    if (end == MarkupSpans::Unknown) {
         return false;
     }
-    std::string_view plain = m_text.substr(m_at, count + LookAhead);
-    plain = plain.substr(0, plain.find('<'));
-    plain = plain.substr(0, plain.find('&'));
-    m_plainEnd = m_at + plain.size();
-    return count <= plain.size();
-}
-
-// Most rows are text without tags: they need no walk. Everything else is left to that, and nothing is taken.
-bool LineRemainder::TakePlainRow(std::size_t columns, std::size_t hang, std::string& segment)
-{
-    const std::size_t seen = columns - hang + 1;
-    if (m_spaces > 0 || !IsPlain(seen)) {
-        return false;
+    if (end == MarkupSpans::NoBreak) {
+        return TakeRest(segment);
     }
-    const std::size_t blank = FindLastBlank(m_text.substr(m_at, seen));
+    const std::size_t blank = FindLastBlank(m_text.substr(m_at, end - m_at));
     if (blank == std::string_view::npos) {
         CutHard(columns, segment);
         return true;
@@ -119,36 +115,50 @@ void LineRemainder::CutHard(std::size_t columns, std::string& segment)
     Pass(cut);
 }
 
+// As a walk through the characters has it. False, and nothing is taken, when the row goes on behind what is
+// known of the line.
+bool LineRemainder::TakeWalkedRow(std::size_t columns, std::size_t hang, std::string& segment)
+{
+    BreakFinder finder(m_text, m_at, m_spaces, m_marks);
+    if (!finder.Find(static_cast<int>(columns), static_cast<int>(hang))) {
+        return TakeRest(segment);
+    }
+    if (finder.LastSpace() == 0) {
+        CutHard(columns, segment);
+        return true;
+    }
+    if (finder.LastSpace() == 1 && hang == 0) {
+        // The only blank is the first character: an empty row would gain nothing, so the rest stands
+        // unwrapped.
+        const std::size_t blank = m_rest == nullptr ? 1 : 0;
+        Pass(blank);
+        return TakeRest(segment);
+    }
+    AppendFront(finder.LastSpace() - 1, segment);
+    Pass(finder.LastSpace());
+    return true;
+}
+
+bool LineRemainder::TakeRow(std::size_t columns, std::size_t hang, std::string& segment)
+{
+    segment.assign(hang, ' ');
+    if (hang >= columns || Size() + hang <= columns) {
+        return TakeRest(segment);
+    }
+    return TakeSimpleRow(columns, hang, segment) || TakeWalkedRow(columns, hang, segment);
+}
+
 void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment)
 {
     assert(indent < width);
-    line.OpenLeadingTab();
     const auto columns = static_cast<std::size_t>(std::max(width, 0));
     const auto hang = static_cast<std::size_t>(std::max(indent, 0));
-    segment.assign(hang, ' ');
-    if (hang >= columns || line.Size() + hang <= columns) {
-        line.TakeAll(segment);
-        return;
+    line.NeedMoreThan(columns);
+    line.OpenLeadingTab();
+    while (!line.TakeRow(columns, hang, segment)) {
+        line.ReadOn();
     }
-    if (line.TakePlainRow(columns, hang, segment)) {
-        return;
-    }
-    BreakFinder finder(line.m_text, line.m_at, line.m_spaces, line.m_marks);
-    if (!finder.Find(width, indent)) {
-        line.TakeAll(segment);
-        return;
-    }
-    if (finder.LastSpace() == 0) {
-        line.CutHard(columns, segment);
-        return;
-    }
-    line.AppendFront(finder.LastSpace() - 1, segment);
-    line.Pass(finder.LastSpace());
-    if (segment.empty()) {
-        // The only blank was the first character: an empty row would gain nothing, so the rest stands
-        // unwrapped.
-        line.TakeAll(segment);
-    }
+    line.NeedMoreThan(0); // whether nothing but blanks is left
 }
 
 } // namespace ls

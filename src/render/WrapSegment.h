@@ -1,6 +1,8 @@
 #pragma once
 
+#include "base/LineCursor.h"
 #include "render/BreakFinder.h"
+#include "render/MarkupSpans.h"
 
 #include <cstddef>
 #include <string>
@@ -16,9 +18,13 @@ inline constexpr int LeastLineWidth = 11;
 class LineRemainder
 {
 public:
-    explicit LineRemainder(std::string_view text);
+    /// With `rest`, a cursor, the text is the beginning of a line that it gave and did not give whole. More
+    /// of it is read as it is needed, so that the line never is in memory as one, and blanks at its end are
+    /// cut. At a read error the line ends with what was read; the cursor tells the error to whoever reads
+    /// next.
+    explicit LineRemainder(std::string_view text, LineCursor* rest = nullptr);
 
-    /// Length in characters, the spaces of an opened leading TAB included.
+    /// Length in characters of what is known of the line, the spaces of an opened leading TAB included.
     [[nodiscard]] std::size_t Size() const { return m_spaces + (m_text.size() - m_at); }
     [[nodiscard]] bool Empty() const { return Size() == 0; }
 
@@ -28,19 +34,30 @@ public:
 private:
     friend void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment);
 
+    void ReadOn();
+    void NeedMoreThan(std::size_t count)
+    {
+        while (m_rest != nullptr && m_text.size() - m_at <= count) {
+            ReadOn();
+        }
+    }
+    bool TakeRow(std::size_t columns, std::size_t hang, std::string& segment);
     void OpenLeadingTab();
-    bool TakePlainRow(std::size_t columns, std::size_t hang, std::string& segment);
+    bool TakeSimpleRow(std::size_t columns, std::size_t hang, std::string& segment);
+    bool TakeWalkedRow(std::size_t columns, std::size_t hang, std::string& segment);
     void CutHard(std::size_t columns, std::string& segment);
-    bool IsPlain(std::size_t count);
     void AppendFront(std::size_t count, std::string& segment) const;
     void Pass(std::size_t count);
-    void TakeAll(std::string& segment);
+    bool TakeRest(std::string& segment);
 
+    LineCursor* m_rest = nullptr; ///< what follows m_text; nullptr when nothing does
+    std::string_view
+        m_read; ///< as the cursor gave it: m_text with blanks that may yet turn out to be its last
     std::string_view m_text;
-    std::size_t m_contentEnd;   ///< behind the last character of m_text that is no blank
-    std::size_t m_at = 0;       ///< the next character of m_text
-    std::size_t m_spaces = 0;   ///< spaces of a TAB that stand before it
-    std::size_t m_plainEnd = 0; ///< from m_at to here there is neither "<" nor "&"
+    std::size_t m_contentEnd; ///< behind the last character of m_text that is no blank
+    std::size_t m_at = 0;     ///< the next character of m_text
+    std::size_t m_spaces = 0; ///< spaces of a TAB that stand before it
+    MarkupSpans m_markup;
     BreakMarks m_marks;
 };
 

@@ -186,9 +186,16 @@ TEST_F(ProgramLimits, bookPastFourGibibytes_isReadBehindThem)
 TEST_F(ProgramLimits, lineThatDoesNotFitIntoMemory_isTold)
 {
     WriteWithHole("[A]\r\na\r\n[Hole]\r\n", std::uintmax_t{1} << 32, "\r\n[B]\r\nb\r\n");
-    EXPECT_EQ(Run("show a.IDA Hole", OneGibibyte), 3);
-    EXPECT_EQ(out, "");
+    EXPECT_EQ(Run("export a.IDA Hole", OneGibibyte), 3);
     EXPECT_EQ(err, "critical: Out of memory\n");
+}
+
+TEST_F(ProgramLimits, lineThatDoesNotFitIntoMemory_isShownUntilTheLinesEnd)
+{
+    WriteWithHole("[A]\r\na\r\n[Hole]\r\n", std::uintmax_t{1} << 32, "\r\n[B]\r\nb\r\n");
+    EXPECT_EQ(Run("show a.IDA Hole", OneGibibyte), 1);
+    EXPECT_TRUE(err == Overflow) << err;
+    EXPECT_EQ(Lines(), Limit);
 }
 
 TEST_F(ProgramLimits, lineOfOneGibibyte_isShownUntilTheLinesEnd)

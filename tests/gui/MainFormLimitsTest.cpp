@@ -186,7 +186,7 @@ private:
     rlimit m_before{};
 };
 
-TEST_F(MainFormLimitsTest, topicThatDoesNotFitIntoMemory_isToldAndTheWindowGoesOn)
+TEST_F(MainFormLimitsTest, topicThatDoesNotFitIntoMemory_isShownUntilTheLinesEnd)
 {
     Start(WriteWithHole());
     ModalScript script;
@@ -195,7 +195,7 @@ TEST_F(MainFormLimitsTest, topicThatDoesNotFitIntoMemory_isToldAndTheWindowGoesO
         const MemoryLeft left(rlim_t{1} << 30);
         Press(form, "NextButton");
     }
-    EXPECT_EQ(script.Seen(), Strings{"critical|Lodestar Advisor|Out of memory"});
+    EXPECT_EQ(script.Seen(), Strings{"critical|Lodestar Advisor|Overflow"});
     GoTo(2);
     EXPECT_EQ(PaneText(), "b");
     ExpectUsable(script);

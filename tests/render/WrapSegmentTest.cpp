@@ -278,5 +278,24 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair("everything", Strings{"<", ">", "&", ";", "a", "a", " ", ManyTags, "bcd"})),
     [](const auto& row) { return row.param.first; });
 
+// Rows of tags and entities that are looked up many at a time, among some that have to be walked through:
+// with attributes, of characters that are no letters, longer than what is looked at, without an end.
+TEST(WrapSegment, wrap_randomLongLinesOfMarkup_asTheRuleWrittenStepByStep)
+{
+    const Strings simple = {"<B>",  "</B>", "<H1>",       "</H3>",      "<>",     "&AMP;", "&LT;", "&;",
+                            "&H2;", "</>",  "<ABCDEFG7>", "&ABCDEFGH;", "<\xE9>", "word ", "a",    " "};
+    Strings mixed = simple;
+    for (const char* piece :
+         {"<A B>", "<A=\"x;y\">", "&#39;", "<12>", "<//>", "<ABCDEFGHIJKL>", "a<b ", "R&D ", "<\x80>"}) {
+        mixed.push_back(piece);
+    }
+    RandomLines random(5);
+    for (int round = 0; round < 1500 && !testing::Test::HasFatalFailure(); ++round) {
+        const int width = random.Pick(1, 100);
+        const std::string line = random.Line(round % 2 == 0 ? simple : mixed, 600);
+        random.Compare(line, width, round % 3 == 0 ? 100 : width, random.Pick(0, std::min(width - 1, 10)));
+    }
+}
+
 } // namespace
 } // namespace ls
