@@ -244,6 +244,19 @@ TEST_F(Advise, atATerminal_asksUntilAChoiceIsGiven)
                    "Advice CAUSE(FUEL):\nFill up.\n");
 }
 
+TEST_F(Advise, atATerminalInJson_asksBesideTheOutput)
+{
+    inIsTerminal = true;
+    in = "no\n";
+    EXPECT_EQ(Run({"advise", "a.IDA", "Car Trouble", "--json"}), 0);
+    EXPECT_EQ(err, "Do the lights\r\ncome on?\n  1) NO\n  2) YES\nYour Answer: ");
+    const std::vector<Json> events = Json::Parse(out).Items();
+    ASSERT_EQ(events.size(), 5U) << out;
+    EXPECT_EQ(events[1]["question"].String(), "LIGHTS");
+    EXPECT_EQ(events[2]["answer"].String(), "NO");
+    EXPECT_EQ(events[3]["advice"].String(), "CAUSE(BATTERY)");
+}
+
 TEST_F(Advise, atATerminal_endOfInputClosesTheDialogue)
 {
     inIsTerminal = true;

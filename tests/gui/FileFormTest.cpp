@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -264,6 +265,21 @@ std::string RemoteCaseName(const testing::TestParamInfo<RemoteCase>& info)
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, FileFormRemote, testing::ValuesIn(RemoteCases), RemoteCaseName);
+
+TEST_F(FileFormTest, pushBrowse_opensTheSelectorAfterTheCallReturned)
+{
+    Load();
+    test::ModalScript script;
+    script.Do([](QWidget&) {}).Escape(); // the form is modal as well
+    EXPECT_TRUE(dde.handler("push BROWSEBUTTON"));
+    EXPECT_EQ(QApplication::activeModalWidget(), form.get()) << "the call returns before the button acts";
+    EXPECT_TRUE(test::WaitFor([this, &script] {
+        return script.Seen().size() > 1 && QApplication::activeModalWidget() == form.get();
+    }));
+    EXPECT_EQ(script.Seen(),
+              (Strings{"form|FileForm|Lodestar Advisor Open", "form|OpenForm|LSAdvisor File Selector"}));
+    EXPECT_TRUE(form->isVisible());
+}
 
 TEST_F(FileFormTest, push_whileDisabled_beepsAndBlocks)
 {

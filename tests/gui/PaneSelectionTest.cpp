@@ -171,6 +171,21 @@ TEST_F(PaneSelectionTest, caretMovedOutOfView_scrollsThere)
     EXPECT_EQ(Selected().size(), pane->Topic().Length());
 }
 
+TEST_F(PaneSelectionTest, shiftedPageKeys_moveTheCaretByAPageAndBack)
+{
+    ShowNumbers(100);
+    const auto rows = static_cast<int>(pane->InnerHeight() / pane->RowHeight());
+    pane->MoveCaret(pane->Topic().LineStart(50));
+    Key(Qt::Key_PageDown, Qt::ShiftModifier);
+    const int below = pane->Topic().LineAt(Caret());
+    EXPECT_GE(below, 50 + rows - 2);
+    EXPECT_LE(below, 50 + rows);
+    Key(Qt::Key_PageUp, Qt::ShiftModifier);
+    EXPECT_EQ(pane->Topic().LineAt(Caret()), 50);
+    Key(Qt::Key_PageUp, Qt::ShiftModifier);
+    EXPECT_EQ(pane->Topic().LineAt(Caret()), 50 - (below - 50));
+}
+
 TEST_F(PaneSelectionTest, scrollKeys_takeTheCaretAlongByLines)
 {
     ShowNumbers(100);
