@@ -7,6 +7,7 @@
 #include "cli/Help.h"
 
 #include <algorithm>
+#include <istream>
 #include <new>
 #include <ostream>
 
@@ -103,6 +104,10 @@ Status Dispatch(const std::vector<std::string>& arguments, CliEnvironment& envir
 int RunLsbook(const std::vector<std::string>& arguments, CliEnvironment& environment)
 {
     Status status = Dispatch(arguments, environment);
+    if (environment.in.bad()) { // its end is none: a dialogue is closed by that
+        environment.err << "lsbook: standard input cannot be read\n";
+        status = Status::FileFault;
+    }
     environment.out.flush();
     if (!environment.out) {
         environment.err << "lsbook: standard output cannot be written\n";

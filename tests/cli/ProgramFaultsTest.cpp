@@ -6,9 +6,13 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdlib>
 
+#include <pty.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace ls {
 namespace {
@@ -111,6 +115,44 @@ const Row Rows[] = {
 
 INSTANTIATE_TEST_SUITE_P(System, Refusals, testing::ValuesIn(Rows),
                          [](const auto& row) { return row.param.name; });
+
+TEST_F(ProgramFaults, inputThatIsNoTerminal_isNotRead)
+{
+    EXPECT_EQ(Run("", "advise a.IDA A <folder >stdout 2>stderr"), 0);
+    EXPECT_EQ(scratch.Read("stderr"), "");
+    EXPECT_TRUE(scratch.Read("stdout").ends_with("No answer is left for this question.\n"));
+}
+
+// Runs lsbook in the background of a terminal, from which it may not read then: error EIO.
+int RunBehindTerminal(const std::string& folder)
+{
+    int terminal = -1;
+    const pid_t shell = ::forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (shell == 0) {
+        const pid_t job = ::fork();
+        if (job == 0) {
+            ::setpgid(0, 0);
+            std::signal(SIGTTIN, SIG_IGN); // else it were stopped
+            ::execl("/bin/sh", "sh", "-c", "cd \"$1\" && exec \"$0\" advise a.IDA A >stdout 2>stderr",
+                    LS_LSBOOK, folder.c_str(), nullptr);
+            ::_exit(127);
+        }
+        int status = -1;
+        ::waitpid(job, &status, 0);
+        ::_exit(WIFEXITED(status) ? WEXITSTATUS(status) : 127);
+    }
+    int status = -1;
+    EXPECT_EQ(::waitpid(shell, &status, 0), shell);
+    ::close(terminal);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST_F(ProgramFaults, terminalThatCannotBeRead_endsTheDialogueAndIsTold)
+{
+    EXPECT_EQ(RunBehindTerminal(scratch.Path()), 3);
+    EXPECT_EQ(scratch.Read("stderr"), "lsbook: standard input cannot be read\n");
+    EXPECT_TRUE(scratch.Read("stdout").ends_with("Your Answer: \nNo answer is left for this question.\n"));
+}
 
 // Root is refused nothing, so these are asked by somebody else.
 TEST_F(ProgramFaults, rightsThatLack_areToldWithStatusThree)

@@ -144,6 +144,12 @@ std::vector<FaultRow> TopicRows()
          false,
          {"read /work/Book.IDA 115"}},
         {"editLongText", openLong, EditText},
+        {"editLogic",
+         [](Desk& desk) {
+             desk.OpenBook();
+             Show(desk, 2);
+         },
+         EditLogic},
         {"editLogicNotTaken",
          [](Desk& desk) {
              desk.OpenBook();

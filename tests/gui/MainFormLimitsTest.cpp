@@ -195,9 +195,24 @@ TEST_F(MainFormLimitsTest, topicThatDoesNotFitIntoMemory_isShownUntilTheLinesEnd
         const MemoryLeft left(rlim_t{1} << 30);
         Press(form, "NextButton");
     }
-    EXPECT_EQ(script.Seen(), Strings{"critical|Lodestar Advisor|Overflow"});
+    EXPECT_EQ(script.Seen(), Strings{Overflow});
     GoTo(2);
     EXPECT_EQ(PaneText(), "b");
+    ExpectUsable(script);
+}
+
+TEST_F(MainFormLimitsTest, topicThatDoesNotFitIntoMemory_isNotEdited)
+{
+    Start(WriteWithHole());
+    ModalScript script;
+    script.Answer(Reply::Ok).Answer(Reply::Ok);
+    Press(form, "NextButton");
+    {
+        const MemoryLeft left(rlim_t{1} << 30);
+        Press(form, "EdTextItem");
+    }
+    EXPECT_EQ(script.Seen(), (Strings{Overflow, "critical|Lodestar Advisor|Out of memory"}));
+    EXPECT_FALSE(global.book.BookChanged);
     ExpectUsable(script);
 }
 
