@@ -1,3 +1,4 @@
+#include "bench/Measure.h"
 #include "render/CellMetrics.h"
 #include "render/PaintRuns.h"
 #include "render/RunList.h"
@@ -6,10 +7,10 @@
 #include <QImage>
 #include <QPainter>
 
-#include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <functional>
+#include <string>
+#include <utility>
 #include <vector>
 
 // What a redraw of a full pane costs, as high as a 4K screen, next to the least that any painter could do:
@@ -20,6 +21,7 @@ using namespace ls;
 
 constexpr QSize Picture(3840, 2160);
 constexpr int Rounds = 41;
+constexpr double Limit = 3; ///< times what one call a row takes
 
 double MedianMilliseconds(const std::function<void()>& work)
 {
@@ -30,8 +32,7 @@ double MedianMilliseconds(const std::function<void()>& work)
         const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
         times.push_back(took.count());
     }
-    std::nth_element(times.begin(), times.begin() + Rounds / 2, times.end());
-    return times[Rounds / 2];
+    return bench::MedianOf(std::move(times));
 }
 
 // Prose of the given width: small letters, blanks, some capitals.
@@ -98,8 +99,9 @@ void Measure(const Scene& scene)
                              texts[static_cast<std::size_t>(number)]);
         }
     });
-    std::printf("%-34s %4d rows of %3d  pane %7.2f ms  one call a row %7.2f ms  ratio %.2f\n", scene.name,
-                rows, columns, pane, plain, pane / plain);
+    const std::string size = std::to_string(rows) + " rows of " + std::to_string(columns);
+    bench::PrintRow(scene.name + (", " + size), bench::Milliseconds(pane), pane / plain, Limit);
+    bench::PrintRow("  one call a row", bench::Milliseconds(plain));
 }
 
 // A line of 100 MiB must cost no more than the cells of it that are seen.
@@ -113,7 +115,7 @@ void MeasureHugeRun()
         QPainter painter(&image);
         PaintRuns(painter, list.Runs(), metrics, QRectF(QPointF(), QSizeF(Picture)));
     });
-    std::printf("%-34s one row of 100 MiB  pane %7.2f ms\n", "huge run", time);
+    bench::PrintRow("one row of 100 MiB", bench::Milliseconds(time));
 }
 
 } // namespace
@@ -124,7 +126,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QGuiApplication application(argc, argv);
-    std::printf("\npane\n");
+    bench::PrintHead("Redrawing a full pane of 3840 x 2160 pixels, beside one text drawing call a row");
     for (const Scene& scene :
          {Scene{"plain text", 1, 0}, Scene{"a new style every 20 characters", 1, 20},
           Scene{"a new style every 5 characters", 1, 5}, Scene{"plain text, scale 1.5", 1.5, 0},
