@@ -15,7 +15,7 @@ constexpr std::size_t LastBlock = 256 * 1024;
 constexpr std::size_t Chunk = 4 * 1024;
 
 // A line that is longer gets its room at once: growing would take three times as much memory at its end.
-constexpr std::size_t LongLine = 16 * 1024 * 1024;
+constexpr std::size_t LongLine = 1024 * 1024;
 
 // Whether each CR of the bytes stands before an LF; one byte behind them is looked at too. No branch in the
 // loop, so that many bytes are tested at a time.
@@ -104,7 +104,12 @@ void LineCursor::AppendRestOfBlock(std::string& line)
     line.append(m_block.get() + m_next, m_size - m_next);
     m_next = m_size;
     if (line.size() > LongLine && line.capacity() - line.size() < m_capacity) {
-        line.reserve(line.size() + RestOfLine());
+        const std::size_t wanted = line.size() + RestOfLine();
+        if (wanted > line.capacity()) {
+            std::string longer; // `line` itself would take twice the room that it has, at least
+            longer.reserve(wanted);
+            line.swap(longer.append(line));
+        }
     }
 }
 

@@ -10,6 +10,9 @@ namespace ls {
 
 namespace {
 
+// A row that does not break may be a large part of the book: it is not to be in memory twice more.
+constexpr std::size_t Piece = 16 * 1024;
+
 // A colour of the terminal's own palette, so that it can be read on any background: black is the terminal's
 // own text colour.
 std::string_view PaletteCode(Colour colour)
@@ -35,9 +38,12 @@ std::string TerminalSurface::StyleCode() const
 
 void TerminalSurface::Print(std::string_view text, bool endRow)
 {
-    const std::string shown = LineForStream(FromBook(text), m_look.terminal);
-    const std::string style = m_look.styled && !shown.empty() ? StyleCode() : std::string();
-    *m_stream << style << shown << (style.empty() ? "" : "\033[0m");
+    const std::string style = m_look.styled && !text.empty() ? StyleCode() : std::string();
+    *m_stream << style;
+    for (std::size_t at = 0; at < text.size(); at += Piece) {
+        *m_stream << LineForStream(FromBook(text.substr(at, Piece)), m_look.terminal);
+    }
+    *m_stream << (style.empty() ? "" : "\033[0m");
     m_rowOpen = true;
     if (endRow) {
         EndRow();

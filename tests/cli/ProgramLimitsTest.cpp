@@ -223,6 +223,32 @@ TEST_F(ProgramLimits, lineOfOneGibibyte_isInMemoryOnceAndSavedWithoutBeingThere)
     EXPECT_EQ(out, "");
 }
 
+// A "<" that nothing ends keeps the line from breaking: all of it is one row, which has to be in memory.
+TEST_F(ProgramLimits, lineThatDoesNotBreak_isShownWhereItFitsIntoMemoryTwice)
+{
+    // The line while it is read, the row that it becomes, and the program and some room to grow.
+    constexpr const char* OnceAndABit = "ulimit -v 98304; ";
+    constexpr const char* TwiceAndABit = "ulimit -v 180224; ";
+    const std::string start = "a < b ";
+    constexpr std::size_t size = 64 << 20;
+    WriteWithHole("[A]\r\n" + start, size, "\r\n[B]\r\nb\r\n");
+    EXPECT_EQ(Run("show a.IDA A", OnceAndABit), 3);
+    EXPECT_EQ(out, "");
+    EXPECT_EQ(err, "critical: Out of memory\n");
+    EXPECT_EQ(Run("show a.IDA B", OnceAndABit), 0);
+    EXPECT_EQ(out, "b\n");
+    EXPECT_EQ(Run("show a.IDA A", TwiceAndABit), 0);
+    EXPECT_EQ(err, "");
+    const std::string limited = out;
+    EXPECT_EQ(Run("show a.IDA A"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_TRUE(limited == out);
+    const std::size_t row = size - std::string(Header + std::string("[A]\r\n")).size();
+    ASSERT_EQ(out.size(), row + 1);
+    EXPECT_EQ(out.substr(0, start.size()), start);
+    EXPECT_EQ(out.find_first_not_of('\0', start.size()), row) << "what follows is the hole, then a line end";
+}
+
 TEST_F(ProgramLimits, titleOfTenThousandCharacters_isATitle)
 {
     const std::string title(10000, 'w');

@@ -48,6 +48,20 @@ TEST_F(Show, escapeInATopicOnATerminal_isShownAndNotSent)
                                            "c\n");
 }
 
+TEST_F(Show, rowThatDoesNotBreak_isWholeHoweverLongItIs)
+{
+    std::string row = "a < b";
+    std::string shown = row;
+    for (int i = 0; i < 20000; ++i) {
+        row += " caf\xE9";
+        shown += " café";
+    }
+    files["/work/b.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n" + row + "\r\n<U>" + row + "\r\n";
+    EXPECT_TRUE(Out({"show", "b.IDA", "A"}) == shown + "\n" + shown + "\n");
+    outIsTerminal = true;
+    EXPECT_TRUE(Out({"show", "b.IDA", "A"}) == shown + "\n\033[4m" + shown + "\033[0m\n");
+}
+
 TEST_F(Show, width_wrapsWithTheHangingIndent)
 {
     EXPECT_EQ(Out({"show", "a.IDA", "Café", "--width", "14"}), "- one two\n  three four\n  five six\n");

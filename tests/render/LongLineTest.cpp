@@ -1,11 +1,11 @@
 // Lines that are wrapped while they are read, beside the same lines in memory.
 
 #include "base/LineCursor.h"
-#include "base/NoFile.h"
 #include "base/Text.h"
 #include "render/ShowTopicFixture.h"
 #include "render/TopicBody.h"
 #include "render/WrapSegment.h"
+#include "support/DrippingFile.h"
 
 #include <gtest/gtest.h>
 
@@ -15,29 +15,7 @@
 namespace ls {
 namespace {
 
-// Gives few bytes at a time, so that every row meets the end of what is known, and none from `failsAt` on.
-class DrippingFile : public NoFile
-{
-public:
-    DrippingFile(std::string bytes, std::size_t drop) : m_bytes(std::move(bytes)), m_drop(drop) {}
-
-    FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
-    {
-        const auto at = static_cast<std::size_t>(pos - 1);
-        got = 0;
-        if (at >= failsAt) {
-            return MakeFileError(error::DeviceIo);
-        }
-        got = m_bytes.copy(buffer, std::min(size, m_drop), std::min(at, m_bytes.size()));
-        return {};
-    }
-
-    std::size_t failsAt = std::string::npos;
-
-private:
-    std::string m_bytes;
-    std::size_t m_drop;
-};
+using test::DrippingFile;
 
 Strings Wrapped(LineRemainder rest, int width, int indent)
 {

@@ -1,6 +1,8 @@
-// Wrapping a line and drawing what comes of it, against plain readings of both rules.
+// Wrapping a line, in memory and while it is read, and drawing what comes of it, against plain readings of
+// both rules.
 
 #include "World.h"
+#include "base/LineCursor.h"
 #include "base/Text.h"
 #include "render/DisplayLines.h"
 #include "render/DrawLines.h"
@@ -9,20 +11,26 @@
 #include "render/RunList.h"
 #include "render/TopicText.h"
 #include "render/WrapSegment.h"
+#include "support/DrippingFile.h"
+
+#include <algorithm>
+#include <array>
 
 namespace ls::fuzz {
 
 namespace {
 
-std::vector<std::string> Wrapped(const std::string& line, int width, int indent)
+constexpr std::size_t AllRows = std::string::npos;
+
+// Its rows, or the first `most` of them.
+std::vector<std::string> Wrapped(LineRemainder rest, int width, int indent, std::size_t most = AllRows)
 {
     std::vector<std::string> segments;
-    LineRemainder rest(line);
     do {
         std::string segment;
         WrapSegment(rest, width, segments.empty() ? 0 : indent, segment);
         segments.push_back(segment);
-    } while (!rest.Blank());
+    } while (!rest.Blank() && segments.size() < most);
     return segments;
 }
 
@@ -33,6 +41,38 @@ std::vector<std::string> PlainWrapped(std::string line, int width, int indent)
         segments.push_back(test::PlainWrapSegment(line, width, segments.empty() ? 0 : indent));
     } while (!Trim(line).empty());
     return segments;
+}
+
+// The same line in a file of which a few bytes are read at a time, as a long line is wrapped on show;
+// sometimes it is left in the middle. `rows` is what it wraps to in memory.
+void RequireWrappedWhileRead(Input& input, const std::string& line, int width, int indent,
+                             const std::vector<std::string>& rows)
+{
+    constexpr std::array<std::string_view, 3> ends = {"\r\nnext", "\rnext", ""};
+    const std::string_view end = ends[input.Choose(ends.size())];
+    // A line that does not break is walked again with each drop: the longer it is, the larger they are.
+    test::DrippingFile file(line + std::string(end), 1 + input.Choose(60) + line.size() / 64);
+    file.uneven = input.Choose(2) == 0;
+    const std::size_t most = input.Choose(4) == 3 ? 1 + input.Choose(6) : AllRows;
+    LineCursor cursor(file);
+    std::string_view part;
+    bool whole = true;
+    Require(cursor.BeginLine(part, whole).Ok(), "a line can be begun");
+    const std::string wrapped(whole ? std::string_view(line) : TrimRight(line));
+    std::vector<std::string> expected = rows;
+    if (wrapped.size() < line.size()) {
+        expected = PlainWrapped(wrapped, width, indent);
+        RequireEqual(Wrapped(LineRemainder(wrapped), width, indent), expected,
+                     "a line without the blanks at its end wraps as a plain reading wraps it");
+    }
+    expected.resize(std::min(expected.size(), most));
+    RequireEqual(Wrapped(LineRemainder(part, whole ? nullptr : &cursor), width, indent, most), expected,
+                 "a line wraps while it is read as it does in memory");
+    Require(cursor.EndLine().Ok(), "a line can be ended");
+    std::string next;
+    const FileError failed = cursor.ReadLine(next);
+    Require(end.empty() ? failed.number == error::InputPastEnd : failed.Ok() && next == "next",
+            "the next line follows");
 }
 
 // The text of a display line without its markup, looked for from the start each time.
@@ -98,9 +138,12 @@ void TestInput(Input& input)
     for (std::size_t i = 0; i < times; ++i) {
         line += input.Text();
     }
-    const std::vector<std::string> rows = Wrapped(line, width, indent);
+    const std::vector<std::string> rows = Wrapped(LineRemainder(line), width, indent);
     RequireEqual(rows, PlainWrapped(line, width, indent), "a line wraps as a plain reading wraps it");
     Require(ListIndent(line) >= 0 && ListIndent(line) <= 10, "a hanging indent fits every width");
+    if (!line.empty() && line.find('\r') == std::string::npos) {
+        RequireWrappedWhileRead(input, line, width, indent, rows);
+    }
     std::string all;
     for (const std::string& row : rows) {
         all += row;
