@@ -19,11 +19,12 @@ namespace {
 constexpr std::string_view LineEnd = "\r\n";
 constexpr std::size_t BufferSize = 256 * 1024;
 
-// The header line of a topic that is written from memory. "[EOF]" would end the book for every later reader;
-// a file can hold such a topic only with a blank behind its title, which keeps it a topic.
+// The header line of a topic that is written from memory. "[EOF]" would end the book for every later reader,
+// and "[]" would be a line of the topic before it; a file can hold such topics only with a blank behind their
+// titles, which keeps them topics.
 std::string HeaderOf(const std::string& name)
 {
-    return name == "[EOF]" ? name + ' ' : name;
+    return name == "[EOF]" || name == "[]" ? name + ' ' : name;
 }
 
 // Where every topic of the file ends, worked out once: asking for each would be quadratic.

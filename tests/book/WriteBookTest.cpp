@@ -106,6 +106,14 @@ TEST_F(WriteBookTest, save_editedTopicWithTheTitleOfTheEndLine_doesNotEndTheBook
     EXPECT_EQ(Save(), "LODESTAR BOOK V5.3\r\n[EOF] \r\nnew\r\n\r\n[B]\r\nb\r\n");
 }
 
+TEST_F(WriteBookTest, save_editedTopicWithoutATitle_keepsTheBlankThatMakesItATopic)
+{
+    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[] \r\na\r\n[B]\r\nb\r\n"));
+    ASSERT_EQ(book.TopicCount, 2);
+    book.TopicRecs(1).Text = "new\r\n";
+    EXPECT_EQ(Save(), "LODESTAR BOOK V5.3\r\n[] \r\nnew\r\n\r\n[B]\r\nb\r\n");
+}
+
 TEST_F(WriteBookTest, save_editedTopicWhoseLogicWasRemoved_hasNone)
 {
     ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nold\r\n<IXML>\r\n<LOGIC>\r\nx\r\n[B]\r\nb\r\n"));
