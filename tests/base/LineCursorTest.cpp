@@ -82,10 +82,12 @@ TEST_F(LineCursorTest, appendLine_keepsWhatTheTextHas)
 
 TEST_F(LineCursorTest, readLine_veryLong_isWholeAndTakesNoMoreRoomThanItNeeds)
 {
-    // Among them one that is a little longer than what a growing line has room for.
-    for (const std::size_t length : {3'000'000U, 33'554'430U, 70'000'000U}) {
+    // The first one is a little longer than what a growing line has room for.
+    for (const std::size_t length : {3'000'000U, 20'000'000U}) {
         SCOPED_TRACE(length);
-        Open(std::string(length, 'x') + "\r\nlast");
+        std::string bytes(length + 6, 'x');
+        bytes.replace(length, 6, "\r\nlast");
+        Open(bytes);
         LineCursor cursor(*file);
         std::string line;
         ASSERT_TRUE(cursor.ReadLine(line).Ok());
