@@ -3,11 +3,11 @@
 
 #include "../FailingCalls.h"
 #include "../FaultRow.h"
+#include "TwoBrowsers.h"
 #include "browser/APISubs.h"
 #include "platform/linux/LinuxFileSystem.h"
 #include "platform/linux/LinuxRegistry.h"
 #include "platform/linux/LinuxVolumes.h"
-#include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -56,19 +56,9 @@ struct SystemFiles : testing::Test
 
 TEST_F(SystemFiles, browser_eachCallFailing_isAsIfTheFileWereNotThere)
 {
-    scratch.WriteProgram("bin/web", "");
-    scratch.WriteProgram("bin/other", "");
-    scratch.Write("config/mimeapps.list", "[Default Applications]\ntext/html=web.desktop\n");
-    scratch.Write("share/applications/web.desktop", "[Desktop Entry]\nType=Application\nExec=web %u\n");
-    scratch.Write("share/applications/other.desktop", "[Desktop Entry]\nType=Application\nExec=other %u\n");
-    scratch.Write("share/applications/mimeinfo.cache", "[MIME Cache]\ntext/html=other.desktop\n");
+    test::WriteTwoBrowsers(scratch);
     ExpectTable("browser", [this] {
-        test::RecordingProcesses processes;
-        processes.environment = {{"XDG_CONFIG_HOME", scratch / "config"},
-                                 {"XDG_CONFIG_DIRS", scratch / "etc"},
-                                 {"XDG_DATA_HOME", scratch / "data"},
-                                 {"XDG_DATA_DIRS", scratch / "share"},
-                                 {"PATH", scratch / "bin"}};
+        test::RecordingProcesses processes = test::ProcessesOn(scratch);
         LinuxRegistry registry(processes);
         LinuxFileSystem files;
         ProgramEnd end;
