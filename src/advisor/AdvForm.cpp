@@ -1,10 +1,10 @@
 #include "advisor/AdvForm.h"
 
-#include "app/FormFont.h"
 #include "app/Global.h"
 #include "app/RunGuarded.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
+#include "forms/FormFont.h"
 #include "ui_AdvForm.h"
 
 #include <QFontMetrics>

@@ -1,7 +1,7 @@
 #include "advisor/TempForm.h"
 
-#include "app/FormFont.h"
-#include "authoring/TextBox.h"
+#include "forms/FormFont.h"
+#include "forms/TextBox.h"
 #include "ui_TempForm.h"
 
 namespace ls {

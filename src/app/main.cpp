@@ -1,13 +1,13 @@
 // lsadvisor: the desktop program.
 
 #include "app/AskRecoveryBox.h"
-#include "app/FormFont.h"
-#include "app/FormMessages.h"
-#include "app/FormStyle.h"
 #include "app/Global.h"
 #include "app/JournalKeeper.h"
-#include "app/Notice.h"
-#include "app/ProgramIcon.h"
+#include "forms/FormFont.h"
+#include "forms/FormMessages.h"
+#include "forms/FormStyle.h"
+#include "forms/Notice.h"
+#include "forms/ProgramIcon.h"
 #include "platform/DdeSeam.h"
 #include "platform/ReadCommandLine.h"
 #include "platform/SystemSeams.h"

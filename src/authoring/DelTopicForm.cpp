@@ -1,10 +1,10 @@
 #include "authoring/DelTopicForm.h"
 
-#include "app/FormFont.h"
 #include "authoring/TopicChoices.h"
 #include "authoring/TopicFlags.h"
 #include "base/CodePage.h"
 #include "book/Book.h"
+#include "forms/FormFont.h"
 #include "recovery/Journal.h"
 #include "ui_DelTopicForm.h"
 

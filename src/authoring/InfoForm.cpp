@@ -1,7 +1,7 @@
 #include "authoring/InfoForm.h"
 
-#include "app/FormFont.h"
 #include "base/ProgramEnd.h"
+#include "forms/FormFont.h"
 #include "recovery/Journal.h"
 #include "ui_InfoForm.h"
 

@@ -1,15 +1,15 @@
 #include "authoring/LgEdForm.h"
 
 #include "advisor/TempForm.h"
-#include "app/FormFont.h"
 #include "app/RunGuarded.h"
-#include "authoring/TextBox.h"
 #include "authoring/TextBoxCommands.h"
 #include "authoring/TopicText.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "check/CheckBook.h"
+#include "forms/FormFont.h"
+#include "forms/TextBox.h"
 #include "recovery/Journal.h"
 #include "ui_LgEdForm.h"
 

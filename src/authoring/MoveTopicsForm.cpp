@@ -1,6 +1,5 @@
 #include "authoring/MoveTopicsForm.h"
 
-#include "app/FormFont.h"
 #include "authoring/TopicChoices.h"
 #include "authoring/TopicFlags.h"
 #include "authoring/TopicTable.h"
@@ -8,6 +7,7 @@
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
+#include "forms/FormFont.h"
 #include "ui_MoveTopicsForm.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #include "authoring/TextBoxCommands.h"
 
-#include "authoring/TextBox.h"
 #include "base/Messages.h"
+#include "forms/TextBox.h"
 
 #include <QAction>
 #include <QEvent>

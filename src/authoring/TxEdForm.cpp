@@ -1,11 +1,11 @@
 #include "authoring/TxEdForm.h"
 
-#include "app/FormFont.h"
-#include "authoring/TextBox.h"
 #include "authoring/TextBoxCommands.h"
 #include "authoring/TopicText.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
+#include "forms/FormFont.h"
+#include "forms/TextBox.h"
 #include "recovery/Journal.h"
 #include "ui_TxEdForm.h"
 

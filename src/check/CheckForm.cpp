@@ -1,7 +1,7 @@
 #include "check/CheckForm.h"
 
-#include "app/FormFont.h"
 #include "check/CheckItem.h"
+#include "forms/FormFont.h"
 #include "ui_CheckForm.h"
 
 #include <QLayout>

@@ -1,8 +1,6 @@
 #include "files/FileForm.h"
 
-#include "app/FormFont.h"
 #include "app/Global.h"
-#include "app/Mnemonic.h"
 #include "authoring/InfoForm.h"
 #include "base/DdeServer.h"
 #include "base/ProgramEnd.h"
@@ -13,7 +11,9 @@
 #include "files/OpenForm.h"
 #include "files/PathText.h"
 #include "files/ProgramSelector.h"
-#include "reader/ButtonIcons.h"
+#include "forms/ButtonIcons.h"
+#include "forms/FormFont.h"
+#include "forms/Mnemonic.h"
 #include "ui_FileForm.h"
 
 #include <QApplication>

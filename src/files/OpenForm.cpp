@@ -1,10 +1,10 @@
 #include "files/OpenForm.h"
 
-#include "app/FormFont.h"
 #include "base/ProgramEnd.h"
 #include "files/FileDialog.h"
 #include "files/PathText.h"
 #include "files/RunBeside.h"
+#include "forms/FormFont.h"
 #include "ui_OpenForm.h"
 
 #include <QApplication>

@@ -1,6 +1,5 @@
 #include "reader/MainForm.h"
 
-#include "app/FormFont.h"
 #include "app/Global.h"
 #include "app/RunGuarded.h"
 #include "app/StartUp.h"
@@ -9,6 +8,7 @@
 #include "browser/WebReferral.h"
 #include "check/CheckItem.h"
 #include "files/ProgramSelector.h"
+#include "forms/FormFont.h"
 #include "reader/FitMainForm.h"
 #include "reader/MainFormView.h"
 #include "render/ExportItem.h"

@@ -1,7 +1,6 @@
 #include "reader/MainFormView.h"
 
 #include "advisor/AdvForm.h"
-#include "app/FormProgress.h"
 #include "app/Global.h"
 #include "authoring/DelTopicForm.h"
 #include "authoring/InfoForm.h"
@@ -11,7 +10,8 @@
 #include "base/CodePage.h"
 #include "check/CheckForm.h"
 #include "files/FileChooser.h"
-#include "reader/ButtonIcons.h"
+#include "forms/ButtonIcons.h"
+#include "forms/FormProgress.h"
 #include "reader/XrefForm.h"
 #include "ui_MainForm.h"
 

@@ -1,11 +1,11 @@
 #include "reader/XrefForm.h"
 
-#include "app/FormFont.h"
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
-#include "reader/ButtonIcons.h"
+#include "forms/ButtonIcons.h"
+#include "forms/FormFont.h"
 #include "reader/XrefLists.h"
 #include "ui_XrefForm.h"
 

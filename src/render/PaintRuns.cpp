@@ -1,7 +1,7 @@
 #include "render/PaintRuns.h"
 
 #include "base/CodePage.h"
-#include "render/CellMetrics.h"
+#include "forms/CellMetrics.h"
 #include "render/RunList.h"
 
 #include <QPainter>

@@ -1,12 +1,12 @@
 #include "render/PrtForm.h"
 
-#include "app/FormFont.h"
 #include "app/Global.h"
 #include "base/PrinterDevice.h"
 #include "base/ProgramEnd.h"
 #include "browser/HelpPages.h"
 #include "files/ProgramSelector.h"
-#include "reader/ButtonIcons.h"
+#include "forms/ButtonIcons.h"
+#include "forms/FormFont.h"
 #include "render/PrtFormRules.h"
 #include "ui_PrtForm.h"
 

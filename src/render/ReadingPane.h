@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/CellMetrics.h"
+#include "forms/CellMetrics.h"
 #include "render/RunList.h"
 #include "render/TextSelection.h"
 #include "render/TopicText.h"

@@ -2,7 +2,7 @@
 
 #include "base/PrintService.h"
 #include "base/PrinterDevice.h"
-#include "render/CellMetrics.h"
+#include "forms/CellMetrics.h"
 #include "render/PageRecorder.h"
 
 #include <QMarginsF>

@@ -1,5 +1,5 @@
 #include "bench/Measure.h"
-#include "render/CellMetrics.h"
+#include "forms/CellMetrics.h"
 #include "render/PaintRuns.h"
 #include "render/RunList.h"
 

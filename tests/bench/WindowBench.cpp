@@ -2,7 +2,6 @@
 //
 //   bench_window FOLDER      (the books are made there)
 
-#include "app/FormFont.h"
 #include "app/Global.h"
 #include "authoring/DelTopicForm.h"
 #include "authoring/MoveTopicsForm.h"
@@ -10,6 +9,7 @@
 #include "bench/BenchBooks.h"
 #include "bench/GrowthRows.h"
 #include "book/BookLoader.h"
+#include "forms/FormFont.h"
 #include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"
 #include "reader/CommandLine.h"

@@ -2,8 +2,6 @@
 
 #include "advisor/TempForm.h"
 #include "app/AskRecoveryBox.h"
-#include "app/FormProgress.h"
-#include "app/Notice.h"
 #include "authoring/DelTopicForm.h"
 #include "authoring/InfoForm.h"
 #include "authoring/LgEdForm.h"
@@ -13,6 +11,8 @@
 #include "check/CheckItem.h"
 #include "files/FileForm.h"
 #include "files/OpenForm.h"
+#include "forms/FormProgress.h"
+#include "forms/Notice.h"
 #include "reader/XrefForm.h"
 #include "render/PrtForm.h"
 

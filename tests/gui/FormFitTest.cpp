@@ -1,9 +1,9 @@
 // What readers with other fonts and colours need: no caption is cut in a larger font, forms take the
 // desktop's colours, and the page stays black on white.
 
-#include "app/FormStyle.h"
-#include "app/TitleWidth.h"
 #include "files/FileChooser.h"
+#include "forms/FormStyle.h"
+#include "forms/TitleWidth.h"
 #include "gui/EveryForm.h"
 
 #include <QCheckBox>

@@ -1,4 +1,4 @@
-#include "app/FormMessages.h"
+#include "forms/FormMessages.h"
 #include "gui/Controls.h"
 #include "gui/ModalScript.h"
 

@@ -1,4 +1,4 @@
-#include "app/FormProgress.h"
+#include "forms/FormProgress.h"
 #include "gui/Controls.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // The controls and menus as they are designed: names, captions, tool tips, pictures, places.
 
+#include "forms/ButtonIcons.h"
 #include "gui/MainFormFixture.h"
-#include "reader/ButtonIcons.h"
 
 #include <QImage>
 #include <QMenu>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/FormMessages.h"
 #include "app/Global.h"
+#include "forms/FormMessages.h"
 #include "gui/Controls.h"
 #include "gui/ModalScript.h"
 #include "gui/WatchedFiles.h"

@@ -1,6 +1,6 @@
 #include "render/PaintRuns.h"
 #include "base/CodePage.h"
-#include "render/CellMetrics.h"
+#include "forms/CellMetrics.h"
 #include "render/RunList.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "app/ProgramIcon.h"
+#include "forms/ProgramIcon.h"
 
 #include <QImage>
 #include <QPixmap>

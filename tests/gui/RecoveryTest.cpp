@@ -2,8 +2,8 @@
 
 #include "app/AskRecoveryBox.h"
 #include "app/JournalKeeper.h"
-#include "app/Notice.h"
 #include "book/BookLoader.h"
+#include "forms/Notice.h"
 #include "gui/AuthorFixture.h"
 #include "recovery/FindJournals.h"
 #include "recovery/JournalFile.h"

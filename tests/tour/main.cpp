@@ -1,11 +1,11 @@
 // lstour: a walk through the real main window. lstour [--dark] PICTURE_FOLDER BOOK [/NAME=VALUE...]
 
 #include "Tour.h"
-#include "app/FormFont.h"
-#include "app/FormMessages.h"
-#include "app/FormStyle.h"
 #include "app/Global.h"
-#include "app/ProgramIcon.h"
+#include "forms/FormFont.h"
+#include "forms/FormMessages.h"
+#include "forms/FormStyle.h"
+#include "forms/ProgramIcon.h"
 #include "platform/Console.h"
 #include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"

@@ -1,4 +1,4 @@
-#include "app/FormStyle.h"
+#include "forms/FormStyle.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "app/Mnemonic.h"
+#include "forms/Mnemonic.h"
 
 namespace ls {
 

@@ -1,6 +1,6 @@
-#include "authoring/TextBox.h"
+#include "forms/TextBox.h"
 
-#include "render/CellMetrics.h"
+#include "forms/CellMetrics.h"
 
 #include <QPlainTextEdit>
 #include <QTextBlock>

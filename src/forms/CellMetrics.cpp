@@ -1,4 +1,4 @@
-#include "render/CellMetrics.h"
+#include "forms/CellMetrics.h"
 
 #include "render/PaintRuns.h"
 

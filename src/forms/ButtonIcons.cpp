@@ -1,4 +1,4 @@
-#include "reader/ButtonIcons.h"
+#include "forms/ButtonIcons.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>

@@ -1,7 +1,7 @@
-#include "app/FormProgress.h"
+#include "forms/FormProgress.h"
 
-#include "app/FormFont.h"
-#include "app/TitleWidth.h"
+#include "forms/FormFont.h"
+#include "forms/TitleWidth.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "app/TitleWidth.h"
+#include "forms/TitleWidth.h"
 
 #include <QApplication>
 #include <QFontMetrics>

@@ -1,4 +1,4 @@
-#include "app/Notice.h"
+#include "forms/Notice.h"
 
 #include "base/Messages.h"
 

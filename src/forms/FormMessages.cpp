@@ -1,7 +1,7 @@
-#include "app/FormMessages.h"
+#include "forms/FormMessages.h"
 
-#include "app/Mnemonic.h"
-#include "app/TitleWidth.h"
+#include "forms/Mnemonic.h"
+#include "forms/TitleWidth.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,4 +1,4 @@
-#include "app/FormFont.h"
+#include "forms/FormFont.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
