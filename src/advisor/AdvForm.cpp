@@ -1,9 +1,9 @@
 #include "advisor/AdvForm.h"
 
 #include "app/Global.h"
-#include "app/RunGuarded.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
+#include "base/RunGuarded.h"
 #include "forms/FormFont.h"
 #include "ui_AdvForm.h"
 

@@ -1,11 +1,11 @@
 #include "authoring/LgEdForm.h"
 
 #include "advisor/TempForm.h"
-#include "app/RunGuarded.h"
 #include "authoring/TextBoxCommands.h"
 #include "authoring/TopicText.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
+#include "base/RunGuarded.h"
 #include "book/Book.h"
 #include "check/CheckBook.h"
 #include "forms/FormFont.h"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/FormSeams.h"
 #include "base/Seams.h"
-#include "files/FormSeams.h"
 
 #include <string>
 

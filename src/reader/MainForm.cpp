@@ -1,8 +1,8 @@
 #include "reader/MainForm.h"
 
 #include "app/Global.h"
-#include "app/RunGuarded.h"
 #include "app/StartUp.h"
+#include "base/RunGuarded.h"
 #include "browser/About.h"
 #include "browser/HelpPages.h"
 #include "browser/WebReferral.h"

@@ -2,8 +2,8 @@
 
 #include "authoring/EditCommands.h"
 #include "authoring/TopicCommands.h"
+#include "base/FormSeams.h"
 #include "base/Seams.h"
-#include "files/FormSeams.h"
 #include "reader/BookCommands.h"
 #include "reader/MainFormLayout.h"
 #include "reader/Navigation.h"

@@ -1,6 +1,6 @@
 #include "reader/MainLayout.h"
 
-#include "render/Rounding.h"
+#include "base/Rounding.h"
 
 #include <initializer_list>
 

@@ -1,7 +1,7 @@
 #include "render/DrawLines.h"
 
+#include "base/Rounding.h"
 #include "render/DisplayLines.h"
-#include "render/Rounding.h"
 #include "render/TextSurface.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 
 #include "base/Count16.h"
 #include "base/PrinterDevice.h"
+#include "base/Rounding.h"
 #include "render/PrintSettings.h"
-#include "render/Rounding.h"
 #include "render/TextSurface.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
+#include "base/Rounding.h"
 #include "render/DrawLines.h"
-#include "render/Rounding.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "app/RunGuarded.h"
+#include "base/RunGuarded.h"
 
 #include "support/TestSeams.h"
 

@@ -1,4 +1,4 @@
-#include "render/Rounding.h"
+#include "base/Rounding.h"
 
 #include <cmath>
 
