@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Seams.h"
-#include "reader/TopicList.h"
+#include "book/TopicList.h"
 
 #include <QDialog>
 

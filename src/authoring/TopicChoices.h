@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reader/TopicList.h"
+#include "book/TopicList.h"
 
 #include <string>
 #include <vector>

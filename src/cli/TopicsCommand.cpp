@@ -1,9 +1,9 @@
 #include "base/CodePage.h"
 #include "base/Text.h"
+#include "book/TopicList.h"
 #include "cli/CommandContext.h"
 #include "cli/Commands.h"
 #include "cli/JsonWriter.h"
-#include "reader/TopicList.h"
 
 namespace ls {
 

@@ -2,11 +2,11 @@
 #include "base/LineCursor.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
+#include "book/XrefLists.h"
 #include "cli/CommandContext.h"
 #include "cli/Commands.h"
 #include "cli/JsonWriter.h"
 #include "cli/TerminalText.h"
-#include "reader/XrefLists.h"
 
 #include <ostream>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Progress.h"
-#include "reader/TopicList.h"
+#include "book/TopicList.h"
 #include "render/ShowTopic.h"
 
 #include <memory>

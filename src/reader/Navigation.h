@@ -3,7 +3,7 @@
 #include "base/Count16.h"
 #include "base/Seams.h"
 #include "book/Book.h"
-#include "reader/TopicHistory.h"
+#include "book/TopicHistory.h"
 #include "render/ShowTopic.h"
 
 #include <string>

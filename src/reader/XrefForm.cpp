@@ -4,9 +4,9 @@
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
+#include "book/XrefLists.h"
 #include "forms/ButtonIcons.h"
 #include "forms/FormFont.h"
-#include "reader/XrefLists.h"
 #include "ui_XrefForm.h"
 
 #include <utility>

@@ -6,9 +6,9 @@
 #include "bench/Measure.h"
 #include "book/BookLoader.h"
 #include "book/SaveBook.h"
+#include "book/TopicList.h"
+#include "book/XrefLists.h"
 #include "check/CheckBook.h"
-#include "reader/TopicList.h"
-#include "reader/XrefLists.h"
 #include "render/ExportTopic.h"
 #include "render/ShowTopic.h"
 

@@ -1,4 +1,4 @@
-#include "reader/TopicHistory.h"
+#include "book/TopicHistory.h"
 
 #include "base/Text.h"
 #include "book/Book.h"

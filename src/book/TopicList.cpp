@@ -1,4 +1,4 @@
-#include "reader/TopicList.h"
+#include "book/TopicList.h"
 
 #include "base/Text.h"
 #include "book/Book.h"

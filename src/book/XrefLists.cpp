@@ -1,4 +1,4 @@
-#include "reader/XrefLists.h"
+#include "book/XrefLists.h"
 
 #include "book/Book.h"
 

@@ -1,4 +1,4 @@
-#include "reader/TopicHistory.h"
+#include "book/TopicHistory.h"
 
 #include "authoring/TopicTable.h"
 #include "book/Book.h"

@@ -1,4 +1,4 @@
-#include "reader/TopicList.h"
+#include "book/TopicList.h"
 
 #include "book/Book.h"
 
