@@ -5,7 +5,7 @@
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "files/FileDialog.h"
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 #include "render/PrintSettings.h"
 
 namespace ls {

@@ -3,7 +3,7 @@
 #include "app/Global.h"
 #include "base/Processes.h"
 #include "reader/BookCommands.h"
-#include "reader/CommandLine.h"
+#include "reader/settings/CommandLine.h"
 
 namespace ls {
 

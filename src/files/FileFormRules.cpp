@@ -5,7 +5,7 @@
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
 #include "files/PathParts.h"
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 
 namespace ls {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Seams.h"
-#include "reader/CommandLine.h"
+#include "reader/settings/CommandLine.h"
 
 namespace ls {
 

@@ -9,7 +9,7 @@
 #include "files/FileFormRules.h"
 #include "reader/MainView.h"
 #include "reader/Navigation.h"
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 
 namespace ls {
 

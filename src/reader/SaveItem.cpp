@@ -10,7 +10,7 @@
 #include "files/FileDialog.h"
 #include "reader/BookCommands.h"
 #include "reader/MainView.h"
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 
 #include <memory>
 #include <string_view>

@@ -1,7 +1,7 @@
 #include "app/StartUp.h"
 
-#include "reader/CommandLine.h"
 #include "reader/MainFixture.h"
+#include "reader/settings/CommandLine.h"
 
 namespace ls {
 namespace {

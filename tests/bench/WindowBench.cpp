@@ -12,9 +12,9 @@
 #include "forms/FormFont.h"
 #include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"
-#include "reader/CommandLine.h"
 #include "reader/MainForm.h"
 #include "reader/XrefForm.h"
+#include "reader/settings/CommandLine.h"
 #include "render/SystemPrinter.h"
 
 #include <QAbstractButton>

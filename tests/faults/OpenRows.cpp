@@ -5,7 +5,7 @@
 #include "app/StartUp.h"
 #include "base/Volumes.h"
 #include "files/FileSelector.h"
-#include "reader/CommandLine.h"
+#include "reader/settings/CommandLine.h"
 #include "support/TestSeams.h"
 
 namespace ls::test {

@@ -1,6 +1,6 @@
 #include "files/FileFormRules.h"
 
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>

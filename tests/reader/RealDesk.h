@@ -9,7 +9,7 @@
 #include "reader/Navigation.h"
 #include "reader/RecordingView.h"
 #include "reader/SaveItem.h"
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 #include "support/RecordingMessages.h"
 #include "support/RecordingProcesses.h"
 

@@ -9,8 +9,8 @@
 #include "platform/Console.h"
 #include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"
-#include "reader/CommandLine.h"
 #include "reader/MainForm.h"
+#include "reader/settings/CommandLine.h"
 #include "render/SystemPrinter.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 // The command line, as one string and as separate arguments, and command lines to be started.
 
-#include "reader/CommandLine.h"
+#include "reader/settings/CommandLine.h"
 #include "World.h"
 #include "base/CodePage.h"
 #include "base/SplitCommandLine.h"

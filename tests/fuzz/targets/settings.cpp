@@ -1,9 +1,9 @@
 // Reading the settings file and writing it again.
 
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 #include "World.h"
 #include "base/Text.h"
-#include "reader/IniFile.h"
+#include "reader/settings/IniFile.h"
 
 #include <algorithm>
 

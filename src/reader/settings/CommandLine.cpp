@@ -1,4 +1,4 @@
-#include "reader/CommandLine.h"
+#include "reader/settings/CommandLine.h"
 
 #include "base/CodePage.h"
 #include "base/FileSystem.h"

@@ -1,4 +1,4 @@
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 
 #include "base/FindSpelling.h"
 

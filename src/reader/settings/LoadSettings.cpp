@@ -2,9 +2,9 @@
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
 #include "base/Text.h"
-#include "reader/IniFile.h"
-#include "reader/Settings.h"
-#include "reader/StatementReader.h"
+#include "reader/settings/IniFile.h"
+#include "reader/settings/Settings.h"
+#include "reader/settings/StatementReader.h"
 
 namespace ls {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reader/Settings.h"
+#include "reader/settings/Settings.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>

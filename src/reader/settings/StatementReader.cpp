@@ -1,4 +1,4 @@
-#include "reader/StatementReader.h"
+#include "reader/settings/StatementReader.h"
 
 #include "base/Text.h"
 

@@ -1,4 +1,4 @@
-#include "reader/CommandLine.h"
+#include "reader/settings/CommandLine.h"
 
 #include "support/TestSeams.h"
 

@@ -1,4 +1,4 @@
-#include "reader/SettingsFixture.h"
+#include "reader/settings/SettingsFixture.h"
 
 namespace ls {
 namespace {

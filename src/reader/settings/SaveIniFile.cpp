@@ -1,7 +1,7 @@
 #include "base/Messages.h"
-#include "reader/IniFile.h"
-#include "reader/Settings.h"
-#include "reader/StatementReader.h"
+#include "reader/settings/IniFile.h"
+#include "reader/settings/Settings.h"
+#include "reader/settings/StatementReader.h"
 
 #include <string_view>
 

@@ -1,4 +1,4 @@
-#include "reader/IniFile.h"
+#include "reader/settings/IniFile.h"
 
 #include "base/FindSpelling.h"
 #include "base/Text.h"
