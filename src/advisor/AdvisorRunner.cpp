@@ -4,7 +4,7 @@
 #include "advisor/AdvisorTables.h"
 #include "base/CodePage.h"
 #include "book/Book.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 
 #include <utility>
 

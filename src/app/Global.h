@@ -6,7 +6,7 @@
 #include "book/Book.h"
 #include "files/FileDialog.h"
 #include "reader/settings/Settings.h"
-#include "render/PrintSettings.h"
+#include "render/print/PrintSettings.h"
 
 namespace ls {
 

@@ -14,7 +14,7 @@
 #include "reader/MainForm.h"
 #include "recovery/OfferJournals.h"
 #include "recovery/OwnJournal.h"
-#include "render/SystemPrinter.h"
+#include "render/print/SystemPrinter.h"
 
 #include <QApplication>
 #include <QLocale>

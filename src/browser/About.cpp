@@ -3,7 +3,7 @@
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "book/Book.h"
-#include "browser/WebSite.h"
+#include "render/html/WebSite.h"
 
 namespace ls {
 

@@ -7,7 +7,7 @@
 #include "book/Book.h"
 #include "browser/APISubs.h"
 #include "browser/ReferralAddress.h"
-#include "browser/WebSite.h"
+#include "render/html/WebSite.h"
 
 #include <initializer_list>
 

@@ -5,7 +5,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "check/CheckedBlockReader.h"
-#include "render/TopicBody.h"
+#include "render/text/TopicBody.h"
 
 #include <string_view>
 

@@ -2,8 +2,8 @@
 
 #include "base/CodePage.h"
 #include "base/Text.h"
-#include "render/Markup.h"
-#include "render/WrapSegment.h"
+#include "render/text/Markup.h"
+#include "render/text/WrapSegment.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include "cli/Commands.h"
 #include "cli/JsonWriter.h"
 #include "cli/TerminalText.h"
-#include "render/ExportItem.h"
-#include "render/ExportTopic.h"
+#include "render/html/ExportItem.h"
+#include "render/html/ExportTopic.h"
 
 #include <ostream>
 

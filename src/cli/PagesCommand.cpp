@@ -3,9 +3,9 @@
 #include "cli/JsonWriter.h"
 #include "cli/RunOutput.h"
 #include "cli/TerminalSurface.h"
-#include "render/PageRecorder.h"
-#include "render/PrintSettings.h"
-#include "render/PrintTopic.h"
+#include "render/print/PageRecorder.h"
+#include "render/print/PrintSettings.h"
+#include "render/print/PrintTopic.h"
 
 #include <ostream>
 

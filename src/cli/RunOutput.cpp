@@ -3,7 +3,7 @@
 #include "base/Processes.h"
 #include "cli/CliEnvironment.h"
 #include "cli/JsonWriter.h"
-#include "render/RunList.h"
+#include "render/text/RunList.h"
 
 namespace ls {
 

@@ -4,10 +4,10 @@
 #include "cli/JsonWriter.h"
 #include "cli/RunOutput.h"
 #include "cli/TerminalSurface.h"
-#include "render/DrawLines.h"
-#include "render/RunList.h"
-#include "render/ShowTopic.h"
-#include "render/WrapSegment.h"
+#include "render/text/DrawLines.h"
+#include "render/text/RunList.h"
+#include "render/text/ShowTopic.h"
+#include "render/text/WrapSegment.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/TextSurface.h"
+#include "render/text/TextSurface.h"
 
 #include <iosfwd>
 

@@ -1,6 +1,6 @@
 #include "forms/CellMetrics.h"
 
-#include "render/PaintRuns.h"
+#include "render/pane/PaintRuns.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/TypeSize.h"
+#include "render/pane/TypeSize.h"
 
 #include <QFont>
 

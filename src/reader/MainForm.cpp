@@ -11,9 +11,9 @@
 #include "forms/FormFont.h"
 #include "reader/FitMainForm.h"
 #include "reader/MainFormView.h"
-#include "render/ExportItem.h"
-#include "render/PrintItem.h"
-#include "render/PrtForm.h"
+#include "render/html/ExportItem.h"
+#include "render/print/PrintItem.h"
+#include "render/print/PrtForm.h"
 #include "ui_MainForm.h"
 
 #include <QAbstractItemView>

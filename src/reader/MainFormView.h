@@ -3,8 +3,8 @@
 #include "base/FormSeams.h"
 #include "base/Seams.h"
 #include "reader/MainView.h"
-#include "reader/TopicDisplay.h"
 #include "reader/TopicListItems.h"
+#include "render/pane/TopicDisplay.h"
 
 #include <functional>
 

@@ -2,7 +2,7 @@
 
 #include "base/Progress.h"
 #include "book/TopicList.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 
 #include <memory>
 #include <optional>

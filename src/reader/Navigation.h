@@ -4,7 +4,7 @@
 #include "base/Seams.h"
 #include "book/Book.h"
 #include "book/TopicHistory.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "reader/PaneCommands.h"
 
-#include "render/TypeSize.h"
+#include "render/pane/TypeSize.h"
 #include "ui_MainForm.h"
 
 #include <utility>

@@ -2,7 +2,7 @@
 #include "advisor/AdvisorTables.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 #include "support/Json.h"
 #include "support/TestSeams.h"
 

@@ -9,7 +9,7 @@
 #include "advisor/LogicLoader.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>

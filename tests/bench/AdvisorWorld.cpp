@@ -7,7 +7,7 @@
 #include "bench/Measure.h"
 #include "book/BookLoader.h"
 #include "check/CheckBook.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 
 namespace ls::bench {
 

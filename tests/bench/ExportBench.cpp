@@ -3,7 +3,7 @@
 #include "bench/Benchmarks.h"
 #include "bench/Measure.h"
 #include "book/BookLoader.h"
-#include "render/ExportTopic.h"
+#include "render/html/ExportTopic.h"
 
 #include <filesystem>
 #include <fstream>

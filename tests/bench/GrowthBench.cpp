@@ -9,8 +9,8 @@
 #include "book/TopicList.h"
 #include "book/XrefLists.h"
 #include "check/CheckBook.h"
-#include "render/ExportTopic.h"
-#include "render/ShowTopic.h"
+#include "render/html/ExportTopic.h"
+#include "render/text/ShowTopic.h"
 
 #include <filesystem>
 

@@ -1,7 +1,7 @@
 #include "bench/BenchBooks.h"
 #include "bench/Benchmarks.h"
 #include "bench/Measure.h"
-#include "render/WrapSegment.h"
+#include "render/text/WrapSegment.h"
 
 #include <functional>
 

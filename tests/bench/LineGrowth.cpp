@@ -4,11 +4,11 @@
 #include "bench/GrowthRows.h"
 #include "book/BookLoader.h"
 #include "check/CheckBook.h"
-#include "render/ExportTopic.h"
-#include "render/PageRecorder.h"
-#include "render/PrintSettings.h"
-#include "render/PrintTopic.h"
-#include "render/ShowTopic.h"
+#include "render/html/ExportTopic.h"
+#include "render/print/PageRecorder.h"
+#include "render/print/PrintSettings.h"
+#include "render/print/PrintTopic.h"
+#include "render/text/ShowTopic.h"
 
 namespace ls::bench {
 

@@ -1,7 +1,7 @@
 #include "bench/Measure.h"
 #include "forms/CellMetrics.h"
-#include "render/PaintRuns.h"
-#include "render/RunList.h"
+#include "render/pane/PaintRuns.h"
+#include "render/text/RunList.h"
 
 #include <QGuiApplication>
 #include <QImage>

@@ -2,7 +2,7 @@
 #include "bench/Benchmarks.h"
 #include "bench/Measure.h"
 #include "book/BookLoader.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 
 #include <fstream>
 #include <vector>

@@ -15,7 +15,7 @@
 #include "reader/MainForm.h"
 #include "reader/XrefForm.h"
 #include "reader/settings/CommandLine.h"
-#include "render/SystemPrinter.h"
+#include "render/print/SystemPrinter.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -2,8 +2,8 @@
 #include "bench/BenchBooks.h"
 #include "bench/Benchmarks.h"
 #include "bench/Measure.h"
-#include "render/TopicBody.h"
-#include "render/WrapSegment.h"
+#include "render/text/TopicBody.h"
+#include "render/text/WrapSegment.h"
 
 #include <filesystem>
 #include <fstream>

@@ -7,7 +7,7 @@
 #include "advisor/LogicLoader.h"
 #include "base/LineCursor.h"
 #include "check/BlockStore.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 #include "support/Json.h"
 
 #include <gtest/gtest.h>

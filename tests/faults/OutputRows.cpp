@@ -4,8 +4,8 @@
 
 #include "browser/HelpPages.h"
 #include "browser/WebReferral.h"
-#include "render/ExportItem.h"
-#include "render/PrtFormRules.h"
+#include "render/html/ExportItem.h"
+#include "render/print/PrtFormRules.h"
 
 namespace ls::test {
 

@@ -5,7 +5,7 @@
 #include "advisor/AdvisorRunner.h"
 #include "check/CheckBook.h"
 #include "check/CheckItem.h"
-#include "render/PrintItem.h"
+#include "render/print/PrintItem.h"
 #include "support/PageText.h"
 #include "support/TestSeams.h"
 

@@ -14,7 +14,7 @@
 #include "files/OpenForm.h"
 #include "gui/MainFormFixture.h"
 #include "reader/XrefForm.h"
-#include "render/PrtForm.h"
+#include "render/print/PrtForm.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>

@@ -6,7 +6,7 @@
 #include "book/BookLoader.h"
 #include "gui/Controls.h"
 #include "gui/ModalScript.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 #include "support/Cases.h"
 #include "support/Json.h"
 #include "support/TestSeams.h"

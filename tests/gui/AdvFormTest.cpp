@@ -2,7 +2,7 @@
 
 #include "book/BookLoader.h"
 #include "gui/MainFormFixture.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 #include "support/Json.h"
 
 #include <QAbstractItemView>

@@ -14,7 +14,7 @@
 #include "forms/FormProgress.h"
 #include "forms/Notice.h"
 #include "reader/XrefForm.h"
-#include "render/PrtForm.h"
+#include "render/print/PrtForm.h"
 
 #include <QCoreApplication>
 #include <QProgressDialog>

@@ -8,7 +8,7 @@
 #include "platform/SystemSeams.h"
 #include "reader/MainForm.h"
 #include "reader/settings/CommandLine.h"
-#include "render/ReadingPane.h"
+#include "render/pane/ReadingPane.h"
 #include "support/RecordingDde.h"
 #include "support/RecordingPrinter.h"
 #include "support/RecordingProcesses.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "gui/MainFormFixture.h"
-#include "render/FindBar.h"
+#include "render/pane/FindBar.h"
 
 #include <QLineEdit>
 

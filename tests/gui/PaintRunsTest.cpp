@@ -1,7 +1,7 @@
-#include "render/PaintRuns.h"
+#include "render/pane/PaintRuns.h"
 #include "base/CodePage.h"
 #include "forms/CellMetrics.h"
-#include "render/RunList.h"
+#include "render/text/RunList.h"
 
 #include <gtest/gtest.h>
 

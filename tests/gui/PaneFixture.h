@@ -1,9 +1,9 @@
 #pragma once
 
 #include "gui/Controls.h"
-#include "render/DisplayLines.h"
-#include "render/DrawLines.h"
-#include "render/ReadingPane.h"
+#include "render/pane/ReadingPane.h"
+#include "render/text/DisplayLines.h"
+#include "render/text/DrawLines.h"
 
 #include <gtest/gtest.h>
 

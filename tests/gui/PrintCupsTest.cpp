@@ -2,9 +2,9 @@
 
 #include "gui/MainFormFixture.h"
 #include "gui/PdfTools.h"
-#include "render/PageRecorder.h"
-#include "render/PrintTopic.h"
-#include "render/SystemPrinter.h"
+#include "render/print/PageRecorder.h"
+#include "render/print/PrintTopic.h"
+#include "render/print/SystemPrinter.h"
 #include "support/PageText.h"
 
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 // The print dialog of the real main window, with a printer that only records.
 
-#include "render/PrtForm.h"
+#include "render/print/PrtForm.h"
 #include "gui/MainFormFixture.h"
 #include "support/PageText.h"
 

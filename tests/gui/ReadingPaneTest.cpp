@@ -1,7 +1,7 @@
-#include "render/ReadingPane.h"
+#include "render/pane/ReadingPane.h"
 #include "gui/Controls.h"
-#include "render/DisplayLines.h"
-#include "render/DrawLines.h"
+#include "render/text/DisplayLines.h"
+#include "render/text/DrawLines.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "GuideFixture.h"
-#include "render/ShowTopic.h"
+#include "render/text/ShowTopic.h"
 
 #include <set>
 #include <string_view>

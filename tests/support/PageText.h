@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/CodePage.h"
-#include "render/PageRecorder.h"
+#include "render/print/PageRecorder.h"
 
 #include <cstdio>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/PageRecorder.h"
+#include "render/print/PageRecorder.h"
 
 #include <algorithm>
 #include <map>

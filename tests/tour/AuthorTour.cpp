@@ -5,7 +5,7 @@
 
 #include "app/AskRecoveryBox.h"
 #include "recovery/FindJournals.h"
-#include "render/ReadingPane.h"
+#include "render/pane/ReadingPane.h"
 
 #include <QComboBox>
 #include <QListWidget>

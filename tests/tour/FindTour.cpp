@@ -2,7 +2,7 @@
 
 #include "Tour.h"
 
-#include "render/ReadingPane.h"
+#include "render/pane/ReadingPane.h"
 
 #include <QLabel>
 #include <QLineEdit>

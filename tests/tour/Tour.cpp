@@ -1,6 +1,6 @@
 #include "Tour.h"
 
-#include "render/ReadingPane.h"
+#include "render/pane/ReadingPane.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

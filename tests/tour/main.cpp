@@ -11,7 +11,7 @@
 #include "platform/SystemSeams.h"
 #include "reader/MainForm.h"
 #include "reader/settings/CommandLine.h"
-#include "render/SystemPrinter.h"
+#include "render/print/SystemPrinter.h"
 
 #include <QApplication>
 #include <QLocale>

@@ -3,10 +3,10 @@
 #include "World.h"
 #include "base/FileSystem.h"
 #include "base/Text.h"
-#include "render/ExportTopic.h"
-#include "render/ListIndent.h"
-#include "render/PlainWrap.h"
-#include "render/ShowTopic.h"
+#include "render/html/ExportTopic.h"
+#include "render/text/ListIndent.h"
+#include "render/text/PlainWrap.h"
+#include "render/text/ShowTopic.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,0 +1,54 @@
+#include "render/html/ExportItem.h"
+
+#include "base/CodePage.h"
+#include "base/Messages.h"
+#include "base/ReplaceFile.h"
+#include "book/Book.h"
+#include "render/html/ExportTopic.h"
+
+namespace ls {
+
+namespace {
+
+// The book's topics are read from its file while they are exported.
+FileError OpenFile(const Book& book, FileSystem& files, const std::string& path, bool replace,
+                   std::unique_ptr<OutputFile>& output)
+{
+    if (!book.OpenPath.empty() && files.SameFile(book.OpenPath, path)) {
+        return MakeFileError(error::FileAlreadyOpen);
+    }
+    return replace ? OpenToReplace(files, path, output) : OpenToCreate(files, path, output);
+}
+
+} // namespace
+
+std::unique_ptr<OutputFile> OpenExportFile(const Book& book, const Seams& seams, const std::string& path,
+                                           bool replace)
+{
+    std::unique_ptr<OutputFile> output;
+    if (const FileError failed = OpenFile(book, seams.files, path, replace, output); !failed.Ok()) {
+        seams.messages.MsgBox("Failed to open <<" + FromPath(path) + ">> due to error #" +
+                                  std::to_string(failed.number) + ": " + failed.description + ".",
+                              Icon::Warning);
+    }
+    return output;
+}
+
+void ExportItem_Click(const Book& book, const Seams& seams)
+{
+    if (book.CurrentTopicName.empty()) {
+        seams.messages.MsgBox("Please display the topic first by choosing it from the list and clicking Go.",
+                              Icon::Warning);
+        return;
+    }
+    const std::optional<std::string> path =
+        seams.messages.InputBox("Filename for export to HTML", std::string(AppTitle), "Export.htm");
+    if (!path || path->empty()) {
+        return;
+    }
+    if (const std::unique_ptr<OutputFile> output = OpenExportFile(book, seams, *path)) {
+        ExportTopic(book, seams, book.CurrentTopicName, book.CurrentTopicNo, *output);
+    }
+}
+
+} // namespace ls

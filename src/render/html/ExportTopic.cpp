@@ -1,0 +1,105 @@
+#include "render/html/ExportTopic.h"
+
+#include "base/LineCursor.h"
+#include "base/Messages.h"
+#include "base/NoFile.h"
+#include "base/Text.h"
+#include "book/Book.h"
+#include "book/BookLoader.h"
+#include "render/html/HtmlExport.h"
+#include "render/html/HtmlOutput.h"
+#include "render/text/TopicBody.h"
+
+namespace ls {
+
+namespace {
+
+std::string_view TitleOf(std::string_view topicName)
+{
+    const bool inBrackets = topicName.starts_with('[') && topicName.size() > 2;
+    return inBrackets ? topicName.substr(1, topicName.size() - 2) : topicName;
+}
+
+// Unlike the display, which passes over references, an export stops at them.
+bool EndsTopic(std::string_view line)
+{
+    return BeginsUpper(line, "<XREF") || EqualsUpper(Trim(line), "<IXML>") || line.starts_with('[');
+}
+
+enum class Located
+{
+    Found,
+    Missing,
+    Unreadable
+};
+
+// A topic that is not there is no news to the user here, nor is a file that has become shorter: there the
+// topic is gone. A disk that fails is.
+Located Locate(const Book& book, const Seams& seams, const std::string& name, Count16 number,
+               LineCursor& cursor)
+{
+    FileError failed;
+    const TopicLocation location = GoToTopic(book, cursor, name, number, failed);
+    if (location == TopicLocation::Unreadable && failed.number != error::InputPastEnd) {
+        ShowFetchError(seams, name, failed);
+        return Located::Unreadable;
+    }
+    return location == TopicLocation::Found ? Located::Found : Located::Missing;
+}
+
+FileError WriteDocument(LineCursor& cursor, std::string_view title, HtmlOutput& output)
+{
+    HtmlExport html(output);
+    html.Begin(title);
+    FileBody body(cursor);
+    std::string_view line;
+    while (output.Failed().Ok() && body.Next(line)) {
+        line = TrimRight(line);
+        if (EndsTopic(line)) {
+            break;
+        }
+        html.AddLine(line);
+    }
+    html.End();
+    return body.Failed();
+}
+
+bool FinishFile(const Seams& seams, HtmlOutput& output)
+{
+    const FileError failed = output.Finish();
+    if (!failed.Ok()) {
+        seams.messages.MsgBox("Failed to write due to error #" + std::to_string(failed.number) + ": " +
+                                  failed.description,
+                              Icon::Warning);
+    }
+    return failed.Ok();
+}
+
+} // namespace
+
+bool ExportTopic(const Book& book, const Seams& seams, const std::string& topicName, Count16 topicIndex,
+                 OutputFile& output)
+{
+    HtmlOutput lines(output);
+    if (topicName.empty()) {
+        return FinishFile(seams, lines);
+    }
+    const std::string name = WithBrackets(topicName);
+    NoFile noFile;
+    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    const Located located = Locate(book, seams, name, topicIndex, cursor);
+    if (located != Located::Found) {
+        return located == Located::Missing && FinishFile(seams, lines);
+    }
+    if (const FileError failed = WriteDocument(cursor, TitleOf(topicName), lines); !failed.Ok()) {
+        ShowFetchError(seams, name, failed);
+        return false;
+    }
+    if (!FinishFile(seams, lines)) {
+        return false;
+    }
+    seams.messages.MsgBox("The export is complete.", Icon::Information);
+    return true;
+}
+
+} // namespace ls

@@ -1,0 +1,121 @@
+#include "render/pane/PaintRuns.h"
+
+#include "base/CodePage.h"
+#include "forms/CellMetrics.h"
+#include "render/text/RunList.h"
+
+#include <QPainter>
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace ls {
+
+namespace {
+
+constexpr char16_t SmallBox = 0x25AB;
+
+std::array<char16_t, 256> MakeCellCharacters()
+{
+    std::array<char16_t, 256> characters{};
+    for (std::size_t byte = 0; byte < characters.size(); ++byte) {
+        const std::string utf8 = FromBook(std::string(1, static_cast<char>(byte)));
+        std::size_t at = 0;
+        const auto character = static_cast<char16_t>(NextUtf8(utf8, at));
+        const bool control = character < 0x20 || (character >= 0x7F && character < 0xA0);
+        characters[byte] = control ? SmallBox : character;
+    }
+    characters['\t'] = u' ';
+    characters[0xA0] = u' '; // a blank that does not break is as wide as one that does
+    characters[0xAD] = u'-'; // a text engine hides the soft hyphen; here it is a character like any other
+    return characters;
+}
+
+// The cells of a row that can be seen, counted from 0: from `first` on, up to but without `end`.
+struct ColumnRange
+{
+    std::size_t first = 0;
+    std::size_t end = 0;
+};
+
+// The columns that touch the area, and one more on each side: slanted letters lean out of their cells.
+ColumnRange VisibleColumns(const CellMetrics& metrics, const QRectF& area)
+{
+    const double left = std::floor(area.left() / metrics.charWidth) - 1;
+    const double right = std::ceil(area.right() / metrics.charWidth) + 1;
+    return {static_cast<std::size_t>(std::max(0.0, left)), static_cast<std::size_t>(std::max(0.0, right))};
+}
+
+double RowTop(const Run& run, const CellMetrics& metrics)
+{
+    return (run.row - 1) * metrics.rowHeight;
+}
+
+std::size_t FaceOf(const Run& run)
+{
+    return (run.bold ? BoldFace : RegularFace) + (run.italic ? ItalicFace : RegularFace);
+}
+
+// Draws text from `column` on: as many characters at once as advance by exactly one cell, the others alone.
+void DrawCells(QPainter& painter, const std::string_view text, std::size_t column, double baseline,
+               const CellMetrics& metrics, const std::bitset<256>& exact)
+{
+    const auto isExact = [&exact](char c) { return exact[static_cast<unsigned char>(c)]; };
+    QString piece;
+    for (std::size_t at = 0; at < text.size(); at += static_cast<std::size_t>(piece.size())) {
+        const auto* start = text.begin() + at;
+        const auto* end = isExact(*start) ? std::find_if_not(start, text.end(), isExact) : start + 1;
+        piece.resize(end - start);
+        std::transform(start, end, piece.begin(), [](char c) { return QChar(CellCharacter(c)); });
+        painter.drawText(QPointF(static_cast<double>(column + at) * metrics.charWidth, baseline), piece);
+    }
+}
+
+void PaintRun(QPainter& painter, const Run& run, const CellMetrics& metrics, const ColumnRange& columns)
+{
+    const auto start = static_cast<std::size_t>(run.firstColumn - 1);
+    const std::size_t first = std::max(start, columns.first);
+    const std::size_t end = std::min(start + run.text.size(), columns.end);
+    if (first >= end) {
+        return;
+    }
+    const std::size_t face = FaceOf(run);
+    const double top = RowTop(run, metrics);
+    const QColor colour(run.colour.red, run.colour.green, run.colour.blue);
+    painter.setFont(metrics.fonts[face]);
+    painter.setPen(colour);
+    DrawCells(painter, std::string_view(run.text).substr(first - start, end - first), first,
+              top + metrics.baseline, metrics, metrics.exact[face]);
+    if (run.underline) {
+        painter.fillRect(QRectF(static_cast<double>(first) * metrics.charWidth, top + metrics.underlineTop,
+                                static_cast<double>(end - first) * metrics.charWidth, metrics.underlineSize),
+                         colour);
+    }
+}
+
+} // namespace
+
+char16_t CellCharacter(char byte)
+{
+    static const std::array<char16_t, 256> characters = MakeCellCharacters();
+    return characters[static_cast<unsigned char>(byte)];
+}
+
+void PaintRuns(QPainter& painter, std::span<const Run> runs, const CellMetrics& metrics, const QRectF& area)
+{
+    const ColumnRange columns = VisibleColumns(metrics, area);
+    painter.save();
+    painter.setLayoutDirection(Qt::LeftToRight); // columns count from the left on every desktop
+    const auto isAbove = [&](const Run& run) {
+        return RowTop(run, metrics) + metrics.rowHeight <= area.top();
+    };
+    for (auto run = std::partition_point(runs.begin(), runs.end(), isAbove);
+         run != runs.end() && RowTop(*run, metrics) < area.bottom(); ++run) {
+        PaintRun(painter, *run, metrics, columns);
+    }
+    painter.restore();
+}
+
+} // namespace ls

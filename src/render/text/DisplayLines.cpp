@@ -1,0 +1,34 @@
+#include "render/text/DisplayLines.h"
+
+namespace ls {
+
+namespace {
+
+// A row of the widest pane needs a fraction of this. A line that did not break may have needed megabytes,
+// which must not stay taken while other topics are read.
+constexpr std::size_t KeptCapacity = 16 * 1024;
+
+} // namespace
+
+std::string* DisplayLines::AddLine()
+{
+    if (!Count.Add()) {
+        return nullptr;
+    }
+    const auto number = static_cast<std::size_t>(Count);
+    Lines.Grow(number, DisplayGrowthStep);
+    return &Lines(number);
+}
+
+void DisplayLines::Clear()
+{
+    for (int number = 1; number <= Count; ++number) {
+        std::string& line = Lines(static_cast<std::size_t>(number));
+        if (line.capacity() > KeptCapacity) {
+            std::string().swap(line);
+        }
+    }
+    Count = 0;
+}
+
+} // namespace ls

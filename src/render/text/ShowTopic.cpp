@@ -1,0 +1,249 @@
+#include "render/text/ShowTopic.h"
+
+#include "base/CodePage.h"
+#include "base/LineCursor.h"
+#include "base/Messages.h"
+#include "base/NoFile.h"
+#include "base/Text.h"
+#include "book/Book.h"
+#include "book/BookLoader.h"
+#include "render/text/ListIndent.h"
+#include "render/text/TopicBody.h"
+#include "render/text/WrapSegment.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace ls {
+
+namespace {
+
+constexpr std::string_view XrefBeginning = "<XREF";
+constexpr std::string_view LogicOpening = "<IXML>";
+
+bool IsLogicOpening(std::string_view line)
+{
+    // A long line is told apart by its first character, without a walk through its blanks.
+    line = TrimLeft(line);
+    return !line.empty() && line.front() == '<' && EqualsUpper(TrimRight(line), LogicOpening);
+}
+
+bool IsTopicHeader(std::string_view line)
+{
+    return !line.empty() && line.front() == '[';
+}
+
+// Turns the source lines of one topic into display lines.
+class Preparation
+{
+public:
+    Preparation(bool plainText, int width, ShownTopic& shown)
+        : m_plainText(plainText), m_width(std::max(width, LeastLineWidth)), m_shown(&shown)
+    {
+    }
+
+    // Takes the lines of a body up to the topic's end. True when it ended at the topic's logic block.
+    bool Take(TopicBody& body)
+    {
+        std::string_view line;
+        LineCursor* more = nullptr;
+        while (body.NextPart(line, more)) {
+            line = more == nullptr ? TrimRight(line) : line;
+            if (!m_plainText) {
+                if (BeginsUpper(line, XrefBeginning)) {
+                    m_skip = true;
+                    m_shown->xrefButton = true;
+                }
+                if (IsLogicOpening(line)) {
+                    return true;
+                }
+                if (IsTopicHeader(line)) {
+                    return false;
+                }
+            }
+            if (!m_skip) {
+                Wrap(line, more);
+            }
+        }
+        return false;
+    }
+
+    [[nodiscard]] bool Overflowed() const { return m_overflowed; }
+
+private:
+    void Wrap(std::string_view line, LineCursor* more)
+    {
+        const int hang = ListIndent(line);
+        LineRemainder rest(line, more);
+        int indent = 0;
+        do {
+            std::string* segment = m_shown->lines.AddLine();
+            if (segment == nullptr) {
+                // The lines that follow are only looked at for references and logic, so that the buttons of a
+                // topic do not depend on its length.
+                m_overflowed = true;
+                m_skip = true;
+                return;
+            }
+            segment->reserve(static_cast<std::size_t>(m_width)); // also suits what it holds next time
+            WrapSegment(rest, m_width, indent, *segment);
+            indent = hang;
+        } while (!rest.Blank());
+    }
+
+    bool m_plainText;
+    int m_width;
+    ShownTopic* m_shown;
+    bool m_skip = false; ///< nothing of what follows is displayed
+    bool m_overflowed = false;
+};
+
+// Where the saved logic of a topic begins in the file, 0 when there is none. It is looked for on behalf of a
+// text in memory, so whatever is wrong with the file is no news to the user here.
+FilePos FindLogic(const Book& book, int number)
+{
+    const auto index = static_cast<std::size_t>(number);
+    if (!book.File || book.TopicPos(index) == 0) {
+        return 0;
+    }
+    LineCursor cursor(*book.File);
+    cursor.Seek(book.TopicPos(index));
+    FileBody body(cursor);
+    std::string_view line;
+    if (!body.Next(line) || Trim(line) != book.TopicNames(index)) {
+        return 0;
+    }
+    while (body.Next(line) && !IsTopicHeader(line)) {
+        if (IsLogicOpening(line)) {
+            return cursor.Position();
+        }
+    }
+    return 0;
+}
+
+// The text in memory of a topic, nullptr when it is unedited and stands in the file.
+const std::string* EditedText(const Book& book, int number)
+{
+    const auto index = static_cast<std::size_t>(number);
+    if (number < 1 || index > book.TopicRecs.UpperBound() || book.TopicRecs(index).Text.empty()) {
+        return nullptr;
+    }
+    return &book.TopicRecs(index).Text;
+}
+
+// A reference in another topic counts too: the reader may want to go back along it.
+bool IsReferredTo(const Book& book, std::string_view topicName)
+{
+    const std::string_view title = topicName.substr(1, topicName.size() - 2);
+    const auto end = book.Xrefs.begin() + book.XrefCount;
+    return std::any_of(book.Xrefs.begin(), end,
+                       [title](const XrefRec& xref) { return xref.ToTopic == title; });
+}
+
+void StartAnew(ShownTopic& shown)
+{
+    shown.name.clear();
+    shown.lines.Clear();
+    shown.xrefButton = false;
+    shown.advisorButton = false;
+    shown.logicPos = 0;
+}
+
+// Shows what was read before the error, since it may be all that can be saved of a failing disk, and says
+// that it is not the whole.
+void ReportCut(const Seams& seams, const Preparation& preparation, const std::string& name,
+               const FileError& failed)
+{
+    if (!failed.Ok()) {
+        ShowFetchError(seams, name, failed);
+    }
+    if (preparation.Overflowed()) {
+        ShowOverflow(seams.messages);
+    }
+}
+
+ShowResult ShowPlainText(const Book& book, const Seams& seams, int lineWidthChars, ShownTopic& shown)
+{
+    if (!book.File) {
+        return ShowResult::Nothing;
+    }
+    StartAnew(shown);
+    LineCursor cursor(*book.File);
+    FileBody body(cursor);
+    Preparation preparation(true, lineWidthChars, shown);
+    preparation.Take(body);
+    // The file has no topic that the message could name.
+    ReportCut(seams, preparation, ToBook(FromPath(book.BookPath)).value_or(std::string()), body.Failed());
+    return ShowResult::Shown;
+}
+
+void PrepareEdited(const Book& book, const Seams& seams, int number, const std::string& text, int width,
+                   ShownTopic& shown)
+{
+    TextBody body(text);
+    Preparation preparation(false, width, shown);
+    preparation.Take(body);
+    // The advisor reads its block from the file, where the saved one stands until the book is written.
+    shown.logicPos = FindLogic(book, number);
+    shown.advisorButton = shown.logicPos != 0;
+    ReportCut(seams, preparation, shown.name, {});
+}
+
+void PrepareFromFile(const Seams& seams, LineCursor& cursor, int width, ShownTopic& shown)
+{
+    FileBody body(cursor);
+    Preparation preparation(false, width, shown);
+    if (preparation.Take(body)) {
+        shown.logicPos = cursor.Position();
+        shown.advisorButton = true;
+    }
+    ReportCut(seams, preparation, shown.name, body.Failed());
+}
+
+} // namespace
+
+ShowResult ShowTopic(const Book& book, const Seams& seams, std::string& topicName, Count16& topicIndex,
+                     int lineWidthChars, ShownTopic& shown)
+{
+    if (book.IsPlainText()) {
+        return ShowPlainText(book, seams, lineWidthChars, shown);
+    }
+    if (book.TopicCount == 0 || topicName.empty()) {
+        return ShowResult::Nothing;
+    }
+    topicName = WithBrackets(topicName);
+    const std::string* edited = EditedText(book, topicIndex);
+    NoFile noFile;
+    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    if (edited == nullptr) {
+        LocateTopic(book, seams, cursor, topicName, topicIndex);
+        if (topicName.empty()) {
+            return ShowResult::Cleared;
+        }
+    }
+    StartAnew(shown);
+    shown.name = topicName;
+    if (edited != nullptr) {
+        PrepareEdited(book, seams, topicIndex, *edited, lineWidthChars, shown);
+    } else {
+        PrepareFromFile(seams, cursor, lineWidthChars, shown);
+    }
+    shown.xrefButton = shown.xrefButton || IsReferredTo(book, shown.name);
+    return ShowResult::Shown;
+}
+
+std::string NextTopicLine(const Book& book, int topicIndex, std::size_t& position, int& doneFlag)
+{
+    const std::string* text = EditedText(book, topicIndex);
+    TextBody body(text == nullptr ? std::string_view() : std::string_view(*text),
+                  position > 0 ? position - 1 : 0);
+    std::string_view line;
+    if (!body.Next(line)) {
+        doneFlag = -1;
+        return {};
+    }
+    position = body.Position() + 1;
+    return std::string(line);
+}
+
+} // namespace ls

@@ -1,0 +1,53 @@
+#include "render/text/TopicBody.h"
+
+#include "base/Text.h"
+
+namespace ls {
+
+namespace {
+
+// More than a tag that is looked for at the start of a line, and than what a hanging indent is found from.
+constexpr std::size_t Telling = 16;
+
+} // namespace
+
+bool FileBody::Next(std::string_view& line)
+{
+    if (!m_failed.Ok() || m_cursor->AtEnd()) {
+        return false;
+    }
+    m_failed = m_cursor->ReadLine(line);
+    return m_failed.Ok();
+}
+
+bool FileBody::NextPart(std::string_view& line, LineCursor*& rest)
+{
+    if (m_inLine && m_failed.Ok()) {
+        m_failed = m_cursor->EndLine();
+    }
+    if (!m_failed.Ok() || m_cursor->AtEnd()) {
+        return false;
+    }
+    bool whole = true;
+    m_failed = m_cursor->BeginLine(line, whole);
+    while (m_failed.Ok() && !whole && Trim(line).size() < Telling) {
+        m_failed = m_cursor->ReadOn(line, 0, whole);
+    }
+    m_inLine = !whole;
+    rest = whole ? nullptr : m_cursor;
+    return m_failed.Ok();
+}
+
+bool TextBody::Next(std::string_view& line)
+{
+    constexpr std::string_view LineEnd = "\r\n";
+    if (m_at >= m_text.size()) {
+        return false;
+    }
+    const std::size_t end = m_text.find(LineEnd, m_at);
+    line = m_text.substr(m_at, end == std::string_view::npos ? end : end - m_at);
+    m_at = end == std::string_view::npos ? m_text.size() : end + LineEnd.size();
+    return true;
+}
+
+} // namespace ls
