@@ -1,10 +1,10 @@
 #include "advisor/AdvForm.h"
 
-#include "app/Global.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
 #include "base/RunGuarded.h"
 #include "forms/FormFont.h"
+#include "reader/window/Global.h"
 #include "ui_AdvForm.h"
 
 #include <QFontMetrics>

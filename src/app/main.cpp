@@ -1,8 +1,5 @@
 // lsadvisor: the desktop program.
 
-#include "app/AskRecoveryBox.h"
-#include "app/Global.h"
-#include "app/JournalKeeper.h"
 #include "forms/FormFont.h"
 #include "forms/FormMessages.h"
 #include "forms/FormStyle.h"
@@ -11,7 +8,10 @@
 #include "platform/DdeSeam.h"
 #include "platform/ReadCommandLine.h"
 #include "platform/SystemSeams.h"
-#include "reader/MainForm.h"
+#include "reader/window/AskRecoveryBox.h"
+#include "reader/window/Global.h"
+#include "reader/window/JournalKeeper.h"
+#include "reader/window/MainForm.h"
 #include "recovery/OfferJournals.h"
 #include "recovery/OwnJournal.h"
 #include "render/print/SystemPrinter.h"

@@ -1,6 +1,5 @@
 #include "files/FileForm.h"
 
-#include "app/Global.h"
 #include "authoring/InfoForm.h"
 #include "base/DdeServer.h"
 #include "base/ProgramEnd.h"
@@ -14,6 +13,7 @@
 #include "forms/ButtonIcons.h"
 #include "forms/FormFont.h"
 #include "forms/Mnemonic.h"
+#include "reader/window/Global.h"
 #include "ui_FileForm.h"
 
 #include <QApplication>

@@ -2,7 +2,6 @@
 //
 //   bench_window FOLDER      (the books are made there)
 
-#include "app/Global.h"
 #include "authoring/DelTopicForm.h"
 #include "authoring/MoveTopicsForm.h"
 #include "authoring/TxEdForm.h"
@@ -12,9 +11,10 @@
 #include "forms/FormFont.h"
 #include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"
-#include "reader/MainForm.h"
-#include "reader/XrefForm.h"
 #include "reader/settings/CommandLine.h"
+#include "reader/window/Global.h"
+#include "reader/window/MainForm.h"
+#include "reader/window/XrefForm.h"
 #include "render/print/SystemPrinter.h"
 
 #include <QAbstractButton>

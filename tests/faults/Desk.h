@@ -1,12 +1,12 @@
 #pragma once
 
-#include "app/Global.h"
-#include "authoring/EditCommands.h"
 #include "files/FileFormRules.h"
-#include "reader/BookCommands.h"
-#include "reader/Navigation.h"
-#include "reader/RecordingView.h"
-#include "reader/SaveItem.h"
+#include "reader/window/BookCommands.h"
+#include "reader/window/EditCommands.h"
+#include "reader/window/Global.h"
+#include "reader/window/Navigation.h"
+#include "reader/window/RecordingView.h"
+#include "reader/window/SaveItem.h"
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingMessages.h"
 #include "support/RecordingPrinter.h"

@@ -2,10 +2,10 @@
 
 #include "FaultRow.h"
 
-#include "app/StartUp.h"
 #include "base/Volumes.h"
 #include "files/FileSelector.h"
 #include "reader/settings/CommandLine.h"
+#include "reader/window/StartUp.h"
 #include "support/TestSeams.h"
 
 namespace ls::test {

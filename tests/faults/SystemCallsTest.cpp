@@ -3,7 +3,7 @@
 
 #include "SystemCallsFixture.h"
 #include "base/ReplaceFile.h"
-#include "reader/RealDesk.h"
+#include "reader/window/RealDesk.h"
 #include "support/TestSeams.h"
 
 #include <algorithm>

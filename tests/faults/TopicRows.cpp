@@ -4,8 +4,8 @@
 
 #include "advisor/AdvisorRunner.h"
 #include "check/CheckBook.h"
-#include "check/CheckItem.h"
-#include "render/print/PrintItem.h"
+#include "reader/window/CheckItem.h"
+#include "reader/window/PrintItem.h"
 #include "support/PageText.h"
 #include "support/TestSeams.h"
 

@@ -8,12 +8,12 @@
 #include "authoring/LgEdForm.h"
 #include "authoring/MoveTopicsForm.h"
 #include "authoring/TxEdForm.h"
-#include "check/CheckForm.h"
-#include "check/CheckItem.h"
 #include "files/FileForm.h"
 #include "files/OpenForm.h"
 #include "gui/MainFormFixture.h"
-#include "reader/XrefForm.h"
+#include "reader/window/CheckForm.h"
+#include "reader/window/CheckItem.h"
+#include "reader/window/XrefForm.h"
 #include "render/print/PrtForm.h"
 
 #include <QAbstractItemView>

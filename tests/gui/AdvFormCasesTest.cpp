@@ -2,10 +2,10 @@
 
 #include "advisor/AdvForm.h"
 
-#include "app/Global.h"
 #include "book/BookLoader.h"
 #include "gui/Controls.h"
 #include "gui/ModalScript.h"
+#include "reader/window/Global.h"
 #include "render/text/ShowTopic.h"
 #include "support/Cases.h"
 #include "support/Json.h"

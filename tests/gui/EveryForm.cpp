@@ -1,19 +1,19 @@
 #include "gui/EveryForm.h"
 
 #include "advisor/TempForm.h"
-#include "app/AskRecoveryBox.h"
 #include "authoring/DelTopicForm.h"
 #include "authoring/InfoForm.h"
 #include "authoring/LgEdForm.h"
 #include "authoring/MoveTopicsForm.h"
 #include "authoring/TxEdForm.h"
-#include "check/CheckForm.h"
-#include "check/CheckItem.h"
 #include "files/FileForm.h"
 #include "files/OpenForm.h"
 #include "forms/FormProgress.h"
 #include "forms/Notice.h"
-#include "reader/XrefForm.h"
+#include "reader/window/AskRecoveryBox.h"
+#include "reader/window/CheckForm.h"
+#include "reader/window/CheckItem.h"
+#include "reader/window/XrefForm.h"
 #include "render/print/PrtForm.h"
 
 #include <QCoreApplication>

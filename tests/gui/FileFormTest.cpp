@@ -1,10 +1,10 @@
 #include "files/FileForm.h"
 
-#include "app/Global.h"
 #include "base/DdeServer.h"
 #include "base/Volumes.h"
 #include "gui/Controls.h"
 #include "gui/ModalScript.h"
+#include "reader/window/Global.h"
 #include "support/RecordingDde.h"
 #include "support/RecordingPrinter.h"
 #include "support/RecordingRegistry.h"

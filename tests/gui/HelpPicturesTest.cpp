@@ -1,9 +1,9 @@
 // The windows that the help pages picture, with the content of the sample books. With LS_PICTURES set, as
 // scripts/update-pictures does, the pictures are taken here.
 
-#include "app/AskRecoveryBox.h"
 #include "files/OpenForm.h"
 #include "gui/MainFormFixture.h"
+#include "reader/window/AskRecoveryBox.h"
 #include "recovery/FindJournals.h"
 
 namespace ls {

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/Global.h"
 #include "forms/FormMessages.h"
 #include "gui/Controls.h"
 #include "gui/ModalScript.h"
 #include "gui/WatchedFiles.h"
 #include "platform/SystemSeams.h"
-#include "reader/MainForm.h"
 #include "reader/settings/CommandLine.h"
+#include "reader/window/Global.h"
+#include "reader/window/MainForm.h"
 #include "render/pane/ReadingPane.h"
 #include "support/RecordingDde.h"
 #include "support/RecordingPrinter.h"

@@ -1,10 +1,10 @@
 // The recovery journal of the real main window.
 
-#include "app/AskRecoveryBox.h"
-#include "app/JournalKeeper.h"
 #include "book/BookLoader.h"
 #include "forms/Notice.h"
 #include "gui/AuthorFixture.h"
+#include "reader/window/AskRecoveryBox.h"
+#include "reader/window/JournalKeeper.h"
 #include "recovery/FindJournals.h"
 #include "recovery/JournalFile.h"
 #include "recovery/OfferJournals.h"

@@ -1,4 +1,4 @@
-#include "reader/XrefForm.h"
+#include "reader/window/XrefForm.h"
 
 #include "book/Book.h"
 #include "gui/Controls.h"

@@ -3,7 +3,7 @@
 
 #include "Tour.h"
 
-#include "app/AskRecoveryBox.h"
+#include "reader/window/AskRecoveryBox.h"
 #include "recovery/FindJournals.h"
 #include "render/pane/ReadingPane.h"
 

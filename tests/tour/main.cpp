@@ -1,7 +1,6 @@
 // lstour: a walk through the real main window. lstour [--dark] PICTURE_FOLDER BOOK [/NAME=VALUE...]
 
 #include "Tour.h"
-#include "app/Global.h"
 #include "forms/FormFont.h"
 #include "forms/FormMessages.h"
 #include "forms/FormStyle.h"
@@ -9,8 +8,9 @@
 #include "platform/Console.h"
 #include "platform/DdeSeam.h"
 #include "platform/SystemSeams.h"
-#include "reader/MainForm.h"
 #include "reader/settings/CommandLine.h"
+#include "reader/window/Global.h"
+#include "reader/window/MainForm.h"
 #include "render/print/SystemPrinter.h"
 
 #include <QApplication>

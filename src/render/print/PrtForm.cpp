@@ -1,12 +1,12 @@
 #include "render/print/PrtForm.h"
 
-#include "app/Global.h"
 #include "base/PrinterDevice.h"
 #include "base/ProgramEnd.h"
 #include "browser/HelpPages.h"
 #include "files/ProgramSelector.h"
 #include "forms/ButtonIcons.h"
 #include "forms/FormFont.h"
+#include "reader/window/Global.h"
 #include "render/print/PrtFormRules.h"
 #include "ui_PrtForm.h"
 

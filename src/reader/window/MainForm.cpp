@@ -1,0 +1,408 @@
+#include "reader/window/MainForm.h"
+
+#include "base/RunGuarded.h"
+#include "browser/About.h"
+#include "browser/HelpPages.h"
+#include "browser/WebReferral.h"
+#include "files/ProgramSelector.h"
+#include "forms/FormFont.h"
+#include "reader/window/CheckItem.h"
+#include "reader/window/FitMainForm.h"
+#include "reader/window/Global.h"
+#include "reader/window/MainFormView.h"
+#include "reader/window/PrintItem.h"
+#include "reader/window/StartUp.h"
+#include "render/html/ExportItem.h"
+#include "render/print/PrtForm.h"
+#include "ui_MainForm.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+#include <utility>
+
+namespace ls {
+
+namespace {
+
+constexpr const char* HelpPage = "Lodestar_Reader.htm";
+constexpr int AfterResizeMilliseconds = 60; // how long a window that is being dragged must rest
+
+} // namespace
+
+MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
+    : m_ui(std::make_unique<Ui::MainForm>()), m_global(global), m_seams(seams), m_forms(forms),
+      m_layout(*m_ui, SetUpUi()),
+      m_view(std::make_unique<MainFormView>(*this, *m_ui, global, m_seams, forms)),
+      m_navigation(global.book, m_seams, *m_view),
+      m_commands(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_navigation),
+      m_save(global.book, global.settings, global.fileDialog, m_seams, *m_view, m_commands),
+      m_topicCommands(global.book, global.topicFlags, m_seams, *m_view, m_navigation),
+      m_editCommands(global.book, m_seams, *m_view, m_navigation),
+      m_paneCommands(
+          *m_ui, [this] { TypeSize_Change(); }, [this] { FindBar_Change(); })
+{
+    ConnectButtons();
+    ConnectItems();
+    m_afterResize.setSingleShot(true);
+    m_afterResize.setInterval(AfterResizeMilliseconds);
+    connect(&m_afterResize, &QTimer::timeout, this, &MainForm::ShowAgain);
+    m_ui->centralwidget->installEventFilter(this);
+    m_ui->TopicList->installEventFilter(this);
+    m_ui->TopicList->view()->viewport()->installEventFilter(this);
+}
+
+MainForm::~MainForm() = default;
+
+// The form is designed by the size of its inner area; the menus come on top of that.
+QSize MainForm::SetUpUi()
+{
+    setFont(FormFont());
+    m_ui->setupUi(this);
+    const QSize inner = FitMainForm(*m_ui, size());
+    resize(inner + QSize(0, m_ui->menubar->sizeHint().height()));
+    return inner;
+}
+
+void MainForm::ConnectButtons()
+{
+    connect(m_ui->GoToButton, &QAbstractButton::clicked, this, &MainForm::GoToButton_Click);
+    connect(m_ui->BackButton, &QAbstractButton::clicked, this, &MainForm::PrevTopic_Click);
+    connect(m_ui->NextButton, &QAbstractButton::clicked, this, &MainForm::NextItem_Click);
+    connect(m_ui->AdvisorButton, &QAbstractButton::clicked, this, &MainForm::AdvisorButton_Click);
+    connect(m_ui->XRButton, &QAbstractButton::clicked, this, &MainForm::XRButton_Click);
+    connect(m_ui->ExplainButton, &QAbstractButton::clicked, this, &MainForm::ExplainButton_Click);
+    connect(m_ui->DoneButton, &QAbstractButton::clicked, this, &MainForm::DoneButton_Click);
+    connect(m_ui->TopicList, &QComboBox::currentIndexChanged, this, &MainForm::TopicList_Change);
+    connect(m_ui->TopicList, &QComboBox::activated, this, &MainForm::TopicList_Change);
+    connect(m_ui->VScroll1, &QAbstractSlider::valueChanged, this, &MainForm::VScroll1_Change);
+}
+
+void MainForm::ConnectItems()
+{
+    connect(m_ui->NewItem, &QAction::triggered, this, &MainForm::NewItem_Click);
+    connect(m_ui->OpenItem, &QAction::triggered, this, &MainForm::OpenItem_Click);
+    connect(m_ui->SaveItem, &QAction::triggered, this, &MainForm::SaveItem_Click);
+    connect(m_ui->ExitItem, &QAction::triggered, this, &MainForm::DoneButton_Click);
+    connect(m_ui->AddTopicItem, &QAction::triggered, this, &MainForm::AddTopicItem_Click);
+    connect(m_ui->DelTopicItem, &QAction::triggered, this, &MainForm::DelTopicItem_Click);
+    connect(m_ui->ReorderItem, &QAction::triggered, this, &MainForm::ReorderItem_Click);
+    connect(m_ui->EdTextItem, &QAction::triggered, this, &MainForm::EdTextItem_Click);
+    connect(m_ui->AdviceEdItem, &QAction::triggered, this, &MainForm::AdviceEdItem_Click);
+    connect(m_ui->EditPropertiesOption, &QAction::triggered, this, &MainForm::EditPropertiesOption_Click);
+    connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
+    connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
+    connect(m_ui->PrintItem, &QAction::triggered, this, &MainForm::PrintItem_Click);
+    connect(m_ui->ExportItem, &QAction::triggered, this, &MainForm::ExportItem_Click);
+    connect(m_ui->CheckItem, &QAction::triggered, this, &MainForm::CheckItem_Click);
+    connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
+    connect(m_ui->ContentsItem, &QAction::triggered, this, &MainForm::ContentsItem_Click);
+    connect(m_ui->GoBackItem, &QAction::triggered, this, &MainForm::GoBackItem_Click);
+    connect(m_ui->GoForwardItem, &QAction::triggered, this, &MainForm::GoForwardItem_Click);
+    connect(m_ui->PickTopicItem, &QAction::triggered, this, &MainForm::PickTopicItem_Click);
+    connect(m_ui->HelpItem, &QAction::triggered, this, &MainForm::HelpItem_Click);
+    connect(m_ui->AboutItem, &QAction::triggered, this, &MainForm::AboutItem_Click);
+    m_ui->HelpItem->setEnabled(HasHelpPage(HelpPage, m_seams));
+}
+
+// Every command goes through here. One that is still running, with a box or form of its own open, is never
+// interrupted by another; a resize that came meanwhile is caught up with; and when a fault has ended the
+// program, the window closes.
+void MainForm::Run(const std::function<void()>& command)
+{
+    if (m_running) {
+        return;
+    }
+    {
+        const QScopedValueRollback<bool> running(m_running, true);
+        RunGuarded(command, m_seams);
+    }
+    EnableHistory();
+    Q_EMIT CommandDone();
+    if (m_seams.end.Ended()) {
+        close();
+    }
+    if (std::exchange(m_resizedMeanwhile, false)) {
+        m_afterResize.start();
+    }
+}
+
+void MainForm::EnableHistory()
+{
+    m_ui->GoBackItem->setEnabled(m_navigation.CanGoBack());
+    m_ui->GoForwardItem->setEnabled(m_navigation.CanGoForward());
+}
+
+void MainForm::Form_Load(const CommandLine& commandLine, const std::function<bool()>& recover)
+{
+    Run([&] { StartUp(m_global, m_seams, commandLine, m_commands, recover); });
+}
+
+void MainForm::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (!m_activated) {
+        m_activated = true;
+        QTimer::singleShot(0, this, &MainForm::Form_Activate);
+    }
+}
+
+void MainForm::Form_Activate()
+{
+    const Book& book = m_global.book;
+    if (!book.IsOpen() && !book.BookChanged) { // recovered edits may be those of a new book
+        OpenItem_Click();
+    }
+}
+
+void MainForm::closeEvent(QCloseEvent* event)
+{
+    bool mayLeave = m_seams.end.Ended();
+    if (!mayLeave) {
+        Run([&] { mayLeave = m_commands.MayLeave(); });
+    }
+    event->setAccepted(mayLeave);
+}
+
+void MainForm::Form_Resize()
+{
+    m_layout.Form_Resize();
+    m_afterResize.start();
+}
+
+void MainForm::FindBar_Change()
+{
+    m_layout.Form_Resize();
+    Run([this] { m_view->PaneHeight_Change(); });
+}
+
+// The reader stays where the text was read, and with the keys where they were.
+void MainForm::TypeSize_Change()
+{
+    Run([this] { m_view->KeepPlace([this] { m_navigation.ShowAgain(); }); });
+}
+
+// At the end of a burst of resizes. While a box, a form or a list is open the topic waits until that closes.
+void MainForm::ShowAgain()
+{
+    if (m_running) {
+        m_resizedMeanwhile = true;
+        return;
+    }
+    if (QApplication::activePopupWidget() != nullptr) {
+        m_afterResize.start();
+        return;
+    }
+    m_ui->DoneButton->setFocus();
+    Run([this] { m_view->KeepSelection([this] { m_navigation.ShowAgain(); }); });
+}
+
+void MainForm::GoToButton_Click()
+{
+    Run([this] { m_navigation.GoToButton_Click(); });
+}
+
+void MainForm::AdvisorButton_Click()
+{
+    Run([this] { m_navigation.AdvisorButton_Click(); });
+}
+
+void MainForm::XRButton_Click()
+{
+    Run([this] { m_navigation.XRButton_Click(); });
+}
+
+void MainForm::NextItem_Click()
+{
+    Run([this] { m_navigation.NextItem_Click(); });
+}
+
+void MainForm::PrevTopic_Click()
+{
+    Run([this] { m_navigation.PrevTopic_Click(); });
+}
+
+void MainForm::AlphaItem_Click()
+{
+    Run([this] { m_navigation.AlphaItem_Click(); });
+}
+
+void MainForm::ContentsItem_Click()
+{
+    Run([this] { m_navigation.ContentsItem_Click(); });
+}
+
+void MainForm::GoBackItem_Click()
+{
+    Run([this] { m_navigation.GoBackItem_Click(); });
+}
+
+void MainForm::GoForwardItem_Click()
+{
+    Run([this] { m_navigation.GoForwardItem_Click(); });
+}
+
+void MainForm::PickTopicItem_Click()
+{
+    m_ui->TopicList->setFocus();
+}
+
+void MainForm::NewItem_Click()
+{
+    Run([this] { m_commands.NewItem_Click(); });
+}
+
+void MainForm::OpenItem_Click()
+{
+    Run([this] { m_commands.OpenItem_Click(); });
+}
+
+void MainForm::SaveItem_Click()
+{
+    Run([this] { m_save.SaveItem_Click(); });
+}
+
+void MainForm::AddTopicItem_Click()
+{
+    Run([this] { m_topicCommands.AddTopicItem_Click(); });
+}
+
+void MainForm::DelTopicItem_Click()
+{
+    Run([this] { m_topicCommands.DelTopicItem_Click(); });
+}
+
+void MainForm::ReorderItem_Click()
+{
+    Run([this] { m_topicCommands.ReorderItem_Click(); });
+}
+
+void MainForm::EdTextItem_Click()
+{
+    Run([this] { m_editCommands.EdTextItem_Click(); });
+}
+
+void MainForm::AdviceEdItem_Click()
+{
+    Run([this] { m_editCommands.AdviceEdItem_Click(); });
+}
+
+void MainForm::EditPropertiesOption_Click()
+{
+    Run([this] { m_editCommands.EditPropertiesOption_Click(); });
+}
+
+void MainForm::PrintItem_Click()
+{
+    Run([this] {
+        ls::PrintItem_Click(m_global.book, m_global.print, m_forms.printer, m_seams,
+                            [this] { PrtForm(this, m_global, m_seams, m_forms).exec(); });
+    });
+}
+
+void MainForm::ExportItem_Click()
+{
+    Run([this] { ls::ExportItem_Click(m_global.book, m_seams); });
+}
+
+void MainForm::CheckItem_Click()
+{
+    Run([this] { ls::CheckItem_Click(m_global.book, m_seams, *m_view, m_navigation); });
+}
+
+void MainForm::ExplainButton_Click()
+{
+    Run([this] {
+        ShowWebReferral(m_global.book, m_seams, m_forms.registry, m_global.book.CurrentTopicName);
+    });
+}
+
+void MainForm::HelpItem_Click()
+{
+    Run([this] {
+        ShowHelpPage(HelpPage, m_seams, m_forms.registry, [this](const std::string& startPath) {
+            return SelectProgram(this, m_seams, m_forms, m_global.book.WorkDir, startPath);
+        });
+    });
+}
+
+void MainForm::AboutItem_Click()
+{
+    Run([this] { ShowAbout(m_global.book, m_seams); });
+}
+
+void MainForm::VScroll1_Change()
+{
+    Run([this] { m_view->VScroll1_Change(); });
+}
+
+void MainForm::DoneButton_Click()
+{
+    close();
+}
+
+void MainForm::TopicList_Change()
+{
+    if (!m_view->SettingList()) {
+        Run([this] { m_navigation.TopicList_Change(); });
+    }
+}
+
+void MainForm::TopicList_DblClick()
+{
+    m_ui->TopicList->hidePopup();
+    GoToButton_Click();
+}
+
+bool MainForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_ui->centralwidget) {
+        if (event->type() == QEvent::Resize) {
+            Form_Resize();
+        }
+        return false;
+    }
+    return FilterList(watched, event);
+}
+
+// The wheel over the closed list would choose another topic and so wipe the pane: it needs the focus first.
+bool MainForm::FilterList(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonDblClick) {
+        TopicList_DblClick();
+        return true;
+    }
+    return event->type() == QEvent::Wheel && watched == m_ui->TopicList && !m_ui->TopicList->hasFocus();
+}
+
+// Enter presses the default button unless the button with the focus took it; the page keys scroll the topic
+// and Escape closes the find bar wherever the focus is.
+void MainForm::keyPressEvent(QKeyEvent* event)
+{
+    QPushButton* const byDefault = m_ui->GoToButton->isDefault() ? m_ui->GoToButton : m_ui->DoneButton;
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (byDefault->isVisible()) {
+            byDefault->click();
+        }
+        break;
+    case Qt::Key_PageUp:
+        m_ui->VScroll1->triggerAction(QAbstractSlider::SliderPageStepSub);
+        break;
+    case Qt::Key_PageDown:
+        m_ui->VScroll1->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        break;
+    case Qt::Key_Escape:
+        m_ui->FindBar->Close();
+        break;
+    default:
+        QMainWindow::keyPressEvent(event);
+        break;
+    }
+}
+
+} // namespace ls

@@ -1,0 +1,202 @@
+// Going back and forward among the topics that were shown.
+
+#include "reader/window/MainFixture.h"
+
+#include "authoring/TopicTable.h"
+
+namespace ls {
+namespace {
+
+struct HistoryTest : MainFixture
+{
+    void Pick(int index)
+    {
+        view.selected = index;
+        navigation.TopicList_Change();
+        navigation.GoToButton_Click();
+    }
+
+    // What can be done now: "<" for back, ">" for forward.
+    [[nodiscard]] std::string Ways() const
+    {
+        return std::string(navigation.CanGoBack() ? "<" : "") + (navigation.CanGoForward() ? ">" : "");
+    }
+};
+
+TEST_F(HistoryTest, noBook_doesNothing)
+{
+    EXPECT_EQ(Ways(), "");
+    navigation.GoBackItem_Click();
+    navigation.GoForwardItem_Click();
+    EXPECT_EQ(Boxes(), Strings{});
+    EXPECT_EQ(view.showings, 0);
+}
+
+TEST_F(HistoryTest, backAndForward_showTheTopicsAndSelectThem)
+{
+    OpenThree();
+    EXPECT_EQ(Ways(), "");
+    Pick(2);
+    EXPECT_EQ(Ways(), "<");
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+    EXPECT_EQ(view.selected, 0);
+    EXPECT_EQ(view.defaultButton, DefaultButton::Done);
+    EXPECT_EQ(Ways(), ">");
+    navigation.GoForwardItem_Click();
+    EXPECT_EQ(OnShow(), "[C]|c");
+    EXPECT_EQ(view.selected, 2);
+    EXPECT_EQ(Ways(), "<");
+    EXPECT_EQ(Boxes(), Strings{});
+}
+
+// The buttons keep to the list; only what they showed is remembered.
+TEST_F(HistoryTest, nextAndPrevious_followTheListAndAreRemembered)
+{
+    OpenThree();
+    Pick(2);
+    navigation.PrevTopic_Click();
+    EXPECT_EQ(OnShow(), "[B]|b");
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[C]|c");
+    navigation.PrevTopic_Click();
+    EXPECT_EQ(OnShow(), "[B]|b");
+    navigation.PrevTopic_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+}
+
+TEST_F(HistoryTest, listTouchedWithoutGo_backBringsTheTopicBack)
+{
+    OpenThree();
+    Pick(1);
+    view.selected = 2;
+    navigation.TopicList_Change();
+    EXPECT_EQ(OnShow(), "");
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[B]|b");
+    EXPECT_EQ(view.selected, 1);
+}
+
+TEST_F(HistoryTest, alphabeticOrder_selectsTheTopicThere)
+{
+    Open(test::CrLf({"LODESTAR BOOK V5.3", "[Z]", "z", "[A]", "a"}));
+    Pick(1);
+    navigation.AlphaItem_Click();
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[Z]|z");
+    EXPECT_EQ(view.selected, 1);
+}
+
+TEST_F(HistoryTest, topicShownAgainAfterAnEdit_isNoStep)
+{
+    OpenThree();
+    Pick(1);
+    navigation.ShowTopicAgain();
+    navigation.ShowAgain();
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+}
+
+TEST_F(HistoryTest, crossReference_isAStep)
+{
+    OpenThree();
+    view.onXrefForm = [this] { book.CurrentTopicName = "C"; };
+    navigation.XRButton_Click();
+    EXPECT_EQ(OnShow(), "[C]|c");
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+}
+
+TEST_F(HistoryTest, movedTopics_areShownByTheirTitles)
+{
+    OpenThree();
+    Pick(1);
+    MoveTopics(book, {1}, 3); // B C A
+    navigation.FillTopicList();
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+    EXPECT_EQ(view.selected, 2);
+    EXPECT_EQ(book.CurrentTopicNo, 3);
+}
+
+TEST_F(HistoryTest, removedTopic_isPassedOver)
+{
+    OpenThree();
+    Pick(1);
+    Pick(2);
+    SetRemoved(book, {{2, true}});
+    navigation.FillTopicList();
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+    EXPECT_EQ(Ways(), ">");
+}
+
+TEST_F(HistoryTest, anotherBook_beginsAnew)
+{
+    OpenThree();
+    Pick(1);
+    Open(test::CrLf({"LODESTAR BOOK V5.3", "[A]", "other", "[B]", "book"}), "/work/Other.IDA");
+    EXPECT_EQ(OnShow(), "[A]|other");
+    EXPECT_EQ(Ways(), "");
+}
+
+TEST_F(HistoryTest, sameBookOpenedAgain_beginsAnew)
+{
+    OpenThree();
+    Pick(1);
+    OpenThree();
+    EXPECT_EQ(Ways(), "");
+}
+
+TEST_F(HistoryTest, startedOver_beginsAnew)
+{
+    OpenThree();
+    Pick(1);
+    world.messages.replies = {Reply::Ok};
+    commands.NewItem_Click();
+    EXPECT_EQ(Ways(), "");
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "");
+}
+
+TEST_F(HistoryTest, bookSaved_goesOnInTheNewFile)
+{
+    OpenThree();
+    Pick(1);
+    world.files["/work/Book (001).IDA"] = world.files["/work/Book.IDA"];
+    book.BookPath = "/work/Book (001).IDA";
+    commands.OpenSaved();
+    EXPECT_EQ(OnShow(), "[A]|a");
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[B]|b");
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+}
+
+TEST_F(HistoryTest, plainTextFile_hasNoHistory)
+{
+    OpenThree();
+    Pick(1);
+    world.messages.replies = {Reply::Ok}; // to be shown as a single topic
+    Open("plain\r\n", "/work/Plain.TXT");
+    EXPECT_TRUE(book.IsPlainText());
+    EXPECT_EQ(Ways(), "");
+}
+
+TEST_F(HistoryTest, topicThatIsGoneFromTheFile_isToldOfAndDropped)
+{
+    OpenThree();
+    Pick(1);
+    Pick(2);
+    book.TopicPos(2) = 1; // no header line stands there
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(Boxes().size(), 1U);
+    EXPECT_EQ(OnShow(), "");
+    navigation.GoBackItem_Click();
+    EXPECT_EQ(OnShow(), "[A]|a");
+    navigation.GoForwardItem_Click();
+    EXPECT_EQ(OnShow(), "[C]|c");
+}
+
+} // namespace
+} // namespace ls

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "base/Messages.h"
+#include "files/FileFormRules.h"
+#include "reader/window/MainFixture.h"
+#include "reader/window/SaveItem.h"
+
+namespace ls {
+
+/// The Save command on the main window's fixture, with the file form's own rules.
+struct SaveItemFixture : MainFixture
+{
+    SaveItem save{book, global.settings, global.fileDialog, world.Get(), view, commands};
+    FileFormView form; ///< what the file form showed last
+
+    /// Save is chosen; in the file form the user types that name and presses O.K.
+    void SaveAs(const std::string& name)
+    {
+        view.onFileForm = [this, name] {
+            form = LoadFileForm(global.fileDialog, global.settings, world.Get());
+            AcceptFileName(global.fileDialog, name, false, book.LockBook, world.Get());
+        };
+        save.SaveItem_Click();
+    }
+
+    /// Save is chosen, and the name that the form proposes is left as it is.
+    std::string SaveAsProposed()
+    {
+        view.onFileForm = [this] {
+            form = LoadFileForm(global.fileDialog, global.settings, world.Get());
+            AcceptFileName(global.fileDialog, form.fileName, false, book.LockBook, world.Get());
+        };
+        save.SaveItem_Click();
+        return form.fileName;
+    }
+
+    /// Three topics, opened with a lock, the second one edited.
+    void OpenEdited()
+    {
+        OpenThree();
+        book.LockBook = true;
+        book.TopicRecs(2).Text = "edited\r\n";
+        book.BookChanged = true;
+    }
+
+    static constexpr const char* EditedBook =
+        "LODESTAR BOOK V5.3\r\n[A]\r\na\r\n[B]\r\nedited\r\n\r\n[C]\r\nc\r\n";
+
+    /// The book of `OpenEdited` is as it was before a save that failed, and can still be saved.
+    void ExpectNothingLost()
+    {
+        EXPECT_EQ(book.BookPath, "/work/Book.IDA");
+        EXPECT_TRUE(book.BookChanged);
+        EXPECT_TRUE(book.LockBook);
+        EXPECT_EQ(book.TopicCount, 3);
+        EXPECT_EQ(book.TopicRecs(2).Text, "edited\r\n");
+        EXPECT_EQ(OnShow(), "[A]|a");
+        Boxes();
+        SaveAs("/work/Again.IDA");
+        EXPECT_EQ(Boxes(), Strings{"information|Lodestar Advisor|File saved"});
+        EXPECT_EQ(world.files["/work/Again.IDA"], EditedBook);
+    }
+};
+
+} // namespace ls
