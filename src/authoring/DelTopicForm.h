@@ -1,7 +1,7 @@
 #pragma once
 
+#include "authoring/EditSource.h"
 #include "authoring/TopicTable.h"
-#include "recovery/EditSource.h"
 
 #include <QDialog>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "authoring/EditSource.h"
 #include "authoring/Properties.h"
 #include "base/Seams.h"
-#include "recovery/EditSource.h"
 
 #include <QDialog>
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "authoring/EditSource.h"
 #include "authoring/LogicEditor.h"
 #include "authoring/LogicView.h"
 #include "base/Seams.h"
-#include "recovery/EditSource.h"
 
 #include <QDialog>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "authoring/EditSource.h"
 #include "base/Seams.h"
-#include "recovery/EditSource.h"
 
 #include <QDialog>
 

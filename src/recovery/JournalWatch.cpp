@@ -1,9 +1,9 @@
 #include "recovery/JournalWatch.h"
 
+#include "authoring/EditSource.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
-#include "recovery/EditSource.h"
 #include "recovery/JournalOf.h"
 #include "recovery/OwnJournal.h"
 

@@ -1,7 +1,7 @@
 #include "recovery/JournalWatch.h"
 
 #include "RecoveryFixture.h"
-#include "recovery/EditSource.h"
+#include "authoring/EditSource.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "reader/window/JournalKeeper.h"
 
+#include "authoring/EditSource.h"
 #include "base/ProgramEnd.h"
-#include "recovery/EditSource.h"
 #include "recovery/OwnJournal.h"
 
 #include <QApplication>
