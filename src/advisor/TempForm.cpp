@@ -4,33 +4,34 @@
 #include "forms/TextBox.h"
 #include "ui_TempForm.h"
 
+#include <utility>
+
 namespace ls {
 
-TempForm::TempForm(QWidget* parent, const std::string& text, const std::vector<Finding>& findings)
-    : QDialog(parent), m_ui(std::make_unique<Ui::TempForm>()), m_findings(findings)
+TempForm::TempForm(QWidget* parent, const std::string& text, std::vector<TempFormRow> rows)
+    : QDialog(parent), m_ui(std::make_unique<Ui::TempForm>()), m_rows(std::move(rows))
 {
     setFont(FormFont());
     m_ui->setupUi(this);
     connect(m_ui->CloseButton, &QPushButton::clicked, this, &TempForm::CloseButton_Click);
     SetFixedPitch(*m_ui->Text1);
     m_ui->Text1->setPlainText(Shown(text));
-    ShowFindings();
+    ShowRows();
     m_ui->CloseButton->setFocus();
 }
 
 TempForm::~TempForm() = default;
 
-void TempForm::ShowFindings()
+void TempForm::ShowRows()
 {
-    if (m_findings.empty()) {
+    if (m_rows.empty()) {
         m_ui->FindingsLabel->setText(QStringLiteral("The book check finds nothing in this block."));
         m_ui->FindingsList->hide();
         return;
     }
     QStringList entries;
-    for (const Finding& finding : m_findings) {
-        entries.append(Shown("Line " + std::to_string(finding.line) + ", " + SeverityWord(finding.severity) +
-                             ": " + finding.text));
+    for (const TempFormRow& row : m_rows) {
+        entries.append(Shown(row.text));
     }
     m_ui->FindingsList->addItems(entries);
     connect(m_ui->FindingsList, &QListWidget::currentRowChanged, this, &TempForm::FindingsList_Click);
@@ -39,7 +40,7 @@ void TempForm::ShowFindings()
 void TempForm::FindingsList_Click(int row)
 {
     if (row >= 0) {
-        SelectLine(*m_ui->Text1, m_findings[static_cast<std::size_t>(row)].line);
+        SelectLine(*m_ui->Text1, m_rows[static_cast<std::size_t>(row)].line);
     }
 }
 

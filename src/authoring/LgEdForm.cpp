@@ -328,7 +328,12 @@ void LgEdForm::GoTo(LogicBox box, int line)
 void LgEdForm::ShowSpecification(const std::string& text)
 {
     const std::string block = ToBook(text).value_or(std::string());
-    TempForm(this, text, CheckLogicText(m_book, m_seams, m_book.CurrentTopicNo, block)).exec();
+    std::vector<TempFormRow> rows;
+    for (const Finding& finding : CheckLogicText(m_book, m_seams, m_book.CurrentTopicNo, block)) {
+        rows.push_back({finding.line, "Line " + std::to_string(finding.line) + ", " +
+                                          SeverityWord(finding.severity) + ": " + finding.text});
+    }
+    TempForm(this, text, std::move(rows)).exec();
 }
 
 } // namespace ls

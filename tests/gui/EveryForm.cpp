@@ -88,8 +88,7 @@ void EveryForm::ForEachEditor(const Look& look)
     LgEdForm logic(&form, global.book, seams);
     EXPECT_TRUE(logic.Form_Load());
     Show(look, "LgEdForm", logic);
-    const Finding finding{"", 3, "Watering", Severity::Warning, "rule", "A rule that can never fire."};
-    TempForm block(&form, "<IXML>\n<LOGIC>\n</LOGIC>", {finding});
+    TempForm block(&form, "<IXML>\n<LOGIC>\n</LOGIC>", {{3, "Line 3, warning: A rule that can never fire."}});
     Show(look, "TempForm", block);
     DelTopicForm removal(&form, global.book, global.topicFlags, false);
     Show(look, "DelTopicForm", removal);

@@ -23,16 +23,15 @@ struct TempFormTest : testing::Test
 {
     std::unique_ptr<TempForm> form;
 
-    void Load(const std::string& text, const std::vector<Finding>& findings = {})
+    void Load(const std::string& text, const std::vector<TempFormRow>& rows = {})
     {
-        form = std::make_unique<TempForm>(nullptr, text, findings);
+        form = std::make_unique<TempForm>(nullptr, text, rows);
         test::ShowActive(*form);
     }
 
-    [[nodiscard]] static std::vector<Finding> TwoFindings()
+    [[nodiscard]] static std::vector<TempFormRow> TwoFindings()
     {
-        return {{"", 1, "A", Severity::Error, "rule", "First \xC3\xA9."},
-                {"", 2, "A", Severity::Warning, "rule", "Second."}};
+        return {{1, "Line 1, error: First \xC3\xA9."}, {2, "Line 2, warning: Second."}};
     }
 
     [[nodiscard]] QPlainTextEdit& Text() const { return *Find<QPlainTextEdit>(*form, "Text1"); }
@@ -70,9 +69,9 @@ TEST_F(TempFormTest, findingThatIsChosen_showsItsLine)
     for (int i = 1; i <= 500; ++i) {
         text += "line " + std::to_string(i) + "\r\n";
     }
-    std::vector<Finding> findings = TwoFindings();
-    findings[1].line = 400;
-    Load(text, findings);
+    std::vector<TempFormRow> rows = TwoFindings();
+    rows[1].line = 400;
+    Load(text, rows);
     Key(Qt::Key_C, Qt::AltModifier);
     EXPECT_EQ(form->focusWidget(), &Findings());
     Key(Qt::Key_Down);
