@@ -1,11 +1,11 @@
 #include "authoring/DelTopicForm.h"
 
+#include "authoring/RunningEdits.h"
 #include "authoring/TopicChoices.h"
 #include "authoring/TopicFlags.h"
 #include "base/CodePage.h"
 #include "book/Book.h"
 #include "forms/FormFont.h"
-#include "recovery/Journal.h"
 #include "ui_DelTopicForm.h"
 
 namespace ls {

@@ -1,8 +1,8 @@
 #include "authoring/InfoForm.h"
 
+#include "authoring/RunningEdits.h"
 #include "base/ProgramEnd.h"
 #include "forms/FormFont.h"
-#include "recovery/Journal.h"
 #include "ui_InfoForm.h"
 
 #include <utility>

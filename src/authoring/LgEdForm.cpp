@@ -1,6 +1,7 @@
 #include "authoring/LgEdForm.h"
 
 #include "advisor/TempForm.h"
+#include "authoring/RunningEdits.h"
 #include "authoring/TextBoxCommands.h"
 #include "authoring/TopicText.h"
 #include "base/CodePage.h"
@@ -10,7 +11,6 @@
 #include "check/CheckBook.h"
 #include "forms/FormFont.h"
 #include "forms/TextBox.h"
-#include "recovery/Journal.h"
 #include "ui_LgEdForm.h"
 
 #include <QKeyEvent>

@@ -1,12 +1,12 @@
 #include "authoring/TxEdForm.h"
 
+#include "authoring/RunningEdits.h"
 #include "authoring/TextBoxCommands.h"
 #include "authoring/TopicText.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "forms/FormFont.h"
 #include "forms/TextBox.h"
-#include "recovery/Journal.h"
 #include "ui_TxEdForm.h"
 
 #include <QKeyEvent>
