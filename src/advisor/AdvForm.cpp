@@ -4,7 +4,6 @@
 #include "base/ProgramEnd.h"
 #include "base/RunGuarded.h"
 #include "forms/FormFont.h"
-#include "reader/window/Global.h"
 #include "ui_AdvForm.h"
 
 #include <QFontMetrics>
@@ -28,9 +27,9 @@ QString Shown(const std::string& bookText)
 
 } // namespace
 
-AdvForm::AdvForm(QWidget* parent, Global& global, const Seams& seams)
+AdvForm::AdvForm(QWidget* parent, Book& book, AdvisorTables& tables, const Seams& seams)
     : QDialog(parent), m_ui(std::make_unique<Ui::AdvForm>()), m_seams(seams),
-      m_dialog(global.book, global.advisor, m_seams, *this)
+      m_dialog(book, tables, m_seams, *this)
 {
     setFont(FormFont());
     m_ui->setupUi(this);

@@ -15,7 +15,8 @@ class AdvForm;
 
 namespace ls {
 
-struct Global;
+struct AdvisorTables;
+struct Book;
 
 /// The advisor's window: one question at a time with its choices, and in the end the advice.
 class AdvForm : public QDialog, private AdvisorView
@@ -24,7 +25,7 @@ class AdvForm : public QDialog, private AdvisorView
 
 public:
     /// For the topic on show, which must have a logic block.
-    AdvForm(QWidget* parent, Global& global, const Seams& seams);
+    AdvForm(QWidget* parent, Book& book, AdvisorTables& tables, const Seams& seams);
     ~AdvForm() override;
 
     /// Loads the logic, with the boxes that this may bring, and shows the window until it is closed. A fault

@@ -3,8 +3,9 @@
 #include "authoring/InfoForm.h"
 #include "base/DdeServer.h"
 #include "base/ProgramEnd.h"
+#include "book/Book.h"
 #include "browser/HelpPages.h"
-#include "files/FileChooser.h"
+#include "files/FileDialog.h"
 #include "files/FileFormRules.h"
 #include "files/FitFileForm.h"
 #include "files/OpenForm.h"
@@ -13,7 +14,6 @@
 #include "forms/ButtonIcons.h"
 #include "forms/FormFont.h"
 #include "forms/Mnemonic.h"
-#include "reader/window/Global.h"
 #include "ui_FileForm.h"
 
 #include <QApplication>
@@ -33,8 +33,9 @@ constexpr QStringView TakenLetters = u"BUSLOCI"; // by the captions that the for
 
 } // namespace
 
-FileForm::FileForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms)
-    : QDialog(parent), m_ui(std::make_unique<Ui::FileForm>()), m_global(global), m_seams(seams),
+FileForm::FileForm(QWidget* parent, FileDialog& dialog, Book& book, const Settings& settings,
+                   const Seams& seams, const FormSeams& forms)
+    : QDialog(parent), m_ui(std::make_unique<Ui::FileForm>()), m_dialog(dialog), m_book(book), m_seams(seams),
       m_forms(forms), m_timer1(new QTimer(this))
 {
     setFont(FormFont());
@@ -47,7 +48,7 @@ FileForm::FileForm(QWidget* parent, Global& global, const Seams& seams, const Fo
     m_ui->FilenameBox->setCompleter(
         nullptr); // it would change a name that is typed, and take Enter for itself
     ConnectControls();
-    Form_Load();
+    Form_Load(settings);
 }
 
 FileForm::~FileForm()
@@ -65,13 +66,13 @@ void FileForm::ConnectControls()
     connect(m_timer1, &QTimer::timeout, this, &FileForm::Timer1_Timer);
 }
 
-void FileForm::Form_Load()
+void FileForm::Form_Load(const Settings& settings)
 {
     m_designWidth = width();
     m_browseLeft = m_ui->BrowseButton->x();
     m_nameWidth = m_ui->FilenameBox->width();
     m_helpLeft = m_ui->HelpButton->x();
-    const FileFormView view = LoadFileForm(m_global.fileDialog, m_global.settings, m_seams);
+    const FileFormView view = LoadFileForm(m_dialog, settings, m_seams);
     setWindowTitle(PathText(view.caption));
     m_ui->TitleLabel->setText(WithMnemonic(PathText(view.title), TakenLetters));
     m_defaultLabel = PathText(view.defaultLabel);
@@ -150,8 +151,7 @@ std::string FileForm::NameInBox() const
 
 void FileForm::OKButton_Click()
 {
-    if (AcceptFileName(m_global.fileDialog, NameInBox(), m_ui->ExclusiveOption->isChecked(),
-                       m_global.book.LockBook, m_seams) ||
+    if (AcceptFileName(m_dialog, NameInBox(), m_ui->ExclusiveOption->isChecked(), m_book.LockBook, m_seams) ||
         m_seams.end.Ended()) {
         QDialog::accept();
     }
@@ -159,10 +159,10 @@ void FileForm::OKButton_Click()
 
 // Events go on while the selector reads its first folder, before it stands over this form: until it is closed
 // nothing here may act.
-void FileForm::ShowSelector(FileDialog& dialog)
+void FileForm::ShowSelector()
 {
     const QScopedValueRollback<bool> selecting(m_selecting, true);
-    OpenForm(this, dialog, m_seams, m_forms.volumes, m_global.book.WorkDir).exec();
+    OpenForm(this, m_dialog, m_seams, m_forms.volumes, m_book.WorkDir).exec();
 }
 
 void FileForm::reject()
@@ -174,15 +174,14 @@ void FileForm::reject()
 
 void FileForm::BrowseButton_Click()
 {
-    FileDialog& dialog = m_global.fileDialog;
-    dialog.ChosenFullPath = dialog.SearchSpec;
-    ShowSelector(dialog);
+    m_dialog.ChosenFullPath = m_dialog.SearchSpec;
+    ShowSelector();
     if (m_seams.end.Ended()) {
         reject();
         return;
     }
     std::string name = NameInBox();
-    TakeBrowsedFile(dialog, name, m_seams);
+    TakeBrowsedFile(m_dialog, name, m_seams);
     SetName(name);
 }
 
@@ -190,7 +189,7 @@ void FileForm::HelpButton_Click()
 {
     ShowHelpPage(HelpPage, m_seams, m_forms.registry, [this](const std::string& startPath) {
         const QScopedValueRollback<bool> selecting(m_selecting, true);
-        return SelectProgram(this, m_seams, m_forms, m_global.book.WorkDir, startPath);
+        return SelectProgram(this, m_seams, m_forms, m_book.WorkDir, startPath);
     });
     if (m_seams.end.Ended()) {
         reject();
@@ -199,7 +198,7 @@ void FileForm::HelpButton_Click()
 
 void FileForm::InfoButton_Click()
 {
-    InfoForm(this, m_global.book, m_seams).exec();
+    InfoForm(this, m_book, m_seams).exec();
     if (m_seams.end.Ended()) {
         reject();
     }
@@ -241,11 +240,10 @@ void FileForm::Timer1_Timer()
     }
 }
 
-void ShowFileForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms)
+void FileForm::Run()
 {
-    FileForm form(parent, global, seams, forms);
-    if (!seams.end.Ended()) {
-        form.exec();
+    if (!m_seams.end.Ended()) {
+        exec();
     }
 }
 

@@ -16,8 +16,9 @@ class FileForm;
 
 namespace ls {
 
+struct Book;
 struct FileDialog;
-struct Global;
+struct Settings;
 
 /// The file form: asks for the name of a book to open or to save. While it is shown, other programs can press
 /// its buttons.
@@ -26,9 +27,14 @@ class FileForm : public QDialog
     Q_OBJECT
 
 public:
-    /// Told and answering by `global.fileDialog`, and by `global.book.LockBook` when it asks about sharing.
-    FileForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms);
+    /// Reads what to ask for from `dialog` and answers in it, and in `book.LockBook` when it asks about
+    /// sharing.
+    FileForm(QWidget* parent, FileDialog& dialog, Book& book, const Settings& settings, const Seams& seams,
+             const FormSeams& forms);
     ~FileForm() override;
+
+    /// Shows the form until it is closed. A fault that ends the program while it loads keeps it from showing.
+    void Run();
 
 public Q_SLOTS:
     void accept() override { OKButton_Click(); }
@@ -39,14 +45,14 @@ protected:
 
 private:
     void ConnectControls();
-    void Form_Load();
+    void Form_Load(const Settings& settings);
     void HideSharing();
     void Form_Resize();
     void ShowDefaultFolder();
     void OKButton_Click();
     void BrowseButton_Click();
     void HelpButton_Click();
-    void ShowSelector(FileDialog& dialog);
+    void ShowSelector();
     void InfoButton_Click();
     bool Form_LinkExecute(const std::string& command);
     void Timer1_Timer();
@@ -55,7 +61,8 @@ private:
     void SetName(const std::string& name);
 
     std::unique_ptr<Ui::FileForm> m_ui;
-    Global& m_global;
+    FileDialog& m_dialog;
+    Book& m_book;
     Seams m_seams;
     FormSeams m_forms;
     RemoteCommands m_remote;

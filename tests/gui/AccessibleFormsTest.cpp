@@ -88,7 +88,7 @@ struct AccessibleFormsTest : MainFormFixture
         const auto one = [&](QWidget&& window) { look(window, window.objectName().toStdString()); };
         look(form, "MainForm");
         one(XrefForm(&form, global.book, seams));
-        one(AdvForm(&form, global, seams));
+        one(AdvForm(&form, global.book, global.advisor, seams));
         one(TempForm(&form, "text", {}));
         one(TxEdForm(&form, global.book, seams));
         one(LgEdForm(&form, global.book, seams));
@@ -96,10 +96,10 @@ struct AccessibleFormsTest : MainFormFixture
         one(MoveTopicsForm(&form, global.book, global.topicFlags, seams));
         one(InfoForm(&form, global.book, seams));
         one(OpenForm(&form, global.fileDialog, seams, *volumes, ""));
-        one(PrtForm(&form, global, seams, forms));
+        one(PrtForm(&form, global.print, global.book, seams, forms));
         one(CheckForm(&form, checked));
         global.fileDialog.FileMode = "R";
-        one(FileForm(&form, global, seams, forms));
+        one(FileForm(&form, global.fileDialog, global.book, global.settings, seams, forms));
     }
 
     CheckedBook checked{{}, "Nothing was found.", ""};

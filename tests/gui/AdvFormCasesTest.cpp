@@ -123,7 +123,7 @@ TEST_P(AdvFormCases, dialogue_throughTheWindow_showsItsEvents)
         player.NextRun();
         test::ModalScript script;
         script.Do([&player](QWidget& window) { player.Play(window); });
-        AdvForm(nullptr, global, world.Get()).Run();
+        AdvForm(nullptr, global.book, global.advisor, world.Get()).Run();
     }
     std::vector<std::string> expected;
     for (const Json& event : data["events"].Items()) {

@@ -551,7 +551,7 @@ TEST(AdvFormFaults, memoryRunsOutWhileAnswering_isReportedAndTheWindowStays)
         EXPECT_TRUE(window.isVisible());
         window.close();
     });
-    AdvForm(nullptr, global, world.Get()).Run();
+    AdvForm(nullptr, global.book, global.advisor, world.Get()).Run();
     EXPECT_EQ(world.messages.Take(), Strings{"critical|Lodestar Advisor|Out of memory"});
     EXPECT_FALSE(world.end.Ended());
 }

@@ -77,7 +77,7 @@ void EveryForm::ForEachView(const Look& look)
     const CheckedBook checked = CheckOpenBook(global.book, seams, nullptr);
     CheckForm check(&form, checked);
     Show(look, "CheckForm", check);
-    PrtForm print(&form, global, seams, {*volumes, dde, registry, printer});
+    PrtForm print(&form, global.print, global.book, seams, {*volumes, dde, registry, printer});
     Show(look, "PrtForm", print);
 }
 
@@ -113,13 +113,13 @@ void EveryForm::ForEachFileForm(const Look& look)
     dialog.DefaultFolder = Path("");
     dialog.FilePattern = "*.IDA";
     {
-        FileForm open(&form, global, seams, {*volumes, dde, registry, printer});
+        FileForm open(&form, dialog, global.book, global.settings, seams, {*volumes, dde, registry, printer});
         Show(look, "FileForm to open", open);
     }
     dialog.FileMode = "W";
     dialog.FileFormTitle = "Save the book as:";
     dialog.ShowSharing = false;
-    FileForm save(&form, global, seams, {*volumes, dde, registry, printer});
+    FileForm save(&form, dialog, global.book, global.settings, seams, {*volumes, dde, registry, printer});
     Show(look, "FileForm to save", save);
     dialog.ChosenFullPath = Path("*.IDA");
     OpenForm selector(&form, dialog, seams, *volumes, "");

@@ -1,7 +1,7 @@
 // What readers with other fonts and colours need: no caption is cut in a larger font, forms take the
 // desktop's colours, and the page stays black on white.
 
-#include "files/FileChooser.h"
+#include "files/FileForm.h"
 #include "forms/FormStyle.h"
 #include "forms/TitleWidth.h"
 #include "gui/EveryForm.h"
@@ -184,7 +184,9 @@ TEST_F(FormFitTest, folderTooLongForTheFileForm_losesItsMiddleOnly)
         EXPECT_TRUE(label->toolTip().contains(QString(300, QLatin1Char('x'))));
         chooser.close();
     });
-    ShowFileForm(&form, global, seams, {*volumes, dde, registry, printer});
+    FileForm(&form, global.fileDialog, global.book, global.settings, seams,
+             {*volumes, dde, registry, printer})
+        .Run();
 }
 
 TEST_F(FormFitTest, boxes_areWideEnoughForTheirTitles)

@@ -298,8 +298,9 @@ void MainForm::EditPropertiesOption_Click()
 void MainForm::PrintItem_Click()
 {
     Run([this] {
-        ls::PrintItem_Click(m_global.book, m_global.print, m_forms.printer, m_seams,
-                            [this] { PrtForm(this, m_global, m_seams, m_forms).exec(); });
+        ls::PrintItem_Click(m_global.book, m_global.print, m_forms.printer, m_seams, [this] {
+            PrtForm(this, m_global.print, m_global.book, m_seams, m_forms).exec();
+        });
     });
 }
 

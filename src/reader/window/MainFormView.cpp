@@ -7,7 +7,7 @@
 #include "authoring/MoveTopicsForm.h"
 #include "authoring/TxEdForm.h"
 #include "base/CodePage.h"
-#include "files/FileChooser.h"
+#include "files/FileForm.h"
 #include "forms/ButtonIcons.h"
 #include "forms/FormProgress.h"
 #include "reader/window/CheckForm.h"
@@ -130,12 +130,12 @@ void MainFormView::SetDefault(DefaultButton button)
 
 void MainFormView::ShowFileForm()
 {
-    ls::ShowFileForm(&m_form, m_global, m_seams, m_forms);
+    FileForm(&m_form, m_global.fileDialog, m_global.book, m_global.settings, m_seams, m_forms).Run();
 }
 
 void MainFormView::ShowAdvForm()
 {
-    AdvForm(&m_form, m_global, m_seams).Run();
+    AdvForm(&m_form, m_global.book, m_global.advisor, m_seams).Run();
 }
 
 void MainFormView::ShowXrefForm()

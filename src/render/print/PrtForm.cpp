@@ -2,11 +2,11 @@
 
 #include "base/PrinterDevice.h"
 #include "base/ProgramEnd.h"
+#include "book/Book.h"
 #include "browser/HelpPages.h"
 #include "files/ProgramSelector.h"
 #include "forms/ButtonIcons.h"
 #include "forms/FormFont.h"
-#include "reader/window/Global.h"
 #include "render/print/PrtFormRules.h"
 #include "ui_PrtForm.h"
 
@@ -18,8 +18,10 @@ constexpr const char* HelpPage = "LSIdeas_Print_Parameters.htm";
 
 } // namespace
 
-PrtForm::PrtForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms)
-    : QDialog(parent), m_ui(std::make_unique<Ui::PrtForm>()), m_global(global), m_seams(seams), m_forms(forms)
+PrtForm::PrtForm(QWidget* parent, PrintSettings& settings, const Book& book, const Seams& seams,
+                 const FormSeams& forms)
+    : QDialog(parent), m_ui(std::make_unique<Ui::PrtForm>()), m_settings(settings), m_book(book),
+      m_seams(seams), m_forms(forms)
 {
     setFont(FormFont());
     m_ui->setupUi(this);
@@ -35,7 +37,7 @@ PrtForm::~PrtForm() = default;
 
 void PrtForm::Form_Load()
 {
-    const PrtFormView view = LoadPrtForm(m_global.print, m_forms.printer);
+    const PrtFormView view = LoadPrtForm(m_settings, m_forms.printer);
     for (const std::string& name : view.printers) {
         m_ui->PrinterCombo->addItem(QString::fromStdString(name));
     }
@@ -61,7 +63,7 @@ void PrtForm::OKButton_Click()
     const PrtFormChoices choices{m_ui->PrinterCombo->currentText().toStdString(),
                                  m_ui->PaperCombo->currentData().toInt(), m_ui->ColourOption->isChecked(),
                                  m_ui->TypeSizeCombo->currentIndex() == 1};
-    if (AcceptPrtForm(m_global.print, m_forms.printer, m_global.book, m_seams, choices)) {
+    if (AcceptPrtForm(m_settings, m_forms.printer, m_book, m_seams, choices)) {
         accept();
     } else if (m_seams.end.Ended()) {
         reject();
@@ -71,7 +73,7 @@ void PrtForm::OKButton_Click()
 void PrtForm::HelpButton_Click()
 {
     ShowHelpPage(HelpPage, m_seams, m_forms.registry, [this](const std::string& startPath) {
-        return SelectProgram(this, m_seams, m_forms, m_global.book.WorkDir, startPath);
+        return SelectProgram(this, m_seams, m_forms, m_book.WorkDir, startPath);
     });
     if (m_seams.end.Ended()) {
         reject();

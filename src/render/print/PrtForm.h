@@ -13,16 +13,18 @@ class PrtForm;
 
 namespace ls {
 
-struct Global;
+struct Book;
+struct PrintSettings;
 
 /// The print dialog: printer, paper, type size and colour of what is printed. It sets up the current printer
-/// and `global.print`, whose `PrintConfirmed` tells that it was left by its print button.
+/// and the settings, whose `PrintConfirmed` says whether it was left by its print button.
 class PrtForm : public QDialog
 {
     Q_OBJECT
 
 public:
-    PrtForm(QWidget* parent, Global& global, const Seams& seams, const FormSeams& forms);
+    PrtForm(QWidget* parent, PrintSettings& settings, const Book& book, const Seams& seams,
+            const FormSeams& forms);
     ~PrtForm() override;
 
 private:
@@ -32,7 +34,8 @@ private:
     void HelpButton_Click();
 
     std::unique_ptr<Ui::PrtForm> m_ui;
-    Global& m_global;
+    PrintSettings& m_settings;
+    const Book& m_book;
     Seams m_seams;
     FormSeams m_forms;
 };
