@@ -1,6 +1,6 @@
 #include "forms/CellMetrics.h"
 
-#include "render/pane/PaintRuns.h"
+#include "base/CodePage.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -12,8 +12,25 @@ namespace ls {
 
 namespace {
 
+constexpr char16_t SmallBox = 0x25AB;
 constexpr double PointsPerInch = 72;
 constexpr double TwipsPerPoint = 20;
+
+std::array<char16_t, 256> MakeCellCharacters()
+{
+    std::array<char16_t, 256> characters{};
+    for (std::size_t byte = 0; byte < characters.size(); ++byte) {
+        const std::string utf8 = FromBook(std::string(1, static_cast<char>(byte)));
+        std::size_t at = 0;
+        const auto character = static_cast<char16_t>(NextUtf8(utf8, at));
+        const bool control = character < 0x20 || (character >= 0x7F && character < 0xA0);
+        characters[byte] = control ? SmallBox : character;
+    }
+    characters['\t'] = u' ';
+    characters[0xA0] = u' '; // a blank that does not break is as wide as one that does
+    characters[0xAD] = u'-'; // a text engine hides the soft hyphen; here it is a character like any other
+    return characters;
+}
 
 // A system resolves an alias ("Courier New" where only its look-alike is installed) only as the first family,
 // so the name is asked for alone, and the look-alike by its own name when that gave nothing of fixed pitch.
@@ -42,6 +59,12 @@ std::bitset<256> ExactBytes(const QFontMetricsF& face, double charWidth)
 }
 
 } // namespace
+
+char16_t CellCharacter(char byte)
+{
+    static const std::array<char16_t, 256> characters = MakeCellCharacters();
+    return characters[static_cast<unsigned char>(byte)];
+}
 
 CellMetrics MeasureCells(int dotsPerInch, double points)
 {

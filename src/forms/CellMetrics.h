@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/pane/TypeSize.h"
+#include "forms/TypeSize.h"
 
 #include <QFont>
 
@@ -33,6 +33,10 @@ struct CellMetrics
     /// go; the others are drawn one by one.
     std::array<std::bitset<256>, FaceCount> exact;
 };
+
+/// The character shown in a cell for a book byte. A control character, or a byte that the code page
+/// leaves unassigned, is shown as a small box and a TAB as a blank: neither can move what comes after it.
+[[nodiscard]] char16_t CellCharacter(char byte);
 
 /// The pane's font, 9.75 points unless the user chose another size, on a screen of so many dots to the inch
 /// (96 where nothing was scaled).

@@ -1,6 +1,6 @@
 #include "reader/window/PaneCommands.h"
 
-#include "render/pane/TypeSize.h"
+#include "forms/TypeSize.h"
 #include "ui_MainForm.h"
 
 #include <utility>

@@ -1,6 +1,5 @@
 #include "render/pane/PaintRuns.h"
 
-#include "base/CodePage.h"
 #include "forms/CellMetrics.h"
 #include "render/text/RunList.h"
 
@@ -8,30 +7,11 @@
 #include <QString>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace ls {
 
 namespace {
-
-constexpr char16_t SmallBox = 0x25AB;
-
-std::array<char16_t, 256> MakeCellCharacters()
-{
-    std::array<char16_t, 256> characters{};
-    for (std::size_t byte = 0; byte < characters.size(); ++byte) {
-        const std::string utf8 = FromBook(std::string(1, static_cast<char>(byte)));
-        std::size_t at = 0;
-        const auto character = static_cast<char16_t>(NextUtf8(utf8, at));
-        const bool control = character < 0x20 || (character >= 0x7F && character < 0xA0);
-        characters[byte] = control ? SmallBox : character;
-    }
-    characters['\t'] = u' ';
-    characters[0xA0] = u' '; // a blank that does not break is as wide as one that does
-    characters[0xAD] = u'-'; // a text engine hides the soft hyphen; here it is a character like any other
-    return characters;
-}
 
 // The cells of a row that can be seen, counted from 0: from `first` on, up to but without `end`.
 struct ColumnRange
@@ -96,12 +76,6 @@ void PaintRun(QPainter& painter, const Run& run, const CellMetrics& metrics, con
 }
 
 } // namespace
-
-char16_t CellCharacter(char byte)
-{
-    static const std::array<char16_t, 256> characters = MakeCellCharacters();
-    return characters[static_cast<unsigned char>(byte)];
-}
 
 void PaintRuns(QPainter& painter, std::span<const Run> runs, const CellMetrics& metrics, const QRectF& area)
 {

@@ -16,8 +16,4 @@ struct Run;
 /// order of their rows. The ground is the caller's.
 void PaintRuns(QPainter& painter, std::span<const Run> runs, const CellMetrics& metrics, const QRectF& area);
 
-/// The character that stands in a cell for a book byte. A control character, or a byte that the code page
-/// leaves unassigned, is shown as a small box and a TAB as a blank: neither can move what stands behind it.
-[[nodiscard]] char16_t CellCharacter(char byte);
-
 } // namespace ls

@@ -1,4 +1,4 @@
-#include "render/pane/TypeSize.h"
+#include "forms/TypeSize.h"
 
 #include <algorithm>
 #include <array>
