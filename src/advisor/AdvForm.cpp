@@ -1,6 +1,7 @@
 #include "advisor/AdvForm.h"
 
 #include "base/CodePage.h"
+#include "base/ItemAt.h"
 #include "base/ProgramEnd.h"
 #include "base/RunGuarded.h"
 #include "forms/FormFont.h"
@@ -113,9 +114,9 @@ void AdvForm::Unload()
 // The event loop of the window cannot pass an exception on, so none may reach it from here.
 void AdvForm::NextButton_Click()
 {
-    const int row = m_ui->AnswerCombo->currentIndex();
-    const bool chosen = row >= 0 && static_cast<std::size_t>(row) < m_choices.size();
-    const std::string answer = chosen ? m_choices[static_cast<std::size_t>(row)] : std::string();
+    const std::string* const chosen = ItemAt(m_choices, m_ui->AnswerCombo->currentIndex());
+    const std::string answer =
+        chosen == nullptr ? std::string() : *chosen; // the dialog may clear the choices
     RunGuarded([&] { m_dialog.NextButton_Click(answer); }, m_seams);
     if (m_seams.end.Ended()) {
         accept();

@@ -139,7 +139,7 @@ void AdvisorDialog::AskNext()
         Close();
         const int goal = m_tables.TargetCount;
         m_view.ShowText("I can't find a question to ask for target " +
-                        (goal == 0 ? std::string() : m_tables.Targets(static_cast<std::size_t>(goal))) + ".");
+                        (goal == 0 ? std::string() : m_tables.Targets(goal)) + ".");
         return;
     }
 }

@@ -84,21 +84,20 @@ void ClearRules(AdvisorTables& tables);
 /// Adds an element to a table behind its count; false, and nothing changed, when the count is at its limit. A
 /// full table becomes `step` elements larger.
 template <typename T>
-[[nodiscard]] bool Append(Array1<T>& table, Count16& count, T element, std::size_t step)
+[[nodiscard]] bool Append(Array1<T>& table, Count16& count, T element, int step)
 {
     if (!count.Add()) {
         return false;
     }
-    const auto number = static_cast<std::size_t>(static_cast<int>(count));
-    table.Grow(number, step - 1);
-    table(number) = std::move(element);
+    table.Grow(count, step - 1);
+    table(count) = std::move(element);
     return true;
 }
 
 /// By how much the tables grow past their bounds.
-inline constexpr std::size_t RuleGrowthStep = 50;
-inline constexpr std::size_t TargetGrowthStep = 10;
-inline constexpr std::size_t AdvisorGrowthStep = 20;
+inline constexpr int RuleGrowthStep = 50;
+inline constexpr int TargetGrowthStep = 10;
+inline constexpr int AdvisorGrowthStep = 20;
 
 /// The elements that a table's count covers, as a range.
 template <typename Table>

@@ -78,9 +78,8 @@ void Definitions::ReadFailed(const FileError& failed, std::string_view action)
 // A topic that was added and never saved has no place in the file.
 FileError Definitions::SeekTopic(Count16 topic)
 {
-    const auto number = static_cast<std::size_t>(static_cast<int>(topic));
-    const bool inTable = topic > 0 && number <= m_context.book.TopicPos.UpperBound();
-    const FilePos pos = inTable ? m_context.book.TopicPos(number) : 0;
+    const bool inTable = topic > 0 && topic <= m_context.book.TopicPos.UpperBound();
+    const FilePos pos = inTable ? m_context.book.TopicPos(topic) : 0;
     if (pos == 0) {
         return MakeFileError(error::InvalidCall);
     }

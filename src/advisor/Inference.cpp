@@ -18,11 +18,6 @@ namespace {
 
 constexpr std::string_view AdviceGoal = "AV";
 
-std::size_t At(int number)
-{
-    return static_cast<std::size_t>(number);
-}
-
 // The value of the first place where the rule's text holds the head "VAR(".
 std::optional<std::string_view> ValueIn(std::string_view rule, std::string_view head)
 {
@@ -72,7 +67,7 @@ RuleIndex& Inference::Index() const
 void Inference::ReduceByTerms(int number, const RuleIndex::Matches& matches, std::string_view var,
                               std::string_view value)
 {
-    std::string& rule = m_tables.LogicRules(At(number));
+    std::string& rule = m_tables.LogicRules(number);
     RuleIndex& index = m_tables.Index;
     const RuleIndex::Terms terms = index.TermsOf(number);
     const RuleIndex::Term* const first = matches.Find(terms, terms.begin());
@@ -108,7 +103,7 @@ void Inference::ReduceRules(std::string_view var, std::string_view value)
     const bool plainValue = !RuleIndex::HasMark(value);
     int kept = 0;
     for (int i = 1; i <= m_tables.RuleCount; ++i) {
-        std::string& rule = m_tables.LogicRules(At(i));
+        std::string& rule = m_tables.LogicRules(i);
         if (index.MayName(i, matches)) {
             if (plainValue && index.HasTerms(i, matches)) {
                 ReduceByTerms(i, matches, var, value);
@@ -118,7 +113,7 @@ void Inference::ReduceRules(std::string_view var, std::string_view value)
             }
         }
         if (!rule.empty() && ++kept != i) {
-            m_tables.LogicRules(At(kept)) = std::move(rule);
+            m_tables.LogicRules(kept) = std::move(rule);
             rule.clear();
             index.Move(i, kept);
         }
@@ -146,7 +141,7 @@ std::optional<Inference::Conclusion> Inference::FirstConclusion(int highestTarge
         if (!index.Odd(i) && !index.Fired(i)) {
             continue;
         }
-        const std::string& rule = m_tables.LogicRules(At(i));
+        const std::string& rule = m_tables.LogicRules(i);
         const std::optional<LeftHandSide> left = ParseLeftHandSide(rule);
         if (!left) {
             malformed = &rule;
@@ -155,7 +150,7 @@ std::optional<Inference::Conclusion> Inference::FirstConclusion(int highestTarge
         }
     }
     for (int t = highestTarget; t >= 1; --t) {
-        const auto found = fired.find(m_tables.Targets(At(t)));
+        const auto found = fired.find(m_tables.Targets(t));
         if (found != fired.end()) {
             return Conclusion{t, std::string(found->first), std::string(found->second)};
         }
@@ -248,7 +243,7 @@ bool Inference::CountCandidates(std::string_view goal)
     };
     for (int i = 1; i <= m_tables.RuleCount; ++i) {
         if (index.Odd(i)) {
-            const std::string& rule = m_tables.LogicRules(At(i));
+            const std::string& rule = m_tables.LogicRules(i);
             ForEachConditionVar(Concludes(rule, goal) ? rule : std::string_view(),
                                 [&](std::string_view name) {
                                     const std::uint32_t number = index.NumberOf(name);
@@ -276,7 +271,7 @@ void Inference::BuildCandidates()
     if (m_tables.TargetCount == 0) {
         return;
     }
-    if (!CountCandidates(m_tables.Targets(At(m_tables.TargetCount)))) {
+    if (!CountCandidates(m_tables.Targets(m_tables.TargetCount))) {
         m_tables.CandidateCount = 0;
         Overflow();
     }
@@ -320,7 +315,7 @@ CollectedValues Inference::CollectValues(std::string_view var) const
         if (!index.MayName(i, matches)) {
             continue;
         }
-        const std::string& rule = m_tables.LogicRules(At(i));
+        const std::string& rule = m_tables.LogicRules(i);
         std::optional<std::string_view> value;
         if (index.HasTerms(i, matches)) {
             const RuleIndex::Terms terms = index.TermsOf(i);

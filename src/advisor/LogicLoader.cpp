@@ -220,7 +220,7 @@ int Loader::TopicNumber(const std::string& title)
 {
     if (m_topicNumbers.empty()) {
         for (int i = 1; i <= m_book.TopicCount; ++i) {
-            const std::string& name = m_book.TopicNames(static_cast<std::size_t>(i));
+            const std::string& name = m_book.TopicNames(i);
             m_topicNumbers.emplace(UpperCase(WithoutBrackets(name)), i);
         }
     }
@@ -293,7 +293,7 @@ bool Loader::ReplayAnswers(std::string& firstAdvice)
     // What the rules conclude on the way is appended to the answers; it is asserted already.
     const int earlier = m_tables.AnswerCount;
     for (int i = 1; i <= earlier; ++i) {
-        const Answer answer = m_tables.Answers(static_cast<std::size_t>(i));
+        const Answer answer = m_tables.Answers(i);
         if (answer.Topic != m_topic && registered.count({answer.Var, answer.Topic}) == 0) {
             continue;
         }

@@ -31,7 +31,7 @@ bool EndsWith(std::string_view text, std::string_view end)
 
 void RuleIndex::Clear()
 {
-    m_rows.clear();
+    m_rows.Redim(0);
     m_terms.clear();
     m_names.clear();
     m_slots.clear();
@@ -39,13 +39,13 @@ void RuleIndex::Clear()
 
 void RuleIndex::Follow(const Array1<std::string>& rules, int count)
 {
-    const auto wanted = static_cast<std::size_t>(count);
-    if (wanted < m_rows.size()) {
+    if (count < m_rows.UpperBound()) {
         Clear();
     }
-    while (m_rows.size() < wanted) {
-        Row& row = m_rows.emplace_back();
-        Read(rules(m_rows.size()), row);
+    const int known = m_rows.UpperBound();
+    m_rows.Redim(count);
+    for (int rule = known + 1; rule <= count; ++rule) {
+        Read(rules(rule), m_rows(rule));
     }
 }
 
@@ -153,7 +153,7 @@ void RuleIndex::MakeMask(Row& row) const
 
 void RuleIndex::Cut(int rule, const Term& term)
 {
-    Row& row = m_rows[static_cast<std::size_t>(rule) - 1];
+    Row& row = m_rows(rule);
     const std::size_t width = term.close + 1 - (term.open - m_names[term.name].size());
     const auto end = m_terms.begin() + row.first + row.count;
     const auto from = m_terms.begin() + (&term - m_terms.data());

@@ -107,16 +107,16 @@ public:
     [[nodiscard]] std::size_t NameCount() const { return m_names.size(); }
 
     /// A rule's text has changed.
-    void Update(int rule, std::string_view text) { Read(text, m_rows[static_cast<std::size_t>(rule) - 1]); }
+    void Update(int rule, std::string_view text) { Read(text, m_rows(rule)); }
 
     /// A term with its whole name was cut out of the rule's text.
     void Cut(int rule, const Term& term);
 
     /// A rule has moved in front of its place, and the one that was there is gone.
-    void Move(int rule, int place) { m_rows[static_cast<std::size_t>(place) - 1] = At(rule); }
+    void Move(int rule, int place) { m_rows(place) = At(rule); }
 
     /// Only so many rules are left.
-    void Truncate(int count) { m_rows.resize(static_cast<std::size_t>(count)); }
+    void Truncate(int count) { m_rows.Redim(count); }
 
 private:
     struct Row
@@ -128,14 +128,14 @@ private:
         bool trailing = false; ///< there is a text behind the last ")"
     };
 
-    [[nodiscard]] const Row& At(int rule) const { return m_rows[static_cast<std::size_t>(rule) - 1]; }
+    [[nodiscard]] const Row& At(int rule) const { return m_rows(rule); }
     std::uint32_t& SlotOf(std::string_view name);
     void MoreSlots();
     void Read(std::string_view rule, Row& row);
     void MakeMask(Row& row) const;
     bool ReadTerms(std::string_view rule, bool& trailing);
 
-    std::vector<Row> m_rows;
+    Array1<Row> m_rows;
     std::vector<Term> m_terms;
     std::vector<Term> m_read; ///< of the rule being read
     std::vector<std::string> m_names;

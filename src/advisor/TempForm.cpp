@@ -1,5 +1,6 @@
 #include "advisor/TempForm.h"
 
+#include "base/ItemAt.h"
 #include "forms/FormFont.h"
 #include "forms/TextBox.h"
 #include "ui_TempForm.h"
@@ -39,8 +40,8 @@ void TempForm::ShowRows()
 
 void TempForm::FindingsList_Click(int row)
 {
-    if (row >= 0) {
-        SelectLine(*m_ui->Text1, m_rows[static_cast<std::size_t>(row)].line);
+    if (const TempFormRow* const chosen = ItemAt(m_rows, row)) {
+        SelectLine(*m_ui->Text1, chosen->line);
     }
 }
 

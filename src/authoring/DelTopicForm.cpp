@@ -55,9 +55,8 @@ std::vector<RemovalChoice> DelTopicForm::Choices() const
 void DelTopicForm::AddRunningEdits(RunningEdits& edits)
 {
     for (const RemovalChoice& choice : Choices()) {
-        const auto index = static_cast<std::size_t>(choice.number);
-        if (choice.removed != m_book.TopicRecs(index).Deleted) {
-            edits.removals.push_back({choice.number, m_book.TopicNames(index), choice.removed});
+        if (choice.removed != m_book.TopicRecs(choice.number).Deleted) {
+            edits.removals.push_back({choice.number, m_book.TopicNames(choice.number), choice.removed});
         }
     }
 }

@@ -187,8 +187,7 @@ void LgEdForm::AddRunningEdits(RunningEdits& edits)
 {
     if (m_editor.Changed()) {
         const int number = m_book.CurrentTopicNo;
-        edits.logic = ls::RunningText{number, m_book.TopicNames(static_cast<std::size_t>(number)),
-                                      m_editor.RunningText()};
+        edits.logic = ls::RunningText{number, m_book.TopicNames(number), m_editor.RunningText()};
     }
 }
 

@@ -3,6 +3,7 @@
 #include "authoring/TopicText.h"
 #include "base/CodePage.h"
 #include "base/Count16.h"
+#include "base/ItemAt.h"
 #include "base/Messages.h"
 #include "base/Text.h"
 #include "book/Book.h"
@@ -19,13 +20,6 @@ constexpr auto Most = static_cast<std::size_t>(Count16::Max); // of variables, a
 std::string KeyOf(const std::string& utf8)
 {
     return UpperCase(ToBook(utf8).value_or(utf8));
-}
-
-template <typename Item>
-Item* At(std::vector<Item>& items, int index)
-{
-    return index >= 0 && index < static_cast<int>(items.size()) ? &items[static_cast<std::size_t>(index)]
-                                                                : nullptr;
 }
 
 template <typename Item>
@@ -60,8 +54,7 @@ bool Store(std::string& stored, const std::string& inBox)
 
 bool LogicEditor::Form_Load()
 {
-    const auto topic = static_cast<std::size_t>(static_cast<int>(m_book.CurrentTopicNo));
-    const LogicBlock block = ParseLogicBlock(m_book.TopicRecs(topic).Logic);
+    const LogicBlock block = ParseLogicBlock(m_book.TopicRecs(m_book.CurrentTopicNo).Logic);
     if (block.variables.size() > Most || block.choices.size() > Most) {
         ShowOverflow(m_seams.messages);
         return false;
@@ -102,7 +95,7 @@ void LogicEditor::Fill(const LogicBlock& block)
 
 LogicEditor::Variable* LogicEditor::Selected()
 {
-    return At(m_variables, m_variable);
+    return ItemAt(m_variables, m_variable);
 }
 
 LogicEditor::Choice* LogicEditor::SelectedChoice()

@@ -54,8 +54,7 @@ bool LogicEditor::SaveButton_Click()
     if (!text || !MayLose() || !MayMisread(*block)) {
         return false;
     }
-    const auto topic = static_cast<std::size_t>(static_cast<int>(m_book.CurrentTopicNo));
-    m_book.TopicRecs(topic).Logic = std::move(*text);
+    m_book.TopicRecs(m_book.CurrentTopicNo).Logic = std::move(*text);
     m_book.BookChanged = true;
     m_seams.messages.MsgBox("The changes will not take effect until you save the file.", Icon::Information);
     return true;

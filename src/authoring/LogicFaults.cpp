@@ -3,6 +3,7 @@
 #include "authoring/LogicTags.h"
 #include "authoring/SpecialLines.h"
 #include "base/CodePage.h"
+#include "base/ItemAt.h"
 #include "base/Messages.h"
 #include "base/Quoted.h"
 #include "base/Text.h"
@@ -161,7 +162,7 @@ private:
 
     [[nodiscard]] const std::string& VariableName() const
     {
-        return m_block.variables[static_cast<std::size_t>(m_place.variable)].name;
+        return ItemAt(m_block.variables, m_place.variable)->name;
     }
 
     const LogicBlock& m_block;

@@ -13,12 +13,12 @@ constexpr const char* StartEntry = "** Start **";
 
 std::string Title(const Book& book, int number)
 {
-    return WithoutBrackets(book.TopicNames(static_cast<std::size_t>(number)));
+    return WithoutBrackets(book.TopicNames(number));
 }
 
 bool Deleted(const Book& book, int number)
 {
-    return book.TopicRecs(static_cast<std::size_t>(number)).Deleted;
+    return book.TopicRecs(number).Deleted;
 }
 
 } // namespace

@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view EndName = "EOF";
 
 // Past their bound, the tables grow by ten when a topic is added.
-constexpr std::size_t AddGrowthStep = 9;
+constexpr int AddGrowthStep = 9;
 
 bool IsTaken(const Book& book, const std::string& name)
 {
@@ -24,34 +24,33 @@ bool IsTaken(const Book& book, const std::string& name)
 }
 
 // The numbers of all topics in their new order.
-std::vector<std::size_t> NewOrder(const Book& book, const std::vector<int>& selected, int after)
+std::vector<int> NewOrder(const Book& book, const std::vector<int>& selected, int after)
 {
-    const auto count = static_cast<std::size_t>(book.TopicCount);
-    std::vector<bool> moves(count + 1, false);
+    const int count = book.TopicCount;
+    Array1<char> moves(count);
     for (const int number : selected) {
-        moves[static_cast<std::size_t>(number)] = true;
+        moves(number) = 1;
     }
-    std::vector<std::size_t> order;
-    order.reserve(count);
-    const auto append = [&](std::size_t from, std::size_t to, bool moving) {
-        for (std::size_t number = from; number <= to; ++number) {
-            if (moves[number] == moving) {
+    std::vector<int> order;
+    const auto append = [&](int from, int to, bool moving) {
+        for (int number = from; number <= to; ++number) {
+            if ((moves(number) != 0) == moving) {
                 order.push_back(number);
             }
         }
     };
-    append(1, static_cast<std::size_t>(after), false);
+    append(1, after, false);
     append(1, count, true);
-    append(static_cast<std::size_t>(after) + 1, count, false);
+    append(after + 1, count, false);
     return order;
 }
 
 template <typename T>
-void Rearrange(Array1<T>& table, const std::vector<std::size_t>& order)
+void Rearrange(Array1<T>& table, const std::vector<int>& order)
 {
     std::vector<T> rearranged;
     rearranged.reserve(order.size());
-    for (const std::size_t number : order) {
+    for (const int number : order) {
         rearranged.push_back(std::move(table(number)));
     }
     std::move(rearranged.begin(), rearranged.end(), table.begin());
@@ -92,14 +91,13 @@ bool AddTopic(Book& book, const std::string& name)
     if (!book.TopicCount.Add()) {
         return false;
     }
-    const auto number = static_cast<std::size_t>(book.TopicCount);
-    book.TopicNames.Grow(number, AddGrowthStep);
-    book.TopicPos.Grow(number, AddGrowthStep);
-    book.TopicRecs.Grow(number, AddGrowthStep);
-    book.TopicNames(number) = "[" + name + "]";
-    book.TopicPos(number) = 0;
-    book.TopicRecs(number) = TopicRec{};
-    book.TopicRecs(number).Text = NewTopicText;
+    book.TopicNames.Grow(book.TopicCount, AddGrowthStep);
+    book.TopicPos.Grow(book.TopicCount, AddGrowthStep);
+    book.TopicRecs.Grow(book.TopicCount, AddGrowthStep);
+    book.TopicNames(book.TopicCount) = "[" + name + "]";
+    book.TopicPos(book.TopicCount) = 0;
+    book.TopicRecs(book.TopicCount) = TopicRec{};
+    book.TopicRecs(book.TopicCount).Text = NewTopicText;
     book.CurrentTopicName = name;
     book.CurrentTopicNo = book.TopicCount;
     // Also when the text editor is then cancelled, the topic stays in the list: leaving must ask about it.
@@ -110,18 +108,18 @@ bool AddTopic(Book& book, const std::string& name)
 void SetRemoved(Book& book, const std::vector<RemovalChoice>& choices)
 {
     for (const RemovalChoice& choice : choices) {
-        book.TopicRecs(static_cast<std::size_t>(choice.number)).Deleted = choice.removed;
+        book.TopicRecs(choice.number).Deleted = choice.removed;
     }
     book.BookChanged = true;
 }
 
 void MoveTopics(Book& book, const std::vector<int>& selected, int after)
 {
-    const std::vector<std::size_t> order = NewOrder(book, selected, after);
+    const std::vector<int> order = NewOrder(book, selected, after);
     Rearrange(book.TopicNames, order);
     Rearrange(book.TopicPos, order);
     Rearrange(book.TopicRecs, order);
-    const auto current = std::find(order.begin(), order.end(), static_cast<std::size_t>(book.CurrentTopicNo));
+    const auto current = std::find(order.begin(), order.end(), book.CurrentTopicNo);
     if (current != order.end()) {
         book.CurrentTopicNo = static_cast<int>(current - order.begin()) + 1;
     }

@@ -29,7 +29,7 @@ std::string CodeOf(char32_t character)
 
 std::string TextToEdit(const Book& book)
 {
-    return FromBook(book.TopicRecs(static_cast<std::size_t>(book.CurrentTopicNo)).Text);
+    return FromBook(book.TopicRecs(book.CurrentTopicNo).Text);
 }
 
 std::string WithCrLf(std::string_view text)
@@ -73,7 +73,7 @@ DoneOutcome SaveTopicText(Book& book, const Seams& seams, const std::string& utf
     if (text->empty()) {
         text = LineEnd;
     }
-    book.TopicRecs(static_cast<std::size_t>(book.CurrentTopicNo)).Text = std::move(*text);
+    book.TopicRecs(book.CurrentTopicNo).Text = std::move(*text);
     book.BookChanged = true;
     return {true, 0};
 }

@@ -76,8 +76,7 @@ void TxEdForm::AddRunningEdits(RunningEdits& edits)
 {
     if (m_ui->MainTxBox->document()->isModified()) {
         const int number = m_book.CurrentTopicNo;
-        edits.text = RunningText{number, m_book.TopicNames(static_cast<std::size_t>(number)),
-                                 TextOf(*m_ui->MainTxBox)};
+        edits.text = RunningText{number, m_book.TopicNames(number), TextOf(*m_ui->MainTxBox)};
     }
 }
 

@@ -9,38 +9,32 @@ namespace ls {
 
 /// A growable array whose first element is number 1.
 ///
-/// Bounds are 1..UpperBound(). `Grow` works as the tables of a book do: when a new element's number passes
-/// the upper bound, the bound becomes that number plus a step of the table's own, and what is there is kept.
+/// Bounds are 1..UpperBound(). Numbers and bounds are `int`, as the counts of the tables are: this is the one
+/// place that converts them for the vector. `Grow` works as the tables of a book do: when a new element's
+/// number passes the upper bound, the bound becomes that number plus a step of the table's own, and the
+/// elements are kept.
 template <typename T>
 class Array1
 {
 public:
     Array1() = default;
-    explicit Array1(std::size_t upperBound) : m_items(upperBound) {}
+    explicit Array1(int upperBound) : m_items(static_cast<std::size_t>(upperBound)) {}
 
-    [[nodiscard]] std::size_t UpperBound() const { return m_items.size(); }
+    [[nodiscard]] int UpperBound() const { return static_cast<int>(m_items.size()); }
 
-    T& operator()(std::size_t number)
-    {
-        assert(number >= 1 && number <= m_items.size());
-        return m_items[number - 1];
-    }
-    const T& operator()(std::size_t number) const
-    {
-        assert(number >= 1 && number <= m_items.size());
-        return m_items[number - 1];
-    }
+    T& operator()(int number) { return m_items[Index(number)]; }
+    const T& operator()(int number) const { return m_items[Index(number)]; }
 
     /// Makes element `number` exist: past the bound, the new bound is `number + step`.
-    void Grow(std::size_t number, std::size_t step)
+    void Grow(int number, int step)
     {
-        if (number > m_items.size()) {
-            m_items.resize(number + step);
+        if (number > UpperBound()) {
+            Redim(number + step);
         }
     }
 
     /// Sets the bounds to 1..upperBound; what lies inside them is kept.
-    void Redim(std::size_t upperBound) { m_items.resize(upperBound); }
+    void Redim(int upperBound) { m_items.resize(static_cast<std::size_t>(upperBound)); }
 
     /// Empties every element and keeps the bounds.
     void ClearElements()
@@ -57,6 +51,12 @@ public:
     [[nodiscard]] auto end() const { return m_items.end(); }
 
 private:
+    [[nodiscard]] std::size_t Index(int number) const
+    {
+        assert(number >= 1 && number <= UpperBound());
+        return static_cast<std::size_t>(number) - 1;
+    }
+
     std::vector<T> m_items;
 };
 

@@ -17,7 +17,7 @@ Book::Book()
     BookVersion = NewBookVersion;
 }
 
-void GrowTopicTables(Book& book, std::size_t number)
+void GrowTopicTables(Book& book, int number)
 {
     book.TopicNames.Grow(number, TopicGrowthStep);
     book.TopicPos.Grow(number, TopicGrowthStep);

@@ -74,10 +74,10 @@ struct Book : BookHeader
 };
 
 /// How the tables grow: past its bound, a table's bound becomes the new number plus this.
-inline constexpr std::size_t TopicGrowthStep = 49;
+inline constexpr int TopicGrowthStep = 49;
 
 /// Makes room for topic `number` in the three topic tables, which always grow together.
-void GrowTopicTables(Book& book, std::size_t number);
+void GrowTopicTables(Book& book, int number);
 
 /// Forgets the book: positions, names, header fields (the version goes back to 5.0), counts, and every
 /// element of the tables, whose bounds stay. The open file and `BookPath` are the caller's business.

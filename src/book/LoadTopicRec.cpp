@@ -150,7 +150,7 @@ bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
         number = 0;
         return false;
     }
-    TopicRec& rec = book.TopicRecs(static_cast<std::size_t>(number));
+    TopicRec& rec = book.TopicRecs(number);
     rec.Text = std::move(text);
     rec.Logic = std::move(logic);
     return true;
@@ -158,7 +158,7 @@ bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
 
 bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number, std::string& logic)
 {
-    std::string name = book.TopicNames(static_cast<std::size_t>(number));
+    std::string name = book.TopicNames(number);
     NoFile noFile;
     LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
     LocateTopic(book, seams, cursor, name, number);

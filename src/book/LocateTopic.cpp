@@ -39,8 +39,8 @@ TopicLocation GoToTopic(const Book& book, LineCursor& cursor, const std::string&
     if (number == 0) {
         number = FindTopic(book, key);
     }
-    const bool inTable = number > 0 && static_cast<std::size_t>(number) <= book.TopicPos.UpperBound();
-    const FilePos pos = inTable ? book.TopicPos(static_cast<std::size_t>(number)) : 0;
+    const bool inTable = number > 0 && number <= book.TopicPos.UpperBound();
+    const FilePos pos = inTable ? book.TopicPos(number) : 0;
     if (pos == 0) {
         return TopicLocation::Unknown;
     }

@@ -87,10 +87,9 @@ private:
         if (!m_book.CurrentTopicNo.Add()) {
             return LineOutcome::Overflow;
         }
-        const auto number = static_cast<std::size_t>(m_book.CurrentTopicNo);
-        GrowTopicTables(m_book, number);
-        m_book.TopicNames(number) = Trim(m_line);
-        m_book.TopicPos(number) = m_linePos;
+        GrowTopicTables(m_book, m_book.CurrentTopicNo);
+        m_book.TopicNames(m_book.CurrentTopicNo) = Trim(m_line);
+        m_book.TopicPos(m_book.CurrentTopicNo) = m_linePos;
         return LineOutcome::GoOn;
     }
 
@@ -99,7 +98,7 @@ private:
         XrefRec xref;
         xref.ToTopic = XrefTarget(m_line);
         if (m_book.CurrentTopicNo > 0) {
-            const std::string& name = m_book.TopicNames(static_cast<std::size_t>(m_book.CurrentTopicNo));
+            const std::string& name = m_book.TopicNames(m_book.CurrentTopicNo);
             xref.FromTopic = name.substr(1, name.size() - 2);
         }
         if (FileError failed = ReadXrefText(m_cursor, m_line, xref.Text); !failed.Ok()) {
@@ -112,8 +111,8 @@ private:
             outcome = LineOutcome::Overflow;
             return {};
         }
-        m_book.Xrefs.Grow(static_cast<std::size_t>(m_book.XrefCount), TopicGrowthStep);
-        m_book.Xrefs(static_cast<std::size_t>(m_book.XrefCount)) = std::move(xref);
+        m_book.Xrefs.Grow(m_book.XrefCount, TopicGrowthStep);
+        m_book.Xrefs(m_book.XrefCount) = std::move(xref);
         return {};
     }
 

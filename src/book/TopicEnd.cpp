@@ -8,10 +8,10 @@ namespace ls {
 
 FilePos EndOfTopic(const Book& book, int number)
 {
-    const FilePos own = book.TopicPos(static_cast<std::size_t>(number));
+    const FilePos own = book.TopicPos(number);
     FilePos end = book.ScanEndPos;
     for (int i = 1; i <= book.TopicCount; ++i) {
-        const FilePos pos = book.TopicPos(static_cast<std::size_t>(i));
+        const FilePos pos = book.TopicPos(i);
         if (pos > own) {
             end = std::min(end, pos);
         }

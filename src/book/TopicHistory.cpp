@@ -11,13 +11,12 @@ namespace {
 
 bool IsListed(const Book& book, int number)
 {
-    return number >= 1 && number <= book.TopicCount &&
-           !book.TopicRecs(static_cast<std::size_t>(number)).Deleted;
+    return number >= 1 && number <= book.TopicCount && !book.TopicRecs(number).Deleted;
 }
 
 bool HasTitle(const Book& book, int number, const std::string& title)
 {
-    return WithoutBrackets(book.TopicNames(static_cast<std::size_t>(number))) == title;
+    return WithoutBrackets(book.TopicNames(number)) == title;
 }
 
 } // namespace

@@ -34,14 +34,14 @@ bool ComesBefore(const SortedName& a, const SortedName& b)
 
 std::string Title(const Book& book, int number)
 {
-    return WithoutBrackets(book.TopicNames(static_cast<std::size_t>(number)));
+    return WithoutBrackets(book.TopicNames(number));
 }
 
 std::vector<int> NumbersToShow(const Book& book)
 {
     std::vector<int> numbers;
     for (int number = 1; number <= book.TopicCount; ++number) {
-        if (!book.TopicRecs(static_cast<std::size_t>(number)).Deleted) {
+        if (!book.TopicRecs(number).Deleted) {
             numbers.push_back(number);
         }
     }

@@ -65,8 +65,8 @@ public:
     {
         PutLine(HeaderLine(m_book));
         for (int number = 1; number <= m_book.TopicCount && m_outcome == WriteOutcome::Written; ++number) {
-            if (!m_book.TopicRecs(static_cast<std::size_t>(number)).Deleted) {
-                WriteTopic(static_cast<std::size_t>(number));
+            if (!m_book.TopicRecs(number).Deleted) {
+                WriteTopic(number);
             }
         }
         Flush();
@@ -74,7 +74,7 @@ public:
     }
 
 private:
-    void WriteTopic(std::size_t number)
+    void WriteTopic(int number)
     {
         const TopicRec& rec = m_book.TopicRecs(number);
         const bool inFile = m_book.TopicPos(number) != 0 && m_cursor;
@@ -96,7 +96,7 @@ private:
     }
 
     // Stands behind the topic's header line, which is written when `put` is set. False after a message.
-    bool FindHeader(std::size_t number, bool put)
+    bool FindHeader(int number, bool put)
     {
         const FilePos pos = m_book.TopicPos(number);
         if (m_cursor->Position() != pos) {
@@ -116,7 +116,7 @@ private:
         return true;
     }
 
-    void CopyLines(std::size_t number)
+    void CopyLines(int number)
     {
         const FilePos end = m_ends.Of(m_book.TopicPos(number));
         while (m_cursor->Position() < end && m_outcome == WriteOutcome::Written) {
@@ -148,7 +148,7 @@ private:
 
     // A block that does not begin with "<IXML>" and "<LOGIC>" was never taken into the logic editor, so an
     // empty `Logic` does not mean that the author removed it.
-    void CopyUntakenBlock(std::size_t number)
+    void CopyUntakenBlock(int number)
     {
         const FilePos end = m_ends.Of(m_book.TopicPos(number));
         std::string_view line;
@@ -236,10 +236,7 @@ private:
         }
     }
 
-    void StopAtChange(std::size_t number)
-    {
-        Stop("Error looking up topic: " + FromBook(m_book.TopicNames(number)));
-    }
+    void StopAtChange(int number) { Stop("Error looking up topic: " + FromBook(m_book.TopicNames(number))); }
 
     void Stop(const std::string& message)
     {

@@ -8,7 +8,7 @@ XrefLists FindXrefs(const Book& book, std::string_view title)
 {
     XrefLists lists;
     for (int i = 1; i <= book.XrefCount; ++i) {
-        const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
+        const XrefRec& xref = book.Xrefs(i);
         if (xref.FromTopic == title) {
             lists.to.push_back({xref.ToTopic, i});
         }

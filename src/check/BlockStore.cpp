@@ -53,17 +53,16 @@ const CheckedBlock* BlockStore::Find(int topic)
 
 std::unique_ptr<CheckedBlock> BlockStore::Read(int topic)
 {
-    const auto number = static_cast<std::size_t>(topic);
     if (topic < 1 || topic > m_book.TopicCount) {
         return nullptr;
     }
-    const TopicRec& rec = m_book.TopicRecs(number);
+    const TopicRec& rec = m_book.TopicRecs(topic);
     return rec.Logic.empty() ? ReadFile(topic) : ReadLogicText(rec.Logic, topic);
 }
 
 std::unique_ptr<CheckedBlock> BlockStore::ReadFile(int topic)
 {
-    const FilePos pos = m_book.TopicPos(static_cast<std::size_t>(topic));
+    const FilePos pos = m_book.TopicPos(topic);
     if (!m_book.File || pos == 0) {
         return nullptr;
     }
@@ -82,7 +81,7 @@ int BlockStore::TopicNumber(const std::string& title)
 {
     if (m_numbers.empty()) {
         for (int i = 1; i <= m_book.TopicCount; ++i) {
-            const std::string& name = m_book.TopicNames(static_cast<std::size_t>(i));
+            const std::string& name = m_book.TopicNames(i);
             m_numbers.emplace(UpperCase(WithoutBrackets(name)), i);
         }
     }
@@ -92,7 +91,7 @@ int BlockStore::TopicNumber(const std::string& title)
 
 std::string BlockStore::Title(int topic) const
 {
-    return FromBook(WithoutBrackets(m_book.TopicNames(static_cast<std::size_t>(topic))));
+    return FromBook(WithoutBrackets(m_book.TopicNames(topic)));
 }
 
 } // namespace ls

@@ -85,7 +85,7 @@ BookPass::BookPass(const Book& book, Findings& findings, BlockStore& store, Prog
 {
     m_titles.reserve(static_cast<std::size_t>(book.TopicCount));
     for (int i = 1; i <= book.TopicCount; ++i) {
-        const auto [first, added] = m_titles.emplace(book.TopicNames(static_cast<std::size_t>(i)), i);
+        const auto [first, added] = m_titles.emplace(book.TopicNames(i), i);
         if (!added) {
             m_doubled.emplace(i, first->second);
             m_firstLines.emplace(first->second, 0);
@@ -334,7 +334,7 @@ void BookPass::BeginTopic(int number)
     m_cutLine = m_block && !m_block->Closed() ? number : 0;
     EndTopic();
     ++m_topic;
-    m_nextTopic = m_topic < m_book.TopicCount ? m_book.TopicPos(static_cast<std::size_t>(m_topic) + 1) : 0;
+    m_nextTopic = m_topic < m_book.TopicCount ? m_book.TopicPos(m_topic + 1) : 0;
     m_findings.InTopic(m_store.Title(m_topic));
     m_text.BeginTopic();
     m_lines = 0;

@@ -83,7 +83,7 @@ std::vector<Finding> CheckLogicText(const Book& book, const Seams& seams, int to
     DialogueBook dialogues(book);
     dialogues.Replace(topic, text);
     for (const CheckedBlock* other : base.Blocks()) {
-        const std::string& edited = book.TopicRecs(static_cast<std::size_t>(other->topic)).Logic;
+        const std::string& edited = book.TopicRecs(other->topic).Logic;
         if (other != &base.Own() && !edited.empty()) {
             dialogues.Replace(other->topic, edited);
         }

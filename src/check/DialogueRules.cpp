@@ -162,8 +162,7 @@ DialogueBook::DialogueBook(const Book& book)
 
 void DialogueBook::Replace(int topic, const std::string& block)
 {
-    const auto number = static_cast<std::size_t>(topic);
-    m_book.TopicPos(number) = m_overlay->Append(m_book.TopicNames(number) + "\r\n" + block);
+    m_book.TopicPos(topic) = m_overlay->Append(m_book.TopicNames(topic) + "\r\n" + block);
 }
 
 const FileError& DialogueBook::Failed() const
@@ -173,10 +172,9 @@ const FileError& DialogueBook::Failed() const
 
 bool DialogueBook::Show(int topic)
 {
-    const auto number = static_cast<std::size_t>(topic);
     m_book.CurrentTopicNo = topic;
-    m_book.CurrentTopicName = WithBrackets(m_book.TopicNames(number));
-    const FilePos pos = m_book.TopicPos(number);
+    m_book.CurrentTopicName = WithBrackets(m_book.TopicNames(topic));
+    const FilePos pos = m_book.TopicPos(topic);
     m_book.LogicPos = pos == 0 ? 0 : LogicPosition(*m_overlay, pos);
     return m_book.LogicPos != 0;
 }

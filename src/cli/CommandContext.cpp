@@ -93,7 +93,7 @@ Status CommandContext::ChooseTopic(std::string& name, Count16& number)
                         (m_book.TopicCount == 1 ? " topic." : " topics."));
         }
         number = wanted;
-        name = m_book.TopicNames(static_cast<std::size_t>(wanted));
+        name = m_book.TopicNames(wanted);
         return Status::Done;
     }
     if (!byTitle) {

@@ -5,6 +5,7 @@
 #include "cli/FileFacts.h"
 #include "cli/JsonWriter.h"
 
+#include <array>
 #include <charconv>
 
 namespace ls {
@@ -55,9 +56,9 @@ void Field(CommandContext& context, std::string_view label, const std::string& v
 
 std::string VersionText(float version)
 {
-    std::string digits(64, '\0');
+    std::array<char, 64> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), version).ptr;
-    return digits.substr(0, static_cast<std::size_t>(end - digits.data()));
+    return {digits.data(), end};
 }
 
 std::string UnassignedText(const FileFacts& facts)

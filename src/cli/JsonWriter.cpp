@@ -97,8 +97,7 @@ JsonWriter& JsonWriter::Number(float number)
     const auto [end, failed] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
     // JSON knows neither infinity nor "not a number".
     const bool finite = failed == std::errc() && number - number == 0.0F;
-    *m_stream << (finite ? std::string_view(digits.data(), static_cast<std::size_t>(end - digits.data()))
-                         : std::string_view("null"));
+    *m_stream << (finite ? std::string_view(digits.data(), end) : std::string_view("null"));
     return *this;
 }
 

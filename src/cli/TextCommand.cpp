@@ -27,7 +27,7 @@ Status Load(CommandContext& context, TopicRec& rec)
     if (book.IsPlainText()) {
         return Status::Done;
     }
-    rec = std::move(book.TopicRecs(static_cast<std::size_t>(number))); // nothing else asks for it any more
+    rec = std::move(book.TopicRecs(number)); // nothing else asks for it any more
     return Status::Done;
 }
 

@@ -13,7 +13,7 @@ constexpr std::string_view Alphabetic = "--alphabetic";
 
 void WriteTopic(JsonWriter& json, const Book& book, const TopicListItem& item)
 {
-    const auto number = static_cast<std::size_t>(item.itemData);
+    const int number = item.itemData;
     json.BeginObject();
     json.Key("number").Number(std::int64_t{item.itemData});
     json.Key("title").BookText(WithoutBrackets(book.TopicNames(number)));

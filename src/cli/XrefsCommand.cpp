@@ -46,7 +46,7 @@ Status WriteAll(CommandContext& context)
 {
     XrefList all;
     for (int i = 1; i <= context.TheBook().XrefCount; ++i) {
-        all.push_back(&context.TheBook().Xrefs(static_cast<std::size_t>(i)));
+        all.push_back(&context.TheBook().Xrefs(i));
     }
     if (context.Json()) {
         context.WriteJson([&all](JsonWriter& json) { WriteList(json, "xrefs", all); });
@@ -78,7 +78,7 @@ XrefList Records(const Book& book, const std::vector<XrefEntry>& entries)
 {
     XrefList list;
     for (const XrefEntry& entry : entries) {
-        list.push_back(&book.Xrefs(static_cast<std::size_t>(entry.itemData)));
+        list.push_back(&book.Xrefs(entry.itemData));
     }
     return list;
 }

@@ -1,5 +1,6 @@
 #include "files/FileNames.h"
 
+#include "base/ItemAt.h"
 #include "files/PathText.h"
 
 namespace ls {
@@ -22,7 +23,7 @@ QVariant FileNames::data(const QModelIndex& at, int role) const
         (role != Qt::DisplayRole && role != Qt::EditRole)) {
         return {};
     }
-    return PathText(m_names[static_cast<std::size_t>(at.row())]);
+    return PathText(*ItemAt(m_names, at.row()));
 }
 
 } // namespace ls

@@ -3,6 +3,7 @@
 #include "base/CodePage.h"
 #include "base/FileSystem.h"
 #include "base/FindSpelling.h"
+#include "base/ItemAt.h"
 #include "base/Messages.h"
 
 #include <algorithm>
@@ -115,7 +116,8 @@ void FileSelector::ResetText()
 // The drive part of what the drive list shows: up to its ":", which a one-letter text gets added.
 std::string FileSelector::CurrentDriveText()
 {
-    const std::string label = m_drive < 0 ? std::string() : m_driveLabels[static_cast<std::size_t>(m_drive)];
+    const std::string* const shown = ItemAt(m_driveLabels, m_drive);
+    const std::string label = shown == nullptr ? std::string() : *shown;
     if (const std::size_t colon = label.find(':'); colon != std::string::npos) {
         return label.substr(0, colon + 1);
     }
@@ -132,7 +134,7 @@ bool FileSelector::SwitchDrive(const std::string& drive)
     const auto isMeant = [&letter](const Volume& volume) {
         return LowerCaseAscii(std::string_view(volume.label).substr(0, 1)) == letter;
     };
-    if (m_drive >= 0 && isMeant(m_volumes[static_cast<std::size_t>(m_drive)])) {
+    if (const Volume* const current = ItemAt(m_volumes, m_drive); current != nullptr && isMeant(*current)) {
         return true;
     }
     const auto found = std::find_if(m_volumes.begin(), m_volumes.end(), isMeant);
@@ -323,26 +325,26 @@ FileSelector::Outcome FileSelector::OkClicked(const std::string& text)
 
 void FileSelector::DriveChanged(int index)
 {
-    if (index < 0 || static_cast<std::size_t>(index) >= m_volumes.size() || index == m_drive) {
+    const Volume* const volume = ItemAt(m_volumes, index);
+    if (volume == nullptr || index == m_drive) {
         return;
     }
-    m_text = JoinPath(m_seams.paths, m_volumes[static_cast<std::size_t>(index)].folder, m_pattern);
+    m_text = JoinPath(m_seams.paths, volume->folder, m_pattern);
     Apply();
 }
 
 void FileSelector::FolderClicked(int index)
 {
-    if (index < 0 || static_cast<std::size_t>(index) >= m_folders.size()) {
-        return;
+    if (const auto* const folder = ItemAt(m_folders, index)) {
+        m_text = JoinPath(m_seams.paths, folder->path, m_pattern);
+        Apply();
     }
-    m_text = JoinPath(m_seams.paths, m_folders[static_cast<std::size_t>(index)].path, m_pattern);
-    Apply();
 }
 
 void FileSelector::FileClicked(int index)
 {
-    if (index >= 0 && static_cast<std::size_t>(index) < m_files.size()) {
-        m_text = InFolder(m_files[static_cast<std::size_t>(index)]);
+    if (const std::string* const file = ItemAt(m_files, index)) {
+        m_text = InFolder(*file);
     }
 }
 

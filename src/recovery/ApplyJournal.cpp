@@ -22,17 +22,18 @@ bool IsSameFile(const JournalBook& of, const Book& book, const Seams& seams)
 // Every topic of the file once, under the name that it has there.
 bool HasTopicsOf(const std::vector<JournalTopic>& topics, const Book& book)
 {
-    std::vector<bool> found(static_cast<std::size_t>(book.TopicCount) + 1, false);
+    Array1<char> found(book.TopicCount);
     int count = 0;
     for (const JournalTopic& topic : topics) {
         if (topic.fileNumber == 0) {
             continue;
         }
-        const auto number = static_cast<std::size_t>(topic.fileNumber);
-        if (number >= found.size() || found[number] || book.TopicNames(number) != topic.name) {
+        const int number = topic.fileNumber;
+        if (number < 1 || number > found.UpperBound() || found(number) != 0 ||
+            book.TopicNames(number) != topic.name) {
             return false;
         }
-        found[number] = true;
+        found(number) = 1;
         ++count;
     }
     return count == book.TopicCount;
@@ -106,7 +107,7 @@ RunningEdits ApplyJournal(const Journal& journal, Book& book)
     std::vector<FilePos> positions(topics.size(), 0);
     for (std::size_t i = 0; i < topics.size(); ++i) {
         if (topics[i].fileNumber != 0) {
-            positions[i] = book.TopicPos(static_cast<std::size_t>(topics[i].fileNumber));
+            positions[i] = book.TopicPos(topics[i].fileNumber);
         }
     }
     GrowTopicTables(book, topics.size());
@@ -117,7 +118,7 @@ RunningEdits ApplyJournal(const Journal& journal, Book& book)
     }
     book.TopicCount = static_cast<int>(topics.size());
     for (const JournalRec& rec : journal.recs) {
-        TopicRec& to = book.TopicRecs(static_cast<std::size_t>(rec.topic));
+        TopicRec& to = book.TopicRecs(rec.topic);
         to.Text = rec.text;
         to.Logic = rec.logic;
     }

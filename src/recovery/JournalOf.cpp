@@ -30,7 +30,7 @@ std::vector<JournalTopic> TopicsOf(const Book& book)
 {
     std::vector<FilePos> inFile;
     for (int number = 1; number <= book.TopicCount; ++number) {
-        if (const FilePos pos = book.TopicPos(static_cast<std::size_t>(number)); pos != 0) {
+        if (const FilePos pos = book.TopicPos(number); pos != 0) {
             inFile.push_back(pos);
         }
     }
@@ -38,11 +38,10 @@ std::vector<JournalTopic> TopicsOf(const Book& book)
     std::vector<JournalTopic> topics;
     topics.reserve(static_cast<std::size_t>(book.TopicCount));
     for (int number = 1; number <= book.TopicCount; ++number) {
-        const auto index = static_cast<std::size_t>(number);
-        const FilePos pos = book.TopicPos(index);
+        const FilePos pos = book.TopicPos(number);
         const auto place = std::lower_bound(inFile.begin(), inFile.end(), pos) - inFile.begin();
-        topics.push_back({book.TopicNames(index), pos == 0 ? 0 : static_cast<int>(place) + 1,
-                          book.TopicRecs(index).Deleted});
+        topics.push_back({book.TopicNames(number), pos == 0 ? 0 : static_cast<int>(place) + 1,
+                          book.TopicRecs(number).Deleted});
     }
     return topics;
 }
@@ -51,10 +50,9 @@ std::vector<JournalRec> RecsOf(const Book& book)
 {
     std::vector<JournalRec> recs;
     for (int number = 1; number <= book.TopicCount; ++number) {
-        const auto index = static_cast<std::size_t>(number);
-        const TopicRec& rec = book.TopicRecs(index);
+        const TopicRec& rec = book.TopicRecs(number);
         if (!rec.Text.empty() || !rec.Logic.empty()) {
-            recs.push_back({number, book.TopicNames(index), rec.Deleted, rec.Text, rec.Logic});
+            recs.push_back({number, book.TopicNames(number), rec.Deleted, rec.Text, rec.Logic});
         }
     }
     return recs;

@@ -60,11 +60,12 @@ std::optional<std::vector<std::string_view>> ReadJournalTexts(std::string_view p
         const auto left = static_cast<std::int64_t>(payload.size());
         const std::optional<std::int64_t> length =
             digits ? ReadJournalNumber(*digits, left - 1) : std::nullopt;
-        if (!length || payload[static_cast<std::size_t>(*length)] != ',') {
+        const auto size = static_cast<std::size_t>(length.value_or(0));
+        if (!length || payload[size] != ',') {
             return std::nullopt;
         }
-        texts.push_back(payload.substr(0, static_cast<std::size_t>(*length)));
-        payload.remove_prefix(static_cast<std::size_t>(*length) + 1);
+        texts.push_back(payload.substr(0, size));
+        payload.remove_prefix(size + 1);
     }
     return texts;
 }

@@ -69,9 +69,8 @@ bool IsTopicOf(const Book& book, int topic)
 // other one. False when it cannot be read from its file.
 bool BringIntoMemory(Book& book, const Seams& seams, const RunningText& running)
 {
-    const auto index = static_cast<std::size_t>(running.topic);
-    const TopicRec& rec = book.TopicRecs(index);
-    if (!rec.Text.empty() || !rec.Logic.empty() || book.TopicPos(index) == 0) {
+    const TopicRec& rec = book.TopicRecs(running.topic);
+    if (!rec.Text.empty() || !rec.Logic.empty() || book.TopicPos(running.topic) == 0) {
         return true;
     }
     ProgramEnd end;
@@ -91,13 +90,13 @@ void KeepText(Book& book, const RunningText& running, Notes& notes)
                         FromBook(WithoutBrackets(running.name)) + "\" " +
                         std::string(Consequence(special.meaning)) + " in the saved book.");
     }
-    book.TopicRecs(static_cast<std::size_t>(running.topic)).Text = text.empty() ? LineEnd : text;
+    book.TopicRecs(running.topic).Text = text.empty() ? LineEnd : text;
 }
 
 // What the editor's Done asks about is told here: comments of the old block that the editor cannot hold.
 void KeepLogic(Book& book, const RunningText& running, Notes& notes)
 {
-    TopicRec& rec = book.TopicRecs(static_cast<std::size_t>(running.topic));
+    TopicRec& rec = book.TopicRecs(running.topic);
     const std::string what = OfTopic("The logic", running.name);
     for (const LostPart& lost : ParseLogicBlock(rec.Logic).lost) {
         notes.push_back(what + ", line " + std::to_string(lost.line) + " before it was edited: " + lost.what);
@@ -118,7 +117,7 @@ void KeepProperties(Book& book, const Properties& typed, Notes& notes)
 
 void KeepRemoval(Book& book, const RunningRemoval& removal, Notes& notes)
 {
-    book.TopicRecs(static_cast<std::size_t>(removal.topic)).Deleted = removal.removed;
+    book.TopicRecs(removal.topic).Deleted = removal.removed;
     const std::string name = "The topic \"" + FromBook(WithoutBrackets(removal.name)) + "\"";
     notes.push_back(removal.removed ? name + " was checked in Topic Deletion, and is removed now. The same "
                                              "form restores it."

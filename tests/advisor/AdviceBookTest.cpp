@@ -213,7 +213,7 @@ TEST_F(AdviceBookTest, topics_areShownWithTheButtonsThatTheyNeed)
 {
     std::set<std::string> titles;
     for (int i = 1; i <= book.TopicCount; ++i) {
-        std::string name = book.TopicNames(static_cast<std::size_t>(i));
+        std::string name = book.TopicNames(i);
         titles.insert(name);
         Count16 number = i;
         ShownTopic shown;
@@ -226,7 +226,7 @@ TEST_F(AdviceBookTest, topics_areShownWithTheButtonsThatTheyNeed)
     }
     EXPECT_EQ(titles.size(), 10U);
     for (int i = 1; i <= book.XrefCount; ++i) {
-        const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
+        const XrefRec& xref = book.Xrefs(i);
         EXPECT_EQ(titles.count("[" + xref.ToTopic + "]"), 1U) << xref.FromTopic << " -> " << xref.ToTopic;
         EXPECT_NE(xref.ToTopic, xref.FromTopic);
         EXPECT_FALSE(xref.Text.empty()) << xref.FromTopic << " -> " << xref.ToTopic;

@@ -233,21 +233,21 @@ TEST_F(InferenceTest, buildCandidates_growsInSteps)
     Set({rule}, {"AV"});
     engine.BuildCandidates();
     EXPECT_EQ(tables.CandidateCount, 21);
-    EXPECT_EQ(tables.Candidates.UpperBound(), 40U);
+    EXPECT_EQ(tables.Candidates.UpperBound(), 40);
     EXPECT_EQ(Candidates().back(), "V21 x1");
 }
 
 TEST_F(InferenceTest, goalsAndAnswers_growInSteps)
 {
     Set({"AV(GO)=X(1)Y(1)", "X(1)=Y(1)"}, {"AV"});
-    EXPECT_EQ(tables.LogicRules.UpperBound(), 50U);
+    EXPECT_EQ(tables.LogicRules.UpperBound(), 50);
     for (int i = 1; i <= 10; ++i) {
-        EXPECT_EQ(tables.Targets.UpperBound(), 10U);
+        EXPECT_EQ(tables.Targets.UpperBound(), 10);
         engine.RecordAnswer("X", "? - unsure", 1);
     }
-    EXPECT_EQ(tables.Targets.UpperBound(), 20U);
+    EXPECT_EQ(tables.Targets.UpperBound(), 20);
     engine.RecordAnswer("Z", "1", 1);
-    EXPECT_EQ(tables.Answers.UpperBound(), 20U);
+    EXPECT_EQ(tables.Answers.UpperBound(), 20);
 }
 
 TEST_F(InferenceTest, pickNextVariable_mostFrequentThenFirst)
@@ -365,7 +365,7 @@ public:
     {
         Reduce(var, value);
         for (int t = m_tables.TargetCount; t >= 1; --t) {
-            const std::string target = m_tables.Targets(static_cast<std::size_t>(t));
+            const std::string target = m_tables.Targets(t);
             std::string fired;
             for (const std::string& rule : Rules(m_tables)) {
                 const std::size_t open = rule.find('(');
@@ -408,7 +408,7 @@ public:
     {
         Texts names;
         std::map<std::string, int> levels;
-        const std::string goal = m_tables.Targets(static_cast<std::size_t>(int{m_tables.TargetCount}));
+        const std::string goal = m_tables.Targets(int{m_tables.TargetCount});
         for (const std::string& rule : Rules(m_tables)) {
             const std::size_t first = rule.find('(');
             if (first == std::string::npos || rule.substr(0, first) != goal) {

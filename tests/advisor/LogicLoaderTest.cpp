@@ -375,10 +375,10 @@ TEST_F(LogicLoaderTest, tables_growInSteps)
                ManyLines("<Q ID=A>", 21));
     world.Show("A");
     ASSERT_TRUE(AdvisorReader(world).Load());
-    EXPECT_EQ(tables.LogicRules.UpperBound(), 100U);
-    EXPECT_EQ(tables.VarTopics.UpperBound(), 40U);
-    EXPECT_EQ(tables.LogicTopics.UpperBound(), 20U);
-    EXPECT_EQ(tables.Targets.UpperBound(), 10U);
+    EXPECT_EQ(tables.LogicRules.UpperBound(), 100);
+    EXPECT_EQ(tables.VarTopics.UpperBound(), 40);
+    EXPECT_EQ(tables.LogicTopics.UpperBound(), 20);
+    EXPECT_EQ(tables.Targets.UpperBound(), 10);
 }
 
 TEST_F(LogicLoaderTest, rules_asManyAsFit_load)

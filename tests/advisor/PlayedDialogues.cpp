@@ -78,7 +78,7 @@ Texts Played(Book& book, const Seams& seams, const std::vector<Dialogue>& dialog
             const std::size_t pick = dialogue.picks[given++];
             return pick == 0 ? "" : question.choices[pick % question.choices.size()];
         };
-        const std::string& name = book.TopicNames(static_cast<std::size_t>(dialogue.topic));
+        const std::string& name = book.TopicNames(dialogue.topic);
         RunAdvisor(book, tables, seams, player, 1, name);
         if (seams.end.Ended()) {
             break;

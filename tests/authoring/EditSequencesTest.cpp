@@ -209,7 +209,7 @@ private:
     {
         const int number = Pick(1, m_book.TopicCount);
         m_log += " text " + std::to_string(number);
-        TopicRec& rec = m_book.TopicRecs(static_cast<std::size_t>(number));
+        TopicRec& rec = m_book.TopicRecs(number);
         ModelTopic& topic = m_model.At(number);
         if (rec.Text.empty() && rec.Logic.empty()) {
             std::string name = topic.name;
@@ -261,7 +261,7 @@ private:
             Count16 loaded = 0;
             LoadTopicRec(m_book, m_world.Get(), name, loaded);
             ASSERT_EQ(loaded, number);
-            TopicRec& rec = m_book.TopicRecs(static_cast<std::size_t>(number));
+            TopicRec& rec = m_book.TopicRecs(number);
             ASSERT_EQ(rec.Text, topic.text);
             ASSERT_EQ(rec.Logic, topic.logic);
             rec = TopicRec{};

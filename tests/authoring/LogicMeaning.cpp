@@ -54,7 +54,7 @@ Meaning MeaningOf(const std::string& block, const std::vector<std::string>& tags
 
 Meaning MeaningOfTopic(AdvisorWorld& world, int topic, const std::vector<std::string>& tags)
 {
-    world.Show(WithoutBrackets(world.book.TopicNames(static_cast<std::size_t>(topic))));
+    world.Show(WithoutBrackets(world.book.TopicNames(topic)));
     world.tables = {};
     AdvisorReader reader(world);
     Meaning meaning;

@@ -43,10 +43,10 @@ std::string SavedBytes(AdvisorWorld& world)
 /// Brings a topic's block into memory; empty when it has none.
 std::string LoadLogicOf(AdvisorWorld& world, int topic)
 {
-    std::string name = world.book.TopicNames(static_cast<std::size_t>(topic));
+    std::string name = world.book.TopicNames(topic);
     Count16 number = topic;
     LoadTopicRec(world.book, world.seams.Get(), name, number);
-    return world.book.TopicRecs(static_cast<std::size_t>(topic)).Logic;
+    return world.book.TopicRecs(topic).Logic;
 }
 
 struct Seen
@@ -75,7 +75,7 @@ void CheckBook(const std::string& bytes, Seen& seen)
             edited.seams.messages.Take();
             continue;
         }
-        edited.book.TopicRecs(static_cast<std::size_t>(topic)).Logic = *built;
+        edited.book.TopicRecs(topic).Logic = *built;
         if (!block.lost.empty() || !FindLogicFaults(block).empty()) {
             continue;
         }

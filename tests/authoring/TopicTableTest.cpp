@@ -48,7 +48,7 @@ struct TopicTableTest : testing::Test
     {
         std::string order;
         for (int i = 1; i <= book.TopicCount; ++i) {
-            const std::string& name = book.TopicNames(static_cast<std::size_t>(i));
+            const std::string& name = book.TopicNames(i);
             order += name.substr(1, name.size() - 2);
         }
         return order;
@@ -116,11 +116,11 @@ TEST_F(TopicTableTest, add_pastTheBound_growsAllTablesByTen)
     for (int i = 1; i <= 100; ++i) {
         ASSERT_TRUE(AddTopic(book, "T" + std::to_string(i)));
     }
-    EXPECT_EQ(book.TopicNames.UpperBound(), 100U);
+    EXPECT_EQ(book.TopicNames.UpperBound(), 100);
     ASSERT_TRUE(AddTopic(book, "T101"));
-    EXPECT_EQ(book.TopicNames.UpperBound(), 110U);
-    EXPECT_EQ(book.TopicPos.UpperBound(), 110U);
-    EXPECT_EQ(book.TopicRecs.UpperBound(), 110U);
+    EXPECT_EQ(book.TopicNames.UpperBound(), 110);
+    EXPECT_EQ(book.TopicPos.UpperBound(), 110);
+    EXPECT_EQ(book.TopicRecs.UpperBound(), 110);
     EXPECT_EQ(book.TopicNames(1), "[T1]");
     EXPECT_EQ(book.TopicRecs(100).Text, "Insert text here.");
 }
@@ -218,8 +218,8 @@ TEST_F(TopicTableTest, move_boundsStay)
 {
     Fill({"A", "B"});
     MoveTopics(book, {2}, 0);
-    EXPECT_EQ(book.TopicNames.UpperBound(), 100U);
-    EXPECT_EQ(book.TopicRecs.UpperBound(), 100U);
+    EXPECT_EQ(book.TopicNames.UpperBound(), 100);
+    EXPECT_EQ(book.TopicRecs.UpperBound(), 100);
 }
 
 } // namespace

@@ -12,15 +12,15 @@ namespace {
 
 TEST(Array1, new_hasItsBound)
 {
-    EXPECT_EQ(Array1<int>().UpperBound(), 0U);
-    EXPECT_EQ(Array1<int>(100).UpperBound(), 100U);
+    EXPECT_EQ(Array1<int>().UpperBound(), 0);
+    EXPECT_EQ(Array1<int>(100).UpperBound(), 100);
 }
 
 TEST(Array1, grow_insideTheBound_changesNothing)
 {
     Array1<std::string> names(3);
     names.Grow(3, 49);
-    EXPECT_EQ(names.UpperBound(), 3U);
+    EXPECT_EQ(names.UpperBound(), 3);
 }
 
 TEST(Array1, grow_pastTheBound_addsTheStepAndKeepsTheContents)
@@ -29,7 +29,7 @@ TEST(Array1, grow_pastTheBound_addsTheStepAndKeepsTheContents)
     names(1) = "first";
     names(3) = "third";
     names.Grow(4, 49);
-    EXPECT_EQ(names.UpperBound(), 53U);
+    EXPECT_EQ(names.UpperBound(), 53);
     EXPECT_EQ(names(1), "first");
     EXPECT_EQ(names(3), "third");
     EXPECT_EQ(names(4), "");
@@ -40,7 +40,7 @@ TEST(Array1, redim_setsTheBoundAndKeepsWhatFits)
     Array1<int> numbers(4);
     std::iota(numbers.begin(), numbers.end(), 1);
     numbers.Redim(2);
-    EXPECT_EQ(numbers.UpperBound(), 2U);
+    EXPECT_EQ(numbers.UpperBound(), 2);
     EXPECT_EQ(numbers(2), 2);
     numbers.Redim(3);
     EXPECT_EQ(numbers(3), 0);
@@ -51,7 +51,7 @@ TEST(Array1, clearElements_keepsTheBound)
     Array1<std::string> names(2);
     names(2) = "x";
     names.ClearElements();
-    EXPECT_EQ(names.UpperBound(), 2U);
+    EXPECT_EQ(names.UpperBound(), 2);
     EXPECT_EQ(names(2), "");
 }
 

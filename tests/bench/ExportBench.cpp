@@ -99,8 +99,7 @@ void ExportAll(const std::string& path, const std::string& html)
     Require(book.TopicCount == Topics, "it has all topics");
     OneFile output(html);
     for (int number = 1; number <= Topics; ++number) {
-        Require(ExportTopic(book, silent, book.TopicNames(static_cast<std::size_t>(number)), number, output),
-                "a topic is exported");
+        Require(ExportTopic(book, silent, book.TopicNames(number), number, output), "a topic is exported");
     }
 }
 

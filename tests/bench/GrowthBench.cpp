@@ -42,7 +42,7 @@ public:
         : m_path(BookOf(folder, shape)), m_saved(m_path + ".saved"), m_topics(shape.topics)
     {
         m_world.Load(m_book, m_path, m_topics);
-        m_book.TopicRecs(static_cast<std::size_t>(m_topics / 2)).Text = "One topic was edited.\r\n";
+        m_book.TopicRecs(m_topics / 2).Text = "One topic was edited.\r\n";
     }
 
     void OpenAgain()
@@ -72,8 +72,7 @@ public:
         const Seams silent{seams.files, quiet, seams.processes, seams.end, seams.paths};
         NoFileAtAll output;
         for (int number = 1; number <= m_topics; ++number) {
-            Require(ExportTopic(m_book, silent, m_book.TopicNames(static_cast<std::size_t>(number)), number,
-                                output),
+            Require(ExportTopic(m_book, silent, m_book.TopicNames(number), number, output),
                     "a topic is exported");
         }
         Require(output.written > std::filesystem::file_size(m_path) * 8 / 10, "with its text");
@@ -83,7 +82,7 @@ public:
     {
         ShownTopic shown;
         for (int number = 1; number <= m_topics; ++number) {
-            Show(number, m_book.TopicNames(static_cast<std::size_t>(number)), shown);
+            Show(number, m_book.TopicNames(number), shown);
         }
     }
 
@@ -91,12 +90,12 @@ public:
     void ShowByTitle()
     {
         ShownTopic shown;
-        Show(0, m_book.TopicNames(static_cast<std::size_t>(m_topics)), shown);
+        Show(0, m_book.TopicNames(m_topics), shown);
     }
 
     void List(bool alphabetic)
     {
-        m_book.CurrentTopicName = m_book.TopicNames(static_cast<std::size_t>(m_topics));
+        m_book.CurrentTopicName = m_book.TopicNames(m_topics);
         const TopicListModel list = FillTopicList(m_book, alphabetic);
         Require(static_cast<int>(list.items.size()) == m_topics && list.selected >= 0, "all are listed");
     }

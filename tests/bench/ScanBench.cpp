@@ -23,7 +23,7 @@ long MemoryOfScan(const std::string& program, const std::string& path)
 
 void Show(BenchWorld& world, const Book& book, int number, ShownTopic& shown)
 {
-    std::string name = book.TopicNames(static_cast<std::size_t>(number));
+    std::string name = book.TopicNames(number);
     Count16 index = number;
     Require(ShowTopic(book, world.Get(), name, index, 80, shown) == ShowResult::Shown, "a topic is shown");
     Require(shown.lines.Count > 50, "it has its lines");

@@ -38,7 +38,7 @@ struct BookFixture : testing::Test
     {
         Strings texts;
         for (int i = 1; i <= book.XrefCount; ++i) {
-            const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
+            const XrefRec& xref = book.Xrefs(i);
             texts.push_back(xref.FromTopic + ">" + xref.ToTopic + ":" + xref.Text);
         }
         return texts;

@@ -27,10 +27,10 @@ struct BookTables : BookFixture
 
 TEST_F(BookTables, newBook_hasBounds100AndVersion5)
 {
-    EXPECT_EQ(book.TopicNames.UpperBound(), 100U);
-    EXPECT_EQ(book.TopicPos.UpperBound(), 100U);
-    EXPECT_EQ(book.TopicRecs.UpperBound(), 100U);
-    EXPECT_EQ(book.Xrefs.UpperBound(), 100U);
+    EXPECT_EQ(book.TopicNames.UpperBound(), 100);
+    EXPECT_EQ(book.TopicPos.UpperBound(), 100);
+    EXPECT_EQ(book.TopicRecs.UpperBound(), 100);
+    EXPECT_EQ(book.Xrefs.UpperBound(), 100);
     EXPECT_EQ(book.BookVersion, 5.0F);
     EXPECT_EQ(book.BookFileNo, 2);
 }
@@ -38,17 +38,17 @@ TEST_F(BookTables, newBook_hasBounds100AndVersion5)
 TEST_F(BookTables, topics100_fitTheFirstBound)
 {
     ASSERT_TRUE(Scan(ManyTopics(100)));
-    EXPECT_EQ(book.TopicNames.UpperBound(), 100U);
+    EXPECT_EQ(book.TopicNames.UpperBound(), 100);
 }
 
 TEST_F(BookTables, topics101_growAllThreeTablesTo150)
 {
     ASSERT_TRUE(Scan(ManyTopics(101)));
     EXPECT_EQ(book.TopicCount, 101);
-    EXPECT_EQ(book.TopicNames.UpperBound(), 150U);
-    EXPECT_EQ(book.TopicPos.UpperBound(), 150U);
-    EXPECT_EQ(book.TopicRecs.UpperBound(), 150U);
-    EXPECT_EQ(book.Xrefs.UpperBound(), 100U);
+    EXPECT_EQ(book.TopicNames.UpperBound(), 150);
+    EXPECT_EQ(book.TopicPos.UpperBound(), 150);
+    EXPECT_EQ(book.TopicRecs.UpperBound(), 150);
+    EXPECT_EQ(book.Xrefs.UpperBound(), 100);
     EXPECT_EQ(book.TopicNames(101), "[T101]");
 }
 
@@ -56,7 +56,7 @@ TEST_F(BookTables, xrefs101_growTo150)
 {
     ASSERT_TRUE(Scan(ManyXrefs(101)));
     EXPECT_EQ(book.XrefCount, 101);
-    EXPECT_EQ(book.Xrefs.UpperBound(), 150U);
+    EXPECT_EQ(book.Xrefs.UpperBound(), 150);
 }
 
 TEST_F(BookTables, topics32767_areRead)
@@ -110,14 +110,14 @@ TEST_F(BookTables, reset_clearsEverythingAndKeepsTheBounds)
     EXPECT_EQ(book.XrefCount, 0);
     EXPECT_EQ(book.BackCount, 0);
     EXPECT_EQ(book.LogicPos, 0);
-    EXPECT_EQ(book.TopicNames.UpperBound(), 150U);
+    EXPECT_EQ(book.TopicNames.UpperBound(), 150);
     EXPECT_EQ(book.TopicNames(3), "");
     EXPECT_EQ(book.TopicPos(3), 0);
     EXPECT_EQ(book.TopicRecs(5).Text, "");
     EXPECT_FALSE(book.TopicRecs(6).Deleted);
     EXPECT_EQ(book.Xrefs(1).ToTopic, "");
     EXPECT_EQ(book.BackHistory(1), "");
-    EXPECT_EQ(book.BackHistory.UpperBound(), 1000U);
+    EXPECT_EQ(book.BackHistory.UpperBound(), 1000);
 }
 
 } // namespace

@@ -57,10 +57,10 @@ struct SaveRoundTrip : BookFixture, testing::WithParamInterface<std::string>
     {
         std::vector<TopicTexts> topics;
         for (int i = 1; i <= book.TopicCount; ++i) {
-            std::string name = book.TopicNames(static_cast<std::size_t>(i));
+            std::string name = book.TopicNames(i);
             Count16 number = i;
             LoadTopicRec(book, world.Get(), name, number);
-            const TopicRec& rec = book.TopicRecs(static_cast<std::size_t>(i));
+            const TopicRec& rec = book.TopicRecs(i);
             topics.push_back({name, rec.Text, rec.Logic});
         }
         return topics;

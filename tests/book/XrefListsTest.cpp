@@ -16,7 +16,7 @@ struct XrefListsTest : testing::Test
     void Add(const char* from, const char* to)
     {
         ASSERT_TRUE(book.XrefCount.Add());
-        book.Xrefs(static_cast<std::size_t>(book.XrefCount)) = {from, to, "note"};
+        book.Xrefs(book.XrefCount) = {from, to, "note"};
     }
 };
 

@@ -343,8 +343,7 @@ void CompareFolder(const std::string& folder, Tally& tally)
         }
         World world(test::ReadWholeFile(entry.path().string()));
         for (int number = 1; number <= world.book.TopicCount; ++number) {
-            const std::string title =
-                FromBook(WithBrackets(world.book.TopicNames(static_cast<std::size_t>(number))));
+            const std::string title = FromBook(WithBrackets(world.book.TopicNames(number)));
             SCOPED_TRACE(entry.path().filename().string() + " " + title);
             const std::string bare = title.substr(1, title.size() - 2);
             if (ShowForAdvisor(world.book, world.seams.Get(), bare)) {

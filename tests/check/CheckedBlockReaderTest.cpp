@@ -33,7 +33,7 @@ Loaded Load(test::CheckedBook& world, int topic, const std::vector<Texts>& tags,
     AdvisorTables tables;
     LineCursor cursor(*world.book.File);
     ShownTopic shown;
-    std::string name = world.book.TopicNames(static_cast<std::size_t>(topic));
+    std::string name = world.book.TopicNames(topic);
     Count16 number = topic;
     EXPECT_EQ(ShowTopic(world.book, world.seams.Get(), name, number, 80, shown), ShowResult::Shown);
     cursor.Seek(shown.logicPos);

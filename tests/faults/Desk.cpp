@@ -128,7 +128,7 @@ std::string Desk::State() const
     state += view.advisorButton ? ", Advisor" : "";
     bool edited = false;
     for (int i = 1; i <= book.TopicCount; ++i) {
-        edited = edited || !book.TopicRecs(static_cast<std::size_t>(i)).Text.empty();
+        edited = edited || !book.TopicRecs(i).Text.empty();
     }
     state += edited ? ", edited" : "";
     state += book.BookChanged ? ", unsaved" : "";

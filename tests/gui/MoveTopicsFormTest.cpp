@@ -73,7 +73,7 @@ struct MoveTopicsFormTest : testing::Test
     {
         std::string order;
         for (int i = 1; i <= book.TopicCount; ++i) {
-            order += book.TopicNames(static_cast<std::size_t>(i));
+            order += book.TopicNames(i);
         }
         return order;
     }

@@ -46,7 +46,7 @@ protected:
     {
         const std::string path = folder / (name + ".pdf");
         printer.SetFile(path, true);
-        const std::string title = number == 0 ? "" : book.TopicNames(static_cast<std::size_t>(number));
+        const std::string title = number == 0 ? "" : book.TopicNames(number);
         const Printed printed = PrintTopic(book, seams, printer, settings, title, number);
         EXPECT_EQ(printed.failed, FileError{});
         EXPECT_TRUE(printed.located);

@@ -25,7 +25,7 @@ struct XrefFormTest : testing::Test
     void Add(const char* from, const char* to, const char* note)
     {
         ASSERT_TRUE(book.XrefCount.Add());
-        book.Xrefs(static_cast<std::size_t>(book.XrefCount)) = {from, to, note};
+        book.Xrefs(book.XrefCount) = {from, to, note};
     }
 
     void Load()

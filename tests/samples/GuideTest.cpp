@@ -47,7 +47,7 @@ TEST_F(GuideTest, topics_titles_areTwelveOrMoreAndDiffer)
 {
     std::set<std::string> titles;
     for (int i = 1; i <= book.TopicCount; ++i)
-        titles.insert(book.TopicNames(static_cast<std::size_t>(i)));
+        titles.insert(book.TopicNames(i));
     EXPECT_GE(titles.size(), 12U);
     EXPECT_EQ(titles.size(), static_cast<std::size_t>(book.TopicCount));
 }
@@ -56,10 +56,10 @@ TEST_F(GuideTest, xrefs_every_leadsToATopicAndHasANote)
 {
     std::set<std::string> titles;
     for (int i = 1; i <= book.TopicCount; ++i)
-        titles.insert(book.TopicNames(static_cast<std::size_t>(i)));
+        titles.insert(book.TopicNames(i));
     ASSERT_GT(book.XrefCount, 0);
     for (int i = 1; i <= book.XrefCount; ++i) {
-        const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
+        const XrefRec& xref = book.Xrefs(i);
         EXPECT_EQ(titles.count("[" + xref.ToTopic + "]"), 1U) << xref.FromTopic << " -> " << xref.ToTopic;
         EXPECT_FALSE(xref.Text.empty()) << xref.FromTopic << " -> " << xref.ToTopic;
     }
@@ -68,7 +68,7 @@ TEST_F(GuideTest, xrefs_every_leadsToATopicAndHasANote)
 TEST_F(GuideTest, topics_every_isShownWithoutAMessageAndWithItsReferences)
 {
     for (int i = 1; i <= book.TopicCount; ++i) {
-        std::string name = book.TopicNames(static_cast<std::size_t>(i));
+        std::string name = book.TopicNames(i);
         Count16 number;
         ShownTopic shown;
         EXPECT_EQ(ShowTopic(book, world.Get(), name, number, 77, shown), ShowResult::Shown);

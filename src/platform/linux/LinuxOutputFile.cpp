@@ -23,8 +23,9 @@ FileError LinuxOutputFile::Write(std::string_view bytes)
     while (!bytes.empty() && m_failure.Ok()) {
         const ssize_t count = ::write(m_descriptor.Get(), bytes.data(), bytes.size());
         if (count > 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-            StartWriteback(static_cast<std::size_t>(count));
+            const auto taken = static_cast<std::size_t>(count);
+            bytes.remove_prefix(taken);
+            StartWriteback(taken);
         } else if (count == 0) {
             m_failure = MakeFileError(error::DiskFull); // nothing taken and no error: do not try forever
         } else if (errno != EINTR) {

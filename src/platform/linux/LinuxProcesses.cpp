@@ -47,8 +47,8 @@ std::string LinuxProcesses::ProgramFolder()
         if (size < 0) {
             return {};
         }
-        if (static_cast<std::size_t>(size) < path.size()) {
-            path.resize(static_cast<std::size_t>(size));
+        if (const auto length = static_cast<std::size_t>(size); length < path.size()) {
+            path.resize(length);
             return FolderOf(UnixPaths, path);
         }
         path.resize(path.size() * 2);

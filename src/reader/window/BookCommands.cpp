@@ -128,9 +128,8 @@ void BookCommands::ShowRecovered()
     m_book.BookFileNo = 2;
     m_navigation.FillTopicList();
     for (int number = 1; number <= m_book.TopicCount; ++number) {
-        const auto index = static_cast<std::size_t>(number);
-        if (!m_book.TopicRecs(index).Deleted) {
-            m_book.CurrentTopicName = m_book.TopicNames(index);
+        if (!m_book.TopicRecs(number).Deleted) {
+            m_book.CurrentTopicName = m_book.TopicNames(number);
             m_book.CurrentTopicNo = number;
             m_navigation.FillTopicList(); // selects it
             m_navigation.GoToCurrentTopic();

@@ -1,5 +1,6 @@
 #include "reader/window/CheckForm.h"
 
+#include "base/ItemAt.h"
 #include "forms/FormFont.h"
 #include "reader/window/CheckItem.h"
 #include "ui_CheckForm.h"
@@ -80,9 +81,8 @@ int CheckForm::SelectedRow() const
 
 void CheckForm::FindingList_Change()
 {
-    const int row = SelectedRow();
-    m_ui->TextBox->setPlainText(row < 0 ? QString()
-                                        : Shown(m_checked.findings[static_cast<std::size_t>(row)].text));
+    const Finding* const finding = ItemAt(m_checked.findings, SelectedRow());
+    m_ui->TextBox->setPlainText(finding == nullptr ? QString() : Shown(finding->text));
 }
 
 void CheckForm::GoButton_Click()

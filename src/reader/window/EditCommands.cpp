@@ -20,7 +20,7 @@ void EditCommands::EdTextItem_Click()
     if (!IsTopicOnShow(Icon::Warning)) {
         return;
     }
-    const auto number = static_cast<std::size_t>(m_book.CurrentTopicNo);
+    const int number = m_book.CurrentTopicNo;
     TopicRec before = m_book.TopicRecs(number);
     if (!LoadTopicOnShow()) {
         return;
@@ -48,7 +48,7 @@ void EditCommands::AdviceEdItem_Click()
     if (!IsTopicOnShow(Icon::Exclamation)) {
         return;
     }
-    const auto number = static_cast<std::size_t>(m_book.CurrentTopicNo);
+    const int number = m_book.CurrentTopicNo;
     TopicRec before = m_book.TopicRecs(number);
     const bool loaded = LoadTopicOnShow() && LoadUntakenLogic();
     if (!loaded || !m_view.ShowLgEdForm()) {
@@ -71,7 +71,7 @@ bool EditCommands::IsTopicOnShow(Icon icon)
 // would put the editor's block in its place, so the editor must come up with it. False after a message.
 bool EditCommands::LoadUntakenLogic()
 {
-    const auto index = static_cast<std::size_t>(m_book.CurrentTopicNo);
+    const int index = m_book.CurrentTopicNo;
     if (!m_book.TopicRecs(index).Logic.empty() || m_book.TopicPos(index) == 0) {
         return true;
     }
@@ -82,7 +82,7 @@ bool EditCommands::LoadUntakenLogic()
 // it stays on show, unedited.
 bool EditCommands::LoadTopicOnShow()
 {
-    const auto index = static_cast<std::size_t>(m_book.CurrentTopicNo);
+    const int index = m_book.CurrentTopicNo;
     const TopicRec& rec = m_book.TopicRecs(index);
     if (!rec.Text.empty() || !rec.Logic.empty() || m_book.TopicPos(index) == 0) {
         return true;

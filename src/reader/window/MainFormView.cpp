@@ -7,6 +7,7 @@
 #include "authoring/MoveTopicsForm.h"
 #include "authoring/TxEdForm.h"
 #include "base/CodePage.h"
+#include "base/ItemAt.h"
 #include "files/FileForm.h"
 #include "forms/ButtonIcons.h"
 #include "forms/FormProgress.h"
@@ -73,7 +74,7 @@ int MainFormView::ItemCount() const
 
 TopicListItem MainFormView::Item(int index) const
 {
-    return m_items.Items()[static_cast<std::size_t>(index)];
+    return *ItemAt(m_items.Items(), index);
 }
 
 bool MainFormView::Alphabetic() const

@@ -128,7 +128,7 @@ void Navigation::ShowFromHistory(int number)
     if (number == 0) {
         return;
     }
-    m_book.CurrentTopicName = WithoutBrackets(m_book.TopicNames(static_cast<std::size_t>(number)));
+    m_book.CurrentTopicName = WithoutBrackets(m_book.TopicNames(number));
     m_book.CurrentTopicNo = number;
     FillTopicList();
     GoToCurrentTopic();

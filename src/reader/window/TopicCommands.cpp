@@ -83,7 +83,7 @@ void TopicCommands::DropRemovedTopic()
 {
     const int current = m_book.CurrentTopicNo;
     const bool onShow = !m_book.CurrentTopicName.empty() && current > 0 && current <= m_book.TopicCount;
-    if (onShow && m_book.TopicRecs(static_cast<std::size_t>(current)).Deleted) {
+    if (onShow && m_book.TopicRecs(current).Deleted) {
         m_navigation.TopicList_Change();
         m_book.CurrentTopicNo = 0;
     }

@@ -1,6 +1,7 @@
 #include "reader/window/TopicListItems.h"
 
 #include "base/CodePage.h"
+#include "base/ItemAt.h"
 
 #include <string_view>
 #include <utility>
@@ -35,7 +36,7 @@ QVariant TopicListItems::data(const QModelIndex& index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
-    const TopicListItem& item = m_items[static_cast<std::size_t>(index.row())];
+    const TopicListItem& item = *ItemAt(m_items, index.row());
     if (role == Qt::DisplayRole || role == Qt::EditRole) {
         return QString::fromStdString(FromBook(ShownPart(item.text)));
     }

@@ -1,6 +1,7 @@
 #include "reader/window/XrefForm.h"
 
 #include "base/CodePage.h"
+#include "base/ItemAt.h"
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
@@ -88,7 +89,7 @@ void XrefForm::ShowNote(const QListWidget& list)
     const int row = SelectedRow(list);
     if (row >= 0) {
         const QListWidgetItem* item = list.item(row);
-        const auto number = static_cast<std::size_t>(item->data(Qt::UserRole).toInt());
+        const int number = item->data(Qt::UserRole).toInt();
         m_ui->NoteBox->setPlainText(Shown(m_book.Xrefs(number).Text));
     }
 }
@@ -105,15 +106,15 @@ void XrefForm::InGoButton_Click()
 
 void XrefForm::Go(const QListWidget& list, const std::vector<XrefEntry>& entries, const std::string& reminder)
 {
-    const int row = SelectedRow(list);
-    if (row < 0) {
+    const XrefEntry* const entry = ItemAt(entries, SelectedRow(list));
+    if (entry == nullptr) {
         m_seams.messages.MsgBox(reminder, Icon::Exclamation);
         if (m_seams.end.Ended()) {
             reject();
         }
         return;
     }
-    m_book.CurrentTopicName = entries.at(static_cast<std::size_t>(row)).topic;
+    m_book.CurrentTopicName = entry->topic;
     accept();
 }
 

@@ -15,7 +15,7 @@ std::string* DisplayLines::AddLine()
     if (!Count.Add()) {
         return nullptr;
     }
-    const auto number = static_cast<std::size_t>(Count);
+    const int number = Count;
     Lines.Grow(number, DisplayGrowthStep);
     return &Lines(number);
 }
@@ -23,7 +23,7 @@ std::string* DisplayLines::AddLine()
 void DisplayLines::Clear()
 {
     for (int number = 1; number <= Count; ++number) {
-        std::string& line = Lines(static_cast<std::size_t>(number));
+        std::string& line = Lines(number);
         if (line.capacity() > KeptCapacity) {
             std::string().swap(line);
         }

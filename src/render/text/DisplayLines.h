@@ -16,10 +16,7 @@ struct DisplayLines
     Array1<std::string> Lines; ///< elements 1..Count are in use
     Count16 Count;
 
-    [[nodiscard]] const std::string& operator()(int number) const
-    {
-        return Lines(static_cast<std::size_t>(number));
-    }
+    [[nodiscard]] const std::string& operator()(int number) const { return Lines(number); }
 
     /// Counts one line more and gives it to be overwritten; nullptr when there are 32,767 already.
     [[nodiscard]] std::string* AddLine();
@@ -29,6 +26,6 @@ struct DisplayLines
 };
 
 /// How the table grows: past its bound, the bound becomes the new count plus this.
-inline constexpr std::size_t DisplayGrowthStep = 999;
+inline constexpr int DisplayGrowthStep = 999;
 
 } // namespace ls

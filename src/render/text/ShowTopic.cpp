@@ -102,15 +102,14 @@ private:
 // text in memory, so whatever is wrong with the file is no news to the user here.
 FilePos FindLogic(const Book& book, int number)
 {
-    const auto index = static_cast<std::size_t>(number);
-    if (!book.File || book.TopicPos(index) == 0) {
+    if (!book.File || book.TopicPos(number) == 0) {
         return 0;
     }
     LineCursor cursor(*book.File);
-    cursor.Seek(book.TopicPos(index));
+    cursor.Seek(book.TopicPos(number));
     FileBody body(cursor);
     std::string_view line;
-    if (!body.Next(line) || Trim(line) != book.TopicNames(index)) {
+    if (!body.Next(line) || Trim(line) != book.TopicNames(number)) {
         return 0;
     }
     while (body.Next(line) && !IsTopicHeader(line)) {
@@ -124,11 +123,10 @@ FilePos FindLogic(const Book& book, int number)
 // The text in memory of a topic, nullptr when it is unedited and stands in the file.
 const std::string* EditedText(const Book& book, int number)
 {
-    const auto index = static_cast<std::size_t>(number);
-    if (number < 1 || index > book.TopicRecs.UpperBound() || book.TopicRecs(index).Text.empty()) {
+    if (number < 1 || number > book.TopicRecs.UpperBound() || book.TopicRecs(number).Text.empty()) {
         return nullptr;
     }
-    return &book.TopicRecs(index).Text;
+    return &book.TopicRecs(number).Text;
 }
 
 // A reference in another topic counts too: the reader may want to go back along it.

@@ -122,7 +122,7 @@ void RequireShownText(World& world, const Book& book, int number, const std::vec
         return line.find_first_of("<&\t\n") == std::string::npos && ListIndent(line) == 0;
     });
     ShownTopic shown;
-    std::string name = book.TopicNames(static_cast<std::size_t>(number));
+    std::string name = book.TopicNames(number);
     Count16 index = number;
     if (!plain || ShowTopic(book, world.Get(), name, index, 80, shown) != ShowResult::Shown) {
         return;

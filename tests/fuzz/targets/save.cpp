@@ -36,7 +36,7 @@ std::string Save(World& world, const Book& book, const std::string& path)
 
 void Load(World& world, Book& book, int topic)
 {
-    std::string name = book.TopicNames(static_cast<std::size_t>(topic));
+    std::string name = book.TopicNames(topic);
     Count16 number = topic;
     LoadTopicRec(book, world.Get(), name, number);
 }
@@ -52,7 +52,7 @@ Opened LoadAll(World& world, Book& book)
                                                    book.TopicRecs(number).Logic});
     }
     for (int i = 1; i <= book.XrefCount; ++i) {
-        const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
+        const XrefRec& xref = book.Xrefs(i);
         opened.xrefs.push_back(xref.FromTopic + ">" + xref.ToTopic + ":" + xref.Text);
     }
     return opened;
@@ -106,8 +106,8 @@ bool HoldsTogether(const TopicRec& rec)
 
 void EditTopic(World& world, Book& book, Input& input, int topic)
 {
-    TopicRec& rec = book.TopicRecs(static_cast<std::size_t>(topic));
-    if (!book.TopicNames(static_cast<std::size_t>(topic)).ends_with(']')) {
+    TopicRec& rec = book.TopicRecs(topic);
+    if (!book.TopicNames(topic).ends_with(']')) {
         return; // a header line without its bracket: the topic is not found, so nobody can edit it
     }
     Load(world, book, topic);
@@ -130,10 +130,9 @@ void EditTopic(World& world, Book& book, Input& input, int topic)
 bool HasEndlessNote(const Book& book, const std::string& bytes)
 {
     for (int i = 1; i <= book.TopicCount; ++i) {
-        const auto from = static_cast<std::size_t>(book.TopicPos(static_cast<std::size_t>(i)) - 1);
+        const auto from = static_cast<std::size_t>(book.TopicPos(i) - 1);
         const bool last = i == book.TopicCount;
-        const auto to = last ? bytes.size()
-                             : static_cast<std::size_t>(book.TopicPos(static_cast<std::size_t>(i + 1)) - 1);
+        const auto to = last ? bytes.size() : static_cast<std::size_t>(book.TopicPos(i + 1) - 1);
         const std::string topic = bytes.substr(from, to - from);
         for (const SpecialLine& line : FindSpecialLines(topic)) {
             if (line.meaning == LineMeaning::OpensEndless) {
@@ -148,7 +147,7 @@ void ArrangeTopics(Book& book, Input& input)
 {
     for (std::size_t added = input.Choose(3); added > 0; --added) {
         Require(AddTopic(book, "Added " + std::to_string(added)), "a topic can be added");
-        book.TopicRecs(static_cast<std::size_t>(book.TopicCount)).Text = ChooseText(input);
+        book.TopicRecs(book.TopicCount).Text = ChooseText(input);
     }
     std::vector<RemovalChoice> removals;
     for (int i = 1; i <= book.TopicCount; ++i) {

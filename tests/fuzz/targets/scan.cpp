@@ -129,7 +129,7 @@ void TestInput(Input& input)
     RequireEqual(topics, found.topics, "the scan finds the topics of a plain reading");
     std::vector<std::string> xrefs;
     for (int i = 1; i <= book.XrefCount; ++i) {
-        const XrefRec& xref = book.Xrefs(static_cast<std::size_t>(i));
+        const XrefRec& xref = book.Xrefs(i);
         xrefs.push_back(xref.FromTopic + ">" + xref.ToTopic + ":" + xref.Text);
     }
     RequireEqual(xrefs, found.xrefs, "the scan finds the references of a plain reading");
@@ -137,7 +137,7 @@ void TestInput(Input& input)
     world.messages.texts.clear();
     for (int i = 1; i <= book.TopicCount; ++i) {
         LineCursor cursor(*book.File);
-        std::string name = book.TopicNames(static_cast<std::size_t>(i));
+        std::string name = book.TopicNames(i);
         Count16 number = i;
         LocateTopic(book, world.Get(), cursor, name, number);
         Require(world.messages.texts.empty() && !name.empty(), "every topic of the table is located");

@@ -24,7 +24,7 @@ struct AdviceEdItemTest : MainFixture
         edit.AdviceEdItem_Click();
     }
 
-    [[nodiscard]] TopicRec& Rec() { return book.TopicRecs(static_cast<std::size_t>(book.CurrentTopicNo)); }
+    [[nodiscard]] TopicRec& Rec() { return book.TopicRecs(book.CurrentTopicNo); }
 
     void OpenWithLogic()
     {

@@ -31,10 +31,10 @@ TEST_F(StartUpTest, start_noBook_showsNothing)
     EXPECT_EQ(view.fileForms, 0);
     EXPECT_EQ(book.BookVersion, 5.0F);
     EXPECT_EQ(book.BookFileNo, 2);
-    EXPECT_EQ(book.TopicNames.UpperBound(), 100U);
-    EXPECT_EQ(book.TopicPos.UpperBound(), 100U);
-    EXPECT_EQ(book.TopicRecs.UpperBound(), 100U);
-    EXPECT_EQ(book.Xrefs.UpperBound(), 100U);
+    EXPECT_EQ(book.TopicNames.UpperBound(), 100);
+    EXPECT_EQ(book.TopicPos.UpperBound(), 100);
+    EXPECT_EQ(book.TopicRecs.UpperBound(), 100);
+    EXPECT_EQ(book.Xrefs.UpperBound(), 100);
 }
 
 TEST_F(StartUpTest, start_book_showsItsFirstTopicSharedAndRemembersIt)

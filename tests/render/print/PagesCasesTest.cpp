@@ -114,7 +114,7 @@ TEST_P(SamplePages, everyTopic_printsItsPages)
         Add("", 0);
     }
     for (int number = 1; number <= book.TopicCount; ++number) {
-        Add(WithoutBrackets(book.TopicNames(static_cast<std::size_t>(number))), number);
+        Add(WithoutBrackets(book.TopicNames(number)), number);
     }
     const Strings golden = Golden();
     ASSERT_GT(golden.size(), 20U);

@@ -91,7 +91,7 @@ TEST_P(BookCase, topics_shownAsExpected)
     for (const Json& show : m_expected["show"].Items()) {
         Count16 number = show["number"].Int();
         SCOPED_TRACE("topic " + std::to_string(number) + ", width " + std::to_string(show["width"].Int()));
-        std::string name = m_book.TopicNames(static_cast<std::size_t>(number));
+        std::string name = m_book.TopicNames(number);
         ShownTopic shown;
         ASSERT_EQ(ShowTopic(m_book, m_test.Get(), name, number, show["width"].Int(), shown),
                   ShowResult::Shown);

@@ -12,15 +12,15 @@ namespace {
 TEST(DisplayLines, addLine_pastTheBound_growsToTheCountPlus999)
 {
     DisplayLines lines;
-    EXPECT_EQ(lines.Lines.UpperBound(), 0U);
+    EXPECT_EQ(lines.Lines.UpperBound(), 0);
     *lines.AddLine() = "first";
-    EXPECT_EQ(lines.Lines.UpperBound(), 1000U);
+    EXPECT_EQ(lines.Lines.UpperBound(), 1000);
     while (lines.Count < 1000) {
         ASSERT_NE(lines.AddLine(), nullptr);
     }
-    EXPECT_EQ(lines.Lines.UpperBound(), 1000U);
+    EXPECT_EQ(lines.Lines.UpperBound(), 1000);
     ASSERT_NE(lines.AddLine(), nullptr);
-    EXPECT_EQ(lines.Lines.UpperBound(), 2000U);
+    EXPECT_EQ(lines.Lines.UpperBound(), 2000);
     EXPECT_EQ(lines(1), "first");
 }
 
