@@ -101,7 +101,7 @@ LogicEditor::Variable* LogicEditor::Selected()
 LogicEditor::Choice* LogicEditor::SelectedChoice()
 {
     Variable* variable = Selected();
-    return variable == nullptr ? nullptr : At(variable->choices, m_choice);
+    return variable == nullptr ? nullptr : ItemAt(variable->choices, m_choice);
 }
 
 std::size_t LogicEditor::ChoiceCount() const

@@ -110,13 +110,14 @@ RunningEdits ApplyJournal(const Journal& journal, Book& book)
             positions[i] = book.TopicPos(topics[i].fileNumber);
         }
     }
-    GrowTopicTables(book, topics.size());
-    for (std::size_t i = 0; i < topics.size(); ++i) {
-        book.TopicNames(i + 1) = topics[i].name;
-        book.TopicPos(i + 1) = positions[i];
-        book.TopicRecs(i + 1) = TopicRec{{}, {}, topics[i].deleted};
-    }
     book.TopicCount = static_cast<int>(topics.size());
+    GrowTopicTables(book, book.TopicCount);
+    for (std::size_t i = 0; i < topics.size(); ++i) {
+        const int number = static_cast<int>(i) + 1;
+        book.TopicNames(number) = topics[i].name;
+        book.TopicPos(number) = positions[i];
+        book.TopicRecs(number) = TopicRec{{}, {}, topics[i].deleted};
+    }
     for (const JournalRec& rec : journal.recs) {
         TopicRec& to = book.TopicRecs(rec.topic);
         to.Text = rec.text;
@@ -141,8 +142,8 @@ RunningEdits AsNewBook(const Journal& journal, Book& book)
 {
     std::map<int, int> newNumbers;
     for (const auto& [number, rec] : EditedTopics(journal)) {
-        const auto index = newNumbers.size() + 1; // no more than a table holds: their numbers are of one
-        newNumbers[number] = static_cast<int>(index);
+        const int index = static_cast<int>(newNumbers.size()) + 1; // no more than the table of a book holds
+        newNumbers[number] = index;
         GrowTopicTables(book, index);
         book.TopicNames(index) = rec.name;
         book.TopicPos(index) = 0;
