@@ -67,12 +67,12 @@ private:
 
 } // namespace
 
-void Definitions::ReadFailed(const FileError& failed, std::string_view action)
+void Definitions::ReadFailed(const FileError& error, std::string_view action)
 {
-    m_context.seams.messages.MsgBox(std::string(AppTitle) + ": " + std::to_string(failed.number) + "Error " +
-                                        std::string(action) + " idea file <<" +
-                                        FromPath(m_context.book.BookPath) + ">> due to error",
-                                    Icon::Critical);
+    m_context.seams.messages.MsgBox(
+        std::string(AppTitle) + ": " + std::to_string(error.number) + "Error " + std::string(action) +
+            " idea file <<" + FromPath(m_context.book.BookPath) + ">>" + DueTo(error, ErrorForm::Unnamed),
+        Icon::Critical);
 }
 
 // A topic that was added and never saved has no place in the file.
@@ -94,10 +94,10 @@ void Definitions::LoadTopicIfNeeded(Count16 topic, std::string& advice)
     if (std::find(loaded.begin(), loaded.end(), topic) != loaded.end()) {
         return;
     }
-    const FileError failed = SeekTopic(topic);
-    if (!failed.Ok()) {
-        m_context.seams.messages.MsgBox(
-            "Error accessing idea file due to error: " + std::to_string(failed.number), Icon::Critical);
+    const FileError error = SeekTopic(topic);
+    if (!error.Ok()) {
+        m_context.seams.messages.MsgBox("Error accessing idea file" + DueTo(error, ErrorForm::NumberOnly),
+                                        Icon::Critical);
         return;
     }
     LoadLogic(m_context, m_inference, topic, true, advice);
@@ -109,9 +109,9 @@ FileError Definitions::SkipToDefinitions()
     bool ownHeader = true;
     std::string line;
     while (!m_context.cursor.AtEnd()) {
-        const FileError failed = m_context.cursor.ReadLine(line);
-        if (!failed.Ok()) {
-            return failed;
+        const FileError error = m_context.cursor.ReadLine(line);
+        if (!error.Ok()) {
+            return error;
         }
         if (StartsTopic(line) && !ownHeader) {
             break;
@@ -142,12 +142,12 @@ Count16 Definitions::GotoTopicForVar(const std::string& var, std::string& advice
         return topic;
     }
     LoadTopicIfNeeded(topic, advice);
-    FileError failed = SeekTopic(topic);
-    if (failed.Ok()) {
-        failed = SkipToDefinitions();
+    FileError error = SeekTopic(topic);
+    if (error.Ok()) {
+        error = SkipToDefinitions();
     }
-    if (!failed.Ok()) {
-        ReadFailed(failed, "accessing");
+    if (!error.Ok()) {
+        ReadFailed(error, "accessing");
     }
     return topic;
 }
@@ -159,9 +159,9 @@ bool Definitions::ReadPiece(std::string_view& line)
     if (m_context.cursor.AtEnd()) {
         return false;
     }
-    const FileError failed = m_context.cursor.ReadLine(line);
-    if (!failed.Ok()) {
-        ReadFailed(failed, "reading");
+    const FileError error = m_context.cursor.ReadLine(line);
+    if (!error.Ok()) {
+        ReadFailed(error, "reading");
         return false;
     }
     return !StartsTopic(line);

@@ -39,7 +39,7 @@ private:
     FileError SkipToDefinitions();
     bool FindTag(const std::string& openTag, std::string_view& piece);
     bool ReadPiece(std::string_view& line);
-    void ReadFailed(const FileError& failed, std::string_view action);
+    void ReadFailed(const FileError& error, std::string_view action);
 
     AdvisorContext& m_context;
     Inference& m_inference;

@@ -61,7 +61,7 @@ private:
     int TopicNumber(const std::string& title);
     bool AddVariable(std::string name, int topic);
     bool Fail(const std::string& message);
-    bool ReadFailed(const FileError& failed);
+    bool ReadFailed(const FileError& error);
     bool OverflowFails();
 
     const Book& m_book;
@@ -83,10 +83,10 @@ bool Loader::Fail(const std::string& message)
     return false;
 }
 
-bool Loader::ReadFailed(const FileError& failed)
+bool Loader::ReadFailed(const FileError& error)
 {
-    return Fail(std::string(AppTitle) + ": " + std::to_string(failed.number) + "Error reading file <<" +
-                FromPath(m_book.BookPath) + ">> due to error");
+    return Fail(std::string(AppTitle) + ": " + std::to_string(error.number) + "Error reading file <<" +
+                FromPath(m_book.BookPath) + ">>" + DueTo(error, ErrorForm::Unnamed));
 }
 
 bool Loader::OverflowFails()
@@ -119,9 +119,9 @@ bool Loader::FindLogicSection()
     bool ownHeader = m_additional; // the cursor stands at the topic's own "[Title]" line, which ends nothing
     std::string line;
     for (;;) {
-        const FileError failed = m_cursor.ReadLine(line);
-        if (!failed.Ok()) {
-            return ReadFailed(failed);
+        const FileError error = m_cursor.ReadLine(line);
+        if (!error.Ok()) {
+            return ReadFailed(error);
         }
         if (EqualsUpper(Trim(line), "<LOGIC>")) {
             return true;
@@ -140,9 +140,9 @@ bool Loader::ReadLogicSection()
     }
     std::string line;
     while (!m_cursor.AtEnd()) {
-        const FileError failed = m_cursor.ReadLine(line);
-        if (!failed.Ok()) {
-            return ReadFailed(failed);
+        const FileError error = m_cursor.ReadLine(line);
+        if (!error.Ok()) {
+            return ReadFailed(error);
         }
         if (StartsTopic(line)) {
             break;
@@ -242,9 +242,9 @@ bool Loader::ReadDefinitions()
     }
     std::string line;
     while (!m_cursor.AtEnd()) {
-        const FileError failed = m_cursor.ReadLine(line);
-        if (!failed.Ok()) {
-            return ReadFailed(failed);
+        const FileError error = m_cursor.ReadLine(line);
+        if (!error.Ok()) {
+            return ReadFailed(error);
         }
         const std::string_view trimmed = Trim(line);
         if (trimmed.empty()) {

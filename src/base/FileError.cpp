@@ -51,4 +51,25 @@ FileError MakeFileError(int number)
     return {number, DescriptionOf(number)};
 }
 
+std::string NumberAndDescription(const FileError& error)
+{
+    return std::to_string(error.number) + ": " + error.description;
+}
+
+std::string DueTo(const FileError& error, ErrorForm form)
+{
+    const std::string start = " due to error";
+    switch (form) {
+    case ErrorForm::Full:
+        return start + " #" + NumberAndDescription(error);
+    case ErrorForm::WithoutMark:
+        return start + " " + NumberAndDescription(error);
+    case ErrorForm::NumberOnly:
+        return start + ": " + std::to_string(error.number);
+    case ErrorForm::Unnamed:
+        break;
+    }
+    return start;
+}
+
 } // namespace ls

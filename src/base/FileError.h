@@ -4,9 +4,9 @@
 
 namespace ls {
 
-/// What a file operation came to: number 0 is success, every other number has a description that messages
+/// The result of a file operation: number 0 is success, every other number has a description that messages
 /// show.
-struct FileError
+struct [[nodiscard]] FileError
 {
     int number = 0;
     std::string description;
@@ -37,5 +37,20 @@ constexpr int PathNotFound = 76;
 
 /// The error of that number with its description; `FileError{}` for 0.
 [[nodiscard]] FileError MakeFileError(int number);
+
+/// "53: File not found".
+[[nodiscard]] std::string NumberAndDescription(const FileError& error);
+
+/// How a message names the error that it reports. Each message keeps the form that its readers know.
+enum class ErrorForm
+{
+    Full,        ///< " due to error #53: File not found"
+    WithoutMark, ///< " due to error 53: File not found"
+    NumberOnly,  ///< " due to error: 53"
+    Unnamed,     ///< " due to error"
+};
+
+/// The end of a message about a file operation, with the blank before it.
+[[nodiscard]] std::string DueTo(const FileError& error, ErrorForm form = ErrorForm::Full);
 
 } // namespace ls

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 namespace ls {
@@ -82,6 +83,10 @@ public:
     virtual FileError RenameOver(const std::string& from, const std::string& to) = 0;
 
     virtual FileError Remove(const std::string& path) = 0;
+
+    /// Clears up after an error that is reported, or before a fresh start: a file that cannot be removed
+    /// stays.
+    void RemoveIfPossible(const std::string& path) { std::ignore = Remove(path); }
 
     /// Whether the user may write over a file: error 70 for one that is marked read-only. The system may let
     /// another file take its name all the same.

@@ -120,9 +120,9 @@ std::size_t LineCursor::RestOfLine()
     Seek(Position());
     std::size_t rest = 0;
     for (std::size_t size = 1; size > 0;) {
-        const FileError failed =
+        const FileError error =
             m_file->ReadAt(m_blockPos + static_cast<FilePos>(rest), m_block.get(), m_capacity, size);
-        if (!failed.Ok()) {
+        if (!error.Ok()) {
             break; // whoever reads on gets it
         }
         if (const void* end = std::memchr(m_block.get(), '\r', size); end != nullptr) {
@@ -183,9 +183,9 @@ FileError LineCursor::ReadLine(std::string_view& line)
         m_next += length + (block[length + 1] == '\n' ? 2 : 1);
         return {};
     }
-    FileError failed = ReadLine(m_line);
+    FileError error = ReadLine(m_line);
     line = m_line;
-    return failed;
+    return error;
 }
 
 FileError LineCursor::ReadPiece(std::string_view& piece, bool& more)
@@ -310,8 +310,8 @@ FileError LineCursor::SkipToLineBeginning(char first, char second)
         if (c == first || c == second) {
             return {};
         }
-        if (FileError failed = SkipLine(); !failed.Ok()) {
-            return failed;
+        if (FileError error = SkipLine(); !error.Ok()) {
+            return error;
         }
     }
 }

@@ -34,16 +34,16 @@ public:
         if (!m_file) {
             return MakeFileError(error::BadFileNumber);
         }
-        FileError failed = m_file->Finish();
-        if (failed.Ok()) {
-            failed = (m_files->*m_giveName)(m_newPath, m_path);
+        FileError error = m_file->Finish();
+        if (error.Ok()) {
+            error = (m_files->*m_giveName)(m_newPath, m_path);
         }
-        if (failed.Ok()) {
+        if (error.Ok()) {
             m_file.reset();
         } else {
             Drop();
         }
-        return failed;
+        return error;
     }
 
 private:
@@ -51,7 +51,7 @@ private:
     {
         if (m_file) {
             m_file.reset(); // a file that is open cannot be removed everywhere
-            m_files->Remove(m_newPath);
+            m_files->RemoveIfPossible(m_newPath);
         }
     }
 
@@ -88,8 +88,8 @@ FileError OpenBeside(FileSystem& files, GiveName giveName, const std::string& pa
 {
     const std::string newPath = FreeNameBeside(files, path);
     std::unique_ptr<OutputFile> newFile;
-    if (FileError failed = files.CreateNew(newPath, newFile); !failed.Ok()) {
-        return failed;
+    if (FileError error = files.CreateNew(newPath, newFile); !error.Ok()) {
+        return error;
     }
     file = std::make_unique<Replacement>(files, giveName, path, newPath, std::move(newFile));
     return {};

@@ -42,9 +42,9 @@ enum class TopicLocation
 };
 
 /// Positions `cursor` at the first body line of the topic with this header line ("[Title]"), without any
-/// message. `number` as for `LocateTopic`; `failed` is the error of one that is `Unreadable`.
+/// message. `number` as for `LocateTopic`; `error` is the error of one that is `Unreadable`.
 [[nodiscard]] TopicLocation GoToTopic(const Book& book, LineCursor& cursor, const std::string& key,
-                                      Count16& number, FileError& failed);
+                                      Count16& number, FileError& error);
 
 /// Positions `cursor` at the first body line of a topic.
 ///
@@ -59,7 +59,7 @@ void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::
 void ShowNotFound(const Seams& seams, const std::string& key);
 
 /// The message for a topic that cannot be read.
-void ShowFetchError(const Seams& seams, const std::string& name, const FileError& failed);
+void ShowFetchError(const Seams& seams, const std::string& name, const FileError& error);
 
 /// Brings a topic's text and logic block from the file into its `TopicRec`, ready to be edited.
 ///

@@ -54,8 +54,8 @@ public:
         const std::size_t kept = m_text.size();
         m_text.resize(kept + BlockSize);
         std::size_t got = 0;
-        if (FileError failed = m_file->ReadAt(m_pos, m_text.data() + kept, BlockSize, got); !failed.Ok()) {
-            return failed;
+        if (FileError error = m_file->ReadAt(m_pos, m_text.data() + kept, BlockSize, got); !error.Ok()) {
+            return error;
         }
         m_pos += static_cast<FilePos>(got);
         m_text.resize(kept + got);
@@ -74,8 +74,8 @@ private:
         if (m_progress == nullptr) {
             return {};
         }
-        if (FileError failed = m_file->Size(size); !failed.Ok()) {
-            return failed;
+        if (FileError error = m_file->Size(size); !error.Ok()) {
+            return error;
         }
         if (size > static_cast<FilePos>(BlockSize)) {
             m_progress->Step(m_half * size + std::min(m_pos - 1, size), 2 * size);
@@ -290,8 +290,8 @@ FileError FindUnconvertible(BookFile& from, Progress* progress, TextFindings& fi
     Examination examination(findings);
     for (;;) {
         std::string_view piece;
-        if (FileError failed = pieces.Next(piece); !failed.Ok() || piece.empty()) {
-            return failed;
+        if (FileError error = pieces.Next(piece); !error.Ok() || piece.empty()) {
+            return error;
         }
         if (!examination.Take(piece)) {
             return {};
@@ -306,8 +306,8 @@ FileError ConvertText(BookFile& from, const TextFindings& findings, OutputFile& 
     Conversion conversion(findings.coding == TextCoding::Utf8);
     for (;;) {
         std::string_view piece;
-        if (FileError failed = pieces.Next(piece); !failed.Ok()) {
-            return failed;
+        if (FileError error = pieces.Next(piece); !error.Ok()) {
+            return error;
         }
         if (piece.empty()) {
             lines = conversion.Finish();
@@ -317,8 +317,8 @@ FileError ConvertText(BookFile& from, const TextFindings& findings, OutputFile& 
         if (!text) {
             return MakeFileError(error::DeviceIo);
         }
-        if (FileError failed = to.Write(*text); !failed.Ok()) {
-            return failed;
+        if (FileError error = to.Write(*text); !error.Ok()) {
+            return error;
         }
     }
 }

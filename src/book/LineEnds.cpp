@@ -46,33 +46,33 @@ std::string FreeNumberedName(const Seams& seams, const std::string& path)
 FileError WritePart(FileSystem& files, BookFile& from, const std::string& part)
 {
     std::unique_ptr<OutputFile> to;
-    FileError failed = files.CreateNew(part, to);
-    if (!failed.Ok()) {
-        return failed;
+    FileError error = files.CreateNew(part, to);
+    if (!error.Ok()) {
+        return error;
     }
-    failed = CopyWithCrLf(from, *to);
-    if (failed.Ok()) {
-        failed = to->Finish();
+    error = CopyWithCrLf(from, *to);
+    if (error.Ok()) {
+        error = to->Finish();
     }
-    if (!failed.Ok()) {
+    if (!error.Ok()) {
         to.reset();
-        files.Remove(part);
+        files.RemoveIfPossible(part);
     }
-    return failed;
+    return error;
 }
 
 // Writes the copy under another name first, so that a cut one never passes for a whole book.
 FileError MakeCopy(FileSystem& files, BookFile& from, const std::string& copy)
 {
     const std::string part = copy + std::string(PartType);
-    FileError failed = WritePart(files, from, part);
-    if (failed.Ok()) {
-        failed = files.RenameToNew(part, copy);
-        if (!failed.Ok()) {
-            files.Remove(part);
+    FileError error = WritePart(files, from, part);
+    if (error.Ok()) {
+        error = files.RenameToNew(part, copy);
+        if (!error.Ok()) {
+            files.RemoveIfPossible(part);
         }
     }
-    return failed;
+    return error;
 }
 
 } // namespace
@@ -96,13 +96,13 @@ FileError CopyWithCrLf(BookFile& from, OutputFile& to)
     FilePos pos = 1;
     for (;;) {
         std::size_t got = 0;
-        if (FileError failed = from.ReadAt(pos, block.data(), block.size(), got); !failed.Ok() || got == 0) {
-            return failed;
+        if (FileError error = from.ReadAt(pos, block.data(), block.size(), got); !error.Ok() || got == 0) {
+            return error;
         }
         text.clear();
         AppendWithCrLf(text, {block.data(), got}, previous);
-        if (FileError failed = to.Write(text); !failed.Ok()) {
-            return failed;
+        if (FileError error = to.Write(text); !error.Ok()) {
+            return error;
         }
         previous = block[got - 1];
         pos += static_cast<FilePos>(got);
@@ -123,13 +123,12 @@ std::string OfferConvertedCopy(const Book& book, const Seams& seams)
         return book.BookPath;
     }
     const std::string copy = FreeNumberedName(seams, realPath);
-    const FileError failed =
+    const FileError error =
         copy.empty() ? MakeFileError(error::FileAlreadyExists) : MakeCopy(seams.files, *file, copy);
-    if (failed.Ok()) {
+    if (error.Ok()) {
         return copy;
     }
-    seams.messages.MsgBox("Failed to write the converted copy <<" + FromPath(copy) + ">> due to error #" +
-                              std::to_string(failed.number) + ": " + failed.description,
+    seams.messages.MsgBox("Failed to write the converted copy <<" + FromPath(copy) + ">>" + DueTo(error),
                           Icon::Warning);
     return book.BookPath;
 }

@@ -25,15 +25,15 @@ public:
     TopicReader(LineCursor& cursor, FilePos end) : m_cursor(cursor), m_end(end) {}
 
     // Appends the next line to `text`, where it then begins at `start`. False at the end of the topic, and
-    // after an error, which `Failed` tells. Nothing is copied: a line may fill half of the memory.
+    // after an error, which `Error` tells. Nothing is copied: a line may fill half of the memory.
     bool Append(std::string& text, std::size_t& start)
     {
         start = text.size();
-        if (!m_failed.Ok() || m_cursor.Position() >= m_end) {
+        if (!m_error.Ok() || m_cursor.Position() >= m_end) {
             return false;
         }
-        m_failed = m_cursor.AppendLine(text);
-        if (!m_failed.Ok()) {
+        m_error = m_cursor.AppendLine(text);
+        if (!m_error.Ok()) {
             return false;
         }
         TrimEnd(text, start);
@@ -47,7 +47,7 @@ public:
     }
 
     // A read error, or a file that ends before the topic does: somebody cut it after the scan.
-    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+    [[nodiscard]] const FileError& Error() const { return m_error; }
 
 private:
     // With a blank behind it "<INDEX>" is a line like any other. Without it, a saved book would list no
@@ -62,7 +62,7 @@ private:
 
     LineCursor& m_cursor;
     FilePos m_end;
-    FileError m_failed;
+    FileError m_error;
 };
 
 // Appends the lines that are left.
@@ -111,11 +111,11 @@ bool LoadPlainText(Book& book, const Seams& seams, std::string* plainText)
     LineCursor cursor(*book.File);
     while (!cursor.AtEnd()) {
         const std::size_t start = plainText->size();
-        if (const FileError failed = cursor.AppendLine(*plainText); !failed.Ok()) {
+        if (const FileError error = cursor.AppendLine(*plainText); !error.Ok()) {
             // Half a file would pass for the whole.
             plainText->clear();
             // The file has no topic that the message could name.
-            ShowFetchError(seams, ToBook(FromPath(book.BookPath)).value_or(std::string()), failed);
+            ShowFetchError(seams, ToBook(FromPath(book.BookPath)).value_or(std::string()), error);
             return false;
         }
         plainText->resize(start + TrimRight(std::string_view(*plainText).substr(start)).size());
@@ -143,9 +143,9 @@ bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
     std::string text;
     const bool hasLogic = ReadText(reader, text);
     std::string logic = hasLogic ? ReadLogic(reader) : std::string();
-    if (!reader.Failed().Ok()) {
+    if (!reader.Error().Ok()) {
         // Half a topic in memory would be saved as the whole: it stays unedited instead.
-        ShowFetchError(seams, name, reader.Failed());
+        ShowFetchError(seams, name, reader.Error());
         name.clear();
         number = 0;
         return false;
@@ -172,8 +172,8 @@ bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number, std
         block.append(LogicOpening).append(LineEnd);
         ReadRest(reader, block);
     }
-    if (!reader.Failed().Ok()) {
-        ShowFetchError(seams, name, reader.Failed());
+    if (!reader.Error().Ok()) {
+        ShowFetchError(seams, name, reader.Error());
         return false;
     }
     if (!block.empty()) {

@@ -25,17 +25,15 @@ void ShowNotFound(const Seams& seams, const std::string& key)
     seams.messages.MsgBox("Topic " + FromBook(key) + " was not found.", Icon::Warning);
 }
 
-void ShowFetchError(const Seams& seams, const std::string& name, const FileError& failed)
+void ShowFetchError(const Seams& seams, const std::string& name, const FileError& error)
 {
-    seams.messages.MsgBox("Failed to fetch topic " + FromBook(name) + " due to error #" +
-                              std::to_string(failed.number) + ": " + failed.description,
-                          Icon::Warning);
+    seams.messages.MsgBox("Failed to fetch topic " + FromBook(name) + DueTo(error), Icon::Warning);
 }
 
 TopicLocation GoToTopic(const Book& book, LineCursor& cursor, const std::string& key, Count16& number,
-                        FileError& failed)
+                        FileError& error)
 {
-    failed = {};
+    error = {};
     if (number == 0) {
         number = FindTopic(book, key);
     }
@@ -46,8 +44,8 @@ TopicLocation GoToTopic(const Book& book, LineCursor& cursor, const std::string&
     }
     cursor.Seek(pos);
     std::string line;
-    failed = cursor.ReadLine(line);
-    if (!failed.Ok()) {
+    error = cursor.ReadLine(line);
+    if (!error.Ok()) {
         return TopicLocation::Unreadable;
     }
     return Trim(line) == key ? TopicLocation::Found : TopicLocation::Moved;
@@ -59,15 +57,15 @@ void LocateTopic(const Book& book, const Seams& seams, LineCursor& cursor, std::
         return;
     }
     const std::string key = name.front() == '[' ? name : "[" + name + "]";
-    FileError failed;
-    switch (GoToTopic(book, cursor, key, number, failed)) {
+    FileError error;
+    switch (GoToTopic(book, cursor, key, number, error)) {
     case TopicLocation::Found:
         return;
     case TopicLocation::Unknown:
         ShowNotFound(seams, key);
         break;
     case TopicLocation::Unreadable:
-        ShowFetchError(seams, name, failed);
+        ShowFetchError(seams, name, error);
         break;
     case TopicLocation::Moved:
         seams.messages.MsgBox("Error looking up topic: " + FromBook(key), Icon::Warning);

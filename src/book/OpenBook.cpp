@@ -12,10 +12,9 @@ namespace {
 
 constexpr std::string_view ProgramFolderPrefix = "LS:";
 
-bool ReportOpenError(const Seams& seams, const std::string& path, const FileError& failed)
+bool ReportOpenError(const Seams& seams, const std::string& path, const FileError& error)
 {
-    seams.messages.MsgBox("Error opening <<" + FromPath(path) + ">> with code " +
-                              std::to_string(failed.number) + ": " + failed.description,
+    seams.messages.MsgBox("Error opening <<" + FromPath(path) + ">> with code " + NumberAndDescription(error),
                           Icon::Critical);
     return false;
 }
@@ -25,8 +24,8 @@ FileError ReadHeader(Book& book, const Seams& seams, LineCursor& cursor)
 {
     std::string line;
     if (!cursor.AtEnd()) {
-        if (FileError failed = cursor.ReadLine(line); !failed.Ok()) {
-            return failed;
+        if (FileError error = cursor.ReadLine(line); !error.Ok()) {
+            return error;
         }
     }
     if (!ParseBookHeader(line, book)) {
@@ -75,16 +74,16 @@ bool OpenBook(Book& book, const Seams& seams)
     const std::string path = PathToOpen(book, seams);
     const std::string realPath = FindSpelling(seams.files, seams.paths, path);
     const Sharing sharing = book.LockBook ? Sharing::Locked : Sharing::Shared;
-    FileError failed = seams.files.OpenForReading(realPath, sharing, book.File);
-    if (!failed.Ok()) {
-        return ReportOpenError(seams, path, failed);
+    FileError error = seams.files.OpenForReading(realPath, sharing, book.File);
+    if (!error.Ok()) {
+        return ReportOpenError(seams, path, error);
     }
     book.OpenPath = realPath;
     LineCursor cursor(*book.File);
-    failed = ReadHeader(book, seams, cursor);
-    if (!failed.Ok()) {
+    error = ReadHeader(book, seams, cursor);
+    if (!error.Ok()) {
         CloseBook(book);
-        return ReportOpenError(seams, path, failed);
+        return ReportOpenError(seams, path, error);
     }
     if (!IsBook(book) && !AcceptsPlainText(book, seams)) {
         CloseBook(book);

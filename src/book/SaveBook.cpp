@@ -22,11 +22,9 @@ std::string FreePartName(FileSystem& files, const std::string& path)
     return name;
 }
 
-WriteOutcome Fail(const Seams& seams, const char* what, const FileError& failed)
+WriteOutcome Fail(const Seams& seams, const char* what, const FileError& error)
 {
-    seams.messages.MsgBox(std::string(what) + " due to error #" + std::to_string(failed.number) + ": " +
-                              failed.description,
-                          Icon::Warning);
+    seams.messages.MsgBox(std::string(what) + DueTo(error), Icon::Warning);
     return WriteOutcome::Failed;
 }
 
@@ -36,22 +34,22 @@ WriteOutcome SaveBook(const Book& book, const Seams& seams, const std::string& p
 {
     const std::string part = FreePartName(seams.files, path);
     std::unique_ptr<OutputFile> output;
-    if (FileError failed = seams.files.CreateNew(part, output); !failed.Ok()) {
-        return Fail(seams, "Failed to open output file", failed);
+    if (FileError error = seams.files.CreateNew(part, output); !error.Ok()) {
+        return Fail(seams, "Failed to open output file", error);
     }
     const WriteOutcome outcome = WriteBook(book, seams, *output, progress);
     if (outcome == WriteOutcome::Cancelled) {
         output.reset();
-        seams.files.Remove(part);
+        seams.files.RemoveIfPossible(part);
     }
     if (outcome != WriteOutcome::Written) {
         return outcome;
     }
-    if (FileError failed = output->Finish(); !failed.Ok()) {
-        return Fail(seams, "Failed to write", failed);
+    if (FileError error = output->Finish(); !error.Ok()) {
+        return Fail(seams, "Failed to write", error);
     }
-    if (FileError failed = seams.files.RenameToNew(part, path); !failed.Ok()) {
-        return Fail(seams, "Failed to write", failed);
+    if (FileError error = seams.files.RenameToNew(part, path); !error.Ok()) {
+        return Fail(seams, "Failed to write", error);
     }
     return WriteOutcome::Written;
 }

@@ -39,20 +39,20 @@ public:
     {
         for (;;) {
             // Only lines that begin with "[" or "<" can matter: all others are passed over uncopied.
-            FileError failed = m_cursor.SkipToLineBeginning('[', '<');
-            if (!failed.Ok() || m_cursor.AtEnd()) {
-                return failed;
+            FileError error = m_cursor.SkipToLineBeginning('[', '<');
+            if (!error.Ok() || m_cursor.AtEnd()) {
+                return error;
             }
             m_linePos = m_cursor.Position();
             ReportProgress();
-            failed = m_cursor.ReadLine(m_line);
-            if (!failed.Ok()) {
-                return failed;
+            error = m_cursor.ReadLine(m_line);
+            if (!error.Ok()) {
+                return error;
             }
             LineOutcome outcome = LineOutcome::GoOn;
-            failed = TakeLine(outcome);
-            if (!failed.Ok() || outcome == LineOutcome::Stop) {
-                return failed;
+            error = TakeLine(outcome);
+            if (!error.Ok() || outcome == LineOutcome::Stop) {
+                return error;
             }
             if (outcome == LineOutcome::Overflow) {
                 return MakeFileError(error::Overflow);
@@ -101,8 +101,8 @@ private:
             const std::string& name = m_book.TopicNames(m_book.CurrentTopicNo);
             xref.FromTopic = name.substr(1, name.size() - 2);
         }
-        if (FileError failed = ReadXrefText(m_cursor, m_line, xref.Text); !failed.Ok()) {
-            return failed;
+        if (FileError error = ReadXrefText(m_cursor, m_line, xref.Text); !error.Ok()) {
+            return error;
         }
         if (xref.FromTopic.empty() || xref.ToTopic.empty()) {
             return {};
@@ -122,8 +122,8 @@ private:
     {
         m_book.CurrentTopicNo = 0;
         while (!m_cursor.AtEnd()) {
-            if (FileError failed = m_cursor.ReadLine(m_line); !failed.Ok()) {
-                return failed;
+            if (FileError error = m_cursor.ReadLine(m_line); !error.Ok()) {
+                return error;
             }
             const std::size_t comma = m_line.find(',');
             if (comma != std::string::npos && RecordName(comma + 1) == IndexEnd) {
@@ -180,13 +180,12 @@ bool DropOverfullBook(Book& book, const Seams& seams)
 bool ScanBook(Book& book, const Seams& seams, Progress* progress)
 {
     Scanner scanner(book, progress);
-    const FileError failed = scanner.Run();
-    if (failed.number == error::Overflow) {
+    const FileError error = scanner.Run();
+    if (error.number == error::Overflow) {
         return DropOverfullBook(book, seams);
     }
-    if (!failed.Ok()) {
-        seams.messages.MsgBox("Error reading book file with code " + std::to_string(failed.number) + ": " +
-                                  failed.description,
+    if (!error.Ok()) {
+        seams.messages.MsgBox("Error reading book file with code " + NumberAndDescription(error),
                               Icon::Critical);
         EndProgram(seams.end, "error reading the book file");
         return false;

@@ -178,13 +178,12 @@ private:
     bool Read(std::string_view& line) { return Check(m_cursor->ReadLine(line)); }
 
     // Whether reading went well; false after a message.
-    bool Check(const FileError& failed)
+    bool Check(const FileError& error)
     {
-        if (!failed.Ok()) {
-            Stop("Failed to read original text due to error #" + std::to_string(failed.number) + ": " +
-                 failed.description);
+        if (!error.Ok()) {
+            Stop("Failed to read original text" + DueTo(error));
         }
-        return failed.Ok();
+        return error.Ok();
     }
 
     void PutLine(std::string_view line)
@@ -220,10 +219,10 @@ private:
         if (m_outcome != WriteOutcome::Written || bytes.empty()) {
             return;
         }
-        const FileError failed = m_output.Write(bytes);
+        const FileError error = m_output.Write(bytes);
         m_written += static_cast<FilePos>(bytes.size());
-        if (!failed.Ok()) {
-            ShowWriteError(failed);
+        if (!error.Ok()) {
+            ShowWriteError(error);
             m_outcome = WriteOutcome::Failed;
         }
     }
@@ -244,11 +243,9 @@ private:
         m_outcome = WriteOutcome::Failed;
     }
 
-    void ShowWriteError(const FileError& failed)
+    void ShowWriteError(const FileError& error)
     {
-        m_seams.messages.MsgBox("Failed to write due to error #" + std::to_string(failed.number) + ": " +
-                                    failed.description,
-                                Icon::Warning);
+        m_seams.messages.MsgBox("Failed to write" + DueTo(error), Icon::Warning);
     }
 
     const Book& m_book;

@@ -75,8 +75,8 @@ FileError ReadXrefText(LineCursor& cursor, std::string_view openingLine, std::st
         if (piece.find(OtherEnd) != std::string::npos || !note.Add(piece) || cursor.AtEnd()) {
             return {};
         }
-        if (FileError failed = cursor.ReadLine(piece); !failed.Ok()) {
-            return failed;
+        if (FileError error = cursor.ReadLine(piece); !error.Ok()) {
+            return error;
         }
     }
 }

@@ -57,26 +57,25 @@ std::string PathInPage(const std::string& path)
 FileError WritePage(FileSystem& files, const std::string& path, const std::string& page)
 {
     std::unique_ptr<OutputFile> file;
-    FileError failed = OpenToReplace(files, path, file);
-    if (failed.Ok()) {
-        failed = file->Write(page);
+    FileError error = OpenToReplace(files, path, file);
+    if (error.Ok()) {
+        error = file->Write(page);
     }
-    if (failed.Ok()) {
-        failed = file->Finish();
+    if (error.Ok()) {
+        error = file->Finish();
     }
-    return failed;
+    return error;
 }
 
 // Writes the page and gives its path; empty after a message.
 std::string MakePage(const Book& book, const Seams& seams, const std::string& topicName)
 {
     const std::string path = JoinPath(seams.paths, book.WorkDir, PageName);
-    const FileError failed = WritePage(seams.files, path, ReferralPage(book, seams.paths, topicName));
-    if (failed.Ok()) {
+    const FileError error = WritePage(seams.files, path, ReferralPage(book, seams.paths, topicName));
+    if (error.Ok()) {
         return path;
     }
-    seams.messages.MsgBox("Failed to write temporary HTML file <<" + FromPath(path) + ">> due to error #" +
-                              std::to_string(failed.number) + ": " + failed.description,
+    seams.messages.MsgBox("Failed to write temporary HTML file <<" + FromPath(path) + ">>" + DueTo(error),
                           Icon::Exclamation);
     return {};
 }

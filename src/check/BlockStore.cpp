@@ -71,8 +71,8 @@ std::unique_ptr<CheckedBlock> BlockStore::ReadFile(int topic)
     FileBody body(cursor);
     std::string_view header;
     std::unique_ptr<CheckedBlock> block = body.Next(header) ? ReadBlock(body, topic) : nullptr;
-    if (m_failed.Ok()) {
-        m_failed = body.Failed();
+    if (m_error.Ok()) {
+        m_error = body.Error();
     }
     return block;
 }

@@ -41,7 +41,7 @@ public:
     [[nodiscard]] bool HasWholeBook() const { return m_source == BlockSource::Given; }
 
     /// The first error that reading blocks from the file came to; success when there was none.
-    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+    [[nodiscard]] const FileError& Error() const { return m_error; }
 
     /// All blocks that are there, by topic.
     [[nodiscard]] const std::unordered_map<int, std::unique_ptr<CheckedBlock>>& All() const
@@ -55,7 +55,7 @@ private:
 
     const Book& m_book;
     BlockSource m_source;
-    FileError m_failed;
+    FileError m_error;
     std::unordered_map<int, std::unique_ptr<CheckedBlock>> m_blocks; ///< nullptr: looked for in vain
     std::unordered_map<std::string, int> m_numbers;                  ///< by title in upper case
 };

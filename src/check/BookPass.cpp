@@ -98,16 +98,16 @@ FileError BookPass::Run()
     if (!m_book.File) {
         return {};
     }
-    if (FileError failed = m_book.File->Size(m_size); !failed.Ok()) {
-        return failed;
+    if (FileError error = m_book.File->Size(m_size); !error.Ok()) {
+        return error;
     }
     m_nextTopic = m_book.TopicCount > 0 ? m_book.TopicPos(1) : 0;
     LineCursor cursor(*m_book.File);
     std::string_view line;
     for (int number = 1; !cursor.AtEnd(); ++number) {
         const FilePos pos = cursor.Position();
-        if (FileError failed = cursor.ReadLine(line); !failed.Ok()) {
-            return failed;
+        if (FileError error = cursor.ReadLine(line); !error.Ok()) {
+            return error;
         }
         m_marks = MarksOf(line);
         TakeLine(line, pos, number);

@@ -42,14 +42,14 @@ void CheckBlock(const RuleBase& base, Findings& findings)
     CheckOverlaps(base, findings);
 }
 
-std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* progress, FileError& failed)
+std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* progress, FileError& error)
 {
     Findings findings(FromPath(book.BookPath));
     BlockStore store(book, BlockSource::Given);
     BookPass pass(book, findings, store, progress);
-    failed = pass.Run();
+    error = pass.Run();
     DialogueBook dialogues(book);
-    bool goOn = failed.Ok(); // what a block leads to may stand where the file could not be read
+    bool goOn = error.Ok(); // what a block leads to may stand where the file could not be read
     for (const CheckedBlock* block : InOrder(store)) {
         if (!goOn) {
             break;
@@ -60,10 +60,10 @@ std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* p
         CheckBlock(base, findings);
         CheckDialogues(dialogues, seams, base, findings.ErrorCount() > errors, findings);
         const bool cancelled = progress != nullptr && !progress->Step(1, 1); // the file is through
-        goOn = !cancelled && dialogues.Failed().Ok();
+        goOn = !cancelled && dialogues.Error().Ok();
     }
-    if (failed.Ok()) {
-        failed = dialogues.Failed();
+    if (error.Ok()) {
+        error = dialogues.Error();
     }
     return findings.TakeSorted();
 }
@@ -89,18 +89,18 @@ std::vector<Finding> CheckLogicText(const Book& book, const Seams& seams, int to
         }
     }
     CheckDialogues(dialogues, seams, base, findings.ErrorCount() > 0, findings);
-    const FileError& failed = store.Failed().Ok() ? dialogues.Failed() : store.Failed();
-    if (!failed.Ok()) {
-        ShowCheckError(book, seams, failed);
+    const FileError& error = store.Error().Ok() ? dialogues.Error() : store.Error();
+    if (!error.Ok()) {
+        ShowCheckError(book, seams, error);
         return {};
     }
     return findings.TakeSorted();
 }
 
-void ShowCheckError(const Book& book, const Seams& seams, const FileError& failed)
+void ShowCheckError(const Book& book, const Seams& seams, const FileError& error)
 {
     seams.messages.MsgBox("Error reading <<" + FromPath(book.OpenPath) + ">> with code " +
-                              std::to_string(failed.number) + ": " + failed.description,
+                              NumberAndDescription(error),
                           Icon::Critical);
 }
 

@@ -16,10 +16,10 @@ class Progress;
 /// Everything in the book's file that would surprise its author, by line. Nothing is shown on the way.
 ///
 /// The book is open and scanned. What was edited in memory and not saved does not count: the lines are those
-/// of the file. When the file cannot be read to its end `failed` tells, and the list ends there; a cancelled
+/// of the file. When the file cannot be read to its end `error` tells, and the list ends there; a cancelled
 /// check gives what was found so far.
 [[nodiscard]] std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* progress,
-                                             FileError& failed);
+                                             FileError& error);
 
 /// The same for the text of one topic's logic block, "<IXML>" first, as an editor holds it: lines count in
 /// that text. Blocks that it leads to are taken as they were edited, else from the file. `topic` is the
@@ -29,6 +29,6 @@ class Progress;
                                                   const std::string& text);
 
 /// The box for a book's file that a check could not read.
-void ShowCheckError(const Book& book, const Seams& seams, const FileError& failed);
+void ShowCheckError(const Book& book, const Seams& seams, const FileError& error);
 
 } // namespace ls

@@ -107,7 +107,7 @@ public:
         }
     }
 
-    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+    [[nodiscard]] const FileError& Error() const { return m_error; }
 
     FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
     {
@@ -133,18 +133,18 @@ public:
     }
 
 private:
-    FileError Note(const FileError& failed)
+    FileError Note(const FileError& error)
     {
-        if (m_failed.Ok()) {
-            m_failed = failed;
+        if (m_error.Ok()) {
+            m_error = error;
         }
-        return failed;
+        return error;
     }
 
     BookFile* m_file;
     FilePos m_tailPos = 2;
     std::string m_tail;
-    FileError m_failed; ///< the first one
+    FileError m_error; ///< the first one
 };
 
 DialogueBook::DialogueBook(const Book& book)
@@ -165,9 +165,9 @@ void DialogueBook::Replace(int topic, const std::string& block)
     m_book.TopicPos(topic) = m_overlay->Append(m_book.TopicNames(topic) + "\r\n" + block);
 }
 
-const FileError& DialogueBook::Failed() const
+const FileError& DialogueBook::Error() const
 {
-    return m_overlay->Failed();
+    return m_overlay->Error();
 }
 
 bool DialogueBook::Show(int topic)
@@ -187,7 +187,7 @@ void CheckDialogues(DialogueBook& book, const Seams& seams, const RuleBase& base
         return;
     }
     const DialogueMap map = SearchDialogues(book.Get(), seams, SearchLimits(), nullptr);
-    if (!book.Failed().Ok()) {
+    if (!book.Error().Ok()) {
         return; // a dialogue that met a disk that fails says nothing about the rules
     }
     const int line = own.logicLine != 0 ? own.logicLine : own.line;

@@ -27,7 +27,7 @@ public:
     [[nodiscard]] const Book& Get() const { return m_book; }
 
     /// The first error that reading the book's file came to; success when there was none.
-    [[nodiscard]] const FileError& Failed() const;
+    [[nodiscard]] const FileError& Error() const;
 
 private:
     class Overlay;

@@ -30,8 +30,8 @@ std::vector<std::string> Words(std::string_view text)
 std::optional<int> WholeNumber(std::string_view text)
 {
     int number = 0;
-    const auto [end, failed] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (failed != std::errc() || end != text.data() + text.size()) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size()) {
         return std::nullopt;
     }
     return number;

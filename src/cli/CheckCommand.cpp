@@ -50,12 +50,12 @@ bool CheckOne(CommandContext& context, const std::string& path, std::vector<Find
     if (context.OpenTheBook(path) != Opening::Done) {
         return false;
     }
-    FileError failed;
+    FileError error;
     const std::vector<Finding> found =
-        CheckBook(context.TheBook(), context.TheSeams(), &context.TheProgress(), failed);
+        CheckBook(context.TheBook(), context.TheSeams(), &context.TheProgress(), error);
     context.TheProgress().Erase();
     findings.insert(findings.end(), found.begin(), found.end());
-    return failed.Ok();
+    return error.Ok();
 }
 
 Status Run(CommandContext& context)

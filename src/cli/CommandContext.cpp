@@ -181,7 +181,7 @@ Status CommandContext::Verdict(Status ofCommand)
         return ofCommand;
     }
     ReportUntoldError();
-    if (!m_files.Failed().Ok()) {
+    if (!m_files.Error().Ok()) {
         return Status::FileFault;
     }
     if (m_end.Ended()) {
@@ -189,17 +189,17 @@ Status CommandContext::Verdict(Status ofCommand)
     }
     // Output that a critical box calls cut or failed must not look done to a script.
     const auto critical = [](const CliMessages::Shown& box) { return box.icon == Icon::Critical; };
-    const bool failed = std::any_of(m_messages.All().begin(), m_messages.All().end(), critical);
-    return ofCommand == Status::Done && failed ? Status::Fault : ofCommand;
+    const bool error = std::any_of(m_messages.All().begin(), m_messages.All().end(), critical);
+    return ofCommand == Status::Done && error ? Status::Fault : ofCommand;
 }
 
 void CommandContext::ReportUntoldError()
 {
-    const FileError& failed = m_files.Failed();
-    if (failed.Ok()) {
+    const FileError& error = m_files.Error();
+    if (error.Ok()) {
         return;
     }
-    const std::string tail = std::to_string(failed.number) + ": " + failed.description;
+    const std::string tail = NumberAndDescription(error);
     const auto tells = [&tail](const CliMessages::Shown& box) {
         return box.text.ends_with(tail) || box.text.ends_with(tail + ".");
     };

@@ -17,11 +17,6 @@ namespace {
 
 constexpr std::string_view Force = "--force";
 
-std::string ErrorText(const FileError& failed)
-{
-    return std::to_string(failed.number) + ": " + failed.description;
-}
-
 // "U+2192", with the character before it unless that is one to be seen by its deeds only.
 std::string NameOf(char32_t character)
 {
@@ -74,16 +69,16 @@ Status OpenOutput(CommandContext& context, const std::string& input, std::unique
     FileSystem& files = context.TheSeams().files;
     const std::string& path = context.Args().Operands().at(1);
     const bool exists = files.Exists(path);
-    FileError failed;
+    FileError error;
     if (files.SameFile(input, path)) {
-        failed = MakeFileError(error::FileAlreadyOpen);
+        error = MakeFileError(error::FileAlreadyOpen);
     } else if (exists && !context.Args().Has(Force)) {
         return context.Fail("The output file already exists; --force replaces it.", Icon::Warning);
     } else {
-        failed = exists ? OpenToReplace(files, path, output) : OpenToCreate(files, path, output);
+        error = exists ? OpenToReplace(files, path, output) : OpenToCreate(files, path, output);
     }
-    if (!failed.Ok()) {
-        context.Fail("Failed to open output file due to error #" + ErrorText(failed), Icon::Warning);
+    if (!error.Ok()) {
+        context.Fail("Failed to open output file" + DueTo(error), Icon::Warning);
         return Status::FileFault;
     }
     return Status::Done;
@@ -92,18 +87,18 @@ Status OpenOutput(CommandContext& context, const std::string& input, std::unique
 Status Write(CommandContext& context, const std::string& path, BookFile& input, const TextFindings& findings,
              OutputFile& output, ConvertedLines& lines)
 {
-    FileError failed = ConvertText(input, findings, output, &context.TheProgress(), lines);
-    if (failed.Ok()) {
-        failed = output.Finish();
+    FileError error = ConvertText(input, findings, output, &context.TheProgress(), lines);
+    if (error.Ok()) {
+        error = output.Finish();
     }
     context.TheProgress().Erase();
-    if (!failed.Ok() && context.Files().FailedPath() == path) {
-        context.Fail("Error reading <<" + FromPath(path) + ">> with code " + ErrorText(failed),
+    if (!error.Ok() && context.Files().FailedPath() == path) {
+        context.Fail("Error reading <<" + FromPath(path) + ">> with code " + NumberAndDescription(error),
                      Icon::Critical);
         return Status::FileFault;
     }
-    if (!failed.Ok()) {
-        context.Fail("Failed to write due to error #" + ErrorText(failed), Icon::Warning);
+    if (!error.Ok()) {
+        context.Fail("Failed to write" + DueTo(error), Icon::Warning);
         return Status::FileFault;
     }
     return Status::Done;
@@ -116,13 +111,13 @@ Status Convert(CommandContext& context, TextFindings& findings, ConvertedLines& 
     const std::string path =
         FindSpelling(seams.files, seams.paths, PathToOpen(context.TheBook(), context.TheSeams()));
     std::unique_ptr<BookFile> input;
-    FileError failed = seams.files.OpenForReading(path, Sharing::Shared, input);
-    if (failed.Ok()) {
-        failed = FindUnconvertible(*input, &context.TheProgress(), findings);
+    FileError error = seams.files.OpenForReading(path, Sharing::Shared, input);
+    if (error.Ok()) {
+        error = FindUnconvertible(*input, &context.TheProgress(), findings);
         context.TheProgress().Erase();
     }
-    if (!failed.Ok()) {
-        context.Fail("Error opening <<" + FromPath(path) + ">> with code " + ErrorText(failed),
+    if (!error.Ok()) {
+        context.Fail("Error opening <<" + FromPath(path) + ">> with code " + NumberAndDescription(error),
                      Icon::Critical);
         return Status::FileFault;
     }

@@ -98,17 +98,17 @@ FileError GatherFacts(FileSystem& files, const std::string& path, Progress* prog
 {
     facts = {};
     std::unique_ptr<BookFile> file;
-    FileError failed = files.OpenForReading(path, Sharing::Shared, file);
+    FileError error = files.OpenForReading(path, Sharing::Shared, file);
     FilePos total = 0;
-    if (!failed.Ok() || !(failed = file->Size(total)).Ok()) {
-        return failed;
+    if (!error.Ok() || !(error = file->Size(total)).Ok()) {
+        return error;
     }
     Gatherer gatherer(facts);
     std::vector<char> block(BlockSize);
     for (std::size_t got = BlockSize; got > 0; facts.size += static_cast<FilePos>(got)) {
-        failed = file->ReadAt(facts.size + 1, block.data(), block.size(), got);
-        if (!failed.Ok()) {
-            return failed;
+        error = file->ReadAt(facts.size + 1, block.data(), block.size(), got);
+        if (!error.Ok()) {
+            return error;
         }
         std::for_each_n(block.begin(), got,
                         [&gatherer](char c) { gatherer.Take(static_cast<unsigned char>(c)); });

@@ -92,10 +92,10 @@ void WriteCodePage(CommandContext& context, const FileFacts& facts)
 void WriteFacts(CommandContext& context)
 {
     FileFacts facts;
-    const FileError failed =
+    const FileError error =
         GatherFacts(context.TheSeams().files, context.Files().LastOpened(), &context.TheProgress(), facts);
     context.TheProgress().Erase();
-    if (!failed.Ok()) {
+    if (!error.Ok()) {
         return; // the verdict reports it
     }
     Field(context, "Size", std::to_string(facts.size) + (facts.size == 1 ? " byte" : " bytes"));

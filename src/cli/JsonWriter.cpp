@@ -94,9 +94,9 @@ JsonWriter& JsonWriter::Number(float number)
 {
     BeginElement();
     std::array<char, 64> digits{};
-    const auto [end, failed] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
     // JSON knows neither infinity nor "not a number".
-    const bool finite = failed == std::errc() && number - number == 0.0F;
+    const bool finite = error == std::errc() && number - number == 0.0F;
     *m_stream << (finite ? std::string_view(digits.data(), end) : std::string_view("null"));
     return *this;
 }

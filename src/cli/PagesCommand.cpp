@@ -139,8 +139,8 @@ Status PrintPages(CommandContext& context)
     PageRecorder printer(StateOf(context.Args()), context.Args().Number(LineHeight, usual));
     const Printed printed =
         PrintTopic(context.TheBook(), context.TheSeams(), printer, settings, name, number);
-    if (!printed.failed.Ok()) {
-        context.Fail(printed.failed.description, Icon::Critical);
+    if (!printed.error.Ok()) {
+        context.Fail(printed.error.description, Icon::Critical);
         return context.GiveUp();
     }
     if (context.Json()) {

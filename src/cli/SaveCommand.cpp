@@ -20,9 +20,7 @@ Status TestOutput(CommandContext& context, const std::string& path)
     FileSystem& files = context.TheSeams().files;
     if (files.SameFile(context.TheBook().OpenPath, path)) {
         const FileError open = MakeFileError(error::FileAlreadyOpen);
-        context.Fail("Failed to open output file due to error #" + std::to_string(open.number) + ": " +
-                         open.description,
-                     Icon::Warning);
+        context.Fail("Failed to open output file" + DueTo(open), Icon::Warning);
         return Status::FileFault;
     }
     if (files.Exists(path) && !context.Args().Has(Force)) {
@@ -32,10 +30,9 @@ Status TestOutput(CommandContext& context, const std::string& path)
     return Status::Done;
 }
 
-WriteOutcome Fail(CommandContext& context, const std::string& what, const FileError& failed)
+WriteOutcome Fail(CommandContext& context, const std::string& what, const FileError& error)
 {
-    context.TheSeams().messages.MsgBox(
-        what + " due to error #" + std::to_string(failed.number) + ": " + failed.description, Icon::Warning);
+    context.TheSeams().messages.MsgBox(what + DueTo(error), Icon::Warning);
     return WriteOutcome::Failed;
 }
 
@@ -44,16 +41,16 @@ WriteOutcome Fail(CommandContext& context, const std::string& what, const FileEr
 WriteOutcome Replace(CommandContext& context, const std::string& path)
 {
     std::unique_ptr<OutputFile> output;
-    if (const FileError failed = OpenToReplace(context.TheSeams().files, path, output); !failed.Ok()) {
-        return Fail(context, "Failed to open output file", failed);
+    if (const FileError error = OpenToReplace(context.TheSeams().files, path, output); !error.Ok()) {
+        return Fail(context, "Failed to open output file", error);
     }
     const WriteOutcome outcome =
         WriteBook(context.TheBook(), context.TheSeams(), *output, &context.TheProgress());
     if (outcome != WriteOutcome::Written) {
         return outcome;
     }
-    const FileError failed = output->Finish();
-    return failed.Ok() ? outcome : Fail(context, "Failed to write", failed);
+    const FileError error = output->Finish();
+    return error.Ok() ? outcome : Fail(context, "Failed to write", error);
 }
 
 WriteOutcome Write(CommandContext& context, const std::string& path)

@@ -45,33 +45,33 @@ private:
 
 } // namespace
 
-FileError WatchedFiles::Note(const std::string& path, FileError failed)
+FileError WatchedFiles::Note(const std::string& path, FileError error)
 {
-    if (!failed.Ok() && m_failed.Ok()) {
-        m_failed = failed;
+    if (!error.Ok() && m_error.Ok()) {
+        m_error = error;
         m_failedPath = path;
     }
-    return failed;
+    return error;
 }
 
 FileError WatchedFiles::OpenForReading(const std::string& path, Sharing sharing,
                                        std::unique_ptr<BookFile>& file)
 {
-    FileError failed = Note(path, m_files->OpenForReading(path, sharing, file));
-    if (failed.Ok()) {
+    FileError error = Note(path, m_files->OpenForReading(path, sharing, file));
+    if (error.Ok()) {
         m_lastOpened = path;
         file = std::make_unique<WatchedBookFile>(*this, path, std::move(file));
     }
-    return failed;
+    return error;
 }
 
 FileError WatchedFiles::CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file)
 {
-    FileError failed = Note(path, m_files->CreateNew(path, file));
-    if (failed.Ok()) {
+    FileError error = Note(path, m_files->CreateNew(path, file));
+    if (error.Ok()) {
         file = std::make_unique<WatchedOutputFile>(*this, path, std::move(file));
     }
-    return failed;
+    return error;
 }
 
 FileError WatchedFiles::RenameToNew(const std::string& from, const std::string& to)

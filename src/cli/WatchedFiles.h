@@ -14,7 +14,7 @@ public:
     explicit WatchedFiles(FileSystem& files) : m_files(&files) {}
 
     /// The first error that an operation on a file came to; success when there was none.
-    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+    [[nodiscard]] const FileError& Error() const { return m_error; }
 
     /// The path at which it happened.
     [[nodiscard]] const std::string& FailedPath() const { return m_failedPath; }
@@ -45,11 +45,11 @@ public:
     std::string CurrentFolder() override { return m_files->CurrentFolder(); }
 
     /// Notes an error, and hands it on.
-    FileError Note(const std::string& path, FileError failed);
+    FileError Note(const std::string& path, FileError error);
 
 private:
     FileSystem* m_files;
-    FileError m_failed;
+    FileError m_error;
     std::string m_failedPath;
     std::string m_lastOpened;
 };

@@ -29,7 +29,7 @@ void SortNames(std::vector<std::string>& names)
 
 struct Listing
 {
-    FileError failed;
+    FileError error;
     std::vector<std::string> folders;
     std::vector<std::string> hiddenFolders;
     std::vector<std::string> files;
@@ -40,7 +40,7 @@ Listing ListingOf(FileSystem& files, const std::string& folder)
 {
     Listing listing;
     std::vector<FolderEntry> entries;
-    listing.failed = files.List(folder, entries);
+    listing.error = files.List(folder, entries);
     for (FolderEntry& entry : entries) {
         if (entry.isFolder) {
             (entry.hidden ? listing.hiddenFolders : listing.folders).push_back(std::move(entry.name));
@@ -138,11 +138,11 @@ bool FileSelector::SwitchDrive(const std::string& drive)
         return true;
     }
     const auto found = std::find_if(m_volumes.begin(), m_volumes.end(), isMeant);
-    const FileError failed =
+    const FileError error =
         found == m_volumes.end() ? MakeFileError(error::DeviceUnavailable) : ReadFolder(found->folder);
-    if (!failed.Ok()) {
-        m_seams.messages.MsgBox("Sorry, you cannot choose drive " + FromPath(drive) + " due to error " +
-                                    std::to_string(failed.number) + ": " + failed.description,
+    if (!error.Ok()) {
+        m_seams.messages.MsgBox("Sorry, you cannot choose drive " + FromPath(drive) +
+                                    DueTo(error, ErrorForm::WithoutMark),
                                 Icon::Exclamation);
         ResetText();
         return false;
@@ -156,8 +156,8 @@ FileError FileSelector::ReadFolder(const std::string& folder)
 {
     Listing listing;
     m_run([&] { listing = ListingOf(m_seams.files, folder); });
-    if (!listing.failed.Ok()) {
-        return listing.failed;
+    if (!listing.error.Ok()) {
+        return listing.error;
     }
     m_subfolders = std::move(listing.folders);
     m_hiddenFolders = std::move(listing.hiddenFolders);
@@ -213,12 +213,12 @@ void FileSelector::SelectDriveOf(const std::string& folder)
 
 bool FileSelector::SwitchFolder(const std::string& folder, const std::string& asWritten)
 {
-    const FileError failed = ReadFolder(folder);
-    if (failed.Ok()) {
+    const FileError error = ReadFolder(folder);
+    if (error.Ok()) {
         return true;
     }
     m_seams.messages.MsgBox("Sorry, you cannot choose " + FromPath(LowerCaseAscii(asWritten)) +
-                                " due to error " + std::to_string(failed.number) + ": " + failed.description,
+                                DueTo(error, ErrorForm::WithoutMark),
                             Icon::Exclamation);
     ResetText();
     return false;

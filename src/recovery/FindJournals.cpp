@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <set>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace ls {
@@ -17,8 +18,8 @@ namespace {
 FileError ListNames(const Seams& seams, const std::string& folder, std::set<std::string>& names)
 {
     std::vector<FolderEntry> entries;
-    if (FileError failed = seams.files.List(folder, entries); !failed.Ok()) {
-        return failed;
+    if (FileError error = seams.files.List(folder, entries); !error.Ok()) {
+        return error;
     }
     const std::string halfWritten = NewJournalName(std::string(JournalType));
     for (const FolderEntry& entry : entries) {
@@ -36,15 +37,10 @@ std::string Quoted(const std::string& path)
     return "<<" + FromPath(path) + ">>";
 }
 
-std::string DueTo(const FileError& failed)
+std::string CannotBeRead(const std::string& path, const FileError& error)
 {
-    return " due to error #" + std::to_string(failed.number) + ": " + failed.description + ".";
-}
-
-std::string CannotBeRead(const std::string& path, const FileError& failed)
-{
-    return "The recovery journal " + Quoted(path) + " cannot be read" + DueTo(failed) +
-           " It stays where it is.";
+    return "The recovery journal " + Quoted(path) + " cannot be read" + DueTo(error) +
+           ". It stays where it is.";
 }
 
 // Why a journal that was read cannot be offered; empty for one that can.
@@ -62,23 +58,23 @@ std::string Refusal(FoundJournal& found)
     if (!found.claim->KeepDamaged().Ok()) {
         return damaged + "It stays where it is.";
     }
-    found.claim->Remove();
+    std::ignore = found.claim->Remove(); // what stays is found again at the next start
     return damaged + "It is called " + Quoted(found.claim->DamagedPath()) + " now.";
 }
 
 void Look(const Seams& seams, FoundJournal&& found, JournalSearch& search)
 {
-    const FileError failed = ReadJournal(seams.files, found.claim->Path(), found.reading);
-    if (failed.number == error::FileNotFound) {
-        found.claim->Remove();
+    const FileError error = ReadJournal(seams.files, found.claim->Path(), found.reading);
+    if (error.number == error::FileNotFound) {
+        std::ignore = found.claim->Remove(); // what stays is found again at the next start
         return;
     }
     std::string note;
-    if (failed.number == error::OutOfMemory) {
+    if (error.number == error::OutOfMemory) {
         note = "The recovery journal " + Quoted(found.claim->Path()) +
                " is too large to be read. It stays where it is.";
     } else {
-        note = failed.Ok() ? Refusal(found) : CannotBeRead(found.claim->Path(), failed);
+        note = error.Ok() ? Refusal(found) : CannotBeRead(found.claim->Path(), error);
     }
     if (note.empty()) {
         search.journals.push_back(std::move(found));
@@ -93,10 +89,10 @@ JournalSearch FindJournals(const Seams& seams, const std::string& folder)
 {
     JournalSearch search;
     std::set<std::string> names;
-    const FileError failed = ListNames(seams, folder, names);
-    if (!failed.Ok() && failed.number != error::PathNotFound && failed.number != error::FileNotFound) {
+    const FileError error = ListNames(seams, folder, names);
+    if (!error.Ok() && error.number != error::PathNotFound && error.number != error::FileNotFound) {
         search.notes.push_back("The recovery journals in " + Quoted(folder) + " cannot be looked for" +
-                               DueTo(failed));
+                               DueTo(error) + ".");
     }
     for (const std::string& name : names) {
         FoundJournal found;

@@ -12,16 +12,16 @@ namespace {
 
 constexpr int MaxTries = 20;
 
-bool IsMissing(const FileError& failed)
+bool IsMissing(const FileError& error)
 {
-    return failed.number == error::FileNotFound || failed.number == error::PathNotFound;
+    return error.number == error::FileNotFound || error.number == error::PathNotFound;
 }
 
 FileError MakeEmptyFile(FileSystem& files, const std::string& path)
 {
     std::unique_ptr<OutputFile> file;
-    FileError failed = files.CreateNewPrivate(path, file);
-    return failed.Ok() ? file->Finish() : failed;
+    FileError error = files.CreateNewPrivate(path, file);
+    return error.Ok() ? file->Finish() : error;
 }
 
 } // namespace
@@ -40,46 +40,46 @@ std::string RandomJournalName()
 FileError JournalClaim::MakeNew(FileSystem& files, PathRules paths, const std::string& folder,
                                 const JournalNames& names, std::unique_ptr<JournalClaim>& claim)
 {
-    FileError failed;
+    FileError error;
     for (int tries = 0; tries < MaxTries; ++tries) {
         std::unique_ptr<JournalClaim> made(new JournalClaim(files, JoinPath(paths, folder, names())));
         if (files.Exists(made->Path())) {
-            failed = MakeFileError(error::FileAlreadyExists);
+            error = MakeFileError(error::FileAlreadyExists);
             continue;
         }
-        failed = MakeEmptyFile(files, made->m_base + std::string(JournalLockType));
-        if (failed.Ok()) {
-            failed = made->Lock();
+        error = MakeEmptyFile(files, made->m_base + std::string(JournalLockType));
+        if (error.Ok()) {
+            error = made->Lock();
         }
-        if (failed.Ok()) {
+        if (error.Ok()) {
             claim = std::move(made);
             return {};
         }
-        const bool taken = failed.number == error::FileAlreadyExists ||
-                           failed.number == error::PermissionDenied || IsMissing(failed);
+        const bool taken = error.number == error::FileAlreadyExists ||
+                           error.number == error::PermissionDenied || IsMissing(error);
         if (!taken) {
             break;
         }
     }
-    return failed;
+    return error;
 }
 
 FileError JournalClaim::Take(FileSystem& files, PathRules paths, const std::string& folder,
                              const std::string& name, std::unique_ptr<JournalClaim>& claim)
 {
     std::unique_ptr<JournalClaim> taken(new JournalClaim(files, JoinPath(paths, folder, name)));
-    FileError failed = taken->Lock();
-    if (IsMissing(failed)) {
+    FileError error = taken->Lock();
+    if (IsMissing(error)) {
         // Nobody holds what has no lock file: it was copied here, or its lock was removed by hand. Another
         // program may make one at the same moment; in a folder that cannot be written nobody can.
-        failed = MakeEmptyFile(files, taken->m_base + std::string(JournalLockType));
-        const bool lockable = failed.Ok() || failed.number == error::FileAlreadyExists;
-        failed = lockable ? taken->Lock() : FileError{};
+        error = MakeEmptyFile(files, taken->m_base + std::string(JournalLockType));
+        const bool lockable = error.Ok() || error.number == error::FileAlreadyExists;
+        error = lockable ? taken->Lock() : FileError{};
     }
-    if (failed.Ok()) {
+    if (error.Ok()) {
         claim = std::move(taken);
     }
-    return failed;
+    return error;
 }
 
 // The lock file may be removed between its opening and its locking: a lock on a file without a name would
@@ -87,23 +87,23 @@ FileError JournalClaim::Take(FileSystem& files, PathRules paths, const std::stri
 FileError JournalClaim::Lock()
 {
     const std::string path = m_base + std::string(JournalLockType);
-    FileError failed = m_files.OpenForReading(path, Sharing::Locked, m_lock);
-    if (failed.Ok() && !m_files.Exists(path)) {
+    FileError error = m_files.OpenForReading(path, Sharing::Locked, m_lock);
+    if (error.Ok() && !m_files.Exists(path)) {
         m_lock.reset();
-        failed = MakeFileError(error::FileNotFound);
+        error = MakeFileError(error::FileNotFound);
     }
-    return failed;
+    return error;
 }
 
 FileError JournalClaim::Remove()
 {
-    m_files.Remove(NewJournalName(Path()));
-    FileError failed = m_files.Remove(Path());
-    if (!failed.Ok() && !IsMissing(failed)) {
-        return failed;
+    m_files.RemoveIfPossible(NewJournalName(Path()));
+    FileError error = m_files.Remove(Path());
+    if (!error.Ok() && !IsMissing(error)) {
+        return error;
     }
     m_lock.reset(); // a file that is open cannot be removed everywhere
-    m_files.Remove(m_base + std::string(JournalLockType));
+    m_files.RemoveIfPossible(m_base + std::string(JournalLockType));
     return {};
 }
 

@@ -11,11 +11,11 @@ constexpr std::size_t PieceSize = 256 * 1024;
 FileError WriteWhole(FileSystem& files, const std::string& path, std::string_view bytes)
 {
     std::unique_ptr<OutputFile> file;
-    if (FileError failed = files.CreateNewPrivate(path, file); !failed.Ok()) {
-        return failed;
+    if (FileError error = files.CreateNewPrivate(path, file); !error.Ok()) {
+        return error;
     }
-    if (FileError failed = file->Write(bytes); !failed.Ok()) {
-        return failed;
+    if (FileError error = file->Write(bytes); !error.Ok()) {
+        return error;
     }
     return file->Finish();
 }
@@ -24,12 +24,12 @@ FileError WriteWhole(FileSystem& files, const std::string& path, std::string_vie
 FileError ReadWhole(FileSystem& files, const std::string& path, std::string& bytes)
 {
     std::unique_ptr<BookFile> file;
-    if (FileError failed = files.OpenForReading(path, Sharing::Shared, file); !failed.Ok()) {
-        return failed;
+    if (FileError error = files.OpenForReading(path, Sharing::Shared, file); !error.Ok()) {
+        return error;
     }
     FilePos size = 0;
-    if (FileError failed = file->Size(size); !failed.Ok()) {
-        return failed;
+    if (FileError error = file->Size(size); !error.Ok()) {
+        return error;
     }
     if (size > MostJournalBytes) {
         return MakeFileError(error::OutOfMemory);
@@ -38,10 +38,10 @@ FileError ReadWhole(FileSystem& files, const std::string& path, std::string& byt
         const std::size_t read = bytes.size();
         bytes.resize(read + PieceSize);
         got = 0;
-        FileError failed = file->ReadAt(static_cast<FilePos>(read) + 1, bytes.data() + read, PieceSize, got);
+        FileError error = file->ReadAt(static_cast<FilePos>(read) + 1, bytes.data() + read, PieceSize, got);
         bytes.resize(read + got);
-        if (!failed.Ok()) {
-            return failed;
+        if (!error.Ok()) {
+            return error;
         }
     }
     return {};
@@ -60,30 +60,30 @@ FileError WriteJournal(FileSystem& files, const std::string& path, std::string_v
         return MakeFileError(error::OutOfMemory);
     }
     const std::string newPath = NewJournalName(path);
-    files.Remove(newPath); // what an earlier failure could not take away
-    FileError failed = WriteWhole(files, newPath, bytes);
-    if (failed.Ok()) {
-        failed = files.RenameOver(newPath, path);
+    files.RemoveIfPossible(newPath); // what an earlier failure could not take away
+    FileError error = WriteWhole(files, newPath, bytes);
+    if (error.Ok()) {
+        error = files.RenameOver(newPath, path);
     }
-    if (!failed.Ok()) {
-        files.Remove(newPath);
+    if (!error.Ok()) {
+        files.RemoveIfPossible(newPath);
     }
-    return failed;
+    return error;
 }
 
 FileError CopyJournal(FileSystem& files, const std::string& from, const std::string& to)
 {
     std::string bytes;
-    FileError failed = ReadWhole(files, from, bytes);
-    return failed.Ok() ? WriteJournal(files, to, bytes) : failed;
+    FileError error = ReadWhole(files, from, bytes);
+    return error.Ok() ? WriteJournal(files, to, bytes) : error;
 }
 
 FileError ReadJournal(FileSystem& files, const std::string& path, JournalReading& reading)
 {
     std::string bytes;
-    FileError failed = ReadWhole(files, path, bytes);
-    reading = failed.Ok() ? ParseJournal(bytes) : JournalReading{};
-    return failed;
+    FileError error = ReadWhole(files, path, bytes);
+    reading = error.Ok() ? ParseJournal(bytes) : JournalReading{};
+    return error;
 }
 
 } // namespace ls

@@ -74,8 +74,8 @@ std::optional<std::int64_t> ReadJournalNumber(std::string_view digits, std::int6
 {
     std::int64_t number = 0;
     const char* const end = digits.data() + digits.size();
-    const auto [stopped, failed] = std::from_chars(digits.data(), end, number);
-    if (failed != std::errc() || stopped != end || number < 0 || number > max) {
+    const auto [stopped, error] = std::from_chars(digits.data(), end, number);
+    if (error != std::errc() || stopped != end || number < 0 || number > max) {
         return std::nullopt;
     }
     return number;

@@ -66,9 +66,9 @@ void JournalWatch::LookAt(const Forms& forms, bool busy, State state)
 
 bool JournalWatch::Write(const RunningEdits& running)
 {
-    const FileError failed = m_journal.Update(m_book, running, m_clock());
-    if (!failed.Ok()) {
-        TellOnce(failed);
+    const FileError error = m_journal.Update(m_book, running, m_clock());
+    if (!error.Ok()) {
+        TellOnce(error);
         return false;
     }
     m_typing = !running.None();
@@ -111,19 +111,18 @@ void JournalWatch::Finish()
     }
 }
 
-void JournalWatch::TellOnce(const FileError& failed)
+void JournalWatch::TellOnce(const FileError& error)
 {
     if (!std::exchange(m_told, true)) {
-        m_tell(JournalTrouble(m_journal.Folder(), failed));
+        m_tell(JournalTrouble(m_journal.Folder(), error));
     }
 }
 
-std::string JournalTrouble(const std::string& folder, const FileError& failed)
+std::string JournalTrouble(const std::string& folder, const FileError& error)
 {
     const std::string why = folder.empty()
                                 ? "there is no folder for it, as you have no home folder"
-                                : "it cannot be written in <<" + FromPath(folder) + ">> due to error #" +
-                                      std::to_string(failed.number) + ": " + failed.description;
+                                : "it cannot be written in <<" + FromPath(folder) + ">>" + DueTo(error);
     return "Your changes are not in the recovery journal: " + why +
            ".\n\nYou can go on, but a crash would lose what you have not saved. Writing the journal is tried "
            "again every second; this is told only once.";

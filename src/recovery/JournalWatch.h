@@ -57,7 +57,7 @@ private:
     bool Write(const RunningEdits& running);
     void LookAt(const Forms& forms, bool busy, State state);
     void WriteLast(const Forms& forms);
-    void TellOnce(const FileError& failed);
+    void TellOnce(const FileError& error);
 
     const Book& m_book;
     Seams m_seams;
@@ -72,6 +72,6 @@ private:
 };
 
 /// What the user is told when the journal cannot be written: the text is UTF-8.
-[[nodiscard]] std::string JournalTrouble(const std::string& folder, const FileError& failed);
+[[nodiscard]] std::string JournalTrouble(const std::string& folder, const FileError& error);
 
 } // namespace ls

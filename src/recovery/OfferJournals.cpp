@@ -18,9 +18,9 @@ namespace ls {
 
 namespace {
 
-bool IsMissing(const FileError& failed)
+bool IsMissing(const FileError& error)
 {
-    return failed.number == error::FileNotFound || failed.number == error::PathNotFound;
+    return error.number == error::FileNotFound || error.number == error::PathNotFound;
 }
 
 // Opens the book that a journal belongs to, for a try: nothing is said when that fails, and a fault of it
@@ -33,8 +33,8 @@ JournalFit OpenFitting(const Journal& journal, Book& book, const Seams& seams)
     const std::string& path = journal.book->path;
     const Sharing sharing = journal.book->locked ? Sharing::Locked : Sharing::Shared;
     std::unique_ptr<BookFile> file;
-    if (const FileError failed = seams.files.OpenForReading(path, sharing, file); !failed.Ok()) {
-        return IsMissing(failed) ? JournalFit::Gone : JournalFit::Refused;
+    if (const FileError error = seams.files.OpenForReading(path, sharing, file); !error.Ok()) {
+        return IsMissing(error) ? JournalFit::Gone : JournalFit::Refused;
     }
     file.reset();
     ProgramEnd end;
@@ -90,10 +90,9 @@ void Recover(FoundJournal& found, bool fits, Book& book, const Seams& seams, Own
 
 void Discard(FoundJournal& found, const Seams& seams)
 {
-    if (const FileError failed = found.claim->Remove(); !failed.Ok()) {
+    if (const FileError error = found.claim->Remove(); !error.Ok()) {
         seams.messages.MsgBox("The recovery journal <<" + FromPath(found.claim->Path()) +
-                                  ">> cannot be removed due to error #" + std::to_string(failed.number) +
-                                  ": " + failed.description + ". It will be offered again.",
+                                  ">> cannot be removed" + DueTo(error) + ". It will be offered again.",
                               Icon::Warning);
     }
 }

@@ -27,19 +27,19 @@ FileError OwnJournal::Update(const Book& book, const RunningEdits& running, std:
     if (!m_written.empty() && !InPlace()) {
         m_claim.reset(); // its lock may have gone with it
     }
-    FileError failed = Write(bytes);
-    if (failed.number == error::PathNotFound && m_claim) { // the folder was removed since it was claimed
+    FileError error = Write(bytes);
+    if (error.number == error::PathNotFound && m_claim) { // the folder was removed since it was claimed
         m_claim.reset();
-        failed = Write(bytes);
+        error = Write(bytes);
     }
-    m_written = failed.Ok() ? std::move(timeless) : std::string();
-    return failed;
+    m_written = error.Ok() ? std::move(timeless) : std::string();
+    return error;
 }
 
 FileError OwnJournal::Write(const std::string& bytes)
 {
-    FileError failed = Claim();
-    return failed.Ok() ? WriteJournal(m_seams.files, m_claim->Path(), bytes) : failed;
+    FileError error = Claim();
+    return error.Ok() ? WriteJournal(m_seams.files, m_claim->Path(), bytes) : error;
 }
 
 bool OwnJournal::InPlace() const
@@ -52,8 +52,8 @@ FileError OwnJournal::Claim()
     if (m_claim) {
         return {};
     }
-    if (FileError failed = m_seams.files.MakeFolder(m_folder); !failed.Ok()) {
-        return failed;
+    if (FileError error = m_seams.files.MakeFolder(m_folder); !error.Ok()) {
+        return error;
     }
     return JournalClaim::MakeNew(m_seams.files, m_seams.paths, m_folder, m_names, m_claim);
 }
@@ -70,11 +70,11 @@ FileError OwnJournal::Remove()
         return {};
     }
     m_written.clear();
-    FileError failed = m_claim->Remove();
-    if (failed.Ok()) {
+    FileError error = m_claim->Remove();
+    if (error.Ok()) {
         m_claim.reset();
     }
-    return failed;
+    return error;
 }
 
 } // namespace ls

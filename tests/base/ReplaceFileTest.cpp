@@ -67,11 +67,11 @@ TEST_F(ReplaceFile, faultOnTheWay_leavesTheOldFileAndNothingBeside)
         files["/work/a.htm"] = "old";
         files.fail = [&operation](const std::string& o) { return o == operation ? error::DiskFull : 0; };
         ASSERT_EQ(Open("a.htm"), 0);
-        FileError failed = file->Write("new");
-        if (failed.Ok()) {
-            failed = file->Finish();
+        FileError error = file->Write("new");
+        if (error.Ok()) {
+            error = file->Finish();
         }
-        EXPECT_EQ(failed.number, error::DiskFull);
+        EXPECT_EQ(error.number, error::DiskFull);
         file.reset();
         EXPECT_EQ(files["/work/a.htm"], "old");
         EXPECT_EQ(Names(), Strings{"a.htm"});

@@ -86,9 +86,9 @@ double AdvisorWorld::Question()
 
 void AdvisorWorld::Check()
 {
-    FileError failed;
-    (void)CheckBook(m_book, m_world.Get(), nullptr, failed);
-    Require(failed.Ok(), "the book is checked to its end");
+    FileError error;
+    (void)CheckBook(m_book, m_world.Get(), nullptr, error);
+    Require(error.Ok(), "the book is checked to its end");
 }
 
 } // namespace ls::bench

@@ -21,9 +21,9 @@ void BenchCheck(const std::string& folder)
             BenchWorld world;
             Book book;
             world.Load(book, path);
-            FileError failed;
-            const std::vector<Finding> found = CheckBook(book, world.Get(), nullptr, failed);
-            Require(failed.Ok(), "a book is checked to its end");
+            FileError error;
+            const std::vector<Finding> found = CheckBook(book, world.Get(), nullptr, error);
+            Require(error.Ok(), "a book is checked to its end");
             for (const Finding& finding : found) {
                 Require(finding.rule == "not-closed", "its references and texts are clean");
             }

@@ -53,9 +53,9 @@ public:
 
     void Check()
     {
-        FileError failed;
-        const std::vector<Finding> found = CheckBook(m_book, m_world.Get(), nullptr, failed);
-        Require(failed.Ok() && !found.empty(), "the book is checked to its end");
+        FileError error;
+        const std::vector<Finding> found = CheckBook(m_book, m_world.Get(), nullptr, error);
+        Require(error.Ok() && !found.empty(), "the book is checked to its end");
     }
 
     void Save()

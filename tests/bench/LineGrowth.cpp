@@ -72,16 +72,16 @@ public:
         const PrinterState state{9, false, true, 11906, 16838, 11340, 16272}; // A4
         PageRecorder printer(state, 240);
         PrintSettings settings;
-        Require(PrintTopic(m_book, m_world.Get(), printer, settings, "[Long]", 1).failed.Ok(),
+        Require(PrintTopic(m_book, m_world.Get(), printer, settings, "[Long]", 1).error.Ok(),
                 "it is printed");
         Require(printer.Pages().size() > 10, "on its pages");
     }
 
     void Check()
     {
-        FileError failed;
-        (void)CheckBook(m_book, m_world.Get(), nullptr, failed);
-        Require(failed.Ok(), "it is checked");
+        FileError error;
+        (void)CheckBook(m_book, m_world.Get(), nullptr, error);
+        Require(error.Ok(), "it is checked");
     }
 
     void Edit()

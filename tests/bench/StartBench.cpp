@@ -32,7 +32,7 @@ struct Viewer
     std::string home;
     std::vector<double> starts = {}; ///< milliseconds
     GroupMemory memory = {};         ///< the most of all runs
-    bool failed = false;
+    bool error = false;
 };
 
 std::vector<std::string> EnvironmentOf(const Viewer& viewer, const VirtualScreen& screen)
@@ -76,7 +76,7 @@ void RunOnce(Viewer& viewer, const VirtualScreen& screen, bool counts)
     const auto start = Clock::now();
     const pid_t program = StartProgram(viewer.words, EnvironmentOf(viewer, screen));
     const double took = MillisecondsToTopic(screen, program, start);
-    viewer.failed = viewer.failed || took < 0;
+    viewer.error = viewer.error || took < 0;
     usleep(static_cast<useconds_t>(std::chrono::microseconds(Settling).count()));
     const GroupMemory memory = PeakMemoryOf(program);
     EndProgram(program);
@@ -114,7 +114,7 @@ std::string MemoryText(const GroupMemory& memory)
 void PrintViewer(const Viewer& viewer, const Viewer& own)
 {
     const bool peer = &viewer != &own;
-    if (viewer.failed) {
+    if (viewer.error) {
         PrintRow("start, " + viewer.name, "shows no topic");
         return;
     }
@@ -141,12 +141,12 @@ void Run(const std::string& folder, const std::string& program)
     std::vector<Viewer> viewers = ViewersOf(documents, program, folder);
     for (int round = 0; round <= Rounds; ++round) {
         for (Viewer& viewer : viewers) {
-            if (!viewer.failed) {
+            if (!viewer.error) {
                 RunOnce(viewer, screen, round > 0); // the first ones bring the files into the page cache
             }
         }
     }
-    Require(!viewers.front().failed, "the program shows a topic");
+    Require(!viewers.front().error, "the program shows a topic");
     for (const Viewer& viewer : viewers) {
         PrintViewer(viewer, viewers.front());
     }

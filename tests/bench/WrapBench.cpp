@@ -68,7 +68,7 @@ void WrapFile(const std::string& path)
         } while (!rest.Blank());
     }
     out << wrapped << std::flush;
-    Require(body.Failed().Ok(), "the text is read");
+    Require(body.Error().Ok(), "the text is read");
     Require(out.good() && total > TextSize * 9 / 10, "the whole text is wrapped");
 }
 

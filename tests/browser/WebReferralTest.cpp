@@ -284,11 +284,11 @@ TEST_F(WebReferralTest, pageThatCannotBeWritten_isToldAndNothingStarted)
         Show();
         return world.messages.Take();
     };
-    const std::string failed = "exclamation|Lodestar Advisor|Failed to write temporary HTML file "
-                               "<</pages/Lodestar_Ideas_Temp.htm>> due to error #";
-    EXPECT_EQ(failAt("create", error::PathFileAccess), Strings{failed + "75: Path/File access error"});
-    EXPECT_EQ(failAt("write", error::DiskFull), Strings{failed + "61: Disk full"});
-    EXPECT_EQ(failAt("finish", error::DeviceIo), Strings{failed + "57: Device I/O error"});
+    const std::string error = "exclamation|Lodestar Advisor|Failed to write temporary HTML file "
+                              "<</pages/Lodestar_Ideas_Temp.htm>> due to error #";
+    EXPECT_EQ(failAt("create", error::PathFileAccess), Strings{error + "75: Path/File access error"});
+    EXPECT_EQ(failAt("write", error::DiskFull), Strings{error + "61: Disk full"});
+    EXPECT_EQ(failAt("finish", error::DeviceIo), Strings{error + "57: Device I/O error"});
     EXPECT_EQ(world.processes.started, Strings{});
     EXPECT_FALSE(world.files.Has("/pages/Lodestar_Ideas_Temp.htm"));
 }

@@ -99,9 +99,9 @@ std::vector<std::string> Lines(const std::vector<Finding>& findings)
 std::vector<std::string> FindingsOf(const std::string& bytes)
 {
     CheckedBook world(bytes);
-    FileError failed;
-    const std::vector<Finding> found = CheckBook(world.book, world.seams.Get(), nullptr, failed);
-    EXPECT_TRUE(failed.Ok());
+    FileError error;
+    const std::vector<Finding> found = CheckBook(world.book, world.seams.Get(), nullptr, error);
+    EXPECT_TRUE(error.Ok());
     EXPECT_EQ(world.seams.messages.Take(), std::vector<std::string>());
     return Lines(found);
 }

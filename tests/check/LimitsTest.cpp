@@ -139,12 +139,12 @@ TEST(CheckBook, progressThatCancels_givesWhatWasFoundSoFar)
 {
     const std::string block = "<IXML>\r\n</IXML>\r\n";
     test::CheckedBook world(Header + block + "[Two]\r\n" + block);
-    FileError failed;
+    FileError error;
     StoppingProgress whole(0);
-    EXPECT_EQ(CheckBook(world.book, world.seams.Get(), &whole, failed).size(), 2U);
+    EXPECT_EQ(CheckBook(world.book, world.seams.Get(), &whole, error).size(), 2U);
     EXPECT_EQ(whole.steps, 3);
     StoppingProgress cancelled(2);
-    EXPECT_EQ(CheckBook(world.book, world.seams.Get(), &cancelled, failed).size(), 1U);
+    EXPECT_EQ(CheckBook(world.book, world.seams.Get(), &cancelled, error).size(), 1U);
     EXPECT_EQ(cancelled.steps, 2);
 }
 
@@ -154,9 +154,9 @@ TEST(CheckBook, fileThatFailsOnTheWay_tellsSoAndGivesWhatWasFound)
     world.seams.files.fail = [](const std::string& operation) {
         return operation.starts_with("read") ? error::DeviceIo : 0;
     };
-    FileError failed;
-    EXPECT_EQ(CheckBook(world.book, world.seams.Get(), nullptr, failed).size(), 0U);
-    EXPECT_EQ(failed.number, error::DeviceIo);
+    FileError error;
+    EXPECT_EQ(CheckBook(world.book, world.seams.Get(), nullptr, error).size(), 0U);
+    EXPECT_EQ(error.number, error::DeviceIo);
 }
 
 } // namespace

@@ -10,7 +10,7 @@ struct Plan
     int calls = 0;
     int failAt = 0;
     SystemFault fault{};
-    const char* failed = "";
+    const char* error = "";
     std::string path; ///< of the call that failed
 };
 
@@ -28,9 +28,9 @@ FailingCalls::~FailingCalls()
     plan.active = false;
 }
 
-std::string FailingCalls::Failed() const
+std::string FailingCalls::Error() const
 {
-    return plan.failed;
+    return plan.error;
 }
 
 std::string FailingCalls::Path() const
@@ -45,7 +45,7 @@ std::optional<int> CodeOfFailing(const char* call, const std::string& path)
     }
     ++plan.calls;
     if (plan.calls == plan.failAt) {
-        plan.failed = call;
+        plan.error = call;
         plan.path = path;
     }
     const bool fails =

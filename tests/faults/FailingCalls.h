@@ -25,7 +25,7 @@ public:
     FailingCalls& operator=(const FailingCalls&) = delete;
 
     /// The name of the call that failed first; empty when none did.
-    [[nodiscard]] std::string Failed() const;
+    [[nodiscard]] std::string Error() const;
 
     /// The path that it was given; of a call on something open the path that was opened last.
     [[nodiscard]] std::string Path() const;

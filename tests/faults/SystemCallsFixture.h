@@ -17,7 +17,7 @@ class SystemCalls : public testing::TestWithParam<SystemFault>
 protected:
     /// Calls `prepare`, then `act` with the next call failing, then `check` with that call's name, until
     /// `act` has no more calls.
-    void ForEachCall(const std::function<void(const std::string& failed)>& check,
+    void ForEachCall(const std::function<void(const std::string& error)>& check,
                      const std::function<void()>& act, const std::function<void()>& prepare)
     {
         for (int failAt = 1; failAt < 500; ++failAt) {
@@ -25,7 +25,7 @@ protected:
             {
                 const FailingCalls failing(failAt, GetParam());
                 act();
-                calls.push_back(failing.Failed());
+                calls.push_back(failing.Error());
             }
             if (calls.back().empty()) {
                 break;

@@ -59,19 +59,19 @@ TEST_P(SystemCalls, save_eachCallFailing_losesNothing)
 TEST_P(SystemCalls, replaceFile_eachCallFailing_leavesTheOldFileOrTheWholeNewOne)
 {
     const std::unique_ptr<FileSystem> files = MakeFileSystem();
-    FileError failed;
+    FileError error;
     ForEachCall(
         [&](const std::string& call) {
             const std::string bytes = folder.Read("Export.htm");
-            EXPECT_EQ(bytes, failed.Ok() ? "newer" : "older");
+            EXPECT_EQ(bytes, error.Ok() ? "newer" : "older");
             const bool left = folder.Has("Export.htm.new");
             EXPECT_TRUE(!left || GetParam().forGood || call == test::CallOfRemoving());
         },
         [&] {
             std::unique_ptr<OutputFile> file;
-            failed = OpenToReplace(*files, folder / "Export.htm", file);
-            failed = failed.Ok() ? file->Write("newer") : failed;
-            failed = failed.Ok() ? file->Finish() : failed;
+            error = OpenToReplace(*files, folder / "Export.htm", file);
+            error = error.Ok() ? file->Write("newer") : error;
+            error = error.Ok() ? file->Finish() : error;
         },
         [&] {
             folder.Write("Export.htm", "older");

@@ -165,9 +165,9 @@ TEST_F(Flat, checks_fifty_holdNoMore)
     ASSERT_TRUE(OpenBook(book, seams) && ScanBook(book, seams));
     EXPECT_EQ(GrowthOver(50,
                          [&](int) {
-                             FileError failed;
-                             (void)CheckBook(book, seams, nullptr, failed);
-                             ASSERT_TRUE(failed.Ok());
+                             FileError error;
+                             (void)CheckBook(book, seams, nullptr, error);
+                             ASSERT_TRUE(error.Ok());
                          }),
               "");
 }

@@ -98,7 +98,7 @@ protected:
         systemPrinter.SetFile(Path("own.pdf"), true);
         const Printed printed = PrintTopic(global.book, seams, systemPrinter, global.print,
                                            global.book.CurrentTopicName, global.book.CurrentTopicNo);
-        EXPECT_TRUE(printed.failed.Ok());
+        EXPECT_TRUE(printed.error.Ok());
         return Path("own.pdf");
     }
 
@@ -295,7 +295,7 @@ TEST_F(PrintCupsTest, serviceStoppedAfterThePrinterWasChosen_isTold)
     ASSERT_TRUE(test::WaitFor([] { return !QFile::exists(QString::fromLocal8Bit(qgetenv("CUPS_SERVER"))); }));
     const Printed printed = PrintTopic(global.book, seams, systemPrinter, global.print,
                                        global.book.CurrentTopicName, global.book.CurrentTopicNo);
-    EXPECT_EQ(printed.failed, MakeFileError(error::DeviceUnavailable));
+    EXPECT_EQ(printed.error, MakeFileError(error::DeviceUnavailable));
     EXPECT_EQ(systemPrinter.Names(), Strings{"Print to PDF"});
 }
 

@@ -15,11 +15,11 @@ TEST_F(PrintPdfTest, fileOfThatName_isReplacedOnlyWhenAgreed)
     Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
     const std::string path = folder.Write("b.pdf", "precious");
     printer.SetFile(path, false);
-    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed,
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).error,
               MakeFileError(error::FileAlreadyExists));
     EXPECT_EQ(folder.Read("b.pdf"), "precious");
     printer.SetFile(path, true);
-    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed, FileError{});
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).error, FileError{});
     EXPECT_EQ(test::PdfPages(path), (PageRows{{"A", "x"}}));
 }
 
@@ -35,7 +35,7 @@ TEST_F(PrintPdfTest, fileThatComesWhileThePagesAreStored_isKept)
     };
     SystemPrinter onMemory(memory, service);
     onMemory.SetFile("/work/a.pdf", false);
-    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).failed,
+    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).error,
               MakeFileError(error::FileAlreadyExists));
     EXPECT_EQ(memory["/work/a.pdf"], "somebody else's");
     EXPECT_FALSE(memory.Has("/work/a.pdf.new"));
@@ -61,7 +61,7 @@ TEST_P(PrintPdfBadPlace, fileThatCannotBeWritten_isAnErrorAndLeavesNothing)
         path = folder / path;
     }
     printer.SetFile(path, true);
-    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).failed.number, GetParam().error);
+    EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).error.number, GetParam().error);
     // The next one goes well.
     EXPECT_EQ(test::PdfPages(Print(1, "good")), (PageRows{{"A", "x"}}));
 }
@@ -80,9 +80,9 @@ TEST_F(PrintPdfTest, noRoomForTheWork_isAnErrorAndNotDone)
     qputenv("TMPDIR", "/proc"); // nothing can be made there
     const std::string path = folder / "a.pdf";
     printer.SetFile(path, true);
-    const FileError failed = PrintTopic(book, seams, printer, settings, "A", 1).failed;
+    const FileError error = PrintTopic(book, seams, printer, settings, "A", 1).error;
     before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
-    EXPECT_EQ(failed, MakeFileError(error::PathFileAccess));
+    EXPECT_EQ(error, MakeFileError(error::PathFileAccess));
     EXPECT_FALSE(folder.Has("a.pdf"));
     EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
 }
@@ -99,10 +99,10 @@ TEST_F(PrintPdfTest, pagesCutWhileTheyAreMade_areNotTakenForDone)
     small.rlim_cur = 2000;
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const FileError failed = PrintTopic(book, seams, printer, settings, "A", 1).failed;
+    const FileError error = PrintTopic(book, seams, printer, settings, "A", 1).error;
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handler);
-    EXPECT_EQ(failed, MakeFileError(error::DiskFull));
+    EXPECT_EQ(error, MakeFileError(error::DiskFull));
     EXPECT_EQ(folder.Read("a.pdf"), "precious");
     EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
 }
@@ -112,25 +112,25 @@ TEST_F(PrintPdfTest, eachCallFailingWhileTheFileIsStored_keepsTheOldOneAndLeaves
 {
     Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
     for (const bool replace : {false, true}) {
-        std::string failed = "first";
-        for (int failAt = 1; !failed.empty() && failAt < 50; ++failAt) {
+        std::string error = "first";
+        for (int failAt = 1; !error.empty() && failAt < 50; ++failAt) {
             test::MemoryFileSystem memory;
             if (replace) {
                 memory["/work/a.pdf"] = "precious";
             }
             int calls = 0;
-            failed.clear();
+            error.clear();
             memory.fail = [&](const std::string& operation) {
-                failed = ++calls == failAt ? operation : failed;
+                error = ++calls == failAt ? operation : error;
                 return calls == failAt ? error::DeviceIo : 0;
             };
             SystemPrinter onMemory(memory, service);
             onMemory.SetFile("/work/a.pdf", replace);
-            const FileError told = PrintTopic(book, seams, onMemory, settings, "A", 1).failed;
-            SCOPED_TRACE(failed);
-            EXPECT_EQ(told, failed.empty() ? FileError{} : MakeFileError(error::DeviceIo));
+            const FileError told = PrintTopic(book, seams, onMemory, settings, "A", 1).error;
+            SCOPED_TRACE(error);
+            EXPECT_EQ(told, error.empty() ? FileError{} : MakeFileError(error::DeviceIo));
             EXPECT_FALSE(memory.Has("/work/a.pdf.new"));
-            if (failed.empty()) {
+            if (error.empty()) {
                 EXPECT_GT(failAt, 4) << "creating, writing, finishing and naming failed";
                 EXPECT_TRUE(memory["/work/a.pdf"].starts_with("%PDF"));
             } else {
@@ -138,7 +138,7 @@ TEST_F(PrintPdfTest, eachCallFailingWhileTheFileIsStored_keepsTheOldOneAndLeaves
                 EXPECT_TRUE(!replace || memory["/work/a.pdf"] == "precious");
             }
         }
-        EXPECT_EQ(failed, "");
+        EXPECT_EQ(error, "");
     }
 }
 
@@ -162,11 +162,11 @@ TEST_P(PrintPdfStore, diskFullWhileTheFileIsStored_keepsTheOldOne)
     };
     SystemPrinter onMemory(memory, service);
     onMemory.SetFile("/work/a.pdf", true);
-    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).failed, MakeFileError(error::DiskFull));
+    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).error, MakeFileError(error::DiskFull));
     EXPECT_EQ(memory["/work/a.pdf"], "precious");
     EXPECT_FALSE(memory.Has("/work/a.pdf.new"));
     memory.fail = nullptr;
-    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).failed, FileError{});
+    EXPECT_EQ(PrintTopic(book, seams, onMemory, settings, "A", 1).error, FileError{});
     EXPECT_TRUE(memory["/work/a.pdf"].starts_with("%PDF"));
 }
 

@@ -48,7 +48,7 @@ protected:
         printer.SetFile(path, true);
         const std::string title = number == 0 ? "" : book.TopicNames(number);
         const Printed printed = PrintTopic(book, seams, printer, settings, title, number);
-        EXPECT_EQ(printed.failed, FileError{});
+        EXPECT_EQ(printed.error, FileError{});
         EXPECT_TRUE(printed.located);
         EXPECT_EQ(messages.Take(), Strings{});
         return path;

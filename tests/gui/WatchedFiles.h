@@ -22,11 +22,11 @@ public:
     FileError OpenForReading(const std::string& path, Sharing sharing,
                              std::unique_ptr<BookFile>& file) override
     {
-        const FileError failed = m_files->OpenForReading(path, sharing, file);
-        if (failed.Ok()) {
+        const FileError error = m_files->OpenForReading(path, sharing, file);
+        if (error.Ok()) {
             file = std::make_unique<Watched>(*this, std::move(file));
         }
-        return failed;
+        return error;
     }
     FileError CreateNew(const std::string& path, std::unique_ptr<OutputFile>& file) override
     {

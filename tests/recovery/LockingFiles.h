@@ -26,11 +26,11 @@ public:
             Fault("refuse " + path);
             return MakeFileError(error::PermissionDenied);
         }
-        FileError failed = MemoryFileSystem::OpenForReading(path, sharing, file);
-        if (failed.Ok()) {
+        FileError error = MemoryFileSystem::OpenForReading(path, sharing, file);
+        if (error.Ok()) {
             file = std::make_unique<Held>(std::move(file), openings, sharing == Sharing::Locked);
         }
-        return failed;
+        return error;
     }
 
 private:

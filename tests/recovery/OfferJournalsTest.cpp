@@ -232,7 +232,7 @@ TEST_F(OfferJournalsTest, eachCallFailing_losesNothingAndIsTold)
 {
     for (const int number : {error::DeviceIo, error::DiskFull, error::PermissionDenied}) {
         int failAt = 1;
-        for (bool failed = true; failed; ++failAt) {
+        for (bool error = true; error; ++failAt) {
             names = 0;
             EditAndDie(1);
             files[JournalPath()].resize(files[JournalPath()].size() - 3); // damaged: it is copied, too
@@ -247,7 +247,7 @@ TEST_F(OfferJournalsTest, eachCallFailing_losesNothingAndIsTold)
             asked.clear();
             const bool recovered = Offer();
             files.fail = nullptr;
-            failed = calls >= failAt;
+            error = calls >= failAt;
             SCOPED_TRACE(call + " " + std::to_string(number));
             const Strings told = messages.Take();
             EXPECT_EQ(files[BookPath], ThreeTopics());

@@ -49,11 +49,11 @@ FileError CupsService::LastJob()
     if (lastError == nullptr || lastErrorString == nullptr || lastError() < FirstErrorStatus) {
         return {};
     }
-    FileError failed = MakeFileError(error::DeviceUnavailable);
+    FileError error = MakeFileError(error::DeviceUnavailable);
     if (const char* words = lastErrorString(); words != nullptr && *words != '\0') {
-        failed.description += std::string(" (") + words + ")";
+        error.description += std::string(" (") + words + ")";
     }
-    return failed;
+    return error;
 }
 
 std::optional<bool> CupsService::Landscape(const std::string& printer)

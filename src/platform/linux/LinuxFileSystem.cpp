@@ -254,8 +254,8 @@ FileError LinuxFileSystem::MakeFolder(const std::string& folder)
     }
     const std::string above = FolderOf(UnixPaths, folder);
     if (!above.empty() && above != folder) {
-        if (FileError failed = MakeFolder(above); !failed.Ok()) {
-            return failed;
+        if (FileError error = MakeFolder(above); !error.Ok()) {
+            return error;
         }
     }
     const int failure = ::mkdir(folder.c_str(), 0700) == 0 ? 0 : errno;

@@ -69,10 +69,10 @@ std::string ReadLines(const std::string& path)
         const std::size_t before = text.size();
         std::size_t got = 0;
         text.resize(before + Block);
-        const FileError failed =
+        const FileError error =
             file.ReadAt(static_cast<FilePos>(before) + 1, text.data() + before, Block, got);
         text.resize(before + got);
-        if (!failed.Ok()) {
+        if (!error.Ok()) {
             text.resize(text.rfind('\n') + 1);
             return text;
         }

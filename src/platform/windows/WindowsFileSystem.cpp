@@ -181,8 +181,8 @@ FileError WindowsFileSystem::OpenForReading(const std::string& path, Sharing sha
     const DWORD mode =
         sharing == Sharing::Locked ? 0 : FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     WindowsHandle handle;
-    if (FileError failed = OpenFile(path, GENERIC_READ, mode, OPEN_EXISTING, handle); !failed.Ok()) {
-        return failed;
+    if (FileError error = OpenFile(path, GENERIC_READ, mode, OPEN_EXISTING, handle); !error.Ok()) {
+        return error;
     }
     file = std::make_unique<WindowsBookFile>(std::move(handle));
     return {};
@@ -192,8 +192,8 @@ FileError WindowsFileSystem::CreateNew(const std::string& path, std::unique_ptr<
 {
     file.reset();
     WindowsHandle handle;
-    if (FileError failed = OpenFile(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_NEW, handle); !failed.Ok()) {
-        return failed;
+    if (FileError error = OpenFile(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_NEW, handle); !error.Ok()) {
+        return error;
     }
     file = std::make_unique<WindowsOutputFile>(std::move(handle));
     return {};
@@ -287,8 +287,8 @@ FileError WindowsFileSystem::MakeFolder(const std::string& folder)
     }
     const std::string above = FolderOf(WindowsPaths, folder);
     if (!above.empty() && above != folder) {
-        if (FileError failed = MakeFolder(above); !failed.Ok()) {
-            return failed;
+        if (FileError error = MakeFolder(above); !error.Ok()) {
+            return error;
         }
     }
     if (::CreateDirectoryW(wide.c_str(), nullptr) != 0) {

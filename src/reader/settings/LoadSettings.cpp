@@ -108,7 +108,7 @@ void LoadSettings(Settings& settings, const Seams& seams)
     StatementReader reader(*file);
     std::string signature;
     reader.ReadLine(signature);
-    if (!reader.Failed().Ok()) {
+    if (!reader.Error().Ok()) {
         settings.NotReadWhole = true;
         return; // as good as a file that cannot be opened
     }
@@ -123,7 +123,7 @@ void LoadSettings(Settings& settings, const Seams& seams)
     Statement statement;
     while (reader.Next(statement) && loader.Take(statement)) {
     }
-    settings.NotReadWhole = !reader.Failed().Ok();
+    settings.NotReadWhole = !reader.Error().Ok();
 }
 
 } // namespace ls

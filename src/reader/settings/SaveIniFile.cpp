@@ -4,6 +4,7 @@
 #include "reader/settings/StatementReader.h"
 
 #include <string_view>
+#include <tuple>
 
 namespace ls {
 
@@ -58,23 +59,23 @@ std::string IniText(const Settings& settings)
 FileError WriteNewFile(FileSystem& files, const std::string& path, const std::string& text)
 {
     std::unique_ptr<OutputFile> file;
-    FileError failed = files.CreateNew(path, file);
-    if (failed.number == error::FileAlreadyExists) {
-        failed = files.Remove(path);
-        failed = failed.Ok() ? files.CreateNew(path, file) : failed;
+    FileError error = files.CreateNew(path, file);
+    if (error.number == error::FileAlreadyExists) {
+        error = files.Remove(path);
+        error = error.Ok() ? files.CreateNew(path, file) : error;
     }
-    if (!failed.Ok()) {
-        return failed;
+    if (!error.Ok()) {
+        return error;
     }
-    failed = file->Write(text);
-    if (failed.Ok()) {
-        failed = file->Finish();
+    error = file->Write(text);
+    if (error.Ok()) {
+        error = file->Finish();
     }
-    if (!failed.Ok()) {
+    if (!error.Ok()) {
         file.reset();
-        files.Remove(path);
+        files.RemoveIfPossible(path);
     }
-    return failed;
+    return error;
 }
 
 // Whether a file stands there that loading would refuse, cannot even read, or did not read to its end.
@@ -84,8 +85,8 @@ bool MustBeKept(FileSystem& files, const std::string& path, bool notReadWhole)
         return false;
     }
     std::unique_ptr<BookFile> file;
-    if (const FileError failed = files.OpenForReading(path, Sharing::Shared, file); !failed.Ok()) {
-        return failed.number != error::PathFileAccess; // a folder is left where it is: saving then fails
+    if (const FileError error = files.OpenForReading(path, Sharing::Shared, file); !error.Ok()) {
+        return error.number != error::PathFileAccess; // a folder is left where it is: saving then fails
     }
     StatementReader reader(*file);
     std::string signature;
@@ -95,42 +96,42 @@ bool MustBeKept(FileSystem& files, const std::string& path, bool notReadWhole)
 // Puts the file beside, under the first backup name that is free: ".bak", ".bak2", ...
 FileError KeepBeside(FileSystem& files, const std::string& path, std::string& backup)
 {
-    FileError failed;
+    FileError error;
     for (int number = 1; number <= MaxBackups; ++number) {
         backup = path + std::string(BackupType);
         if (number > 1) {
             backup += std::to_string(number);
         }
-        failed = files.RenameToNew(path, backup);
-        if (failed.number != error::FileAlreadyExists) {
+        error = files.RenameToNew(path, backup);
+        if (error.number != error::FileAlreadyExists) {
             break;
         }
     }
-    return failed;
+    return error;
 }
 
 FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::string& text,
                          bool notReadWhole)
 {
     const std::string newPath = path + std::string(NewType);
-    FileError failed = WriteNewFile(files, newPath, text);
-    if (!failed.Ok()) {
-        return failed;
+    FileError error = WriteNewFile(files, newPath, text);
+    if (!error.Ok()) {
+        return error;
     }
     std::string backup;
     if (MustBeKept(files, path, notReadWhole)) {
-        failed = KeepBeside(files, path, backup);
+        error = KeepBeside(files, path, backup);
     }
-    if (failed.Ok()) {
-        failed = files.RenameOver(newPath, path);
-        if (!failed.Ok() && !backup.empty()) {
-            files.RenameToNew(backup, path);
+    if (error.Ok()) {
+        error = files.RenameOver(newPath, path);
+        if (!error.Ok() && !backup.empty()) {
+            std::ignore = files.RenameToNew(backup, path); // the first error is the one to report
         }
     }
-    if (!failed.Ok()) {
-        files.Remove(newPath);
+    if (!error.Ok()) {
+        files.RemoveIfPossible(newPath);
     }
-    return failed;
+    return error;
 }
 
 } // namespace
@@ -138,11 +139,10 @@ FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::
 void SaveIniFile(Settings& settings, const Seams& seams)
 {
     const std::string path = IniPath(seams.files, seams.paths, settings.IniDir);
-    const FileError failed = ReplaceIniFile(seams.files, path, IniText(settings), settings.NotReadWhole);
-    settings.NotReadWhole = settings.NotReadWhole && !failed.Ok();
-    if (!failed.Ok()) {
-        seams.messages.MsgBox("Failed to save configuration and preferences to LSADVISOR.INI due to error #" +
-                                  std::to_string(failed.number) + ": " + failed.description,
+    const FileError error = ReplaceIniFile(seams.files, path, IniText(settings), settings.NotReadWhole);
+    settings.NotReadWhole = settings.NotReadWhole && !error.Ok();
+    if (!error.Ok()) {
+        seams.messages.MsgBox("Failed to save configuration and preferences to LSADVISOR.INI" + DueTo(error),
                               Icon::Warning);
     }
 }

@@ -46,11 +46,11 @@ Statement Statement::Part(std::size_t from, std::size_t count) const
 bool StatementReader::ReadLine(std::string& line)
 {
     if (m_next == std::string::npos) {
-        if (!m_failed.Ok() || m_cursor.AtEnd()) {
+        if (!m_error.Ok() || m_cursor.AtEnd()) {
             return false;
         }
-        m_failed = m_cursor.ReadLine(m_lines);
-        if (!m_failed.Ok()) {
+        m_error = m_cursor.ReadLine(m_lines);
+        if (!m_error.Ok()) {
             return false;
         }
         m_next = 0;

@@ -46,14 +46,14 @@ public:
     bool Next(Statement& statement);
 
     /// What ended reading; a file that was read to its end is no error.
-    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+    [[nodiscard]] const FileError& Error() const { return m_error; }
 
 private:
     bool ReadFilledLine(std::string& line);
     Statement TakeStatement();
 
     LineCursor m_cursor;
-    FileError m_failed;
+    FileError m_error;
     std::string m_lines;                    ///< one line, or several that end with LF alone
     std::size_t m_next = std::string::npos; ///< where the next of them begins; npos: all are read
     std::string IniLine;                    ///< the line being parsed

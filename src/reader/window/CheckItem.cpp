@@ -37,11 +37,11 @@ private:
     bool m_cancelled = false;
 };
 
-// The open file once more: whoever reads it brings a position. The first error goes into `failed`.
+// The open file once more: whoever reads it brings a position. The first error goes into `error`.
 class SameBookFile : public BookFile
 {
 public:
-    SameBookFile(BookFile& file, FileError& failed) : m_file(&file), m_failed(&failed) {}
+    SameBookFile(BookFile& file, FileError& error) : m_file(&file), m_error(&error) {}
 
     FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
     {
@@ -50,21 +50,21 @@ public:
     FileError Size(FilePos& size) override { return Note(m_file->Size(size)); }
 
 private:
-    FileError Note(const FileError& failed)
+    FileError Note(const FileError& error)
     {
-        if (m_failed->Ok()) {
-            *m_failed = failed;
+        if (m_error->Ok()) {
+            *m_error = error;
         }
-        return failed;
+        return error;
     }
 
     BookFile* m_file;
-    FileError* m_failed;
+    FileError* m_error;
 };
 
 // The book as its file has it, whatever was done to its topics in memory since. Errors of its file go into
-// `failed` from now on.
-void ScanAgain(const Book& book, const Seams& seams, Progress* progress, Book& fresh, FileError& failed)
+// `error` from now on.
+void ScanAgain(const Book& book, const Seams& seams, Progress* progress, Book& fresh, FileError& error)
 {
     ProgramEnd end; // a read error must not end the program here
     QuietMessages quiet(end);
@@ -72,7 +72,7 @@ void ScanAgain(const Book& book, const Seams& seams, Progress* progress, Book& f
     fresh.OpenPath = book.OpenPath;
     static_cast<BookHeader&>(fresh) = book;
     fresh.BookStartPos = book.BookStartPos;
-    fresh.File = std::make_unique<SameBookFile>(*book.File, failed);
+    fresh.File = std::make_unique<SameBookFile>(*book.File, error);
     ScanBook(fresh, {seams.files, quiet, seams.processes, end, seams.paths}, progress);
 }
 
@@ -111,19 +111,19 @@ bool IsCheckable(const Book& book, const Seams& seams)
 CheckedBook CheckOpenBook(const Book& book, const Seams& seams, Progress* progress)
 {
     CancelWatch watch(progress);
-    FileError failed;
+    FileError error;
     Book fresh;
     if (book.BookChanged) {
-        ScanAgain(book, seams, &watch, fresh, failed);
+        ScanAgain(book, seams, &watch, fresh, error);
     }
     CheckedBook checked;
-    if (failed.Ok()) { // half a table would give findings that are none
-        checked.findings = CheckBook(book.BookChanged ? fresh : book, seams, &watch, failed);
+    if (error.Ok()) { // half a table would give findings that are none
+        checked.findings = CheckBook(book.BookChanged ? fresh : book, seams, &watch, error);
     }
-    if (!failed.Ok()) {
-        ShowCheckError(book, seams, failed);
+    if (!error.Ok()) {
+        ShowCheckError(book, seams, error);
     }
-    const bool whole = failed.Ok() && !watch.Cancelled();
+    const bool whole = error.Ok() && !watch.Cancelled();
     checked.summary = Summary(checked.findings, FromPath(NameOf(seams.paths, book.BookPath)), whole);
     if (!whole) {
         checked.notes = watch.Cancelled() ? "The check was cancelled: this is what was found until then.\n"

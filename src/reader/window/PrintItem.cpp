@@ -47,10 +47,8 @@ void PrintItem_Click(const Book& book, PrintSettings& settings, PrinterDevice& p
                                         : FromBook(WithoutBrackets(book.CurrentTopicName)));
     const Printed printed =
         PrintTopic(book, seams, printer, settings, book.CurrentTopicName, book.CurrentTopicNo);
-    if (!printed.failed.Ok()) {
-        seams.messages.MsgBox("I cannot print the topic due to error #" +
-                                  std::to_string(printed.failed.number) + ": " + printed.failed.description,
-                              Icon::Critical);
+    if (!printed.error.Ok()) {
+        seams.messages.MsgBox("I cannot print the topic" + DueTo(printed.error), Icon::Critical);
     }
 }
 

@@ -103,24 +103,22 @@ void SaveItem::OfferType()
 // A file that is there is not opened: that takes a lock for a moment, which might refuse it to somebody else.
 bool SaveItem::IsFree(const std::string& path)
 {
-    FileError failed;
+    FileError error;
     if (m_seams.files.Exists(path)) {
         std::vector<FolderEntry> entries;
         const bool isFolder = m_seams.files.List(path, entries).Ok();
-        failed = isFolder ? MakeFileError(error::PathFileAccess) : FileError{};
+        error = isFolder ? MakeFileError(error::PathFileAccess) : FileError{};
     } else {
         std::unique_ptr<BookFile> file;
-        failed = m_seams.files.OpenForReading(path, Sharing::Shared, file);
+        error = m_seams.files.OpenForReading(path, Sharing::Shared, file);
     }
-    if (failed.Ok()) {
+    if (error.Ok()) {
         m_seams.messages.MsgBox(
             "The output file already exists, so I cannot save your book with this filename.", Icon::Warning);
-    } else if (failed.number != error::FileNotFound) {
-        m_seams.messages.MsgBox("Can't test for presence of output file due to error #" +
-                                    std::to_string(failed.number) + ": " + failed.description,
-                                Icon::Warning);
+    } else if (error.number != error::FileNotFound) {
+        m_seams.messages.MsgBox("Can't test for presence of output file" + DueTo(error), Icon::Warning);
     }
-    return failed.number == error::FileNotFound;
+    return error.number == error::FileNotFound;
 }
 
 bool SaveItem::Write(const std::string& path)

@@ -26,9 +26,8 @@ std::unique_ptr<OutputFile> OpenExportFile(const Book& book, const Seams& seams,
                                            bool replace)
 {
     std::unique_ptr<OutputFile> output;
-    if (const FileError failed = OpenFile(book, seams.files, path, replace, output); !failed.Ok()) {
-        seams.messages.MsgBox("Failed to open <<" + FromPath(path) + ">> due to error #" +
-                                  std::to_string(failed.number) + ": " + failed.description + ".",
+    if (const FileError error = OpenFile(book, seams.files, path, replace, output); !error.Ok()) {
+        seams.messages.MsgBox("Failed to open <<" + FromPath(path) + ">>" + DueTo(error) + ".",
                               Icon::Warning);
     }
     return output;

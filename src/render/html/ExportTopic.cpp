@@ -38,10 +38,10 @@ enum class Located
 Located Locate(const Book& book, const Seams& seams, const std::string& name, Count16 number,
                LineCursor& cursor)
 {
-    FileError failed;
-    const TopicLocation location = GoToTopic(book, cursor, name, number, failed);
-    if (location == TopicLocation::Unreadable && failed.number != error::InputPastEnd) {
-        ShowFetchError(seams, name, failed);
+    FileError error;
+    const TopicLocation location = GoToTopic(book, cursor, name, number, error);
+    if (location == TopicLocation::Unreadable && error.number != error::InputPastEnd) {
+        ShowFetchError(seams, name, error);
         return Located::Unreadable;
     }
     return location == TopicLocation::Found ? Located::Found : Located::Missing;
@@ -53,7 +53,7 @@ FileError WriteDocument(LineCursor& cursor, std::string_view title, HtmlOutput& 
     html.Begin(title);
     FileBody body(cursor);
     std::string_view line;
-    while (output.Failed().Ok() && body.Next(line)) {
+    while (output.Error().Ok() && body.Next(line)) {
         line = TrimRight(line);
         if (EndsTopic(line)) {
             break;
@@ -61,18 +61,16 @@ FileError WriteDocument(LineCursor& cursor, std::string_view title, HtmlOutput& 
         html.AddLine(line);
     }
     html.End();
-    return body.Failed();
+    return body.Error();
 }
 
 bool FinishFile(const Seams& seams, HtmlOutput& output)
 {
-    const FileError failed = output.Finish();
-    if (!failed.Ok()) {
-        seams.messages.MsgBox("Failed to write due to error #" + std::to_string(failed.number) + ": " +
-                                  failed.description,
-                              Icon::Warning);
+    const FileError error = output.Finish();
+    if (!error.Ok()) {
+        seams.messages.MsgBox("Failed to write" + DueTo(error), Icon::Warning);
     }
-    return failed.Ok();
+    return error.Ok();
 }
 
 } // namespace
@@ -91,8 +89,8 @@ bool ExportTopic(const Book& book, const Seams& seams, const std::string& topicN
     if (located != Located::Found) {
         return located == Located::Missing && FinishFile(seams, lines);
     }
-    if (const FileError failed = WriteDocument(cursor, TitleOf(topicName), lines); !failed.Ok()) {
-        ShowFetchError(seams, name, failed);
+    if (const FileError error = WriteDocument(cursor, TitleOf(topicName), lines); !error.Ok()) {
+        ShowFetchError(seams, name, error);
         return false;
     }
     if (!FinishFile(seams, lines)) {

@@ -29,8 +29,8 @@ void HtmlOutput::Line(std::initializer_list<std::string_view> pieces)
 
 void HtmlOutput::Flush()
 {
-    if (m_failed.Ok() && !m_buffer.empty()) {
-        m_failed = m_file->Write(m_buffer);
+    if (m_error.Ok() && !m_buffer.empty()) {
+        m_error = m_file->Write(m_buffer);
     }
     m_buffer.clear();
 }
@@ -38,10 +38,10 @@ void HtmlOutput::Flush()
 FileError HtmlOutput::Finish()
 {
     Flush();
-    if (m_failed.Ok()) {
-        m_failed = m_file->Finish();
+    if (m_error.Ok()) {
+        m_error = m_file->Finish();
     }
-    return m_failed;
+    return m_error;
 }
 
 } // namespace ls

@@ -22,14 +22,14 @@ public:
     /// Brings all of it to the disk and tells whether it got there.
     FileError Finish();
 
-    [[nodiscard]] const FileError& Failed() const { return m_failed; }
+    [[nodiscard]] const FileError& Error() const { return m_error; }
 
 private:
     void Flush();
 
     OutputFile* m_file;
     std::string m_buffer;
-    FileError m_failed;
+    FileError m_error;
 };
 
 } // namespace ls

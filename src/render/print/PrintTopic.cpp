@@ -88,14 +88,14 @@ public:
     FileError PrintBody(TopicBody& body)
     {
         std::string_view line;
-        while (m_failed.Ok() && body.Next(line)) {
+        while (m_error.Ok() && body.Next(line)) {
             line = TrimRight(line);
             if (Ends(line)) {
                 break;
             }
             PrintSourceLine(line);
         }
-        return m_failed;
+        return m_error;
     }
 
 private:
@@ -124,7 +124,7 @@ private:
             }
             CountLine();
             indent = hang;
-        } while (m_failed.Ok() && !rest.Empty());
+        } while (m_error.Ok() && !rest.Empty());
     }
 
     // A topic that fills its last page to the end has an empty page behind it, which is kept.
@@ -133,8 +133,8 @@ private:
         if (++m_lineCount < m_settings->LinesPerPage) {
             return;
         }
-        m_failed = m_printer->NewPage();
-        if (m_failed.Ok()) {
+        m_error = m_printer->NewPage();
+        if (m_error.Ok()) {
             PrintTopMargin();
             m_lineCount = 0;
         }
@@ -146,7 +146,7 @@ private:
     const PrintSettings* m_settings;
     int m_lineCount = 0;
     int m_displayLine = 0;
-    FileError m_failed;
+    FileError m_error;
     std::string m_segment;
     std::string m_buffer;
 };
@@ -175,9 +175,9 @@ Printed PrintTopic(const Book& book, const Seams& seams, PrinterDevice& printer,
                    const std::string& topicName, Count16 topicIndex)
 {
     SetUpPrinter(printer, settings);
-    FileError failed = PageSetup(settings, printer);
-    if (!failed.Ok() || settings.LinesPerPage < 0 || settings.CharsPerLine < 0) {
-        return {failed};
+    FileError error = PageSetup(settings, printer);
+    if (!error.Ok() || settings.LinesPerPage < 0 || settings.CharsPerLine < 0) {
+        return {error};
     }
     NoFile noFile;
     LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
@@ -192,14 +192,14 @@ Printed PrintTopic(const Book& book, const Seams& seams, PrinterDevice& printer,
         pages.PrintTitle(WithoutBrackets(name));
     }
     FileBody body(cursor);
-    failed = pages.PrintBody(body);
-    if (!failed.Ok()) {
-        return {failed};
+    error = pages.PrintBody(body);
+    if (!error.Ok()) {
+        return {error};
     }
-    if (!body.Failed().Ok()) {
+    if (!body.Error().Ok()) {
         // What was read before the error may be all that can be had: it is printed, and said to be cut.
         ShowFetchError(seams, book.IsPlainText() ? ToBook(FromPath(book.BookPath)).value_or("") : name,
-                       body.Failed());
+                       body.Error());
     }
     return {printer.EndDoc()};
 }

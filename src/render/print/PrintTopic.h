@@ -20,7 +20,7 @@ inline constexpr std::string_view PrintFont = "Courier New";
 /// What printing came to.
 struct Printed
 {
-    FileError failed;    ///< of the printer: nothing was printed then
+    FileError error;     ///< of the printer: nothing was printed then
     bool located = true; ///< false when the topic was not found, and a page that says so was printed
 };
 

@@ -9,6 +9,7 @@
 #include "render/print/PrintSettings.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace ls {
 
@@ -32,17 +33,16 @@ std::vector<PaperChoice> Papers()
     return {{"Letter 8.5 x 11 in.", LetterPaper}, {"Legal 11 x 14 in.", 5}, {"A4 Letter 21 x 29.7 cm", 9}};
 }
 
-bool Refuse(const Seams& seams, const std::string& what, const FileError& failed)
+bool Refuse(const Seams& seams, const std::string& what, const FileError& error)
 {
-    seams.messages.MsgBox(
-        what + " due to error #" + std::to_string(failed.number) + ": " + failed.description, Icon::Warning);
+    seams.messages.MsgBox(what + DueTo(error), Icon::Warning);
     return false;
 }
 
 bool SetPaper(PrinterDevice& printer, const Seams& seams, int code)
 {
-    const FileError failed = code == OwnPaper ? FileError{} : printer.SetPaperSize(code);
-    return failed.Ok() || Refuse(seams, "I cannot select the paper size on your printer", failed);
+    const FileError error = code == OwnPaper ? FileError{} : printer.SetPaperSize(code);
+    return error.Ok() || Refuse(seams, "I cannot select the paper size on your printer", error);
 }
 
 bool IsLargeEnough(const PrinterState& page, const Seams& seams)
@@ -149,7 +149,7 @@ void PrinterCombo_Click(PrinterDevice& printer, const std::string& name)
 {
     for (const std::string& each : printer.Names()) {
         if (each == name) {
-            printer.Choose(name); // one that is gone meanwhile is refused by the print button
+            std::ignore = printer.Choose(name); // the print button refuses one that is gone by then
             return;
         }
     }
@@ -158,14 +158,14 @@ void PrinterCombo_Click(PrinterDevice& printer, const std::string& name)
 bool AcceptPrtForm(PrintSettings& settings, PrinterDevice& printer, const Book& book, const Seams& seams,
                    const PrtFormChoices& choices)
 {
-    if (const FileError failed = printer.Choose(choices.printer); !failed.Ok()) {
-        return Refuse(seams, "I cannot select the printer <<" + choices.printer + ">>", failed);
+    if (const FileError error = printer.Choose(choices.printer); !error.Ok()) {
+        return Refuse(seams, "I cannot select the printer <<" + choices.printer + ">>", error);
     }
     if (!SetPaper(printer, seams, choices.paper) || !IsLargeEnough(printer.State(), seams)) {
         return false;
     }
-    if (const FileError failed = printer.SetColour(choices.colour); !failed.Ok()) {
-        return Refuse(seams, "I cannot select the print mode on your printer", failed);
+    if (const FileError error = printer.SetColour(choices.colour); !error.Ok()) {
+        return Refuse(seams, "I cannot select the print mode on your printer", error);
     }
     settings.PrintInColour = choices.colour;
     settings.ColourKnown = true;

@@ -243,8 +243,8 @@ FileError SystemPrinter::Begin()
 FileError SystemPrinter::PaintPage()
 {
     if (!m_painter) {
-        if (const FileError failed = Begin(); !failed.Ok()) {
-            return failed;
+        if (const FileError error = Begin(); !error.Ok()) {
+            return error;
         }
     } else if (m_pageEnded && !m_printer->newPage()) {
         return MakeFileError(error::DeviceIo);
@@ -262,21 +262,21 @@ FileError SystemPrinter::PaintPage()
 
 FileError SystemPrinter::NewPage()
 {
-    const FileError failed = PaintPage();
-    return failed.Ok() ? failed : Abandon(failed);
+    const FileError error = PaintPage();
+    return error.Ok() ? error : Abandon(error);
 }
 
 FileError SystemPrinter::EndDoc()
 {
     if (!m_painter || !m_page.Runs().empty()) {
-        if (const FileError failed = PaintPage(); !failed.Ok()) {
-            return Abandon(failed);
+        if (const FileError error = PaintPage(); !error.Ok()) {
+            return Abandon(error);
         }
     }
-    const FileError failed = Finish();
+    const FileError error = Finish();
     m_painter.reset();
     m_own.reset();
-    return failed;
+    return error;
 }
 
 FileError SystemPrinter::Finish()
@@ -303,15 +303,15 @@ FileError SystemPrinter::StoreFile()
     // One that came under that name while the user was not asked any more is kept, too.
     const auto open = m_replace ? OpenToReplace : OpenToCreate;
     std::unique_ptr<OutputFile> file;
-    if (const FileError failed = open(m_files, m_path, file); !failed.Ok()) {
-        return failed;
+    if (const FileError error = open(m_files, m_path, file); !error.Ok()) {
+        return error;
     }
-    const FileError failed = file->Write({bytes.data(), static_cast<std::size_t>(bytes.size())});
-    return failed.Ok() ? file->Finish() : failed;
+    const FileError error = file->Write({bytes.data(), static_cast<std::size_t>(bytes.size())});
+    return error.Ok() ? file->Finish() : error;
 }
 
 // The document is given up: nothing of it is to reach a printer.
-FileError SystemPrinter::Abandon(const FileError& failed)
+FileError SystemPrinter::Abandon(const FileError& error)
 {
     if (m_painter && m_painter->isActive()) {
         m_printer->abort();
@@ -319,7 +319,7 @@ FileError SystemPrinter::Abandon(const FileError& failed)
     m_painter.reset();
     m_own.reset();
     m_page.Clear();
-    return failed;
+    return error;
 }
 
 } // namespace ls

@@ -57,7 +57,7 @@ private:
     FileError PaintPage();
     FileError Finish();
     FileError StoreFile();
-    FileError Abandon(const FileError& failed);
+    FileError Abandon(const FileError& error);
 
     FileSystem& m_files;
     PrintService& m_service;

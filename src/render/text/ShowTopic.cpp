@@ -150,10 +150,10 @@ void StartAnew(ShownTopic& shown)
 // Shows what was read before the error, since it may be all that can be saved of a failing disk, and says
 // that it is not the whole.
 void ReportCut(const Seams& seams, const Preparation& preparation, const std::string& name,
-               const FileError& failed)
+               const FileError& error)
 {
-    if (!failed.Ok()) {
-        ShowFetchError(seams, name, failed);
+    if (!error.Ok()) {
+        ShowFetchError(seams, name, error);
     }
     if (preparation.Overflowed()) {
         ShowOverflow(seams.messages);
@@ -171,7 +171,7 @@ ShowResult ShowPlainText(const Book& book, const Seams& seams, int lineWidthChar
     Preparation preparation(true, lineWidthChars, shown);
     preparation.Take(body);
     // The file has no topic that the message could name.
-    ReportCut(seams, preparation, ToBook(FromPath(book.BookPath)).value_or(std::string()), body.Failed());
+    ReportCut(seams, preparation, ToBook(FromPath(book.BookPath)).value_or(std::string()), body.Error());
     return ShowResult::Shown;
 }
 
@@ -195,7 +195,7 @@ void PrepareFromFile(const Seams& seams, LineCursor& cursor, int width, ShownTop
         shown.logicPos = cursor.Position();
         shown.advisorButton = true;
     }
-    ReportCut(seams, preparation, shown.name, body.Failed());
+    ReportCut(seams, preparation, shown.name, body.Error());
 }
 
 } // namespace

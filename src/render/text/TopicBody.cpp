@@ -13,29 +13,29 @@ constexpr std::size_t Telling = 16;
 
 bool FileBody::Next(std::string_view& line)
 {
-    if (!m_failed.Ok() || m_cursor->AtEnd()) {
+    if (!m_error.Ok() || m_cursor->AtEnd()) {
         return false;
     }
-    m_failed = m_cursor->ReadLine(line);
-    return m_failed.Ok();
+    m_error = m_cursor->ReadLine(line);
+    return m_error.Ok();
 }
 
 bool FileBody::NextPart(std::string_view& line, LineCursor*& rest)
 {
-    if (m_inLine && m_failed.Ok()) {
-        m_failed = m_cursor->EndLine();
+    if (m_inLine && m_error.Ok()) {
+        m_error = m_cursor->EndLine();
     }
-    if (!m_failed.Ok() || m_cursor->AtEnd()) {
+    if (!m_error.Ok() || m_cursor->AtEnd()) {
         return false;
     }
     bool whole = true;
-    m_failed = m_cursor->BeginLine(line, whole);
-    while (m_failed.Ok() && !whole && Trim(line).size() < Telling) {
-        m_failed = m_cursor->ReadOn(line, 0, whole);
+    m_error = m_cursor->BeginLine(line, whole);
+    while (m_error.Ok() && !whole && Trim(line).size() < Telling) {
+        m_error = m_cursor->ReadOn(line, 0, whole);
     }
     m_inLine = !whole;
     rest = whole ? nullptr : m_cursor;
-    return m_failed.Ok();
+    return m_error.Ok();
 }
 
 bool TextBody::Next(std::string_view& line)

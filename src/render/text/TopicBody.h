@@ -15,7 +15,7 @@ public:
     virtual ~TopicBody() = default;
 
     /// The next line without its line end, valid until the next call; false at the end of what there is, and
-    /// after an error, which `Failed` tells.
+    /// after an error, which `Error` tells.
     virtual bool Next(std::string_view& line) = 0;
 
     /// The same; but of a line that is too long to be had at once its beginning, and in `rest` the cursor
@@ -27,7 +27,7 @@ public:
         return Next(line);
     }
 
-    [[nodiscard]] virtual FileError Failed() const { return {}; }
+    [[nodiscard]] virtual FileError Error() const { return {}; }
 };
 
 /// Lines of the book's file from where a cursor stands, to the end of the file.
@@ -38,11 +38,11 @@ public:
 
     bool Next(std::string_view& line) override;
     bool NextPart(std::string_view& line, LineCursor*& rest) override;
-    [[nodiscard]] FileError Failed() const override { return m_failed; }
+    [[nodiscard]] FileError Error() const override { return m_error; }
 
 private:
     LineCursor* m_cursor;
-    FileError m_failed;
+    FileError m_error;
     bool m_inLine = false; ///< the last one was given in part
 };
 

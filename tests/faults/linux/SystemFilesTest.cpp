@@ -28,13 +28,13 @@ struct SystemFiles : testing::Test
     [[nodiscard]] std::string TableOf(const std::function<Outcome()>& act, int errnoValue) const
     {
         std::vector<Outcome> outcomes;
-        std::string failed;
+        std::string error;
         do {
             const FailingCalls failing(static_cast<int>(outcomes.size()) + 1, {"", errnoValue, false});
             outcomes.push_back(act());
-            failed = failing.Failed();
-            outcomes.back().call = failed.empty() ? "" : failed + " " + Short(failing.Path());
-        } while (!failed.empty() && outcomes.size() < MostCalls);
+            error = failing.Error();
+            outcomes.back().call = error.empty() ? "" : error + " " + Short(failing.Path());
+        } while (!error.empty() && outcomes.size() < MostCalls);
         return test::TableText(outcomes);
     }
 

@@ -34,10 +34,10 @@ struct FileCalls : testing::TestWithParam<CodeRow>
         const FailingCalls failing(1, fault);
         std::size_t got = 7;
         text.assign(10, '?');
-        const FileError failed = file->ReadAt(1, text.data(), text.size(), got);
-        EXPECT_EQ(failing.Failed(), "ReadFile");
+        const FileError error = file->ReadAt(1, text.data(), text.size(), got);
+        EXPECT_EQ(failing.Error(), "ReadFile");
         text.resize(got);
-        return failed;
+        return error;
     }
 };
 
@@ -55,7 +55,7 @@ TEST_P(FileCalls, size_thatFails_isTold)
     const FailingCalls failing(1, fault);
     FilePos size = 0;
     EXPECT_EQ(file->Size(size), expected);
-    EXPECT_EQ(failing.Failed(), "GetFileSizeEx");
+    EXPECT_EQ(failing.Error(), "GetFileSizeEx");
 }
 
 TEST_P(FileCalls, open_thatFails_isTold)
@@ -66,7 +66,7 @@ TEST_P(FileCalls, open_thatFails_isTold)
         std::unique_ptr<BookFile> file;
         EXPECT_EQ(files.OpenForReading(path, Sharing::Shared, file), expected);
         EXPECT_EQ(file, nullptr);
-        EXPECT_EQ(failing.Failed(), call == 1 ? "CreateFileW" : "GetFileType");
+        EXPECT_EQ(failing.Error(), call == 1 ? "CreateFileW" : "GetFileType");
     }
 }
 
@@ -78,7 +78,7 @@ TEST_P(FileCalls, create_thatFails_isToldAndLeavesNothing)
             std::unique_ptr<OutputFile> file;
             EXPECT_EQ(files.CreateNew(folder / "a", file), expected);
             EXPECT_EQ(file, nullptr);
-            EXPECT_EQ(failing.Failed(), call == 1 ? "CreateFileW" : "GetFileType");
+            EXPECT_EQ(failing.Error(), call == 1 ? "CreateFileW" : "GetFileType");
         }
         EXPECT_FALSE(folder.Has("a"));
     }
@@ -94,7 +94,7 @@ TEST_P(FileCalls, eachStepOfWriting_thatFails_isToldByFinish)
         const FailingCalls failing(step, fault);
         EXPECT_EQ(file->Write("book"), step == 1 ? expected : FileError{});
         EXPECT_EQ(file->Finish(), expected);
-        EXPECT_EQ(failing.Failed(), steps[step - 1]);
+        EXPECT_EQ(failing.Error(), steps[step - 1]);
     }
 }
 
@@ -119,7 +119,7 @@ TEST_P(FileCalls, list_thatFails_isTold)
         const FailingCalls failing(call, fault);
         std::vector<FolderEntry> entries;
         EXPECT_EQ(files.List(folder.Path(), entries), expected);
-        EXPECT_EQ(failing.Failed(), call == 1 ? "FindFirstFileExW" : "FindNextFileW");
+        EXPECT_EQ(failing.Error(), call == 1 ? "FindFirstFileExW" : "FindNextFileW");
     }
 }
 
@@ -161,7 +161,7 @@ TEST_F(FileCallsOnce, finish_whereNothingCanBeFlushed_isWell)
         ASSERT_EQ(files.CreateNew(folder / std::to_string(code), file), FileError{});
         const FailingCalls failing(1, {"flush", static_cast<int>(code), false});
         EXPECT_EQ(file->Finish(), FileError{});
-        EXPECT_EQ(failing.Failed(), "FlushFileBuffers");
+        EXPECT_EQ(failing.Error(), "FlushFileBuffers");
     }
 }
 
@@ -173,7 +173,7 @@ TEST_F(FileCallsOnce, rename_filesInUseForAMoment_isTriedAgain)
         const std::string from = folder.Write("from", "newer");
         const FailingCalls failing(1, {"moment", static_cast<int>(code), false});
         EXPECT_EQ(files.RenameOver(from, folder / "to"), FileError{});
-        EXPECT_EQ(failing.Failed(), "MoveFileExW");
+        EXPECT_EQ(failing.Error(), "MoveFileExW");
         EXPECT_EQ(folder.Read("to"), "newer");
     }
     const std::string from = folder.Write("from", "newer");

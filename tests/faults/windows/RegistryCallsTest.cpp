@@ -72,7 +72,7 @@ TEST_P(RegistryCalls, machinesKey_rightToWriteRefused_isRead)
     {
         const test::FailingCalls second(2, GetParam()); // the first one asks for the user's key
         EXPECT_EQ(ask(), denied ? "lstest.machine" : "");
-        EXPECT_EQ(second.Failed(), "RegOpenKeyExA");
+        EXPECT_EQ(second.Error(), "RegOpenKeyExA");
     }
     EXPECT_EQ(world.messages.Take().empty(), denied);
     EXPECT_FALSE(world.end.Ended());

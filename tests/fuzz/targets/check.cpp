@@ -45,9 +45,9 @@ void TestInput(Input& input)
         return;
     }
     world.messages.texts.clear();
-    FileError failed;
-    const std::vector<Finding> findings = CheckBook(book, world.Get(), nullptr, failed);
-    Require(failed.Ok(), "a book that can be read is checked to its end");
+    FileError error;
+    const std::vector<Finding> findings = CheckBook(book, world.Get(), nullptr, error);
+    Require(error.Ok(), "a book that can be read is checked to its end");
     RequireGood(findings, EditorLines(bytes));
     const std::size_t block = bytes.find("<IXML>");
     if (block != std::string::npos && book.TopicCount > 0) {

@@ -70,8 +70,8 @@ void RequireWrappedWhileRead(Input& input, const std::string& line, int width, i
                  "a line wraps while it is read as it does in memory");
     Require(cursor.EndLine().Ok(), "a line can be ended");
     std::string next;
-    const FileError failed = cursor.ReadLine(next);
-    Require(end.empty() ? failed.number == error::InputPastEnd : failed.Ok() && next == "next",
+    const FileError error = cursor.ReadLine(next);
+    Require(end.empty() ? error.number == error::InputPastEnd : error.Ok() && next == "next",
             "the next line follows");
 }
 

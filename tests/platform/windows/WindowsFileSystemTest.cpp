@@ -52,8 +52,8 @@ struct WindowsFileSystemTest : testing::Test
     // What the file of that name holds; "error N" when it does not open.
     std::string Content(const std::string& path)
     {
-        const FileError failed = Open(path);
-        return failed.Ok() ? ReadAt(1, 1000) : "error " + std::to_string(failed.number);
+        const FileError error = Open(path);
+        return error.Ok() ? ReadAt(1, 1000) : "error " + std::to_string(error.number);
     }
 
     // "name", "name\" for a folder, "(name)" for a hidden one; sorted.

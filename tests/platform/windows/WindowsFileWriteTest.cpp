@@ -80,9 +80,9 @@ TEST_F(WindowsFileWriteTest, createNew_sameMoment_hasOneWinner)
             for (++ready; ready < 2;) {
                 std::this_thread::yield();
             }
-            const FileError failed = files.CreateNew(path, mine);
-            won += failed.Ok() ? 1 : 0;
-            refused += failed == NameTaken ? 1 : 0;
+            const FileError error = files.CreateNew(path, mine);
+            won += error.Ok() ? 1 : 0;
+            refused += error == NameTaken ? 1 : 0;
         };
         std::thread other(make);
         make();

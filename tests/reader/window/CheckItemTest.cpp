@@ -61,8 +61,8 @@ TEST_F(CheckItemTest, findings_areThoseOfCheckBook)
 {
     OpenFaulty();
     Check();
-    FileError failed;
-    EXPECT_EQ(shown.findings, CheckBook(book, world.Get(), nullptr, failed));
+    FileError error;
+    EXPECT_EQ(shown.findings, CheckBook(book, world.Get(), nullptr, error));
     EXPECT_EQ(Rules(), (Strings{"1  header-keys", "4 Caf\xC3\xA9 reference-missing-topic",
                                 "7 B reference-missing-topic"}));
     EXPECT_EQ(shown.summary, "3 errors and 0 warnings in Book.IDA.");

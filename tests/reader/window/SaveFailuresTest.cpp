@@ -11,18 +11,18 @@ struct SaveFailures : SaveItemFixture, testing::WithParamInterface<int>
     void FailAt(int failAt)
     {
         calls = 0;
-        failed.clear();
+        error.clear();
         world.files.fail = [this, failAt](const std::string& operation) {
             if (++calls != failAt) {
                 return 0;
             }
-            failed = operation;
+            error = operation;
             return GetParam();
         };
     }
 
     int calls = 0;
-    std::string failed; ///< the call that failed; empty when there were fewer
+    std::string error; ///< the call that failed; empty when there were fewer
 };
 
 // Either the book in memory is as it was, edits and all, or the new file is whole; the old one always is, and
@@ -40,7 +40,7 @@ TEST_P(SaveFailures, save_eachCallFailing_losesNothing)
         FailAt(failAt);
         SaveAs("Out.IDA");
         world.files.fail = nullptr;
-        SCOPED_TRACE(failed);
+        SCOPED_TRACE(error);
         const Strings boxes = Boxes();
         EXPECT_EQ(world.files["/work/Book.IDA"], input);
         const bool saved = world.files.Has("/work/Out.IDA");
@@ -52,7 +52,7 @@ TEST_P(SaveFailures, save_eachCallFailing_losesNothing)
             EXPECT_EQ(boxes.size(), 1U);
             ExpectNothingLost();
         }
-        if (HasFailure() || failed.empty() || world.end.Ended()) {
+        if (HasFailure() || error.empty() || world.end.Ended()) {
             break;
         }
     }

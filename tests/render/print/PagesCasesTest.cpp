@@ -73,7 +73,7 @@ protected:
         state.scaleHeight = sheet.scaleHeight;
         state.landscape = sheet.landscape;
         PageRecorder printer(state, sheet.lineHeight);
-        EXPECT_TRUE(PrintTopic(book, world.Get(), printer, settings, title, number).failed.Ok());
+        EXPECT_TRUE(PrintTopic(book, world.Get(), printer, settings, title, number).error.Ok());
         if (lines.empty()) {
             lines.push_back(SetupText(settings));
         }

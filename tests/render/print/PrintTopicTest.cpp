@@ -26,7 +26,7 @@ struct PrintTopicTest : ShowTopicTest
         ASSERT_TRUE(Scan(header + "[A]\r\n" + body));
         Print("[A]", 1);
         EXPECT_EQ(world.messages.Take(), Strings{});
-        EXPECT_TRUE(printed.failed.Ok());
+        EXPECT_TRUE(printed.error.Ok());
         EXPECT_TRUE(printed.located);
     }
 
@@ -344,7 +344,7 @@ TEST_F(PrintTopicTest, unknownTopic_printsThatAfterTheMessage)
     ASSERT_TRUE(Scan(Header + "[A]\r\na\r\n"));
     Print("Nowhere", 0);
     EXPECT_FALSE(printed.located);
-    EXPECT_TRUE(printed.failed.Ok());
+    EXPECT_TRUE(printed.error.Ok());
     EXPECT_EQ(world.messages.Take(), Strings{"warning|Lodestar Advisor|Topic [Nowhere] was not found."});
     ASSERT_EQ(printer.Pages().size(), 1U);
     EXPECT_EQ(Rows(), Strings{"Error on lookup of topic."});
@@ -390,7 +390,7 @@ TEST_F(PrintTopicTest, readErrorInTheBody_printsWhatWasReadAndSaysSo)
     EXPECT_EQ(
         world.messages.Take(),
         Strings{"warning|Lodestar Advisor|Failed to fetch topic [A] due to error #57: Device I/O error"});
-    EXPECT_TRUE(printed.failed.Ok());
+    EXPECT_TRUE(printed.error.Ok());
     EXPECT_GT(printer.Pages().size(), 2U);
     EXPECT_EQ(printer.log.back(), "end");
 }
@@ -400,7 +400,7 @@ TEST_F(PrintTopicTest, printerFailsAtANewPage_endsThePrintAtOnce)
     printer.failNewPage = MakeFileError(error::DeviceUnavailable);
     ASSERT_TRUE(Scan(Header + "[A]\r\n" + NumberedLines(500)));
     Print("[A]", 1);
-    EXPECT_EQ(printed.failed, MakeFileError(error::DeviceUnavailable));
+    EXPECT_EQ(printed.error, MakeFileError(error::DeviceUnavailable));
     EXPECT_EQ(printer.log, Strings{"font Courier New 12"}) << "the document is not ended, so not printed";
 }
 
@@ -420,7 +420,7 @@ TEST_F(PrintTopicTest, printerFailsAtTheEnd_isTold)
     printer.failEndDoc = MakeFileError(error::DiskFull);
     ASSERT_TRUE(Scan(Header + "[A]\r\na\r\n"));
     Print("[A]", 1);
-    EXPECT_EQ(printed.failed, MakeFileError(error::DiskFull));
+    EXPECT_EQ(printed.error, MakeFileError(error::DiskFull));
 }
 
 TEST_F(PrintTopicTest, paperBeyond16Bits_isAnOverflow)
@@ -428,7 +428,7 @@ TEST_F(PrintTopicTest, paperBeyond16Bits_isAnOverflow)
     printer.state.width = printer.state.scaleWidth = 47679;
     ASSERT_TRUE(Scan(Header + "[A]\r\na\r\n"));
     Print("[A]", 1);
-    EXPECT_EQ(printed.failed, MakeFileError(error::Overflow));
+    EXPECT_EQ(printed.error, MakeFileError(error::Overflow));
     EXPECT_TRUE(printer.Pages().empty());
 }
 

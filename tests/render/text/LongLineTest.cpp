@@ -89,7 +89,7 @@ TEST(LongLine, wrap_readError_endsTheLineAndIsToldNext)
     ASSERT_NE(more, nullptr);
     EXPECT_EQ(Wrapped(LineRemainder(line, more), 9, 0), (Strings{"one two", "three", "four f"}));
     EXPECT_FALSE(body.NextPart(line, more));
-    EXPECT_EQ(body.Failed().number, error::DeviceIo);
+    EXPECT_EQ(body.Error().number, error::DeviceIo);
 }
 
 // Only what is looked at together is in memory: a beginning of blanks, or of a tag that is none, is read on.
@@ -109,7 +109,7 @@ TEST(LongLine, nextPart_beginningOfBlanks_isReadOnUntilItTells)
     EXPECT_NE(Trim(line), "<IXML>");
     EXPECT_EQ(more, &cursor);
     EXPECT_FALSE(body.NextPart(line, more));
-    EXPECT_TRUE(body.Failed().Ok());
+    EXPECT_TRUE(body.Error().Ok());
 }
 
 class ShowLongLineTest : public ShowTopicTest

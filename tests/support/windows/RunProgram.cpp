@@ -58,15 +58,15 @@ int WaitForEnd(const PROCESS_INFORMATION& process)
 DWORD Start(const std::string& program, const std::wstring& commandLine, const std::string& folder,
             STARTUPINFOW start, PROCESS_INFORMATION& process)
 {
-    DWORD failed = ERROR_INTERNAL_ERROR;
-    for (int tries = 0; failed == ERROR_INTERNAL_ERROR && tries < 3; ++tries) {
+    DWORD error = ERROR_INTERNAL_ERROR;
+    for (int tries = 0; error == ERROR_INTERNAL_ERROR && tries < 3; ++tries) {
         std::wstring line = commandLine;
         const BOOL started =
             ::CreateProcessW(ToWide(program).value_or(L"").c_str(), line.data(), nullptr, nullptr, TRUE, 0,
                              nullptr, ToWide(folder).value_or(L"").c_str(), &start, &process);
-        failed = started != 0 ? 0 : ::GetLastError();
+        error = started != 0 ? 0 : ::GetLastError();
     }
-    return failed;
+    return error;
 }
 
 } // namespace
@@ -76,7 +76,7 @@ ProgramRun RunProgram(const std::string& program, const std::vector<std::string>
 {
     const ScratchFolder output;
     ProgramRun run;
-    DWORD failed = 0;
+    DWORD error = 0;
     {
         const WindowsHandle in = OpenStream("NUL", GENERIC_READ, OPEN_EXISTING);
         const WindowsHandle out = OpenStream(output / "out", GENERIC_WRITE, CREATE_NEW);
@@ -88,13 +88,13 @@ ProgramRun RunProgram(const std::string& program, const std::vector<std::string>
         start.hStdOutput = out.Get();
         start.hStdError = err.Get();
         PROCESS_INFORMATION process = {};
-        failed = Start(program, CommandLine(program, arguments), folder, start, process);
-        run.status = failed == 0 ? WaitForEnd(process) : -1;
+        error = Start(program, CommandLine(program, arguments), folder, start, process);
+        run.status = error == 0 ? WaitForEnd(process) : -1;
     }
     run.out = output.Read("out");
     run.err = output.Read("err");
-    if (failed != 0) {
-        run.err += program + " was not started: error " + std::to_string(failed);
+    if (error != 0) {
+        run.err += program + " was not started: error " + std::to_string(error);
     }
     return run;
 }
