@@ -5,6 +5,7 @@
 #include "base/ProgramEnd.h"
 #include "base/RunGuarded.h"
 #include "forms/FormFont.h"
+#include "forms/Shown.h"
 #include "ui_AdvForm.h"
 
 #include <QFontMetrics>
@@ -19,12 +20,6 @@ namespace {
 
 constexpr int LinesShownWhole = 15;   // of a question, without scrolling
 constexpr int WindowTitleHeight = 40; // with the borders, on any desktop
-
-// Lines end as the text box ends them; book text as its characters.
-QString Shown(const std::string& bookText)
-{
-    return QString::fromStdString(FromBook(bookText));
-}
 
 } // namespace
 
@@ -69,7 +64,7 @@ void AdvForm::ShowQuestion(const Question& question)
     m_choices = question.choices;
     m_ui->AnswerCombo->clear();
     for (const std::string& choice : m_choices) {
-        m_ui->AnswerCombo->addItem(Shown(choice));
+        m_ui->AnswerCombo->addItem(ShownBookText(choice));
     }
     m_ui->AnswerCombo->setCurrentIndex(0);
     m_ui->AnswerCombo->setFocus();
@@ -86,7 +81,7 @@ void AdvForm::ShowAdvice(const std::string& /*identifier*/, const std::string& t
 // A screen reader reads the description of what gets the focus: the text is heard when it comes.
 void AdvForm::ShowText(const std::string& text)
 {
-    m_ui->MessageBox->setPlainText(Shown(text));
+    m_ui->MessageBox->setPlainText(ShownBookText(text));
     const QString shown = m_ui->MessageBox->toPlainText();
     m_ui->AnswerCombo->setAccessibleDescription(shown);
     m_ui->NextButton->setAccessibleDescription(shown);
@@ -94,7 +89,7 @@ void AdvForm::ShowText(const std::string& text)
 
 void AdvForm::SetButtonCaption(const std::string& caption)
 {
-    m_ui->NextButton->setText(u'&' + Shown(caption)); // "Next", "Close"
+    m_ui->NextButton->setText(u'&' + ShownBookText(caption)); // "Next", "Close"
     if (m_dialog.Over()) {
         m_ui->AnswerCombo->setEnabled(false); // the only action left is the button
         FocusNext();

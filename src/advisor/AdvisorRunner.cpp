@@ -174,7 +174,7 @@ void RunAdvisor(Book& book, AdvisorTables& tables, const Seams& seams, AdvisorPl
     begin.run = run;
     player.event(begin);
     PlayerMessages messages(seams.end, player);
-    const Seams own{seams.files, messages, seams.processes, seams.end, seams.paths};
+    const Seams own = seams.With(messages);
     if (!ShowForAdvisor(book, own, title)) {
         player.event(MakeEvent(Kind::NoAdvisor, title));
         return;

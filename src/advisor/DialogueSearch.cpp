@@ -149,8 +149,7 @@ class Search
 public:
     Search(const Book& book, const Seams& seams, const SearchLimits& limits, Progress* progress)
         : m_limits(limits), m_progress(progress), m_messages(m_end),
-          m_dialog(book, m_tables, Seams{seams.files, m_messages, seams.processes, m_end, seams.paths},
-                   m_view)
+          m_dialog(book, m_tables, seams.With(m_messages, m_end), m_view)
     {
     }
 

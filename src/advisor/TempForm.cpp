@@ -2,6 +2,7 @@
 
 #include "base/ItemAt.h"
 #include "forms/FormFont.h"
+#include "forms/Shown.h"
 #include "forms/TextBox.h"
 #include "ui_TempForm.h"
 

@@ -6,6 +6,7 @@
 #include "base/CodePage.h"
 #include "book/Book.h"
 #include "forms/FormFont.h"
+#include "forms/Shown.h"
 #include "ui_DelTopicForm.h"
 
 namespace ls {
@@ -30,7 +31,7 @@ void DelTopicForm::Form_Load(bool alphabetic)
     QListWidget& list = *m_ui->TopicListBox;
     int current = 0;
     for (const RemovalEntry& entry : RemovalEntries(m_book, alphabetic)) {
-        auto item = std::make_unique<QListWidgetItem>(QString::fromStdString(FromBook(entry.text)));
+        auto item = std::make_unique<QListWidgetItem>(ShownBookText(entry.text));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(entry.checked ? Qt::Checked : Qt::Unchecked);
         item->setData(Qt::UserRole, entry.itemData);

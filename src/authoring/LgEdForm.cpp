@@ -10,6 +10,7 @@
 #include "book/Book.h"
 #include "check/CheckBook.h"
 #include "forms/FormFont.h"
+#include "forms/Shown.h"
 #include "forms/TextBox.h"
 #include "ui_LgEdForm.h"
 

@@ -8,6 +8,7 @@
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "forms/FormFont.h"
+#include "forms/Shown.h"
 #include "ui_MoveTopicsForm.h"
 
 #include <utility>
@@ -20,7 +21,7 @@ namespace {
 void Fill(QListWidget& list, const std::vector<TopicListItem>& topics)
 {
     for (const TopicListItem& topic : topics) {
-        auto item = std::make_unique<QListWidgetItem>(QString::fromStdString(FromBook(topic.text)));
+        auto item = std::make_unique<QListWidgetItem>(ShownBookText(topic.text));
         item->setData(Qt::UserRole, topic.itemData);
         list.addItem(item.release()); // the list's own from here on
     }

@@ -1,6 +1,7 @@
 #include "authoring/TextBoxCommands.h"
 
 #include "base/Messages.h"
+#include "forms/Shown.h"
 #include "forms/TextBox.h"
 
 #include <QAction>

@@ -6,6 +6,7 @@
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "forms/FormFont.h"
+#include "forms/Shown.h"
 #include "forms/TextBox.h"
 #include "ui_TxEdForm.h"
 

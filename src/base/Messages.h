@@ -81,6 +81,10 @@ private:
     const ProgramEnd* m_end;
 };
 
+/// The reminder of commands that need a topic on show.
+inline constexpr const char* DisplayTopicFirst =
+    "Please display the topic first by choosing it from the list and clicking Go.";
+
 /// The box for a count that passed 32,767; shown once by the operation that met it.
 void ShowOverflow(Messages& messages);
 

@@ -17,6 +17,15 @@ struct Seams
     Processes& processes;
     ProgramEnd& end;
     PathRules paths;
+
+    /// The same with other messages, for work that the user did not ask for.
+    [[nodiscard]] Seams With(Messages& otherMessages) const { return With(otherMessages, end); }
+
+    /// The same with other messages, and with an end that is not the program's.
+    [[nodiscard]] Seams With(Messages& otherMessages, ProgramEnd& otherEnd) const
+    {
+        return {files, otherMessages, processes, otherEnd, paths};
+    }
 };
 
 } // namespace ls

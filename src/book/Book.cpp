@@ -5,14 +5,12 @@ namespace ls {
 namespace {
 
 constexpr std::size_t FirstBound = 100;
-constexpr std::size_t BackHistoryBound = 1000;
 constexpr float NewBookVersion = 5.0F;
 
 } // namespace
 
 Book::Book()
-    : TopicNames(FirstBound), TopicPos(FirstBound), TopicRecs(FirstBound), Xrefs(FirstBound),
-      BackHistory(BackHistoryBound)
+    : TopicNames(FirstBound), TopicPos(FirstBound), TopicRecs(FirstBound), Xrefs(FirstBound)
 {
     BookVersion = NewBookVersion;
 }

@@ -6,6 +6,7 @@
 #include "base/FilePos.h"
 #include "base/FileSystem.h"
 #include "book/BookHeader.h"
+#include "book/OldNames.h"
 
 #include <cstdint>
 #include <memory>
@@ -32,14 +33,13 @@ struct XrefRec
 /// The open book: its file, its header, and the tables that one scan of it filled. A topic's text stays in
 /// the file and is read from its recorded position whenever it is needed; only edited topics are held in
 /// memory.
-struct Book : BookHeader
+struct Book : BookHeader, OldNames
 {
     Book();
 
     std::string BookPath; ///< as the user or the command line gave it; empty when none is open
     std::string WorkDir;  ///< default folder of a path that has none
     bool LockBook = false;
-    int BookFileNo = 2;
     FilePos BookStartPos = 0; ///< of the first byte behind the header line
 
     Array1<std::string> TopicNames; ///< header lines, trimmed, with their brackets, in file order
@@ -62,10 +62,6 @@ struct Book : BookHeader
     std::unique_ptr<BookFile> File; ///< open as long as the book is shown
     std::string OpenPath;           ///< the real path of `File`
     FilePos ScanEndPos = 0;         ///< where the scan stopped: the end of the last topic
-
-    /// Topics shown before. It is emptied with the book and never filled: Back acts as Previous.
-    Array1<std::string> BackHistory;
-    Count16 BackCount;
 
     /// Whether there is anything to show, edit or save: an open file, or a new book's topics in memory.
     [[nodiscard]] bool IsOpen() const { return !BookPath.empty() || TopicCount > 0; }

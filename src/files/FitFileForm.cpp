@@ -1,5 +1,6 @@
 #include "files/FitFileForm.h"
 
+#include "forms/NeededSize.h"
 #include "ui_FileForm.h"
 
 #include <QFontMetrics>
@@ -17,20 +18,6 @@ constexpr int Gap = 8;
 constexpr int LabelGap = 2;
 
 using Controls = std::initializer_list<QWidget*>;
-
-int NeededHeight(const Controls& controls)
-{
-    int height = 0;
-    for (const QWidget* control : controls) {
-        height = std::max({height, control->height(), control->sizeHint().height()});
-    }
-    return height;
-}
-
-int NeededWidth(const QWidget& control)
-{
-    return std::max(control.width(), control.sizeHint().width());
-}
 
 // The labels, one below the other. Gives where the next row begins.
 int FitLabels(Ui::FileForm& ui)

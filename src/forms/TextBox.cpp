@@ -27,11 +27,6 @@ std::string TextOf(const QPlainTextEdit& box)
     return RawText(box).toStdString();
 }
 
-QString Shown(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 void SetFixedPitch(QPlainTextEdit& box)
 {
     const CellMetrics cells = MeasureCells(box.logicalDpiY());

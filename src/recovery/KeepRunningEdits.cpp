@@ -75,7 +75,7 @@ bool BringIntoMemory(Book& book, const Seams& seams, const RunningText& running)
     }
     ProgramEnd end;
     QuietMessages messages(end);
-    const Seams quiet{seams.files, messages, seams.processes, end, seams.paths};
+    const Seams quiet = seams.With(messages, end);
     std::string name = running.name;
     Count16 number = running.topic;
     return LoadTopicRec(book, quiet, name, number);

@@ -39,7 +39,7 @@ JournalFit OpenFitting(const Journal& journal, Book& book, const Seams& seams)
     file.reset();
     ProgramEnd end;
     QuietMessages messages(end);
-    const Seams quiet{seams.files, messages, seams.processes, end, seams.paths};
+    const Seams quiet = seams.With(messages, end);
     book.BookPath = path;
     book.LockBook = journal.book->locked;
     const bool fits = OpenBook(book, quiet) && !book.IsPlainText() && ScanBook(book, quiet) &&

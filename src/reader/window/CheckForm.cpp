@@ -2,21 +2,13 @@
 
 #include "base/ItemAt.h"
 #include "forms/FormFont.h"
+#include "forms/Shown.h"
 #include "reader/window/CheckItem.h"
 #include "ui_CheckForm.h"
 
 #include <QLayout>
 
 namespace ls {
-
-namespace {
-
-QString Shown(const std::string& utf8)
-{
-    return QString::fromStdString(utf8);
-}
-
-} // namespace
 
 CheckForm::CheckForm(QWidget* parent, const CheckedBook& checked)
     : QDialog(parent), m_ui(std::make_unique<Ui::CheckForm>()), m_checked(checked)

@@ -61,8 +61,7 @@ bool EditCommands::IsTopicOnShow(Icon icon)
 {
     const bool shown = !m_book.CurrentTopicName.empty() && m_book.CurrentTopicNo != 0;
     if (!shown) {
-        m_seams.messages.MsgBox(
-            "Please display the topic first by choosing it from the list and clicking Go.", icon);
+        m_seams.messages.MsgBox(DisplayTopicFirst, icon);
     }
     return shown;
 }

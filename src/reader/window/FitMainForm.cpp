@@ -1,5 +1,6 @@
 #include "reader/window/FitMainForm.h"
 
+#include "forms/NeededSize.h"
 #include "ui_MainForm.h"
 
 #include <QSize>
@@ -13,17 +14,6 @@ namespace {
 
 constexpr int Margin = 8;
 constexpr int ButtonGap = 4; // between the buttons beside the list
-
-using Controls = std::initializer_list<QWidget*>;
-
-int NeededHeight(const Controls& controls)
-{
-    int height = 0;
-    for (const QWidget* control : controls) {
-        height = std::max({height, control->height(), control->sizeHint().height()});
-    }
-    return height;
-}
 
 // A picture does not grow with the font.
 void WidenToCaption(QPushButton& button, int height)

@@ -69,43 +69,54 @@ QSize MainForm::SetUpUi()
 
 void MainForm::ConnectButtons()
 {
-    connect(m_ui->GoToButton, &QAbstractButton::clicked, this, &MainForm::GoToButton_Click);
-    connect(m_ui->BackButton, &QAbstractButton::clicked, this, &MainForm::PrevTopic_Click);
-    connect(m_ui->NextButton, &QAbstractButton::clicked, this, &MainForm::NextItem_Click);
-    connect(m_ui->AdvisorButton, &QAbstractButton::clicked, this, &MainForm::AdvisorButton_Click);
-    connect(m_ui->XRButton, &QAbstractButton::clicked, this, &MainForm::XRButton_Click);
-    connect(m_ui->ExplainButton, &QAbstractButton::clicked, this, &MainForm::ExplainButton_Click);
+    OnClick(m_ui->GoToButton, [this] { m_navigation.GoToButton_Click(); });
+    OnClick(m_ui->BackButton, [this] { m_navigation.PrevTopic_Click(); });
+    OnClick(m_ui->NextButton, [this] { m_navigation.NextItem_Click(); });
+    OnClick(m_ui->AdvisorButton, [this] { m_navigation.AdvisorButton_Click(); });
+    OnClick(m_ui->XRButton, [this] { m_navigation.XRButton_Click(); });
+    OnClick(m_ui->ExplainButton, [this] { ExplainButton_Click(); });
     connect(m_ui->DoneButton, &QAbstractButton::clicked, this, &MainForm::DoneButton_Click);
     connect(m_ui->TopicList, &QComboBox::currentIndexChanged, this, &MainForm::TopicList_Change);
     connect(m_ui->TopicList, &QComboBox::activated, this, &MainForm::TopicList_Change);
-    connect(m_ui->VScroll1, &QAbstractSlider::valueChanged, this, &MainForm::VScroll1_Change);
+    connect(m_ui->VScroll1, &QAbstractSlider::valueChanged, this,
+            [this] { Run([this] { m_view->VScroll1_Change(); }); });
 }
 
 void MainForm::ConnectItems()
 {
-    connect(m_ui->NewItem, &QAction::triggered, this, &MainForm::NewItem_Click);
-    connect(m_ui->OpenItem, &QAction::triggered, this, &MainForm::OpenItem_Click);
-    connect(m_ui->SaveItem, &QAction::triggered, this, &MainForm::SaveItem_Click);
+    OnClick(m_ui->NewItem, [this] { m_commands.NewItem_Click(); });
+    OnClick(m_ui->OpenItem, [this] { m_commands.OpenItem_Click(); });
+    OnClick(m_ui->SaveItem, [this] { m_save.SaveItem_Click(); });
+    OnClick(m_ui->AddTopicItem, [this] { m_topicCommands.AddTopicItem_Click(); });
+    OnClick(m_ui->DelTopicItem, [this] { m_topicCommands.DelTopicItem_Click(); });
+    OnClick(m_ui->ReorderItem, [this] { m_topicCommands.ReorderItem_Click(); });
+    OnClick(m_ui->EdTextItem, [this] { m_editCommands.EdTextItem_Click(); });
+    OnClick(m_ui->AdviceEdItem, [this] { m_editCommands.AdviceEdItem_Click(); });
+    OnClick(m_ui->EditPropertiesOption, [this] { m_editCommands.EditPropertiesOption_Click(); });
+    OnClick(m_ui->NextItem, [this] { m_navigation.NextItem_Click(); });
+    OnClick(m_ui->PrevTopic, [this] { m_navigation.PrevTopic_Click(); });
+    OnClick(m_ui->PrintItem, [this] { PrintItem_Click(); });
+    OnClick(m_ui->ExportItem, [this] { ExportItem_Click(m_global.book, m_seams); });
+    OnClick(m_ui->CheckItem, [this] { CheckItem_Click(m_global.book, m_seams, *m_view, m_navigation); });
+    OnClick(m_ui->AlphaItem, [this] { m_navigation.AlphaItem_Click(); });
+    OnClick(m_ui->ContentsItem, [this] { m_navigation.ContentsItem_Click(); });
+    OnClick(m_ui->GoBackItem, [this] { m_navigation.GoBackItem_Click(); });
+    OnClick(m_ui->GoForwardItem, [this] { m_navigation.GoForwardItem_Click(); });
+    OnClick(m_ui->HelpItem, [this] { HelpItem_Click(); });
+    OnClick(m_ui->AboutItem, [this] { ShowAbout(m_global.book, m_seams); });
+    connect(m_ui->PickTopicItem, &QAction::triggered, this, [this] { m_ui->TopicList->setFocus(); });
     connect(m_ui->ExitItem, &QAction::triggered, this, &MainForm::DoneButton_Click);
-    connect(m_ui->AddTopicItem, &QAction::triggered, this, &MainForm::AddTopicItem_Click);
-    connect(m_ui->DelTopicItem, &QAction::triggered, this, &MainForm::DelTopicItem_Click);
-    connect(m_ui->ReorderItem, &QAction::triggered, this, &MainForm::ReorderItem_Click);
-    connect(m_ui->EdTextItem, &QAction::triggered, this, &MainForm::EdTextItem_Click);
-    connect(m_ui->AdviceEdItem, &QAction::triggered, this, &MainForm::AdviceEdItem_Click);
-    connect(m_ui->EditPropertiesOption, &QAction::triggered, this, &MainForm::EditPropertiesOption_Click);
-    connect(m_ui->NextItem, &QAction::triggered, this, &MainForm::NextItem_Click);
-    connect(m_ui->PrevTopic, &QAction::triggered, this, &MainForm::PrevTopic_Click);
-    connect(m_ui->PrintItem, &QAction::triggered, this, &MainForm::PrintItem_Click);
-    connect(m_ui->ExportItem, &QAction::triggered, this, &MainForm::ExportItem_Click);
-    connect(m_ui->CheckItem, &QAction::triggered, this, &MainForm::CheckItem_Click);
-    connect(m_ui->AlphaItem, &QAction::triggered, this, &MainForm::AlphaItem_Click);
-    connect(m_ui->ContentsItem, &QAction::triggered, this, &MainForm::ContentsItem_Click);
-    connect(m_ui->GoBackItem, &QAction::triggered, this, &MainForm::GoBackItem_Click);
-    connect(m_ui->GoForwardItem, &QAction::triggered, this, &MainForm::GoForwardItem_Click);
-    connect(m_ui->PickTopicItem, &QAction::triggered, this, &MainForm::PickTopicItem_Click);
-    connect(m_ui->HelpItem, &QAction::triggered, this, &MainForm::HelpItem_Click);
-    connect(m_ui->AboutItem, &QAction::triggered, this, &MainForm::AboutItem_Click);
     m_ui->HelpItem->setEnabled(HasHelpPage(HelpPage, m_seams));
+}
+
+void MainForm::OnClick(QAbstractButton* button, const std::function<void()>& command)
+{
+    connect(button, &QAbstractButton::clicked, this, [this, command] { Run(command); });
+}
+
+void MainForm::OnClick(QAction* item, const std::function<void()>& command)
+{
+    connect(item, &QAction::triggered, this, [this, command] { Run(command); });
 }
 
 // Every command goes through here. One that is still running, with a box or form of its own open, is never
@@ -154,7 +165,7 @@ void MainForm::Form_Activate()
 {
     const Book& book = m_global.book;
     if (!book.IsOpen() && !book.BookChanged) { // recovered edits may be those of a new book
-        OpenItem_Click();
+        Run([this] { m_commands.OpenItem_Click(); });
     }
 }
 
@@ -200,149 +211,22 @@ void MainForm::ShowAgain()
     Run([this] { m_view->KeepSelection([this] { m_navigation.ShowAgain(); }); });
 }
 
-void MainForm::GoToButton_Click()
-{
-    Run([this] { m_navigation.GoToButton_Click(); });
-}
-
-void MainForm::AdvisorButton_Click()
-{
-    Run([this] { m_navigation.AdvisorButton_Click(); });
-}
-
-void MainForm::XRButton_Click()
-{
-    Run([this] { m_navigation.XRButton_Click(); });
-}
-
-void MainForm::NextItem_Click()
-{
-    Run([this] { m_navigation.NextItem_Click(); });
-}
-
-void MainForm::PrevTopic_Click()
-{
-    Run([this] { m_navigation.PrevTopic_Click(); });
-}
-
-void MainForm::AlphaItem_Click()
-{
-    Run([this] { m_navigation.AlphaItem_Click(); });
-}
-
-void MainForm::ContentsItem_Click()
-{
-    Run([this] { m_navigation.ContentsItem_Click(); });
-}
-
-void MainForm::GoBackItem_Click()
-{
-    Run([this] { m_navigation.GoBackItem_Click(); });
-}
-
-void MainForm::GoForwardItem_Click()
-{
-    Run([this] { m_navigation.GoForwardItem_Click(); });
-}
-
-void MainForm::PickTopicItem_Click()
-{
-    m_ui->TopicList->setFocus();
-}
-
-void MainForm::NewItem_Click()
-{
-    Run([this] { m_commands.NewItem_Click(); });
-}
-
-void MainForm::OpenItem_Click()
-{
-    Run([this] { m_commands.OpenItem_Click(); });
-}
-
-void MainForm::SaveItem_Click()
-{
-    Run([this] { m_save.SaveItem_Click(); });
-}
-
-void MainForm::AddTopicItem_Click()
-{
-    Run([this] { m_topicCommands.AddTopicItem_Click(); });
-}
-
-void MainForm::DelTopicItem_Click()
-{
-    Run([this] { m_topicCommands.DelTopicItem_Click(); });
-}
-
-void MainForm::ReorderItem_Click()
-{
-    Run([this] { m_topicCommands.ReorderItem_Click(); });
-}
-
-void MainForm::EdTextItem_Click()
-{
-    Run([this] { m_editCommands.EdTextItem_Click(); });
-}
-
-void MainForm::AdviceEdItem_Click()
-{
-    Run([this] { m_editCommands.AdviceEdItem_Click(); });
-}
-
-void MainForm::EditPropertiesOption_Click()
-{
-    Run([this] { m_editCommands.EditPropertiesOption_Click(); });
-}
-
 void MainForm::PrintItem_Click()
 {
-    Run([this] {
-        ls::PrintItem_Click(m_global.book, m_global.print, m_forms.printer, m_seams, [this] {
-            PrtForm(this, m_global.print, m_global.book, m_seams, m_forms).exec();
-        });
-    });
-}
-
-void MainForm::ExportItem_Click()
-{
-    Run([this] { ls::ExportItem_Click(m_global.book, m_seams); });
-}
-
-void MainForm::CheckItem_Click()
-{
-    Run([this] { ls::CheckItem_Click(m_global.book, m_seams, *m_view, m_navigation); });
+    ls::PrintItem_Click(m_global.book, m_global.print, m_forms.printer, m_seams,
+                        [this] { PrtForm(this, m_global.print, m_global.book, m_seams, m_forms).exec(); });
 }
 
 void MainForm::ExplainButton_Click()
 {
-    Run([this] {
-        ShowWebReferral(m_global.book, m_seams, m_forms.registry, m_global.book.CurrentTopicName);
-    });
+    ShowWebReferral(m_global.book, m_seams, m_forms.registry, m_global.book.CurrentTopicName);
 }
 
 void MainForm::HelpItem_Click()
 {
-    Run([this] {
-        ShowHelpPage(HelpPage, m_seams, m_forms.registry, [this](const std::string& startPath) {
-            return SelectProgram(this, m_seams, m_forms, m_global.book.WorkDir, startPath);
-        });
+    ShowHelpPage(HelpPage, m_seams, m_forms.registry, [this](const std::string& startPath) {
+        return SelectProgram(this, m_seams, m_forms, m_global.book.WorkDir, startPath);
     });
-}
-
-void MainForm::AboutItem_Click()
-{
-    Run([this] { ShowAbout(m_global.book, m_seams); });
-}
-
-void MainForm::VScroll1_Change()
-{
-    Run([this] { m_view->VScroll1_Change(); });
-}
-
-void MainForm::DoneButton_Click()
-{
-    close();
 }
 
 void MainForm::TopicList_Change()
@@ -355,7 +239,7 @@ void MainForm::TopicList_Change()
 void MainForm::TopicList_DblClick()
 {
     m_ui->TopicList->hidePopup();
-    GoToButton_Click();
+    Run([this] { m_navigation.GoToButton_Click(); });
 }
 
 bool MainForm::eventFilter(QObject* watched, QEvent* event)

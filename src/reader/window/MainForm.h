@@ -16,6 +16,8 @@
 #include <functional>
 #include <memory>
 
+class QAbstractButton;
+
 namespace Ui {
 class MainForm;
 }
@@ -57,6 +59,8 @@ protected:
 private:
     void ConnectButtons();
     void ConnectItems();
+    void OnClick(QAbstractButton* button, const std::function<void()>& command);
+    void OnClick(QAction* item, const std::function<void()>& command);
     QSize SetUpUi();
 
     void Form_Activate();
@@ -65,35 +69,12 @@ private:
     void TypeSize_Change();
     void FindBar_Change();
 
-    void GoToButton_Click();
-    void NextItem_Click();
-    void AdvisorButton_Click();
-    void XRButton_Click();
-    void PrevTopic_Click();
-    void DoneButton_Click();
+    void DoneButton_Click() { close(); }
     void TopicList_Change();
     void TopicList_DblClick();
-    void VScroll1_Change();
-    void NewItem_Click();
-    void OpenItem_Click();
-    void SaveItem_Click();
-    void AddTopicItem_Click();
-    void DelTopicItem_Click();
-    void ReorderItem_Click();
-    void EdTextItem_Click();
-    void AdviceEdItem_Click();
-    void EditPropertiesOption_Click();
     void PrintItem_Click();
-    void ExportItem_Click();
-    void CheckItem_Click();
     void ExplainButton_Click();
     void HelpItem_Click();
-    void AboutItem_Click();
-    void AlphaItem_Click();
-    void ContentsItem_Click();
-    void GoBackItem_Click();
-    void GoForwardItem_Click();
-    void PickTopicItem_Click();
 
     void Run(const std::function<void()>& command);
     void EnableHistory();

@@ -174,7 +174,7 @@ void Navigation::ShowAgain()
         return;
     }
     QuietMessages quiet(m_seams.end);
-    const Seams silent{m_seams.files, quiet, m_seams.processes, m_seams.end, m_seams.paths};
+    const Seams silent = m_seams.With(quiet);
     std::string name = m_book.CurrentTopicName;
     Count16 number = m_book.CurrentTopicNo;
     if (ShowTopic(m_book, silent, name, number, m_view.LineWidthChars(), m_shown) == ShowResult::Shown) {

@@ -23,8 +23,7 @@ bool HasSomethingToPrint(const Book& book, const Seams& seams)
         return false;
     }
     if (book.CurrentTopicName.empty()) {
-        seams.messages.MsgBox("Please display the topic first by choosing it from the list and clicking Go.",
-                              Icon::Warning);
+        seams.messages.MsgBox(DisplayTopicFirst, Icon::Warning);
         return false;
     }
     return true;

@@ -8,6 +8,7 @@
 #include "book/XrefLists.h"
 #include "forms/ButtonIcons.h"
 #include "forms/FormFont.h"
+#include "forms/Shown.h"
 #include "ui_XrefForm.h"
 
 #include <utility>
@@ -16,17 +17,12 @@ namespace ls {
 
 namespace {
 
-QString Shown(const std::string& bookText)
-{
-    return QString::fromStdString(FromBook(bookText));
-}
-
 // Fills a list; one without entries goes, with its label and its button. An item that is made in its list is
 // searched for there as it is made, which takes a walk through the list for each of thousands.
 void Fill(QListWidget& list, QWidget& label, QWidget& button, const std::vector<XrefEntry>& entries)
 {
     for (const XrefEntry& entry : entries) {
-        auto item = std::make_unique<QListWidgetItem>(Shown(entry.topic));
+        auto item = std::make_unique<QListWidgetItem>(ShownBookText(entry.topic));
         item->setData(Qt::UserRole, entry.itemData);
         list.addItem(item.release()); // the list's own from here on
     }
@@ -76,7 +72,7 @@ void XrefForm::Form_Load()
 {
     const std::string& shown = m_book.CurrentTopicName;
     const std::string title = shown.size() > 2 ? shown.substr(1, shown.size() - 2) : std::string();
-    m_ui->TitleLabel->setText(QStringLiteral("Cross Reference Topics for: ") + Shown(title));
+    m_ui->TitleLabel->setText(QStringLiteral("Cross Reference Topics for: ") + ShownBookText(title));
     XrefLists lists = FindXrefs(m_book, title);
     m_to = std::move(lists.to);
     m_in = std::move(lists.in);
@@ -90,7 +86,7 @@ void XrefForm::ShowNote(const QListWidget& list)
     if (row >= 0) {
         const QListWidgetItem* item = list.item(row);
         const int number = item->data(Qt::UserRole).toInt();
-        m_ui->NoteBox->setPlainText(Shown(m_book.Xrefs(number).Text));
+        m_ui->NoteBox->setPlainText(ShownBookText(m_book.Xrefs(number).Text));
     }
 }
 

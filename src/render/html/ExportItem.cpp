@@ -36,8 +36,7 @@ std::unique_ptr<OutputFile> OpenExportFile(const Book& book, const Seams& seams,
 void ExportItem_Click(const Book& book, const Seams& seams)
 {
     if (book.CurrentTopicName.empty()) {
-        seams.messages.MsgBox("Please display the topic first by choosing it from the list and clicking Go.",
-                              Icon::Warning);
+        seams.messages.MsgBox(DisplayTopicFirst, Icon::Warning);
         return;
     }
     const std::optional<std::string> path =

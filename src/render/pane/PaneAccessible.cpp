@@ -1,6 +1,7 @@
 #include "render/pane/PaneAccessible.h"
 
 #include "base/CodePage.h"
+#include "forms/Shown.h"
 #include "render/pane/ReadingPane.h"
 
 #include <algorithm>
@@ -131,7 +132,7 @@ void PaneAccessible::setCursorPosition(int position)
 QString PaneAccessible::text(int startOffset, int endOffset) const
 {
     const std::size_t end = endOffset < 0 ? m_pane.Topic().Length() : Index(endOffset);
-    return ShownText(m_pane.Topic().Part({Index(startOffset), end}));
+    return ShownBookText(m_pane.Topic().Part({Index(startOffset), end}));
 }
 
 // The row of a character, or one so many rows away, with the end that parts it from the next one.
@@ -147,7 +148,7 @@ QString PaneAccessible::LineAt(int offset, int away, int* startOffset, int* endO
     range.end += row < topic.RowCount() ? 1 : 0;
     *startOffset = static_cast<int>(range.begin);
     *endOffset = static_cast<int>(range.end);
-    return ShownText(topic.Part(range));
+    return ShownBookText(topic.Part(range));
 }
 
 QString PaneAccessible::textBeforeOffset(int offset, Boundary boundary, int* startOffset,
@@ -215,7 +216,7 @@ void InstallPaneAccessible()
 
 void TellTextChanged(ReadingPane& pane, const QString& before)
 {
-    QAccessibleTextUpdateEvent event(&pane, 0, before, ShownText(pane.Topic().Text()));
+    QAccessibleTextUpdateEvent event(&pane, 0, before, ShownBookText(pane.Topic().Text()));
     QAccessible::updateAccessibility(&event);
 }
 
@@ -236,11 +237,6 @@ void TellSelectionChanged(ReadingPane& pane, const TextSelection& before)
         QAccessibleTextCursorEvent event(&pane, caret);
         QAccessible::updateAccessibility(&event);
     }
-}
-
-QString ShownText(const std::string& bookText)
-{
-    return QString::fromStdString(FromBook(bookText));
 }
 
 } // namespace ls

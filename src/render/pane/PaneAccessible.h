@@ -57,7 +57,4 @@ void TellTextChanged(ReadingPane& pane, const QString& before);
 /// Tells listeners that the caret or the selection is not what it was before.
 void TellSelectionChanged(ReadingPane& pane, const TextSelection& before);
 
-/// Book text as the toolkit's, a character for each byte.
-[[nodiscard]] QString ShownText(const std::string& bookText);
-
 } // namespace ls

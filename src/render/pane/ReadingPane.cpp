@@ -1,5 +1,6 @@
 #include "render/pane/ReadingPane.h"
 
+#include "forms/Shown.h"
 #include "render/pane/PaintRuns.h"
 #include "render/pane/PaneAccessible.h"
 #include "render/pane/ReadingPlace.h"
@@ -76,7 +77,7 @@ void ReadingPane::SetTypeSize(double points)
 void ReadingPane::SetTopic(const DisplayLines* lines, float bookVersion)
 {
     const bool listened = QAccessible::isActive();
-    const QString before = listened && m_topic ? ShownText(m_topic->Text()) : QString();
+    const QString before = listened && m_topic ? ShownBookText(m_topic->Text()) : QString();
     m_lines = lines;
     m_bookVersion = bookVersion;
     m_topic.reset();
@@ -121,7 +122,7 @@ const TopicText& ReadingPane::Topic() const
 QString ReadingPane::SelectedText() const
 {
     const TextRange range = m_selection.Range();
-    return range.Empty() ? QString() : ShownText(Topic().Part(range));
+    return range.Empty() ? QString() : ShownBookText(Topic().Part(range));
 }
 
 void ReadingPane::SetSelection(const TextSelection& selection)

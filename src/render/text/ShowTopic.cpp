@@ -230,18 +230,4 @@ ShowResult ShowTopic(const Book& book, const Seams& seams, std::string& topicNam
     return ShowResult::Shown;
 }
 
-std::string NextTopicLine(const Book& book, int topicIndex, std::size_t& position, int& doneFlag)
-{
-    const std::string* text = EditedText(book, topicIndex);
-    TextBody body(text == nullptr ? std::string_view() : std::string_view(*text),
-                  position > 0 ? position - 1 : 0);
-    std::string_view line;
-    if (!body.Next(line)) {
-        doneFlag = -1;
-        return {};
-    }
-    position = body.Position() + 1;
-    return std::string(line);
-}
-
 } // namespace ls

@@ -38,8 +38,4 @@ enum class ShowResult
 ShowResult ShowTopic(const Book& book, const Seams& seams, std::string& topicName, Count16& topicIndex,
                      int lineWidthChars, ShownTopic& shown);
 
-/// The next line of a topic's text held in memory: from the 1-based character `position` up to the next CR
-/// LF, which it passes. At the end of the text `doneFlag` becomes -1.
-std::string NextTopicLine(const Book& book, int topicIndex, std::size_t& position, int& doneFlag);
-
 } // namespace ls

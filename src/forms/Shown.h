@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace ls {
+
+/// A text of the core, which is UTF-8, for a control.
+[[nodiscard]] QString Shown(std::string_view utf8);
+
+/// A text of a book, in the book's characters, for a control.
+[[nodiscard]] QString ShownBookText(const std::string& bookText);
+
+} // namespace ls
