@@ -3,7 +3,7 @@
 #include "advisor/TempForm.h"
 #include "authoring/RunningEdits.h"
 #include "authoring/TextBoxCommands.h"
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
 #include "base/RunGuarded.h"

@@ -1,6 +1,6 @@
 #include "authoring/LogicEditor.h"
 
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 #include "base/CodePage.h"
 #include "base/Count16.h"
 #include "base/ItemAt.h"

@@ -1,7 +1,7 @@
 #include "authoring/LogicEditor.h"
 
 #include "authoring/LogicFaults.h"
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "book/Book.h"

@@ -1,6 +1,6 @@
 #include "authoring/Properties.h"
 
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "book/Book.h"

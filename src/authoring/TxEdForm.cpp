@@ -2,7 +2,7 @@
 
 #include "authoring/RunningEdits.h"
 #include "authoring/TextBoxCommands.h"
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "forms/FormFont.h"

@@ -10,7 +10,7 @@
 #include "files/FitFileForm.h"
 #include "files/OpenForm.h"
 #include "files/PathText.h"
-#include "files/ProgramSelector.h"
+#include "files/SelectProgram.h"
 #include "forms/ButtonIcons.h"
 #include "forms/FormFont.h"
 #include "forms/Mnemonic.h"

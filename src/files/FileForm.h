@@ -20,8 +20,8 @@ struct Book;
 struct FileDialog;
 struct Settings;
 
-/// The file form: asks for the name of a book to open or to save. While it is shown, other programs can press
-/// its buttons.
+/// The file form: asks for the name of a book to open or to save. Its Browse button shows the file selector,
+/// `OpenForm`. While the form is shown, other programs can press its buttons.
 class FileForm : public QDialog
 {
     Q_OBJECT

@@ -87,14 +87,14 @@ void OpenForm::ShowText()
     m_ui->TextBox->setText(PathText(m_selector.Text()));
 }
 
-void OpenForm::FinishIf(FileSelector::Outcome outcome)
+void OpenForm::FinishIf(OpenFormRules::Outcome outcome)
 {
     if (m_seams.end.Ended()) {
         reject();
         return;
     }
     ShowSelector();
-    if (outcome == FileSelector::Outcome::Accepted) {
+    if (outcome == OpenFormRules::Outcome::Accepted) {
         m_dialog.ChosenFullPath = m_selector.ChosenFullPath();
         m_dialog.OverwriteConfirmed = m_selector.OverwriteConfirmed();
         QDialog::accept();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "files/FileNames.h"
-#include "files/FileSelector.h"
+#include "files/FileListItems.h"
+#include "files/OpenFormRules.h"
 
 #include <QDialog>
 #include <QElapsedTimer>
@@ -17,8 +17,8 @@ namespace ls {
 
 struct FileDialog;
 
-/// The file selector: a path or pattern, a drive list, a folder list and a file list. It shows what
-/// `FileSelector` says and reports what the user picks.
+/// The file selector: a path or pattern, a drive list, a folder list and a file list. It is shown by the
+/// Browse button of `FileForm`, and alone to select a program. Its rules are in `OpenFormRules`.
 class OpenForm : public QDialog
 {
     Q_OBJECT
@@ -44,14 +44,14 @@ private:
     void FileListBox_DblClick(int row);
     void ShowSelector();
     void ShowText();
-    void FinishIf(FileSelector::Outcome outcome);
+    void FinishIf(OpenFormRules::Outcome outcome);
 
     std::unique_ptr<Ui::OpenForm> m_ui;
     FileDialog& m_dialog;
     Seams m_seams;
-    FileSelector m_selector;
+    OpenFormRules m_selector;
     QStringListModel m_folders;
-    FileNames m_files;
+    FileListItems m_files;
     QElapsedTimer m_sinceFolderClick;
     bool m_filling = false; ///< while the lists are filled: no choice of the user's
 };

@@ -1,6 +1,6 @@
 #include "authoring/LogicBlock.h"
 #include "authoring/SpecialLines.h"
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 #include "base/CodePage.h"
 #include "base/ProgramEnd.h"
 #include "base/QuietMessages.h"

@@ -1,4 +1,4 @@
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 #include "base/QuietMessages.h"
 #include "bench/BenchBooks.h"
 #include "bench/GrowthRows.h"

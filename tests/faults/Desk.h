@@ -6,7 +6,7 @@
 #include "reader/window/Global.h"
 #include "reader/window/Navigation.h"
 #include "reader/window/RecordingView.h"
-#include "reader/window/SaveItem.h"
+#include "reader/window/SaveCommand.h"
 #include "support/MemoryFileSystem.h"
 #include "support/RecordingMessages.h"
 #include "support/RecordingPrinter.h"
@@ -87,7 +87,7 @@ struct Desk
     RecordingView view;
     Navigation navigation{book, seams, view};
     BookCommands commands{book, global.settings, global.fileDialog, seams, view, navigation};
-    SaveItem save{book, global.settings, global.fileDialog, seams, view, commands};
+    SaveCommand save{book, global.settings, global.fileDialog, seams, view, commands};
     EditCommands edit{book, seams, view, navigation};
     std::string shown; ///< what a row wants to be told besides: a dialogue's events, a list
 };

@@ -3,7 +3,7 @@
 #include "FaultRow.h"
 
 #include "base/Volumes.h"
-#include "files/FileSelector.h"
+#include "files/OpenFormRules.h"
 #include "reader/settings/CommandLine.h"
 #include "reader/window/StartUp.h"
 #include "support/TestSeams.h"
@@ -35,7 +35,7 @@ void Start(Desk& desk)
 void ListFolder(Desk& desk)
 {
     NoVolumes volumes;
-    FileSelector selector(desk.seams, volumes, "R", "");
+    OpenFormRules selector(desk.seams, volumes, "R", "");
     selector.Load("/ini/*.*");
     selector.OkClicked("/ini/LSAdvisor.INI");
     desk.shown = "lists";

@@ -102,14 +102,14 @@ void LoadSettings(Settings& settings, const Seams& seams)
     std::unique_ptr<BookFile> file;
     const std::string path = IniPath(seams.files, seams.paths, settings.IniDir);
     if (!seams.files.OpenForReading(path, Sharing::Shared, file).Ok()) {
-        settings.NotReadWhole = seams.files.Exists(path);
+        settings.ReadIncomplete = seams.files.Exists(path);
         return;
     }
     StatementReader reader(*file);
     std::string signature;
     reader.ReadLine(signature);
     if (!reader.Error().Ok()) {
-        settings.NotReadWhole = true;
+        settings.ReadIncomplete = true;
         return; // as good as a file that cannot be opened
     }
     if (!IsIniSignature(signature)) {
@@ -123,7 +123,7 @@ void LoadSettings(Settings& settings, const Seams& seams)
     Statement statement;
     while (reader.Next(statement) && loader.Take(statement)) {
     }
-    settings.NotReadWhole = !reader.Error().Ok();
+    settings.ReadIncomplete = !reader.Error().Ok();
 }
 
 } // namespace ls

@@ -79,7 +79,7 @@ FileError WriteNewFile(FileSystem& files, const std::string& path, const std::st
 }
 
 // Whether a file stands there that loading would refuse, cannot even read, or did not read to its end.
-bool MustBeKept(FileSystem& files, const std::string& path, bool notReadWhole)
+bool MustBeKept(FileSystem& files, const std::string& path, bool readIncomplete)
 {
     if (!files.Exists(path)) {
         return false;
@@ -90,7 +90,7 @@ bool MustBeKept(FileSystem& files, const std::string& path, bool notReadWhole)
     }
     StatementReader reader(*file);
     std::string signature;
-    return notReadWhole || !reader.ReadLine(signature) || !IsIniSignature(signature);
+    return readIncomplete || !reader.ReadLine(signature) || !IsIniSignature(signature);
 }
 
 // Puts the file beside, under the first backup name that is free: ".bak", ".bak2", ...
@@ -111,7 +111,7 @@ FileError KeepBeside(FileSystem& files, const std::string& path, std::string& ba
 }
 
 FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::string& text,
-                         bool notReadWhole)
+                         bool readIncomplete)
 {
     const std::string newPath = path + std::string(NewType);
     FileError error = WriteNewFile(files, newPath, text);
@@ -119,7 +119,7 @@ FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::
         return error;
     }
     std::string backup;
-    if (MustBeKept(files, path, notReadWhole)) {
+    if (MustBeKept(files, path, readIncomplete)) {
         error = KeepBeside(files, path, backup);
     }
     if (error.Ok()) {
@@ -139,8 +139,8 @@ FileError ReplaceIniFile(FileSystem& files, const std::string& path, const std::
 void SaveIniFile(Settings& settings, const Seams& seams)
 {
     const std::string path = IniPath(seams.files, seams.paths, settings.IniDir);
-    const FileError error = ReplaceIniFile(seams.files, path, IniText(settings), settings.NotReadWhole);
-    settings.NotReadWhole = settings.NotReadWhole && !error.Ok();
+    const FileError error = ReplaceIniFile(seams.files, path, IniText(settings), settings.ReadIncomplete);
+    settings.ReadIncomplete = settings.ReadIncomplete && !error.Ok();
     if (!error.Ok()) {
         seams.messages.MsgBox("Failed to save configuration and preferences to LSADVISOR.INI" + DueTo(error),
                               Icon::Warning);

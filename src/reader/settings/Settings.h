@@ -16,7 +16,7 @@ struct Settings
     std::string IniDir; ///< folder of the settings file; empty = the current folder
     std::array<std::string, MaxRecentFiles> RecentFiles; ///< book paths, most recent first
     Count16 RecentFileCount;
-    bool NotReadWhole = false; ///< a disk that failed kept back what the settings file holds
+    bool ReadIncomplete = false; ///< a disk that failed kept back what the settings file holds
 };
 
 /// Reads "LSAdvisor.INI" from `IniDir`. A missing file is no fault. A fault shows its message; a record

@@ -4,7 +4,7 @@
 #include "browser/About.h"
 #include "browser/HelpPages.h"
 #include "browser/WebReferral.h"
-#include "files/ProgramSelector.h"
+#include "files/SelectProgram.h"
 #include "forms/FormFont.h"
 #include "reader/window/CheckItem.h"
 #include "reader/window/FitMainForm.h"

@@ -7,7 +7,7 @@
 #include "reader/window/MainFormLayout.h"
 #include "reader/window/Navigation.h"
 #include "reader/window/PaneCommands.h"
-#include "reader/window/SaveItem.h"
+#include "reader/window/SaveCommand.h"
 #include "reader/window/TopicCommands.h"
 
 #include <QMainWindow>
@@ -88,7 +88,7 @@ private:
     std::unique_ptr<MainFormView> m_view;
     Navigation m_navigation;
     BookCommands m_commands;
-    SaveItem m_save;
+    SaveCommand m_save;
     TopicCommands m_topicCommands;
     EditCommands m_editCommands;
     PaneCommands m_paneCommands;

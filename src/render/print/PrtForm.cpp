@@ -4,7 +4,7 @@
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
 #include "browser/HelpPages.h"
-#include "files/ProgramSelector.h"
+#include "files/SelectProgram.h"
 #include "forms/ButtonIcons.h"
 #include "forms/FormFont.h"
 #include "render/print/PrtFormRules.h"

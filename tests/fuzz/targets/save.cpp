@@ -3,8 +3,8 @@
 
 #include "World.h"
 #include "authoring/SpecialLines.h"
+#include "authoring/TextEditing.h"
 #include "authoring/TopicTable.h"
-#include "authoring/TopicText.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
 #include "book/SaveBook.h"

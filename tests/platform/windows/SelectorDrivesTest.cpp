@@ -1,6 +1,6 @@
 // The file selector's rules on the drives of a real system.
 
-#include "files/FileSelector.h"
+#include "files/OpenFormRules.h"
 #include "platform/windows/WideText.h"
 #include "platform/windows/WindowsFileSystem.h"
 #include "platform/windows/WindowsVolumes.h"
@@ -18,7 +18,7 @@ namespace ls {
 namespace {
 
 using Strings = std::vector<std::string>;
-using Outcome = FileSelector::Outcome;
+using Outcome = OpenFormRules::Outcome;
 
 struct SelectorDrives : testing::Test
 {
@@ -29,14 +29,14 @@ struct SelectorDrives : testing::Test
     test::RecordingMessages messages{end};
     test::RecordingProcesses processes;
     std::string oldFolder = files.CurrentFolder();
-    std::unique_ptr<FileSelector> selector;
+    std::unique_ptr<OpenFormRules> selector;
 
     SelectorDrives()
     {
         folder.Write("Guide.IDA", "book");
         ::SetCurrentDirectoryW(ToWide(folder.Path())->c_str());
-        selector = std::make_unique<FileSelector>(Seams{files, messages, processes, end, WindowsPaths},
-                                                  volumes, "R", "");
+        selector = std::make_unique<OpenFormRules>(Seams{files, messages, processes, end, WindowsPaths},
+                                                   volumes, "R", "");
         selector->Load("");
     }
     ~SelectorDrives() override { ::SetCurrentDirectoryW(ToWide(oldFolder)->c_str()); }

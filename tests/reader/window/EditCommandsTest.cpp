@@ -1,6 +1,6 @@
 #include "reader/window/EditCommands.h"
 
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 #include "book/WriteBook.h"
 #include "reader/window/MainFixture.h"
 

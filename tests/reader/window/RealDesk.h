@@ -9,7 +9,7 @@
 #include "reader/window/BookCommands.h"
 #include "reader/window/Navigation.h"
 #include "reader/window/RecordingView.h"
-#include "reader/window/SaveItem.h"
+#include "reader/window/SaveCommand.h"
 #include "support/RecordingMessages.h"
 #include "support/RecordingProcesses.h"
 
@@ -56,7 +56,7 @@ struct RealDesk
     RecordingView view;
     Navigation navigation{book, seams, view};
     BookCommands commands{book, settings, dialog, seams, view, navigation};
-    SaveItem save{book, settings, dialog, seams, view, commands};
+    SaveCommand save{book, settings, dialog, seams, view, commands};
 };
 
 } // namespace ls::test

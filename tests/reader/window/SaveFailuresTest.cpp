@@ -1,11 +1,11 @@
 // Save on a file system that fails at every single call in turn.
 
-#include "reader/window/SaveItemFixture.h"
+#include "reader/window/SaveCommandFixture.h"
 
 namespace ls {
 namespace {
 
-struct SaveFailures : SaveItemFixture, testing::WithParamInterface<int>
+struct SaveFailures : SaveCommandFixture, testing::WithParamInterface<int>
 {
     // The calls of the whole command, from the click on; the one of that number fails.
     void FailAt(int failAt)

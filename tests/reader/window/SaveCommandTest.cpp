@@ -1,13 +1,13 @@
 #include "base/ProgramEnd.h"
 #include "base/Progress.h"
-#include "reader/window/SaveItemFixture.h"
+#include "reader/window/SaveCommandFixture.h"
 
 #include <algorithm>
 
 namespace ls {
 namespace {
 
-struct SaveItemTest : SaveItemFixture
+struct SaveItemTest : SaveCommandFixture
 {
 };
 

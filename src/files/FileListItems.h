@@ -8,7 +8,7 @@
 namespace ls {
 
 /// The rows of a list of file names. A row's text is made when it is drawn: a folder may hold many thousands.
-class FileNames : public QAbstractListModel
+class FileListItems : public QAbstractListModel
 {
 public:
     void Show(const std::vector<std::string>& names);

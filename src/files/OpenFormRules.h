@@ -23,7 +23,7 @@ struct FolderItem
 
 /// The rules of the file selector: one text that always holds a full path or a full pattern, and three lists
 /// that are kept in step with it. The form shows what stands here and reports what the user picked.
-class FileSelector
+class OpenFormRules
 {
 public:
     /// What an action came to.
@@ -34,7 +34,7 @@ public:
     };
 
     /// `fileMode` "R" wants an existing file, "W" asks before one that exists.
-    FileSelector(const Seams& seams, Volumes& volumes, std::string fileMode, std::string workDir);
+    OpenFormRules(const Seams& seams, Volumes& volumes, std::string fileMode, std::string workDir);
 
     /// Reads a folder, which may be large or far away; returns when that is done.
     using RunWork = std::function<void(const std::function<void()>&)>;

@@ -1,4 +1,4 @@
-#include "files/FileSelector.h"
+#include "files/OpenFormRules.h"
 
 #include "support/TestSeams.h"
 
@@ -10,7 +10,7 @@ namespace ls {
 namespace {
 
 using Strings = std::vector<std::string>;
-using Outcome = FileSelector::Outcome;
+using Outcome = OpenFormRules::Outcome;
 
 struct FixedVolumes : Volumes
 {
@@ -18,11 +18,11 @@ struct FixedVolumes : Volumes
     std::vector<Volume> List() override { return volumes; }
 };
 
-struct FileSelectorTest : testing::Test
+struct OpenFormRulesTest : testing::Test
 {
     test::TestSeams world;
     FixedVolumes volumes;
-    std::unique_ptr<FileSelector> selector;
+    std::unique_ptr<OpenFormRules> selector;
 
     void SetUp() override
     {
@@ -37,7 +37,7 @@ struct FileSelectorTest : testing::Test
 
     void Load(const std::string& startPath, const std::string& mode = "R", const std::string& workDir = "")
     {
-        selector = std::make_unique<FileSelector>(world.Get(), volumes, mode, workDir);
+        selector = std::make_unique<OpenFormRules>(world.Get(), volumes, mode, workDir);
         selector->Load(startPath);
     }
 
@@ -57,14 +57,14 @@ struct FileSelectorTest : testing::Test
     }
 };
 
-TEST_F(FileSelectorTest, load_folderWithPattern_listsIt)
+TEST_F(OpenFormRulesTest, load_folderWithPattern_listsIt)
 {
     Load("/work/*.IDA");
     EXPECT_EQ(State(), "/work/*.IDA|/work|Guide.IDA |/* >work* >>Sub |0");
     EXPECT_FALSE(selector->OverwriteConfirmed());
 }
 
-TEST_F(FileSelectorTest, load_folderAlone_getsTheBookPattern)
+TEST_F(OpenFormRulesTest, load_folderAlone_getsTheBookPattern)
 {
     Load("/work/Sub");
     EXPECT_EQ(State(), "/work/Sub/*.IDA|/work/Sub|Deep.IDA |/* >work* >>Sub* |0");
@@ -72,7 +72,7 @@ TEST_F(FileSelectorTest, load_folderAlone_getsTheBookPattern)
     EXPECT_EQ(selector->Text(), "/work/Sub/*.IDA");
 }
 
-TEST_F(FileSelectorTest, load_empty_takesWorkDirElseTheCurrentFolder)
+TEST_F(OpenFormRulesTest, load_empty_takesWorkDirElseTheCurrentFolder)
 {
     Load("", "R", "/home/anna");
     EXPECT_EQ(State(), "/home/anna/*.IDA|/home/anna|Own.IDA |/* >home* >>anna* |1");
@@ -80,20 +80,20 @@ TEST_F(FileSelectorTest, load_empty_takesWorkDirElseTheCurrentFolder)
     EXPECT_EQ(selector->Text(), "/work/*.IDA");
 }
 
-TEST_F(FileSelectorTest, load_patternAlone_listsTheCurrentFolder)
+TEST_F(OpenFormRulesTest, load_patternAlone_listsTheCurrentFolder)
 {
     Load("*.txt");
     EXPECT_EQ(State(), "/work/*.txt|/work|notes.txt |/* >work* >>Sub |0");
 }
 
-TEST_F(FileSelectorTest, load_root_staysTheRoot)
+TEST_F(OpenFormRulesTest, load_root_staysTheRoot)
 {
     Load("/");
     EXPECT_EQ(selector->Text(), "/*.IDA");
     EXPECT_EQ(selector->FolderPath(), "/");
 }
 
-TEST_F(FileSelectorTest, load_missingFolder_saysSoAndShowsTheCurrentOne)
+TEST_F(OpenFormRulesTest, load_missingFolder_saysSoAndShowsTheCurrentOne)
 {
     Load("/Gone/*.IDA");
     EXPECT_EQ(world.messages.Take(),
@@ -103,7 +103,7 @@ TEST_F(FileSelectorTest, load_missingFolder_saysSoAndShowsTheCurrentOne)
     EXPECT_EQ(selector->Text(), "/work/*.*");
 }
 
-TEST_F(FileSelectorTest, ok_pattern_onlyChangesWhatIsListed)
+TEST_F(OpenFormRulesTest, ok_pattern_onlyChangesWhatIsListed)
 {
     Load("/work/*.IDA");
     EXPECT_EQ(selector->OkClicked("*.txt"), Outcome::Stay);
@@ -112,7 +112,7 @@ TEST_F(FileSelectorTest, ok_pattern_onlyChangesWhatIsListed)
     EXPECT_EQ(State(), "/work/?otes.*|/work|notes.txt |/* >work* >>Sub |0");
 }
 
-TEST_F(FileSelectorTest, ok_existingFile_isAcceptedInItsRealSpelling)
+TEST_F(OpenFormRulesTest, ok_existingFile_isAcceptedInItsRealSpelling)
 {
     Load("/work/*.IDA");
     EXPECT_EQ(selector->OkClicked("/WORK/GUIDE.ida"), Outcome::Accepted);
@@ -124,14 +124,14 @@ TEST_F(FileSelectorTest, ok_existingFile_isAcceptedInItsRealSpelling)
     EXPECT_EQ(selector->ChosenFullPath(), "/work/Sub/Deep.IDA");
 }
 
-TEST_F(FileSelectorTest, ok_existingFileOutsideThePattern_isAccepted)
+TEST_F(OpenFormRulesTest, ok_existingFileOutsideThePattern_isAccepted)
 {
     Load("/work/*.IDA");
     EXPECT_EQ(selector->OkClicked("/work/notes.txt"), Outcome::Accepted);
     EXPECT_EQ(selector->OkClicked("/work/.hidden.ida"), Outcome::Accepted);
 }
 
-TEST_F(FileSelectorTest, ok_folderThatIsHidden_isNoFile)
+TEST_F(OpenFormRulesTest, ok_folderThatIsHidden_isNoFile)
 {
     world.files["/work/.my.folder/Deep.IDA"] = "";
     Load("/work/*.IDA");
@@ -140,7 +140,7 @@ TEST_F(FileSelectorTest, ok_folderThatIsHidden_isNoFile)
               (Strings{"exclamation|Lodestar Advisor|File does not exist: /work/.my.folder"}));
 }
 
-TEST_F(FileSelectorTest, ok_twoNamesThatDifferInCase_takesTheOneSpelled)
+TEST_F(OpenFormRulesTest, ok_twoNamesThatDifferInCase_takesTheOneSpelled)
 {
     world.files["/work/guide.ida"] = "";
     Load("/work/*.IDA");
@@ -150,7 +150,7 @@ TEST_F(FileSelectorTest, ok_twoNamesThatDifferInCase_takesTheOneSpelled)
     EXPECT_EQ(selector->ChosenFullPath(), "/work/Guide.IDA");
 }
 
-TEST_F(FileSelectorTest, ok_missingFileInOpenMode_staysAndNamesItInLowerCase)
+TEST_F(OpenFormRulesTest, ok_missingFileInOpenMode_staysAndNamesItInLowerCase)
 {
     Load("/work/*.IDA");
     EXPECT_EQ(selector->OkClicked("/work/Missing.IDA"), Outcome::Stay);
@@ -158,7 +158,7 @@ TEST_F(FileSelectorTest, ok_missingFileInOpenMode_staysAndNamesItInLowerCase)
               (Strings{"exclamation|Lodestar Advisor|File does not exist: /work/missing.ida"}));
 }
 
-TEST_F(FileSelectorTest, ok_folderNameInOpenMode_isNoFile)
+TEST_F(OpenFormRulesTest, ok_folderNameInOpenMode_isNoFile)
 {
     Load("/work/*.IDA");
     EXPECT_EQ(selector->OkClicked("/work/Sub"), Outcome::Stay);
@@ -166,14 +166,14 @@ TEST_F(FileSelectorTest, ok_folderNameInOpenMode_isNoFile)
               (Strings{"exclamation|Lodestar Advisor|File does not exist: /work/sub"}));
 }
 
-TEST_F(FileSelectorTest, ok_fileThatCameSinceTheListing_isFound)
+TEST_F(OpenFormRulesTest, ok_fileThatCameSinceTheListing_isFound)
 {
     Load("/work/*.IDA");
     world.files["/work/New.IDA"] = "";
     EXPECT_EQ(selector->OkClicked("/work/New.IDA"), Outcome::Accepted);
 }
 
-TEST_F(FileSelectorTest, ok_newFileInSaveMode_isAcceptedAsTyped)
+TEST_F(OpenFormRulesTest, ok_newFileInSaveMode_isAcceptedAsTyped)
 {
     Load("/work/*.IDA", "W");
     EXPECT_EQ(selector->OkClicked("/work/New.IDA"), Outcome::Accepted);
@@ -181,7 +181,7 @@ TEST_F(FileSelectorTest, ok_newFileInSaveMode_isAcceptedAsTyped)
     EXPECT_FALSE(selector->OverwriteConfirmed());
 }
 
-TEST_F(FileSelectorTest, ok_existingFileInSaveMode_asksBeforeOverwriting)
+TEST_F(OpenFormRulesTest, ok_existingFileInSaveMode_asksBeforeOverwriting)
 {
     Load("/work/*.IDA", "W");
     world.messages.replies = {Reply::Cancel};
@@ -194,7 +194,7 @@ TEST_F(FileSelectorTest, ok_existingFileInSaveMode_asksBeforeOverwriting)
     EXPECT_EQ(world.messages.Take(), (Strings{question, question}));
 }
 
-TEST_F(FileSelectorTest, folderRemovedWhileShown_namesTheErrorAndKeepsTheText)
+TEST_F(OpenFormRulesTest, folderRemovedWhileShown_namesTheErrorAndKeepsTheText)
 {
     Load("/work/*.IDA");
     world.files.fail = [](const std::string& operation) {
@@ -207,7 +207,7 @@ TEST_F(FileSelectorTest, folderRemovedWhileShown_namesTheErrorAndKeepsTheText)
     EXPECT_EQ(State(), "/work/*.IDA|/work|Guide.IDA |/* >work* >>Sub |0");
 }
 
-TEST_F(FileSelectorTest, folderWithoutPermission_namesTheError)
+TEST_F(OpenFormRulesTest, folderWithoutPermission_namesTheError)
 {
     Load("/work/*.IDA");
     world.files.fail = [](const std::string& operation) {
@@ -220,7 +220,7 @@ TEST_F(FileSelectorTest, folderWithoutPermission_namesTheError)
     EXPECT_EQ(selector->FolderPath(), "/work");
 }
 
-TEST_F(FileSelectorTest, folderClicked_showsItWithThePattern)
+TEST_F(OpenFormRulesTest, folderClicked_showsItWithThePattern)
 {
     Load("/work/*.txt");
     selector->FolderClicked(2);
@@ -231,7 +231,7 @@ TEST_F(FileSelectorTest, folderClicked_showsItWithThePattern)
     EXPECT_EQ(selector->Text(), "/*.txt");
 }
 
-TEST_F(FileSelectorTest, fileClicked_writesItsPathAndDoubleClickAccepts)
+TEST_F(OpenFormRulesTest, fileClicked_writesItsPathAndDoubleClickAccepts)
 {
     Load("/work/*.IDA");
     selector->FileClicked(0);
@@ -241,7 +241,7 @@ TEST_F(FileSelectorTest, fileClicked_writesItsPathAndDoubleClickAccepts)
     EXPECT_EQ(selector->ChosenFullPath(), "/work/Guide.IDA");
 }
 
-TEST_F(FileSelectorTest, driveChanged_goesToItsRootWithThePattern)
+TEST_F(OpenFormRulesTest, driveChanged_goesToItsRootWithThePattern)
 {
     Load("/work/*.txt");
     selector->DriveChanged(1);
@@ -251,7 +251,7 @@ TEST_F(FileSelectorTest, driveChanged_goesToItsRootWithThePattern)
     EXPECT_EQ(selector->CurrentDrive(), 2);
 }
 
-TEST_F(FileSelectorTest, cancel_emptiesTheChosenPath)
+TEST_F(OpenFormRulesTest, cancel_emptiesTheChosenPath)
 {
     Load("/work/*.IDA");
     selector->Cancel();
@@ -279,7 +279,7 @@ struct DriveSelectorTest : testing::Test
     test::TestSeams world;
     DriveFiles files;
     FixedVolumes volumes;
-    std::unique_ptr<FileSelector> selector;
+    std::unique_ptr<OpenFormRules> selector;
 
     void SetUp() override
     {
@@ -287,7 +287,7 @@ struct DriveSelectorTest : testing::Test
         files["/C:/Books/Guide.IDA"] = "";
         files["/C:/Books/Sub/Deep.IDA"] = "";
         files["/d:/Other.IDA"] = "";
-        selector = std::make_unique<FileSelector>(
+        selector = std::make_unique<OpenFormRules>(
             Seams{files, world.messages, world.processes, world.end, WindowsPaths}, volumes, "R", "");
     }
 };
@@ -362,12 +362,12 @@ TEST_F(DriveSelectorTest, driveNotReadyOnPick_fallsBackWithoutClosing)
 TEST_F(DriveSelectorTest, driveTextWithoutColon_getsOneOrBecomesC)
 {
     volumes.volumes = {{"c", "C:\\Books"}};
-    selector = std::make_unique<FileSelector>(
+    selector = std::make_unique<OpenFormRules>(
         Seams{files, world.messages, world.processes, world.end, WindowsPaths}, volumes, "R", "");
     selector->Load("");
     EXPECT_EQ(selector->OkClicked("Guide.IDA"), Outcome::Accepted);
     volumes.volumes = {{"cdisk", "C:\\Books"}};
-    selector = std::make_unique<FileSelector>(
+    selector = std::make_unique<OpenFormRules>(
         Seams{files, world.messages, world.processes, world.end, WindowsPaths}, volumes, "R", "");
     selector->Load("C:\\Books\\*.IDA");
     world.messages.Take();

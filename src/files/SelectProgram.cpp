@@ -1,4 +1,4 @@
-#include "files/ProgramSelector.h"
+#include "files/SelectProgram.h"
 
 #include "files/FileDialog.h"
 #include "files/OpenForm.h"

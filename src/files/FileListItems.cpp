@@ -1,23 +1,23 @@
-#include "files/FileNames.h"
+#include "files/FileListItems.h"
 
 #include "base/ItemAt.h"
 #include "files/PathText.h"
 
 namespace ls {
 
-void FileNames::Show(const std::vector<std::string>& names)
+void FileListItems::Show(const std::vector<std::string>& names)
 {
     beginResetModel();
     m_names = names;
     endResetModel();
 }
 
-int FileNames::rowCount(const QModelIndex& parent) const
+int FileListItems::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_names.size());
 }
 
-QVariant FileNames::data(const QModelIndex& at, int role) const
+QVariant FileListItems::data(const QModelIndex& at, int role) const
 {
     if (!checkIndex(at, CheckIndexOption::IndexIsValid) ||
         (role != Qt::DisplayRole && role != Qt::EditRole)) {

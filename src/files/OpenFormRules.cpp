@@ -1,4 +1,4 @@
-#include "files/FileSelector.h"
+#include "files/OpenFormRules.h"
 
 #include "base/CodePage.h"
 #include "base/FileSystem.h"
@@ -69,7 +69,7 @@ std::string WithoutTrailingSeparator(PathRules rules, std::string path)
 
 } // namespace
 
-FileSelector::FileSelector(const Seams& seams, Volumes& volumes, std::string fileMode, std::string workDir)
+OpenFormRules::OpenFormRules(const Seams& seams, Volumes& volumes, std::string fileMode, std::string workDir)
     : m_seams(seams), m_fileMode(std::move(fileMode)), m_workDir(std::move(workDir)),
       m_volumes(volumes.List())
 {
@@ -78,7 +78,7 @@ FileSelector::FileSelector(const Seams& seams, Volumes& volumes, std::string fil
     }
 }
 
-void FileSelector::Load(const std::string& startPath)
+void OpenFormRules::Load(const std::string& startPath)
 {
     m_overwriteConfirmed = false;
     m_chosenFullPath = startPath;
@@ -103,18 +103,18 @@ void FileSelector::Load(const std::string& startPath)
     Apply();
 }
 
-std::string FileSelector::InFolder(const std::string& name) const
+std::string OpenFormRules::InFolder(const std::string& name) const
 {
     return JoinPath(m_seams.paths, m_folderPath, name);
 }
 
-void FileSelector::ResetText()
+void OpenFormRules::ResetText()
 {
     m_text = InFolder(m_pattern);
 }
 
 // The drive part of what the drive list shows: up to its ":", which a one-letter text gets added.
-std::string FileSelector::CurrentDriveText()
+std::string OpenFormRules::CurrentDriveText()
 {
     const std::string* const shown = ItemAt(m_driveLabels, m_drive);
     const std::string label = shown == nullptr ? std::string() : *shown;
@@ -128,7 +128,7 @@ std::string FileSelector::CurrentDriveText()
     return "C:";
 }
 
-bool FileSelector::SwitchDrive(const std::string& drive)
+bool OpenFormRules::SwitchDrive(const std::string& drive)
 {
     const std::string letter = LowerCaseAscii(drive.substr(0, 1));
     const auto isMeant = [&letter](const Volume& volume) {
@@ -152,7 +152,7 @@ bool FileSelector::SwitchDrive(const std::string& drive)
 }
 
 // Reads what lies in a folder; on success it is the folder on show.
-FileError FileSelector::ReadFolder(const std::string& folder)
+FileError OpenFormRules::ReadFolder(const std::string& folder)
 {
     Listing listing;
     m_run([&] { listing = ListingOf(m_seams.files, folder); });
@@ -169,14 +169,14 @@ FileError FileSelector::ReadFolder(const std::string& folder)
     return {};
 }
 
-void FileSelector::FilterFiles()
+void OpenFormRules::FilterFiles()
 {
     m_files.clear();
     std::copy_if(m_allFiles.begin(), m_allFiles.end(), std::back_inserter(m_files),
                  [this](const std::string& name) { return MatchesPattern(name, m_pattern); });
 }
 
-void FileSelector::ListFolders()
+void OpenFormRules::ListFolders()
 {
     const PathRules rules = m_seams.paths;
     m_folders.clear();
@@ -196,7 +196,7 @@ void FileSelector::ListFolders()
 }
 
 // The volume with the longest root that holds the folder.
-void FileSelector::SelectDriveOf(const std::string& folder)
+void OpenFormRules::SelectDriveOf(const std::string& folder)
 {
     std::size_t longest = 0;
     for (std::size_t i = 0; i < m_volumes.size(); ++i) {
@@ -211,7 +211,7 @@ void FileSelector::SelectDriveOf(const std::string& folder)
     }
 }
 
-bool FileSelector::SwitchFolder(const std::string& folder, const std::string& asWritten)
+bool OpenFormRules::SwitchFolder(const std::string& folder, const std::string& asWritten)
 {
     const FileError error = ReadFolder(folder);
     if (error.Ok()) {
@@ -225,7 +225,7 @@ bool FileSelector::SwitchFolder(const std::string& folder, const std::string& as
 }
 
 // The folder that a text names: none is the folder on show, and a relative one lies in that.
-std::string FileSelector::FolderMeant(const PathParts& parts) const
+std::string OpenFormRules::FolderMeant(const PathParts& parts) const
 {
     if (parts.folder.empty()) {
         return m_folderPath;
@@ -241,7 +241,7 @@ std::string FileSelector::FolderMeant(const PathParts& parts) const
     return FindSpelling(m_seams.files, m_seams.paths, bare);
 }
 
-FileSelector::Outcome FileSelector::Apply()
+OpenFormRules::Outcome OpenFormRules::Apply()
 {
     PathParts parts = SplitPath(m_seams.paths, m_text);
     if (m_seams.paths.drives) {
@@ -269,7 +269,7 @@ FileSelector::Outcome FileSelector::Apply()
 }
 
 // Where there are drives, a name in another case is the same folder.
-bool FileSelector::IsSubfolder(const std::string& name) const
+bool OpenFormRules::IsSubfolder(const std::string& name) const
 {
     const bool anyCase = m_seams.paths.drives;
     const auto isMeant = [&](const std::string& folder) {
@@ -279,7 +279,7 @@ bool FileSelector::IsSubfolder(const std::string& name) const
            std::any_of(m_hiddenFolders.begin(), m_hiddenFolders.end(), isMeant);
 }
 
-FileSelector::Outcome FileSelector::ChooseName(const std::string& name)
+OpenFormRules::Outcome OpenFormRules::ChooseName(const std::string& name)
 {
     // The whole folder is searched, not only what the pattern lists: "does not exist" must be true. As
     // spelled wins; else the first that differs only in case.
@@ -310,20 +310,20 @@ FileSelector::Outcome FileSelector::ChooseName(const std::string& name)
     return Accept(real);
 }
 
-FileSelector::Outcome FileSelector::Accept(const std::string& name)
+OpenFormRules::Outcome OpenFormRules::Accept(const std::string& name)
 {
     m_text = InFolder(name);
     m_chosenFullPath = m_text;
     return Outcome::Accepted;
 }
 
-FileSelector::Outcome FileSelector::OkClicked(const std::string& text)
+OpenFormRules::Outcome OpenFormRules::OkClicked(const std::string& text)
 {
     m_text = text;
     return Apply();
 }
 
-void FileSelector::DriveChanged(int index)
+void OpenFormRules::DriveChanged(int index)
 {
     const Volume* const volume = ItemAt(m_volumes, index);
     if (volume == nullptr || index == m_drive) {
@@ -333,7 +333,7 @@ void FileSelector::DriveChanged(int index)
     Apply();
 }
 
-void FileSelector::FolderClicked(int index)
+void OpenFormRules::FolderClicked(int index)
 {
     if (const auto* const folder = ItemAt(m_folders, index)) {
         m_text = JoinPath(m_seams.paths, folder->path, m_pattern);
@@ -341,20 +341,20 @@ void FileSelector::FolderClicked(int index)
     }
 }
 
-void FileSelector::FileClicked(int index)
+void OpenFormRules::FileClicked(int index)
 {
     if (const std::string* const file = ItemAt(m_files, index)) {
         m_text = InFolder(*file);
     }
 }
 
-FileSelector::Outcome FileSelector::FileDoubleClicked(int index)
+OpenFormRules::Outcome OpenFormRules::FileDoubleClicked(int index)
 {
     FileClicked(index);
     return Apply();
 }
 
-void FileSelector::Cancel()
+void OpenFormRules::Cancel()
 {
     m_chosenFullPath.clear();
 }

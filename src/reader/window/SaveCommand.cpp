@@ -1,4 +1,4 @@
-#include "reader/window/SaveItem.h"
+#include "reader/window/SaveCommand.h"
 
 #include "base/FileSystem.h"
 #include "base/Messages.h"
@@ -40,7 +40,7 @@ std::string ProposedName(const Book& book, const Seams& seams)
     return NumberedName(seams.paths, book.OpenPath);
 }
 
-void SaveItem::SaveItem_Click()
+void SaveCommand::SaveItem_Click()
 {
     if (!MaySave() || !AskForName()) {
         return;
@@ -59,7 +59,7 @@ void SaveItem::SaveItem_Click()
 }
 
 // Others may have changed a file that was opened shared, and what they wrote would not be in the copy.
-bool SaveItem::MaySave()
+bool SaveCommand::MaySave()
 {
     if (m_book.TopicCount == 0) {
         m_seams.messages.MsgBox("I have nothing to save.", Icon::Exclamation);
@@ -72,7 +72,7 @@ bool SaveItem::MaySave()
                Icon::Warning, Buttons::OkCancel) == Reply::Ok;
 }
 
-bool SaveItem::AskForName()
+bool SaveCommand::AskForName()
 {
     m_dialog = FileDialog{};
     m_dialog.FileMode = "W";
@@ -86,7 +86,7 @@ bool SaveItem::AskForName()
     return m_dialog.FileFormOK && !m_dialog.ChosenFile.empty() && !m_seams.end.Ended();
 }
 
-void SaveItem::OfferType()
+void SaveCommand::OfferType()
 {
     if (NameOf(m_seams.paths, m_dialog.ChosenFile).find('.') != std::string::npos) {
         return;
@@ -101,7 +101,7 @@ void SaveItem::OfferType()
 }
 
 // A file that is there is not opened: that takes a lock for a moment, which might refuse it to somebody else.
-bool SaveItem::IsFree(const std::string& path)
+bool SaveCommand::IsFree(const std::string& path)
 {
     FileError error;
     if (m_seams.files.Exists(path)) {
@@ -121,7 +121,7 @@ bool SaveItem::IsFree(const std::string& path)
     return error.number == error::FileNotFound;
 }
 
-bool SaveItem::Write(const std::string& path)
+bool SaveCommand::Write(const std::string& path)
 {
     const std::unique_ptr<Progress> progress = m_view.WatchSave(path);
     return SaveBook(m_book, m_seams, path, progress.get()) == WriteOutcome::Written;

@@ -1,4 +1,4 @@
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 
 #include "book/Book.h"
 #include "book/BookLoader.h"

@@ -3,14 +3,14 @@
 #include "base/Messages.h"
 #include "files/FileFormRules.h"
 #include "reader/window/MainFixture.h"
-#include "reader/window/SaveItem.h"
+#include "reader/window/SaveCommand.h"
 
 namespace ls {
 
 /// The Save command on the main window's fixture, with the file form's own rules.
-struct SaveItemFixture : MainFixture
+struct SaveCommandFixture : MainFixture
 {
-    SaveItem save{book, global.settings, global.fileDialog, world.Get(), view, commands};
+    SaveCommand save{book, global.settings, global.fileDialog, world.Get(), view, commands};
     FileFormView form; ///< what the file form showed last
 
     /// Save is chosen; in the file form the user types that name and presses O.K.

@@ -1,4 +1,4 @@
-#include "authoring/TopicText.h"
+#include "authoring/TextEditing.h"
 
 #include "authoring/SpecialLines.h"
 #include "base/CodePage.h"

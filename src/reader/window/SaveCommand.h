@@ -16,11 +16,11 @@ class MainView;
 ///
 /// No file is ever written over. Whatever fails, or is cancelled, before the new file stands under its name,
 /// the open file, the edits, `BookPath` and `BookChanged` stay as they were.
-class SaveItem
+class SaveCommand
 {
 public:
-    SaveItem(Book& book, Settings& settings, FileDialog& dialog, const Seams& seams, MainView& view,
-             BookCommands& commands)
+    SaveCommand(Book& book, Settings& settings, FileDialog& dialog, const Seams& seams, MainView& view,
+                BookCommands& commands)
         : m_book(book), m_settings(settings), m_dialog(dialog), m_seams(seams), m_view(view),
           m_commands(commands)
     {
