@@ -27,7 +27,8 @@ TxEdForm::TxEdForm(QWidget* parent, Book& book, const Seams& seams)
     m_ui->SymCombo->installEventFilter(this);
     const TextBoxCommands::Items items{m_ui->UndoItem, m_ui->RedoItem, m_ui->SelectAllItem, m_ui->FindItem,
                                        m_ui->FindNextItem};
-    m_boxCommands = std::make_unique<TextBoxCommands>(items, std::initializer_list{m_ui->MainTxBox}, m_seams);
+    m_boxCommands = std::make_unique<TextBoxCommands>(
+        items, std::initializer_list<QPlainTextEdit*>{m_ui->MainTxBox}, m_seams);
     Form_Load();
 }
 

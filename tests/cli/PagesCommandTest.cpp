@@ -13,7 +13,7 @@ protected:
     void SetUp() override { files["/work/a.IDA"] = test::SmallBook(); }
 
     // "printable_width printable_height chars_per_line lines_per_page left_margin_chars top_margin_lines".
-    std::string Setup(const Strings& options)
+    std::string SetupOf(const Strings& options)
     {
         Strings arguments = {"pages", "a.IDA", "Start"};
         arguments.insert(arguments.end(), options.begin(), options.end());
@@ -92,14 +92,14 @@ TEST_F(Pages, longTopic_isSplitIntoPages)
 
 TEST_F(Pages, options_setThePage)
 {
-    EXPECT_EQ(Setup({}), "10368 14112 72 51 6 3");
-    EXPECT_EQ(Setup({"--cpi", "12"}), "10368 14112 86 62 8 4");
-    EXPECT_EQ(Setup({"--landscape"}), "14400 10368 100 38 5 3");
-    EXPECT_EQ(Setup({"--line-height", "300"}), "10368 14112 72 47 6 3");
-    EXPECT_EQ(Setup({"--page", "11906", "16838"}), "10034 15110 69 55 6 3");
-    EXPECT_EQ(Setup({"--page", "11906", "16838", "--landscape"}), "10466 14966 72 55 5 3")
+    EXPECT_EQ(SetupOf({}), "10368 14112 72 51 6 3");
+    EXPECT_EQ(SetupOf({"--cpi", "12"}), "10368 14112 86 62 8 4");
+    EXPECT_EQ(SetupOf({"--landscape"}), "14400 10368 100 38 5 3");
+    EXPECT_EQ(SetupOf({"--line-height", "300"}), "10368 14112 72 47 6 3");
+    EXPECT_EQ(SetupOf({"--page", "11906", "16838"}), "10034 15110 69 55 6 3");
+    EXPECT_EQ(SetupOf({"--page", "11906", "16838", "--landscape"}), "10466 14966 72 55 5 3")
         << "a size that is given counts as it stands";
-    EXPECT_EQ(Setup({"--printable", "10800", "12960"}), "10368 12960 72 47 2 0");
+    EXPECT_EQ(SetupOf({"--printable", "10800", "12960"}), "10368 12960 72 47 2 0");
 }
 
 TEST_F(Pages, plainText_hasNoTitle)

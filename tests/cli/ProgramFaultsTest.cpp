@@ -173,11 +173,10 @@ TEST_F(ProgramFaults, rightsThatLack_areToldWithStatusThree)
         {"advise a.IDA A --answers-json secret.IDA",
          "critical: Error reading <<secret.IDA>> with code 70: Permission denied\n"},
     };
-    for (const auto& [arguments, told] : cases) {
-        const int status = test::RunInChild([&] {
-            return test::BecomeOrdinaryUser() ? Run("", std::string(arguments) + " </dev/null 2>stderr")
-                                              : 255;
-        });
+    for (const auto& [line, told] : cases) {
+        const std::string arguments = line;
+        const int status = test::RunInChild(
+            [&] { return test::BecomeOrdinaryUser() ? Run("", arguments + " </dev/null 2>stderr") : 255; });
         EXPECT_EQ(status, 3) << arguments;
         EXPECT_EQ(scratch.Read("stderr"), told);
         EXPECT_EQ(scratch.Read("fixed"), "older");

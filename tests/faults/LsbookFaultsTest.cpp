@@ -171,7 +171,7 @@ TEST_P(LsbookFaults, fullOutput_isToldAndTheStatus)
 {
     for (const bool json : {false, true}) {
         const CommandRun good(GetParam(), json, 0, 0);
-        for (const std::size_t part : {0, 1, 50, 99}) {
+        for (const std::size_t part : {0U, 1U, 50U, 99U}) {
             const std::size_t room = good.out.size() * part / 100;
             const CommandRun run(GetParam(), json, 0, 0, false, room);
             if (good.out.empty()) {
