@@ -16,7 +16,7 @@ public:
         return *this;
     }
 
-    operator bool() const { return m_changed; } // NOLINT(google-explicit-constructor): reads as a bool
+    operator bool() const { return m_changed; } // not explicit: it reads as a bool
 
     /// How often it was set.
     [[nodiscard]] std::uint64_t Changes() const { return m_changes; }

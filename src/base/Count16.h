@@ -14,14 +14,9 @@ public:
     static constexpr int Max = 32767;
 
     constexpr Count16() = default;
-    constexpr Count16(int value)
-        : m_value(static_cast<std::int16_t>(value))
-    {} // NOLINT(google-explicit-constructor): reads as a number
-
-    constexpr operator int() const
-    {
-        return m_value;
-    } // NOLINT(google-explicit-constructor): reads as a number
+    // Not explicit: a count reads as a number.
+    constexpr Count16(int value) : m_value(static_cast<std::int16_t>(value)) {}
+    constexpr operator int() const { return m_value; }
 
     [[nodiscard]] constexpr bool Add(int n = 1)
     {

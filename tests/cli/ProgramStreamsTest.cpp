@@ -24,7 +24,7 @@ TEST_F(ProgramStreams, fullOutput_endsWithThree)
     scratch.Write("a.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "x"}));
     const std::string command =
         "'" LS_LSBOOK "' topics '" + scratch.Path() + "/a.IDA' >/dev/full 2>'" + scratch.Path() + "/stderr'";
-    const int status = std::system(command.c_str()); // NOLINT(cert-env33-c)
+    const int status = std::system(command.c_str());
     EXPECT_EQ(WEXITSTATUS(status), 3);
     EXPECT_EQ(scratch.Read("stderr"), "lsbook: standard output cannot be written\n");
 }

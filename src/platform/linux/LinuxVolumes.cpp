@@ -109,7 +109,7 @@ std::vector<Volume> VolumesOf(std::string_view mounts, const std::string& home)
 
 std::vector<Volume> LinuxVolumes::List()
 {
-    const char* home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe): the program has one thread
+    const char* home = std::getenv("HOME"); // the program has one thread
     return VolumesOf(ReadLines(m_table), home == nullptr ? "" : home);
 }
 
