@@ -23,8 +23,8 @@ public:
     /// Removes a file; error 75 for a folder, 70 for a file marked read-only.
     FileError Remove(const std::string& path) override;
 
-    /// A link that leads nowhere has its name, too.
     FileError CheckWritable(const std::string& path) override;
+    /// True also for a link that leads nowhere.
     bool Exists(const std::string& path) override;
 
     bool SameFile(const std::string& a, const std::string& b) override;
