@@ -1,9 +1,9 @@
-# A second build of the same sources costs seconds where ccache is installed. Without a base folder every
-# clone would have a cache of its own; sizes and mtimes are left at ccache's safe defaults.
+# With ccache a second build of the same sources takes seconds. The base folder lets clones share one cache;
+# sizes and mtimes keep ccache's safe defaults.
 #
-# Compiled headers are cached too. ccache asks for two of its checks to be given up for that: of names that are defined after such
-# a header (no source changes one that a header of LS_PRECOMPILE mentions) and of __TIME__ (nothing here uses it). The contents
-# of the compiled headers are part of every key.
+# Compiled headers are cached too; their contents are part of every key. For that, ccache demands that two of its
+# checks are off. One is for macros that a source defines after such a header: no source changes one that a header
+# of LS_PRECOMPILE mentions. The other is for __TIME__, which nothing here uses.
 find_program(LS_CCACHE ccache)
 if(LS_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER
@@ -12,7 +12,7 @@ if(LS_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   if(LS_PRECOMPILE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
   elseif(LS_PRECOMPILE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-    # The time of a header in the compiled ones would make every build's different; the contents are compared by ninja.
+    # A timestamp in a compiled header would differ in every build. ninja rebuilds it when a header changes.
     add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-Xclang -fno-pch-timestamp>")
   endif()
 endif()

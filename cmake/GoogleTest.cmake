@@ -1,5 +1,5 @@
-# GTest::gtest and GTest::gtest_main: installed for this system; for another one they are built from the sources that
-# Debian's package googletest puts on the disk.
+# GTest::gtest and GTest::gtest_main: the installed ones for this system. For another system they are built
+# from the sources in Debian's package googletest.
 if(NOT CMAKE_CROSSCOMPILING)
   find_package(GTest REQUIRED)
   return()

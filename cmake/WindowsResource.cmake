@@ -1,5 +1,5 @@
-# ls_windows_resource(PROGRAM TITLE): what Windows shows of a program file: its icon, its version and who made it. The
-# manifest says which systems and habits it knows, such as paths of any length. Elsewhere it does nothing.
+# ls_windows_resource(PROGRAM TITLE): gives a program file its icon, version and maker, and a manifest with
+# the systems and features that it supports, such as paths of any length. Does nothing for other systems.
 function(ls_windows_resource program title)
   if(NOT WIN32)
     return()

@@ -26,8 +26,8 @@ namespace {
 constexpr int EndedNormally = 0;
 constexpr int EndedByFault = 4;
 
-// The program speaks English only, whatever the desktop does. It has no display name: the toolkit would add
-// that to the title of every form.
+// The program speaks only English, in every locale. It has no display name, because the toolkit would add
+// that to every form's title.
 void SetUpApplication()
 {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
@@ -52,7 +52,7 @@ int ExitStatus(const ls::ProgramEnd& end)
 
 int main(int argc, char** argv)
 {
-    const QApplication application(argc, argv); // takes the toolkit's own arguments away
+    const QApplication application(argc, argv); // removes the toolkit's own arguments
     SetUpApplication();
     ls::Global global;
     const std::unique_ptr<ls::FileSystem> files = ls::MakeFileSystem();

@@ -9,10 +9,8 @@ namespace ls {
 
 /// A growable array whose first element is number 1.
 ///
-/// Bounds are 1..UpperBound(). Numbers and bounds are `int`, as the counts of the tables are: this is the one
-/// place that converts them for the vector. `Grow` works as the tables of a book do: when a new element's
-/// number passes the upper bound, the bound becomes that number plus a step of the table's own, and the
-/// elements are kept.
+/// Bounds are 1..UpperBound(). Numbers and bounds are `int`, as the counts of the tables are; only this class
+/// converts them for the vector.
 template <typename T>
 class Array1
 {
@@ -25,7 +23,7 @@ public:
     T& operator()(int number) { return m_items[Index(number)]; }
     const T& operator()(int number) const { return m_items[Index(number)]; }
 
-    /// Makes element `number` exist: past the bound, the new bound is `number + step`.
+    /// Makes element `number` exist. If it is past the bound, the new bound is `number + step`.
     void Grow(int number, int step)
     {
         if (number > UpperBound()) {
@@ -33,10 +31,10 @@ public:
         }
     }
 
-    /// Sets the bounds to 1..upperBound; what lies inside them is kept.
+    /// Sets the bounds to 1..upperBound. Elements inside the new bounds keep their values.
     void Redim(int upperBound) { m_items.resize(static_cast<std::size_t>(upperBound)); }
 
-    /// Empties every element and keeps the bounds.
+    /// Empties every element. The bounds stay.
     void ClearElements()
     {
         for (T& item : m_items) {

@@ -4,8 +4,8 @@
 
 namespace ls {
 
-/// A "was changed" that also tells one change from the next: it reads and is set like a bool, and counts how
-/// often it was set. Whoever keeps a copy of what changes compares the count instead of the whole.
+/// A "was changed" flag that reads and is set like a bool. It also counts how often it was set, so that the
+/// holder of a copy compares the count instead of the data.
 class ChangeFlag
 {
 public:

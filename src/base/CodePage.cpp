@@ -9,7 +9,7 @@ namespace {
 
 constexpr char32_t Replacement = 0xFFFD;
 
-// What the bytes 80 to 9F stand for; the unassigned ones stand for themselves.
+// The characters of the bytes 80 to 9F; the unassigned bytes keep their own number.
 constexpr std::array<char32_t, 32> HighControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -33,7 +33,7 @@ std::optional<char> ByteOf(char32_t character)
     return static_cast<char>(0x80 + (found - HighControls.begin()));
 }
 
-// How many bytes the sequence has that begins with this one, and the bits that the first byte gives.
+// The number of bytes in the sequence that begins with `lead`; `bits` gets the bits that `lead` carries.
 int SequenceLength(unsigned char lead, char32_t& bits)
 {
     if (lead >= 0xC2 && lead < 0xE0) {

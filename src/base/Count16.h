@@ -6,8 +6,8 @@ namespace ls {
 
 /// A count or an index of a table: 16 bits, signed, checked.
 ///
-/// Passing 32,767 is an overflow, never a wrap-around: `Add` then returns false and the count stays as it
-/// was. The caller drops the work and shows the "Overflow" box once (see `ShowOverflow`).
+/// It never wraps around: past 32,767 `Add` returns false and leaves the count unchanged. The caller then
+/// drops the work and shows the "Overflow" box once (see `ShowOverflow`).
 class Count16
 {
 public:

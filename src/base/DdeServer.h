@@ -5,17 +5,17 @@
 
 namespace ls {
 
-/// The door through which other programs send execute strings such as "PUSH OKButton".
+/// Receives execute strings such as "PUSH OKButton" from other programs.
 class DdeServer
 {
 public:
-    /// Takes an execute string; false refuses it.
+    /// Handles an execute string; false refuses it.
     using Handler = std::function<bool(const std::string&)>;
 
     virtual ~DdeServer() = default;
 
-    /// Begins to take execute strings; false when the name is taken or there is nobody to talk to. The
-    /// program works without.
+    /// Starts to receive execute strings. False when the name is taken or no other program can be reached;
+    /// the program works without.
     virtual bool Start(Handler handler) = 0;
 
     virtual void Stop() = 0;

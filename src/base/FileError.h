@@ -4,8 +4,7 @@
 
 namespace ls {
 
-/// The result of a file operation: number 0 is success, every other number has a description that messages
-/// show.
+/// The result of a file operation: 0 is success; every other number has a description for messages.
 struct [[nodiscard]] FileError
 {
     int number = 0;
@@ -15,7 +14,7 @@ struct [[nodiscard]] FileError
     friend bool operator==(const FileError&, const FileError&) = default;
 };
 
-/// The error numbers that messages show, as users of this program have always known them.
+/// The error numbers that messages show, familiar to users of this program.
 namespace error {
 constexpr int InvalidCall = 5;
 constexpr int Overflow = 6;
@@ -35,13 +34,13 @@ constexpr int PathFileAccess = 75;
 constexpr int PathNotFound = 76;
 } // namespace error
 
-/// The error of that number with its description; `FileError{}` for 0.
+/// The error with that number and its description; `FileError{}` for 0.
 [[nodiscard]] FileError MakeFileError(int number);
 
 /// "53: File not found".
 [[nodiscard]] std::string NumberAndDescription(const FileError& error);
 
-/// How a message names the error that it reports. Each message keeps the form that its readers know.
+/// How a message names its error. Intended: each message keeps the form that users know.
 enum class ErrorForm
 {
     Full,        ///< " due to error #53: File not found"
@@ -50,7 +49,7 @@ enum class ErrorForm
     Unnamed,     ///< " due to error"
 };
 
-/// The end of a message about a file operation, with the blank before it.
+/// The end of a message about a file operation. It begins with a blank.
 [[nodiscard]] std::string DueTo(const FileError& error, ErrorForm form = ErrorForm::Full);
 
 } // namespace ls

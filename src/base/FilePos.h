@@ -4,7 +4,7 @@
 
 namespace ls {
 
-/// A byte position in a file: the first byte is 1, and 0 means "none". 64 bits: books may pass 2 GiB.
+/// A byte position in a file. The first byte is 1; 0 means "none". 64 bits, because books may pass 2 GiB.
 using FilePos = std::int64_t;
 
 } // namespace ls

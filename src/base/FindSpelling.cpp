@@ -10,7 +10,7 @@ namespace ls {
 
 namespace {
 
-// The entry of `folder` that is `name` in another case; empty when there is none.
+// The entry of `folder` that matches `name` without regard to case; empty when there is none.
 std::string EntryNamed(FileSystem& files, const std::string& folder, const std::string& name)
 {
     std::vector<FolderEntry> entries;
@@ -27,7 +27,7 @@ std::string EntryNamed(FileSystem& files, const std::string& folder, const std::
     return best;
 }
 
-// Splits "/a//b" into its names; empty ones (doubled separators) are passed over.
+// Splits "/a//b" into its names; skips the empty ones of doubled separators.
 std::vector<std::string> LevelsOf(PathRules rules, const std::string& path, std::size_t from)
 {
     std::vector<std::string> levels;
@@ -48,7 +48,8 @@ std::string WithoutCase(std::string_view path)
     if (const std::optional<std::string> text = ToBook(path)) {
         return UpperCase(*text);
     }
-    // Bytes that look like capitals of the code page may be parts of longer characters here.
+    // The text is UTF-8 here: a byte that looks like a capital of the code page may be part of a longer
+    // character.
     std::string folded(path);
     for (char& c : folded) {
         if (c >= 'a' && c <= 'z') {

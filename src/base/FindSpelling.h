@@ -8,16 +8,16 @@
 
 namespace ls {
 
-/// A path with the differences of case taken out, for comparing: as people read it, letters with accents have
-/// no case either, as far as the code page knows them; in paths that it lacks characters of, only A to Z.
+/// A path in one case, for comparing. Letters with accents change case too, as far as the code page knows
+/// them. In a path with characters that the code page lacks, only A to Z do.
 [[nodiscard]] std::string WithoutCase(std::string_view path);
 
 /// The real spelling of a path that may be written in another case.
 ///
-/// The path as given wins when it exists. Otherwise each level is looked up in its folder, first as spelled,
-/// then without regard to (ASCII) case; the first match in byte order is taken. Where nothing matches, the
-/// path comes back as given, so that an error names what the user wrote. On a system that does not tell cases
-/// apart the first test always decides.
+/// 1. If the path exists as given, it is the result. On systems that ignore case this step always decides.
+/// 2. Otherwise each level is looked up in its folder: first as spelled, then without regard to case (see
+///    `WithoutCase`). The first match in byte order is taken.
+/// 3. If nothing matches, the result is the path as given, so that an error shows what the user wrote.
 [[nodiscard]] std::string FindSpelling(FileSystem& files, PathRules rules, const std::string& path);
 
 } // namespace ls

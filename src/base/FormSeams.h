@@ -7,7 +7,7 @@ class PrinterDevice;
 class Registry;
 class Volumes;
 
-/// What only the forms need from the running system.
+/// The parts of the running system that only the forms need.
 struct FormSeams
 {
     Volumes& volumes;

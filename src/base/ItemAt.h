@@ -5,7 +5,7 @@
 
 namespace ls {
 
-/// The item at a row of a list, counted from 0; nullptr for a row outside of it, such as -1 for "none".
+/// The item at a row of a list, from 0; nullptr for a row outside the list, such as -1 for "none".
 template <typename Item>
 [[nodiscard]] Item* ItemAt(std::vector<Item>& items, int row)
 {

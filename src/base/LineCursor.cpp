@@ -7,18 +7,18 @@ namespace ls {
 
 namespace {
 
-// A topic is shorter than the first block, so that showing one reads little. Blocks then double up to the
-// last size, which keeps the number of system calls of a scan low and stays inside the processor's cache.
+// A topic fits into the first block, so that showing one reads little. Blocks then double up to the last
+// size: a scan makes few system calls and stays inside the processor's cache.
 constexpr std::size_t FirstBlock = 16 * 1024;
 constexpr std::size_t LastBlock = 256 * 1024;
 
 constexpr std::size_t Chunk = 4 * 1024;
 
-// A line that is longer gets its room at once: growing would take three times as much memory at its end.
+// A longer line gets its room at once; growing step by step would take three times as much memory in the end.
 constexpr std::size_t LongLine = 1024 * 1024;
 
-// Whether each CR of the bytes stands before an LF; one byte behind them is looked at too. No branch in the
-// loop, so that many bytes are tested at a time.
+// Whether an LF follows each CR of the bytes; reads one byte past them. The loop has no branch, so that the
+// compiler tests many bytes at a time.
 bool EachCrHasLf(const char* bytes, std::size_t size)
 {
     unsigned bare = 0;
@@ -41,19 +41,19 @@ void LineCursor::Seek(FilePos pos)
     m_error = {};
 }
 
-// Puts the bytes at Position() into the block; false at the end of the file or at an error (m_error tells
-// which). After an error nothing more is read until Seek.
+// Reads the bytes at Position() into the block. False at the end of the file and after an error; m_error
+// distinguishes the two. After an error nothing more is read until Seek.
 bool LineCursor::Fill()
 {
     if (!m_error.Ok()) {
-        return false; // a disk that fails now and then must not give a book with a gap
+        return false; // a disk with passing errors must not yield a book with a gap
     }
     m_blockPos = Position();
     m_next = 0;
     const std::size_t wanted =
         m_capacity == 0 ? FirstBlock : std::min(m_size < m_capacity ? m_capacity : 2 * m_capacity, LastBlock);
     m_size = 0;
-    if (m_capacity < wanted || m_capacity > LastBlock) { // it grows beyond that for a single line only
+    if (m_capacity < wanted || m_capacity > LastBlock) { // only a single long line makes the block larger
         SetCapacity(wanted, 0);
     }
     m_error = m_file->ReadAt(m_blockPos, m_block.get(), m_capacity, m_size);
@@ -63,7 +63,7 @@ bool LineCursor::Fill()
     return m_size > 0;
 }
 
-// Changes the block's size, and moves as many bytes from m_next on to its front.
+// Gives the block a new size and moves `kept` bytes from m_next on to its front.
 void LineCursor::SetCapacity(std::size_t wanted, std::size_t kept)
 {
     auto block = std::make_unique_for_overwrite<char[]>(wanted);
@@ -72,8 +72,8 @@ void LineCursor::SetCapacity(std::size_t wanted, std::size_t kept)
     m_capacity = wanted;
 }
 
-// Moves the bytes from Position() on to the block's front and reads more behind them; at least as many as
-// they are, so that a line is not moved more often than it is read. Else as Fill.
+// Moves the unread bytes to the front and reads at least as many more, so that no byte moves twice per read.
+// Errors as in Fill.
 bool LineCursor::FillBehind()
 {
     if (!m_error.Ok()) {
@@ -106,15 +106,15 @@ void LineCursor::AppendRestOfBlock(std::string& line)
     if (line.size() > LongLine && line.capacity() - line.size() < m_capacity) {
         const std::size_t wanted = line.size() + RestOfLine();
         if (wanted > line.capacity()) {
-            std::string longer; // `line` itself would take twice the room that it has, at least
+            std::string longer; // growing `line` itself would at least double its room
             longer.reserve(wanted);
             line.swap(longer.append(line));
         }
     }
 }
 
-// How many bytes the line has behind the block, which is used up: a look ahead, from which nothing but the
-// number is kept.
+// The number of bytes that the line has after the block, which is used up. Looks ahead in the file; keeps
+// only the number.
 std::size_t LineCursor::RestOfLine()
 {
     Seek(Position());
@@ -123,7 +123,7 @@ std::size_t LineCursor::RestOfLine()
         const FileError error =
             m_file->ReadAt(m_blockPos + static_cast<FilePos>(rest), m_block.get(), m_capacity, size);
         if (!error.Ok()) {
-            break; // whoever reads on gets it
+            break; // the next read reports it
         }
         if (const void* end = std::memchr(m_block.get(), '\r', size); end != nullptr) {
             return rest + static_cast<std::size_t>(static_cast<const char*>(end) - m_block.get());
@@ -133,7 +133,7 @@ std::size_t LineCursor::RestOfLine()
     return rest;
 }
 
-// Stands on a CR: passes it and the LF that may follow, which may lie in the next block.
+// At a CR: passes it and a following LF, which may be in the next block.
 FileError LineCursor::PassLineEnd()
 {
     ++m_next;
@@ -177,7 +177,7 @@ FileError LineCursor::ReadLine(std::string_view& line)
 {
     const std::string_view block(m_block.get() + m_next, m_size - m_next);
     const std::size_t length = block.find('\r');
-    // A CR at the block's end is not passed here: that fills the block anew, and the line would be gone.
+    // A CR at the block's end is not passed here: passing it would refill the block and lose the line.
     if (length != std::string_view::npos && length + 1 < block.size()) {
         line = block.substr(0, length);
         m_next += length + (block[length + 1] == '\n' ? 2 : 1);
@@ -204,13 +204,13 @@ FileError LineCursor::ReadPiece(std::string_view& piece, bool& more)
     }
     piece = block.substr(0, length);
     m_next += length;
-    // Passing a CR at the block's end would fill the block anew: the piece would be gone.
+    // A CR at the block's end is not passed here: passing it would refill the block and lose the piece.
     more = length + 1 >= block.size();
     return more ? FileError{} : PassLineEnd();
 }
 
-// Takes the line if its end is in the block; `searched` bytes of it have none. A CR at the block's end is not
-// passed, as its LF may follow.
+// Takes the line if its end is in the block. The first `searched` bytes are known to hold no line end. A CR
+// at the block's end is not passed, because its LF may follow.
 bool LineCursor::TakeWholeLine(std::size_t searched, std::string_view& line)
 {
     const std::string_view rest(m_block.get() + m_next, m_size - m_next);
@@ -267,7 +267,7 @@ std::string_view LineCursor::ReadCrLfLines(FilePos end)
     const std::string_view bytes(m_block.get() + m_next, std::min(m_size - m_next, wanted));
     const std::size_t first = bytes.find('\r');
     if (first == std::string_view::npos || first + 1 >= bytes.size() || bytes[first + 1] != '\n') {
-        return {}; // a file without LF is not to be tested a chunk for each line
+        return {}; // without LF, testing a chunk for each line would be wasted
     }
     std::size_t good = 0;
     while (good + 1 < bytes.size()) {
@@ -277,7 +277,7 @@ std::string_view LineCursor::ReadCrLfLines(FilePos end)
         }
         good += size;
     }
-    // The byte behind the good ones was looked at: it may be the LF of the last line.
+    // The test included one byte after the good ones: it may be the LF of the last line.
     const std::size_t lineEnd = bytes.substr(0, std::min(good + 1, bytes.size())).rfind("\r\n");
     const std::size_t size = lineEnd == std::string_view::npos ? 0 : lineEnd + 2;
     m_next += size;

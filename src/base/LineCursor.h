@@ -13,55 +13,56 @@ namespace ls {
 
 /// Reads an open file line by line from a position of its own.
 ///
-/// A line ends at CR or at CR LF; a lone LF is an ordinary character. Bytes pass through unchanged.
-/// Everything is read in blocks; `Seek` forgets them, so that a line read after it is what the file holds at
-/// that moment. A read error stays until then: whoever asks next gets it again.
+/// A line ends at CR or at CR LF; a lone LF is an ordinary character. Bytes are not changed. The file is read
+/// in blocks. `Seek` forgets the block, so that the next line is read anew from the file. A read error stays
+/// until the next `Seek`; every call until then reports it again.
 class LineCursor
 {
 public:
     /// The file must outlive the cursor.
     explicit LineCursor(BookFile& file);
 
-    /// Moves to a 1-based byte position; it may lie behind the end, where the next read fails with error 62.
+    /// Moves to a 1-based byte position. A position past the end is allowed; the next read there fails with
+    /// error 62.
     void Seek(FilePos pos);
 
     /// The 1-based position of the next byte to be read.
     [[nodiscard]] FilePos Position() const { return m_blockPos + static_cast<FilePos>(m_next); }
 
-    /// True when no byte is left. A read error counts as not at the end: the next `ReadLine` reports it.
+    /// True when no byte is left. False after a read error; the next `ReadLine` reports it.
     [[nodiscard]] bool AtEnd();
 
     /// Reads one line without its line end. Error 62 at the end of the file.
     FileError ReadLine(std::string& line);
 
-    /// The same without a copy: the line is valid until the cursor's next call.
+    /// Reads one line without a copy. It is valid until the cursor's next call.
     FileError ReadLine(std::string_view& line);
 
-    /// Appends one line, without its line end, to what `text` has.
+    /// Appends one line, without its line end, to `text`.
     FileError AppendLine(std::string& text);
 
-    /// Reads a line piece by piece, so that one of any length costs no memory: `more` is false before the
-    /// first piece and after the last, which may be empty. A piece is valid until the cursor's next call.
+    /// Reads a line piece by piece, so that a long line costs no memory. `more` is false before the first
+    /// piece and after the last one, which may be empty. A piece is valid until the cursor's next call.
     FileError ReadPiece(std::string_view& piece, bool& more);
-    /// Begins a line of any length: gives all of it, with `whole` set, or what one block holds of it, at
-    /// least. `ReadOn` or `EndLine` must follow then. What is given is valid until the cursor's next call.
+    /// Begins a line of any length. Gives the whole line and sets `whole`, or gives at least what one block
+    /// holds of it. Call `ReadOn` or `EndLine` next. The text is valid until the cursor's next call.
     FileError BeginLine(std::string_view& line, bool& whole);
 
-    /// Gives more of a line that was begun and not given whole: what was given before without the first
-    /// `passed` characters, and what follows it. So a line of any length can be read in the memory of what is
-    /// looked at together. At an error `line` is what is left of what was given before.
+    /// Gives more of a line that `BeginLine` did not give whole: drops the first `passed` characters of
+    /// `line` and appends what follows. So a line of any length needs only the memory of the part in view.
+    /// After an error `line` is the rest of what was given before.
     FileError ReadOn(std::string_view& line, std::size_t passed, bool& whole);
 
-    /// Passes over the rest of a line that was begun, if there is any.
+    /// Skips the rest of a line that `BeginLine` began, if there is any.
     FileError EndLine();
 
-    /// Passes several whole lines that all end in CR LF, before `end`, and gives their bytes, line ends
-    /// included; valid until the cursor's next call. Nothing is passed, and the result is empty, where the
-    /// next line is not like that, lies across a block's end, or cannot be read: `ReadLine` then does.
+    /// Passes several whole lines that all end in CR LF, before `end`, and returns their bytes with the line
+    /// ends. They are valid until the cursor's next call. The result is empty, and nothing is passed, when
+    /// the next line ends otherwise, crosses a block's end or cannot be read; use `ReadLine` then.
     std::string_view ReadCrLfLines(FilePos end);
 
-    /// Passes over whole lines until the next one begins with `first` or `second`, or the file ends. The
-    /// position must be at the start of a line. Nothing is copied, so a line of any length costs no memory.
+    /// Skips whole lines until the next one begins with `first` or `second`, or the file ends. The position
+    /// must be at the start of a line. Nothing is copied, so a long line costs no memory.
     FileError SkipToLineBeginning(char first, char second);
 
 private:
@@ -76,13 +77,13 @@ private:
 
     BookFile* m_file;
     std::unique_ptr<char[]> m_block;
-    std::size_t m_capacity = 0; ///< bytes that m_block has room for
-    std::size_t m_size = 0;     ///< bytes in m_block
-    std::size_t m_next = 0;     ///< the next of them
+    std::size_t m_capacity = 0; ///< the size of m_block
+    std::size_t m_size = 0;     ///< bytes read into m_block
+    std::size_t m_next = 0;     ///< index of the next unread byte in m_block
     FilePos m_blockPos = 1;     ///< position of m_block's first byte
-    bool m_inLine = false;      ///< a line begins at m_next that was given in part
+    bool m_inLine = false;      ///< the line at m_next was given only in part
     FileError m_error;          ///< of the last Fill that failed
-    std::string m_line;         ///< a line that does not lie in one block, put together
+    std::string m_line;         ///< a line that spans blocks, joined
 };
 
 } // namespace ls

@@ -8,10 +8,10 @@
 
 namespace ls {
 
-/// The title of every box, and the program's name as its people read it.
+/// The title of every box: the program's name as users know it.
 inline constexpr std::string_view AppTitle = "Lodestar Advisor";
 
-/// Warning and Exclamation show the same picture; they are kept apart as the messages name them.
+/// Warning and Exclamation show the same picture; each message names one of them.
 enum class Icon
 {
     None,
@@ -38,7 +38,7 @@ enum class Reply
     No
 };
 
-/// The reply that changes nothing: Cancel, No, or OK where nothing is asked.
+/// The reply that changes nothing: Cancel, No, or OK where the box has no other button.
 [[nodiscard]] Reply SafeReply(Buttons buttons);
 
 /// The icon's word: "critical", "exclamation", "warning", "information", "question"; empty for none.
@@ -47,10 +47,10 @@ enum class Reply
 /// "OK", "Cancel", "Yes" or "No".
 [[nodiscard]] std::string_view ReplyWord(Reply reply);
 
-/// Everything that is said to or asked of the user. Texts are UTF-8: book text enters by `FromBook`, a path
-/// by `FromPath`.
+/// Shows messages to the user and asks questions. Texts are UTF-8: convert book text with `FromBook`, a path
+/// with `FromPath`.
 ///
-/// Once a fault has ended the program nothing is shown any more, and every question gets its safe answer.
+/// After a fault has ended the program nothing is shown, and every question gets its safe answer.
 class Messages
 {
 public:
@@ -81,11 +81,11 @@ private:
     const ProgramEnd* m_end;
 };
 
-/// The reminder of commands that need a topic on show.
+/// The message of commands that need a displayed topic.
 inline constexpr const char* DisplayTopicFirst =
     "Please display the topic first by choosing it from the list and clicking Go.";
 
-/// The box for a count that passed 32,767; shown once by the operation that met it.
+/// Shows the box for a count past 32,767. The operation that overflowed calls it once.
 void ShowOverflow(Messages& messages);
 
 } // namespace ls

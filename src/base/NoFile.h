@@ -4,7 +4,7 @@
 
 namespace ls {
 
-/// The file of a book that was never saved: there is none, so it reads as an empty one.
+/// The file of a book that was never saved; reads as an empty file.
 class NoFile : public BookFile
 {
 public:

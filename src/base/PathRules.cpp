@@ -4,7 +4,7 @@ namespace ls {
 
 namespace {
 
-// Where the name begins: behind the last separator, or behind "C:".
+// Where the name begins: after the last separator, or after "C:".
 std::size_t NameStart(PathRules rules, std::string_view path)
 {
     const std::size_t last = path.rfind(rules.separator);

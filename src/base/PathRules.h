@@ -5,7 +5,7 @@
 
 namespace ls {
 
-/// What differs between systems in writing a path. It is data, so that both sets are tested everywhere.
+/// How a system writes paths. It is data, so that tests cover both systems everywhere.
 struct PathRules
 {
     char separator = '/';
@@ -15,16 +15,16 @@ struct PathRules
 inline constexpr PathRules UnixPaths{'/', false};
 inline constexpr PathRules WindowsPaths{'\\', true};
 
-/// `folder` and `name` with exactly one separator between them, also at a root; an empty folder adds nothing.
+/// Joins `folder` and `name` with exactly one separator, also at a root. An empty folder adds nothing.
 [[nodiscard]] std::string JoinPath(PathRules rules, std::string_view folder, std::string_view name);
 
-/// The part of a path before its last separator ("" when there is none; a root keeps its separator).
+/// The part of a path before its last separator; "" without one. A root keeps its separator.
 [[nodiscard]] std::string FolderOf(PathRules rules, std::string_view path);
 
-/// The part of a path behind its last separator (or behind the drive's colon).
+/// The part of a path after its last separator, or after the drive's colon.
 [[nodiscard]] std::string NameOf(PathRules rules, std::string_view path);
 
-/// Whether the name stands for itself wherever the current folder is.
+/// Whether the path does not depend on the current folder.
 [[nodiscard]] bool IsAbsolute(PathRules rules, std::string_view path);
 
 } // namespace ls

@@ -7,22 +7,20 @@
 
 namespace ls {
 
-/// What the system's printing service knows that the toolkit does not tell.
+/// What the system's printing service knows and the toolkit does not report.
 class PrintService
 {
 public:
     virtual ~PrintService() = default;
 
-    /// What became of the job that this thread handed over last: an error with the service's own words when
-    /// it was not taken.
+    /// The result of the last job that this thread handed over. A refused job gives an error with the
+    /// service's own words.
     virtual FileError LastJob() { return {}; }
 
-    /// Whether a printer's pages lie on their side by its own setting; nothing where the toolkit knows
-    /// itself.
+    /// Whether the printer's own setting is landscape; nothing when the toolkit knows it itself.
     virtual std::optional<bool> Landscape(const std::string& /*printer*/) { return std::nullopt; }
 
-    /// Whether the toolkit tells the edges that cannot be printed on as those of an upright sheet, also for
-    /// one that lies on its side.
+    /// Whether the toolkit reports unprintable edges for the upright sheet even when the sheet is landscape.
     virtual bool TellsUprightEdges() { return false; }
 };
 

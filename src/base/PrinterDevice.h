@@ -10,7 +10,7 @@ namespace ls {
 
 class TextSurface;
 
-/// What a printer offers and how it is set. Lengths are twips (1440 an inch).
+/// A printer's sizes and settings. Lengths are twips (1440 an inch).
 struct PrinterState
 {
     int paperSize = 0; ///< the system's paper code: 1 Letter, 5 Legal, 9 A4, ...
@@ -18,55 +18,55 @@ struct PrinterState
     bool colour = false;
     int width = 0; ///< of the sheet
     int height = 0;
-    int scaleWidth = 0; ///< of the part that can be printed on
+    int scaleWidth = 0; ///< of the printable part
     int scaleHeight = 0;
 };
 
-/// The printer that is chosen among those there are. Pages are laid out for it and sent to it.
+/// The printer in use: pages are laid out for it and sent to it.
 class PrinterDevice
 {
 public:
     virtual ~PrinterDevice() = default;
 
-    /// Names of the printers, in UTF-8, as the user picks among them.
+    /// The printers' names in UTF-8, for the user to choose from.
     virtual std::vector<std::string> Names() = 0;
 
-    /// The name of the current one, whether or not it is still there.
+    /// The name of the printer in use, even if it no longer exists.
     virtual std::string Current() = 0;
 
-    /// Makes one of them the current one. Its settings stay as they are where it is that already, else they
-    /// are its own; an error when it is not there (any more).
+    /// Makes `name` the printer in use. A printer that was in use already keeps its settings; another one
+    /// gets its own. An error when it does not exist (any more).
     virtual FileError Choose(const std::string& name) = 0;
 
-    /// Whether the current one writes into a file whose name is to be asked for.
+    /// Whether the printer in use writes into a file, so that the user must name one.
     virtual bool AsksForFile() = 0;
 
-    /// The file that the next document is written into. It is made when the document is complete: in place of
-    /// a file of that name only when `replace` says so.
+    /// The file that the next document is written into. It is created when the document is complete, and
+    /// replaces an existing file only if `replace` is set.
     virtual void SetFile(const std::string& path, bool replace) = 0;
 
-    /// What the next document is called where jobs are listed, in UTF-8.
+    /// The next document's title in lists of jobs, in UTF-8.
     virtual void SetTitle(const std::string& title) = 0;
 
     virtual FileError SetPaperSize(int code) = 0;
     virtual FileError SetLandscape(bool landscape) = 0;
 
-    /// A printer that has no colour prints in grey all the same.
+    /// A printer without colour still prints in grey.
     virtual FileError SetColour(bool colour) = 0;
     virtual PrinterState State() = 0;
 
-    /// The font of what is printed from here on.
+    /// Sets the font for what is printed next.
     virtual void SetFont(std::string_view family, double points) = 0;
 
-    /// The page as text is printed on it, row by row, from the top left of the part that can be printed on.
-    /// Lengths are twips. It stays the device's own.
+    /// The page as rows of text, from the top left of the printable part. Lengths are twips. The device owns
+    /// it.
     virtual TextSurface& Surface() = 0;
 
-    /// Ends the page. After an error the document is gone, and what is printed next begins another.
+    /// Ends the page. After an error the document is lost, and the next print begins another.
     virtual FileError NewPage() = 0;
 
-    /// Ends the page and the document, which is printed then. Without an error it is with the printer. Right
-    /// behind `NewPage` it adds no page.
+    /// Ends the page and prints the document; without an error the printer has it. Directly after `NewPage`
+    /// it adds no page.
     virtual FileError EndDoc() = 0;
 };
 

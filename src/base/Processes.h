@@ -18,7 +18,7 @@ public:
     /// The folder of the running program's real file, links resolved, without a trailing separator.
     virtual std::string ProgramFolder() = 0;
 
-    /// What `Start` came to: an error with its number, or a task id, 0 meaning that nothing was started.
+    /// The result of `Start`: an error, or a task id. Id 0 means that nothing was started.
     struct Started
     {
         FileError error;

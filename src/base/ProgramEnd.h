@@ -9,17 +9,17 @@
 namespace ls {
 
 /// Whether, and why, a fault has ended the program. Nothing unwinds: the operation that met the fault returns
-/// its failure value, later ones do the same at once, and the program then leaves its event loops.
+/// its failure value, later operations do the same at once, and the program then leaves its event loops.
 class ProgramEnd
 {
 public:
     [[nodiscard]] bool Ended() const { return m_reason.has_value(); }
 
-    /// The first reason given; empty while the program goes on.
+    /// The first reason given; empty while the program runs on.
     [[nodiscard]] std::string Reason() const { return m_reason.value_or(std::string()); }
 
-    /// What is still done when the first fault ends the program, before anything is closed: while the forms
-    /// stand as the user left them. It must not ask or tell anything; an empty one does nothing.
+    /// What to do when the first fault ends the program. It runs before anything closes, while the forms are
+    /// still as the user left them. It must show and ask nothing.
     void SetLastAct(std::function<void()> act) { m_lastAct = std::move(act); }
 
 private:
@@ -28,7 +28,7 @@ private:
     std::function<void()> m_lastAct;
 };
 
-/// The one door through which a fault ends the program. The first reason is kept; it returns to its caller.
+/// The only way for a fault to end the program. It returns to its caller; the first reason is kept.
 void EndProgram(ProgramEnd& end, std::string_view reason);
 
 } // namespace ls

@@ -4,13 +4,13 @@
 
 namespace ls {
 
-/// Told how far long work has come.
+/// Receives the progress of long work.
 class Progress
 {
 public:
     virtual ~Progress() = default;
 
-    /// `done` of `total` (bytes or entries) are through; false cancels the work.
+    /// `done` of `total` (bytes or entries) are complete; false cancels the work.
     virtual bool Step(std::int64_t done, std::int64_t total) = 0;
 };
 

@@ -4,8 +4,8 @@
 
 namespace ls {
 
-/// Says nothing and gives every question its safe answer: for work that the user did not ask for, like
-/// showing a topic again after a resize.
+/// Shows nothing and gives every question its safe answer. For work that the user did not ask for, such as
+/// redrawing a topic after a resize.
 class QuietMessages : public Messages
 {
 public:

@@ -5,7 +5,8 @@
 
 namespace ls {
 
-/// Book text in double quotes for a message, as UTF-8. More than 60 characters are cut and end in "...".
+/// Book text in double quotes for a message, as UTF-8. Text of more than 60 characters is cut and ends in
+/// "...".
 [[nodiscard]] std::string Quoted(std::string_view bookText);
 
 } // namespace ls

@@ -6,20 +6,21 @@
 
 namespace ls {
 
-/// One open key of the registry. It is closed when it goes.
+/// One open key of the registry; the destructor closes it.
 class RegistryKey
 {
 public:
     virtual ~RegistryKey() = default;
 
-    /// The type and the size in bytes (its terminating NUL included) of a value; false when it has none.
+    /// The type and the size in bytes of a value, with its terminating NUL; false when there is no such
+    /// value.
     virtual bool QueryType(const std::string& valueName, std::uint32_t& type, std::uint32_t& size) = 0;
 
-    /// Fills `buffer`, whose size is the value's, with its bytes; false on failure.
+    /// Fills `buffer`, which has the value's size, with its bytes; false on failure.
     virtual bool QueryText(const std::string& valueName, std::string& buffer) = 0;
 };
 
-/// The table in which the system keeps the program that opens a type of file, read only.
+/// The system's table of the programs that open each type of file, read only.
 class Registry
 {
 public:
@@ -31,7 +32,7 @@ public:
 
     virtual ~Registry() = default;
 
-    /// The key at `path` (levels parted by "\"), or nothing when it cannot be opened.
+    /// The key at `path` (levels separated by "\"), or nothing when it cannot be opened.
     virtual std::unique_ptr<RegistryKey> Open(Root root, const std::string& path) = 0;
 };
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int MaxNames = 99;
 
-// How a whole file gets its name: in place of another one, or only when nobody has it.
+// How the complete file gets its name: over an existing file, or only if the name is free.
 using GiveName = FileError (FileSystem::*)(const std::string& from, const std::string& to);
 
 class Replacement : public OutputFile
@@ -50,7 +50,7 @@ private:
     void Drop()
     {
         if (m_file) {
-            m_file.reset(); // a file that is open cannot be removed everywhere
+            m_file.reset(); // some systems cannot remove an open file
             m_files->RemoveIfPossible(m_newPath);
         }
     }
@@ -59,10 +59,10 @@ private:
     GiveName m_giveName;
     std::string m_path;
     std::string m_newPath;
-    std::unique_ptr<OutputFile> m_file; ///< none once it has its name, or is dropped
+    std::unique_ptr<OutputFile> m_file; ///< empty once it has its name or is dropped
 };
 
-// A name beside `path` that nobody has: ".new", ".new2", ... What a crash or the user left there is kept.
+// A free name beside `path`: ".new", ".new2", ... A file that a crash or the user left there stays.
 std::string FreeNameBeside(FileSystem& files, const std::string& path)
 {
     std::string name = path + ".new";
@@ -72,7 +72,7 @@ std::string FreeNameBeside(FileSystem& files, const std::string& path)
     return name;
 }
 
-// A rename asks neither the file that it replaces nor whoever has locked it, so both are asked first.
+// A rename ignores the read-only mark and the locks of the file that it replaces, so both are checked first.
 FileError CheckReplaceable(FileSystem& files, const std::string& path)
 {
     if (!files.SameFile(path, path)) {

@@ -7,15 +7,15 @@
 
 namespace ls {
 
-/// Opens `path` for writing, in place of what has that name. The new bytes are written beside it (as
-/// "Export.htm.new") and take the name only when `Finish` has them all on the disk; until then, and for good
-/// when anything fails or `Finish` is never called, what was there stays as it was.
+/// Opens `path` for writing, to replace an existing file of that name. The new bytes go into a file beside it
+/// ("Export.htm.new"), which takes the name only when `Finish` has all of them on the disk. Until then, after
+/// any failure, or without `Finish`, the existing file stays unchanged.
 ///
-/// A folder is error 75, a device 68, a file that is read-only or that somebody else has locked 70: none of
-/// them is replaced.
+/// A folder is error 75, a device 68, a file that is read-only or locked elsewhere 70; none of them is
+/// replaced.
 FileError OpenToReplace(FileSystem& files, const std::string& path, std::unique_ptr<OutputFile>& file);
 
-/// The same for a file that is to be new: `Finish` fails with 58 when anything has that name by then.
+/// Like `OpenToReplace`, for a new file: `Finish` fails with 58 when the name is taken by then.
 FileError OpenToCreate(FileSystem& files, const std::string& path, std::unique_ptr<OutputFile>& file);
 
 } // namespace ls

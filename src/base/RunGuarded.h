@@ -6,9 +6,8 @@
 
 namespace ls {
 
-/// Runs a command of the user so that no exception leaves it: the event loop that called it cannot pass one
-/// on. Memory that ran out is reported, and the program goes on with what it holds; anything else is a fault
-/// of the program and ends it.
+/// Runs a user's command and lets no exception out, because the event loop that calls it cannot pass one on.
+/// Exhausted memory is reported and the program goes on; any other exception is a fault and ends the program.
 void RunGuarded(const std::function<void()>& command, const Seams& seams);
 
 } // namespace ls

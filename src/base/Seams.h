@@ -9,7 +9,7 @@ class Messages;
 class Processes;
 class ProgramEnd;
 
-/// What most operations of the core need from outside, handed on as one. The referents outlive it.
+/// What most operations of the core need from outside, passed as one. The objects must outlive it.
 struct Seams
 {
     FileSystem& files;
@@ -18,10 +18,10 @@ struct Seams
     ProgramEnd& end;
     PathRules paths;
 
-    /// The same with other messages, for work that the user did not ask for.
+    /// The same seams with other messages, for work that the user did not ask for.
     [[nodiscard]] Seams With(Messages& otherMessages) const { return With(otherMessages, end); }
 
-    /// The same with other messages, and with an end that is not the program's.
+    /// The same seams with other messages and another program end.
     [[nodiscard]] Seams With(Messages& otherMessages, ProgramEnd& otherEnd) const
     {
         return {files, otherMessages, processes, otherEnd, paths};

@@ -6,7 +6,7 @@ namespace ls {
 
 namespace {
 
-// Where the quote lies that ends the word whose text begins at `from`; the line's size when there is none.
+// The position of the quote that ends the word whose text begins at `from`; the line's size without one.
 std::size_t ClosingQuote(std::string_view line, std::size_t from)
 {
     std::size_t at = line.find('"', from);

@@ -12,9 +12,9 @@ namespace {
 
 constexpr std::string_view BookType = ".IDA";
 constexpr std::size_t NumberWidth = 3;
-constexpr double LargestNumber = 1e15; ///< larger ones do not count by ones
+constexpr double LargestNumber = 1e15; ///< up to here counting by ones is exact
 
-// The type is cut from the name only; a name that begins with its only dot is all name.
+// Cuts the type from a file name. A name whose only dot is its first character has no type.
 std::string_view WithoutType(std::string_view name)
 {
     const std::size_t dot = name.rfind('.');

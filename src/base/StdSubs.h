@@ -6,12 +6,11 @@
 
 namespace ls {
 
-/// The name that a book is to be saved under, by counting up a number in parentheses: beside "Guide.IDA" that
-/// is "Guide (001).IDA", and from there "Guide (002).IDA", "Guide (003).IDA" and so on. The folder stays.
+/// The next name to save a book under, with a number in parentheses: "Guide.IDA" gives "Guide (001).IDA", and
+/// that gives "Guide (002).IDA". The folder stays.
 ///
-/// The number that counts is the one in the name's first parentheses, and what stands behind them is dropped.
-/// The type is always ".IDA". A book without a path becomes "Ideas (001).ida". Whether the name is free is
-/// not tested.
+/// The number in the name's first parentheses counts; what follows them is dropped. The type is always
+/// ".IDA". A book without a path becomes "Ideas (001).ida". A file of the new name may exist already.
 [[nodiscard]] std::string NumberedName(PathRules rules, const std::string& bookPath);
 
 } // namespace ls

@@ -32,11 +32,11 @@ constexpr char UpperCaseOf(unsigned char byte)
         return static_cast<char>(byte - 0x20);
     }
     switch (byte) {
-    case 0x9A: // s, oe and z with their accents lie 16 below
+    case 0x9A: // s, oe and z with accents: capitals are 16 lower
     case 0x9C:
     case 0x9E:
         return static_cast<char>(byte - 0x10);
-    case 0xFF: // y with two dots has its capital in the other block
+    case 0xFF: // y with two dots: its capital is in the other block
         return static_cast<char>(0x9F);
     case 0xF7: // the division sign is no letter
         return static_cast<char>(byte);
@@ -85,11 +85,11 @@ double LeadingNumber(std::string_view text)
     if (!text.empty() && text.front() == '+') {
         text.remove_prefix(1);
         if (!text.empty() && text.front() == '-') {
-            return 0; // one sign only
+            return 0; // only one sign is allowed
         }
     }
     double value = 0;
-    // "inf" and "nan" would parse too: a number begins with a digit, a point or a minus.
+    // "inf" and "nan" would parse too, so a number must begin with a digit, a point or a minus.
     if (!text.empty() && std::string_view("0123456789.-").find(text.front()) != std::string_view::npos) {
         const auto result =
             std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);

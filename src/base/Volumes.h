@@ -5,12 +5,11 @@
 
 namespace ls {
 
-/// A place where files are kept, as a person would pick it: a drive, a mounted disk, the home folder.
+/// A place for files as a user picks it: a drive, a mounted disk, the home folder.
 struct Volume
 {
-    std::string
-        label; ///< "c: [SYSTEM]", "/", "/media/anna/STICK"; where there are drives it begins with "c:"
-    std::string folder; ///< where choosing it leads: a drive's current folder, else the volume's root
+    std::string label;  ///< "c: [SYSTEM]", "/", "/media/anna/STICK"; begins with "c:" on systems with drives
+    std::string folder; ///< the folder it opens: a drive's current folder, else the volume's root
 
     friend bool operator==(const Volume&, const Volume&) = default;
 };
@@ -21,7 +20,7 @@ class Volumes
 public:
     virtual ~Volumes() = default;
 
-    /// In the order in which they are offered; asked anew each time, since disks come and go.
+    /// In the order to show them. Read anew each time, because disks come and go.
     virtual std::vector<Volume> List() = 0;
 };
 

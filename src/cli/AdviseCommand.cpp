@@ -35,7 +35,7 @@ constexpr std::string_view Explore = "--explore";
 constexpr std::string_view Limit = "--limit";
 constexpr int UsualLimit = 10000;
 
-// What was asked for: the dialogues, and the answers in advance.
+// What to play: the dialogues, and the answers given in advance.
 struct Plan
 {
     std::vector<std::string> titles;
@@ -45,7 +45,7 @@ struct Plan
     bool interactive = false;
 };
 
-// The whole of a file; an error is kept by the watched files and reported with the verdict.
+// Reads a whole file. `WatchedFiles` remembers an error, and the verdict reports it.
 bool ReadFile(CommandContext& context, const std::string& path, std::string& text)
 {
     std::unique_ptr<BookFile> file;
@@ -121,7 +121,7 @@ Status MakePlan(CommandContext& context, Plan& plan)
     return Status::Done;
 }
 
-// Plays the dialogues of a plan, and writes what happens.
+// Plays the dialogues of a plan and writes their events.
 class Session
 {
 public:
@@ -162,12 +162,12 @@ private:
         if (m_json != nullptr) {
             WriteEvent(*m_json, event);
             PrintPrompt(event);
-        } else if (event.kind != Kind::Answer || !m_plan.interactive) { // a typed answer is on the screen
+        } else if (event.kind != Kind::Answer || !m_plan.interactive) { // a typed answer is on screen already
             PrintEvent(m_context, event);
         }
     }
 
-    // The reader at a terminal must see the question, also where the output is for a program.
+    // The user must see the question even where the output is JSON for a program.
     void PrintPrompt(const AdvisorEvent& event)
     {
         if (!m_plan.interactive || event.kind != Kind::Question) {
@@ -203,7 +203,7 @@ private:
         return std::string(Trim(line));
     }
 
-    // Until the line is a choice, its number, or empty; a reader's slip must not end the dialogue.
+    // Asks until the line is a choice, its number, or empty; a typing error must not end the dialogue.
     std::optional<std::string> AskAtTerminal(const std::vector<std::string>& choices)
     {
         for (;;) {
@@ -244,7 +244,7 @@ private:
     Status m_status = Status::Done;
 };
 
-// Tells how many states were looked at.
+// Shows how many states were explored.
 class StatesProgress : public Progress
 {
 public:
@@ -267,13 +267,14 @@ SearchLimits ExploreLimits(const CommandContext& context)
 {
     SearchLimits limits;
     limits.states = context.Args().Number(Limit, UsualLimit);
-    limits.ruleBytes = std::numeric_limits<std::size_t>::max(); // whoever waits sees how far it is
+    // no limit: the user sees the progress
+    limits.ruleBytes = std::numeric_limits<std::size_t>::max();
     limits.heldBytes = std::size_t{1024} * 1024 * 1024;
     limits.everyWay = true;
     return limits;
 }
 
-// The one title of an exploration; nothing after wrong usage.
+// The one title to explore; nothing after wrong usage.
 std::optional<std::string> ExploredTitle(CommandContext& context)
 {
     const Arguments& arguments = context.Args();
@@ -332,7 +333,8 @@ Status Run(CommandContext& context)
     }
     Plan plan;
     if (const Status status = MakePlan(context, plan); status != Status::Done) {
-        return status == Status::FileFault ? context.GiveUp() : status; // the verdict makes it one again
+        // the verdict turns it into FileFault again
+        return status == Status::FileFault ? context.GiveUp() : status;
     }
     if (context.OpenTheBook() != Opening::Done) {
         return context.GiveUp();

@@ -84,7 +84,7 @@ void WriteMembers(JsonWriter& json, const AdvisorEvent& event)
     }
 }
 
-// A text of several lines, line by line.
+// Prints a text of several lines, each as a line of the output.
 void PrintText(CommandContext& context, const std::string& text)
 {
     const std::string lines = WithNewlines(text);

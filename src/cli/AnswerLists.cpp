@@ -33,7 +33,7 @@ bool IsLowSurrogate(unsigned code)
     return code >= 0xDC00 && code < 0xE000;
 }
 
-// Reads just so much of JSON: lists of lists of strings.
+// Reads a small part of JSON: lists of lists of strings.
 class AnswersReader
 {
 public:

@@ -9,21 +9,21 @@
 
 namespace ls {
 
-/// The arguments of one command, checked against what it takes.
+/// The arguments of one command, checked against its specification.
 class Arguments
 {
 public:
-    /// Operands and options in any order; `--name value` and `--name=value` mean the same, and "--" ends the
-    /// options. Returns what is wrong, as one sentence without a full stop; empty when nothing is.
+    /// Reads operands and options in any order. `--name value` and `--name=value` mean the same; "--" ends
+    /// the options. Returns the error as one sentence without a full stop; empty on success.
     std::string Read(const CommandSpec& command, const std::vector<std::string>& arguments);
 
     [[nodiscard]] const std::vector<std::string>& Operands() const { return m_operands; }
     [[nodiscard]] bool Has(std::string_view option) const { return m_options.count(option) != 0; }
 
-    /// The values of an option that was given; empty when it was not.
+    /// The values of an option; empty when it was not given.
     [[nodiscard]] std::vector<std::string> Values(std::string_view option) const;
 
-    /// The number that an option with a range was given; `otherwise` when it was not.
+    /// The value of an option with a range; `otherwise` when it was not given.
     [[nodiscard]] int Number(std::string_view option, int otherwise) const;
 
 private:

@@ -44,7 +44,7 @@ void WriteFindings(CommandContext& context, const std::vector<Finding>& findings
     }
 }
 
-// Adds the findings of one book; false when it is none or cannot be read, which was reported.
+// Adds the findings of one book. False when it is no book or cannot be read; that was reported.
 bool CheckOne(CommandContext& context, const std::string& path, std::vector<Finding>& findings)
 {
     if (context.OpenTheBook(path) != Opening::Done) {

@@ -9,7 +9,7 @@ namespace ls {
 class FileSystem;
 class Processes;
 
-/// All that `lsbook` has of the world outside. Tests pass streams and files of their own.
+/// Everything that `lsbook` uses of the outside world. Tests pass their own streams and files.
 struct CliEnvironment
 {
     std::istream& in;
@@ -21,7 +21,7 @@ struct CliEnvironment
     bool inIsTerminal = false;
     bool outIsTerminal = false;
     bool errIsTerminal = false;
-    int columns = 0; ///< width of the output's terminal in characters; 0 when it is none, or unknown
+    int columns = 0; ///< width of the output's terminal in characters; 0 when unknown or no terminal
 };
 
 } // namespace ls

@@ -12,12 +12,12 @@ namespace ls {
 class JsonWriter;
 class ProgressLine;
 
-/// Boxes on the command line: each goes to standard error as "icon: text" and is kept for JSON. One that asks
-/// gets the answer that an option gave for it, else its safe one.
+/// Boxes on the command line. Each goes to standard error as "icon: text" and is kept for JSON. A question
+/// gets the answer that an option set for it, else its safe answer.
 class CliMessages : public Messages
 {
 public:
-    /// A box as it was shown.
+    /// A box that was shown.
     struct Shown
     {
         Icon icon = Icon::None;
@@ -31,7 +31,7 @@ public:
     {
     }
 
-    /// From now on a box that asks and whose text begins so gets this reply.
+    /// Sets the reply for questions whose text begins with `textBeginning`.
     void AnswerTo(std::string textBeginning, Reply reply)
     {
         m_answers.emplace_back(std::move(textBeginning), reply);

@@ -14,7 +14,7 @@ namespace ls {
 namespace {
 
 constexpr std::size_t Piece =
-    256 * 1024; // of a text that is written: its conversions need several times as much
+    256 * 1024; // text is written in pieces; converting one needs several times as much
 constexpr const char* NoBookQuestion = "The file you opened is not a Lodestar Book or Advice file.";
 
 } // namespace
@@ -102,7 +102,7 @@ Status CommandContext::ChooseTopic(std::string& name, Count16& number)
     const std::string& title = m_arguments->Operands()[1];
     const std::optional<std::string> bookTitle = ToBook(title);
     if (!bookTitle) {
-        // No topic can have a character in its name that no book can hold.
+        // No book can hold such a character, so no topic has it in its name.
         return Fail("Topic [" + FromPath(title) + "] was not found.", Icon::Warning);
     }
     number = 0;
@@ -133,7 +133,7 @@ Status CommandContext::GiveUp()
 Status CommandContext::OutOfMemory()
 {
     Fail(MakeFileError(error::OutOfMemory).description, Icon::Critical);
-    if (!m_jsonBegun) { // what was begun cannot be mended
+    if (!m_jsonBegun) { // JSON that was begun cannot be repaired
         GiveUp();
     }
     return Status::FileFault;
@@ -163,7 +163,7 @@ void CommandContext::Write(std::string_view bookText)
     while (!bookText.empty()) {
         std::size_t size = std::min(Piece, bookText.size());
         while (size < bookText.size() && bookText[size - 1] == '\r') {
-            ++size; // no line end is torn
+            ++size; // keeps CR and LF in one piece
         }
         m_environment->out << Shown(WithNewlines(bookText.substr(0, size)));
         bookText.remove_prefix(size);
@@ -187,7 +187,7 @@ Status CommandContext::Verdict(Status ofCommand)
     if (m_end.Ended()) {
         return Status::ProgramEnd;
     }
-    // Output that a critical box calls cut or failed must not look done to a script.
+    // After a critical box the output is cut or failed; a script must not take it as done.
     const auto critical = [](const CliMessages::Shown& box) { return box.icon == Icon::Critical; };
     const bool error = std::any_of(m_messages.All().begin(), m_messages.All().end(), critical);
     return ofCommand == Status::Done && error ? Status::Fault : ofCommand;

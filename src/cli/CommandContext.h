@@ -19,15 +19,15 @@ namespace ls {
 
 class JsonWriter;
 
-/// What opening the book came to.
+/// The result of opening the book.
 enum class Opening
 {
-    Done,     ///< its tables are filled, or it is shown as plain text
-    Declined, ///< it is no book, and was not to be taken as plain text
-    Failed,   ///< a message tells why
+    Done,     ///< its tables are filled, or it is treated as plain text
+    Declined, ///< it is no book, and plain text was declined
+    Failed,   ///< a message says why
 };
 
-/// One run of a command: its arguments, the book, and the ways to report.
+/// One run of a command: its arguments, the book, and the output.
 class CommandContext
 {
 public:
@@ -44,46 +44,46 @@ public:
     [[nodiscard]] std::size_t MessageCount() const { return m_messages.All().size(); }
     [[nodiscard]] bool Json() const { return m_arguments->Has(JsonOption.name); }
 
-    /// Opens the book that the first operand names, and scans it unless it is taken as plain text.
+    /// Opens the book of the first operand, and scans it unless it is treated as plain text.
     [[nodiscard]] Opening OpenTheBook();
 
-    /// The same for another one of several books; the one before it is closed.
+    /// Opens one of several books; closes the one before.
     [[nodiscard]] Opening OpenTheBook(const std::string& path);
 
-    /// Whether a topic is named at all; else reports the wrong usage. To be asked before the book is opened.
+    /// Whether the command line names a topic; reports wrong usage if not. Call it before opening the book.
     [[nodiscard]] bool NamesTopic();
 
-    /// The topic that the second operand or --number names, as the core's operations take it: a number that
-    /// is 0 is to be looked up. In a plain text file both stay empty. Not `Done` after a report.
+    /// The topic of the second operand or of --number, as the core's operations take it: number 0 means that
+    /// the name is to be looked up. In a plain text file both stay empty. Not `Done` after a report.
     [[nodiscard]] Status ChooseTopic(std::string& name, Count16& number);
 
-    /// Reports a fault of the book or the command as a box would.
+    /// Reports a fault of the book or the command, as a box would.
     Status Fail(const std::string& text, Icon icon = Icon::Exclamation);
 
-    /// Reports wrong usage, and how to ask for help.
+    /// Reports wrong usage, with a hint on how to get help.
     Status WrongUsage(const std::string& text);
 
-    /// Ends a command that came to nothing: in JSON with the messages alone, so that there is always
-    /// something to parse.
+    /// Ends a failed command. In JSON it writes the messages alone, so that the output always parses.
     Status GiveUp();
 
     /// Ends a command whose book, or a line of it, does not fit into memory.
     [[nodiscard]] Status OutOfMemory();
 
-    /// Writes an object with these members and the messages: always, or only when there are any.
+    /// Writes an object with these members and the messages. Without messages their member is left out,
+    /// unless `alwaysMessages`.
     void WriteJson(const std::function<void(JsonWriter&)>& members, bool alwaysMessages = false);
 
-    /// Writes a line of text for people; the text is UTF-8.
+    /// Writes a line for people; the text is UTF-8.
     void Line(std::string_view utf8);
 
-    /// Writes book text as lines of the output; one of any length costs no memory.
+    /// Writes book text as lines of the output. A line of any length costs no memory.
     void Write(std::string_view bookText);
 
-    /// Book text as UTF-8, fit for the output.
+    /// Book text as UTF-8, safe for the output.
     [[nodiscard]] std::string Shown(std::string_view bookText) const;
 
-    /// The status to end with: faults of files and of the program come before the command's own verdict. An
-    /// error of a file that no message told of is reported.
+    /// The status to end with: faults of files and of the program win over the command's own status. Reports
+    /// a file error that no message has named.
     [[nodiscard]] Status Verdict(Status ofCommand);
 
 private:

@@ -14,21 +14,21 @@ class CommandContext;
 struct OptionSpec
 {
     std::string_view name;   ///< with its dashes: "--width"
-    std::string_view values; ///< names of its values, parted by blanks; empty for a mere switch
+    std::string_view values; ///< names of its values, separated by blanks; empty for a switch
     std::string_view help;
     int least = 0; ///< each value is a whole number from least to most; both 0: any text
     int most = 0;
 };
 
-/// One command: how it is called, what its help says, and what it does.
+/// One command: its synopsis, its help and its function.
 struct CommandSpec
 {
     std::string_view name;
     std::string_view operands; ///< as the synopsis shows them: "BOOK [TITLE]"
-    std::size_t leastOperands; ///< how many there must be
-    std::size_t mostOperands;  ///< and may be
+    std::size_t leastOperands; ///< the least number of operands
+    std::size_t mostOperands;  ///< the largest number of operands
     std::string_view summary;  ///< one line, without a full stop
-    std::string_view details;  ///< further lines of its help; may be empty
+    std::string_view details;  ///< more lines of its help; may be empty
     std::vector<OptionSpec> options;
     Status (*run)(CommandContext& context);
 };

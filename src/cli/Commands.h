@@ -4,7 +4,7 @@
 
 namespace ls {
 
-/// Each command tells its place in the table; its file holds the rest.
+/// Each command's entry in the table. Its own file holds the rest.
 [[nodiscard]] CommandSpec ExportCommand();
 [[nodiscard]] CommandSpec AdviseCommand();
 [[nodiscard]] CommandSpec CheckCommand();

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::string_view Force = "--force";
 
-// "U+2192", with the character before it unless that is one to be seen by its deeds only.
+// "U+2192" with the character before it; without the character if it is invisible.
 std::string NameOf(char32_t character)
 {
     constexpr std::string_view Digits = "0123456789ABCDEF";
@@ -46,7 +46,7 @@ std::string LinesText(const NoPlace& place)
     return text;
 }
 
-// Names everything that stands in the way; the text is written only when nothing does.
+// Reports every obstacle. The text is written only when there is none.
 Status ReportFindings(CommandContext& context, const TextFindings& findings)
 {
     if (findings.coding == TextCoding::Utf16) {
@@ -63,7 +63,8 @@ Status ReportFindings(CommandContext& context, const TextFindings& findings)
     return findings.noPlace.empty() ? Status::Done : Status::Fault;
 }
 
-// Refuses what would cost a file, as saving does: the input itself, and any other unless the user forces it.
+// Refuses an output that would destroy a file, as saving does: the input itself, and any existing file unless
+// the user forces it.
 Status OpenOutput(CommandContext& context, const std::string& input, std::unique_ptr<OutputFile>& output)
 {
     FileSystem& files = context.TheSeams().files;

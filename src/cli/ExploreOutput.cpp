@@ -53,7 +53,7 @@ std::string Counted(std::int64_t count, const std::string& one, const std::strin
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-// What the reader is told there, on one line.
+// The text shown at the end of the dialogue, on one line.
 std::string ShownText(const DialogueEnd& end)
 {
     std::string text = FromBook(end.text);

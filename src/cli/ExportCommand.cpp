@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view Output = "-o";
 constexpr std::string_view Force = "--force";
 
-// Keeps what is written, and hands it on to a file where there is one.
+// Keeps the written bytes and passes them on to a file, if there is one.
 class KeptOutput : public OutputFile
 {
 public:
@@ -31,7 +31,7 @@ public:
     std::unique_ptr<OutputFile> file;
 };
 
-// The topic that is asked for, which must be in the book: here nobody picked it from a list.
+// The chosen topic. It must be in the book, because here it was typed and not picked from a list.
 Status FindTopic(CommandContext& context, std::string& name, Count16& number)
 {
     if (const Status status = context.ChooseTopic(name, number); status != Status::Done) {
@@ -70,8 +70,8 @@ Status Export(CommandContext& context, KeptOutput& output)
                                                                                     : Status::FileFault;
 }
 
-// The bytes of the export as they are, so that redirected output is the file that -o writes; on a terminal
-// as text.
+// Writes the export's bytes unchanged, so that redirected output equals the file of -o. On a terminal it is
+// text.
 void WriteHtml(CommandContext& context, const std::string& html)
 {
     if (context.Json()) {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t BlockSize = 1024 * 1024;
 
-// Follows UTF-8 byte by byte, across the borders of blocks.
+// Checks UTF-8 byte by byte, across block borders.
 class Utf8Watch
 {
 public:
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] bool Valid() const { return m_valid && m_missing == 0; }
 
 private:
-    // The first byte tells the length, and bounds the second: no overlong forms, no halves of a pair.
+    // The first byte decides the length and limits the second: no overlong forms, no surrogates.
     void Begin(unsigned char byte)
     {
         if (byte >= 0xC2 && byte <= 0xDF) {

@@ -13,7 +13,7 @@ namespace ls {
 class FileSystem;
 class Progress;
 
-/// What the bytes of a file tell, whatever it holds.
+/// Facts about the bytes of any file.
 struct FileFacts
 {
     FilePos size = 0;
@@ -21,9 +21,9 @@ struct FileFacts
     std::int64_t cr = 0;
     std::int64_t lf = 0;
     std::int64_t nul = 0;
-    std::array<std::int64_t, 5> unassigned{}; ///< how often each of `UnassignedBytes` occurs
+    std::array<std::int64_t, 5> unassigned{}; ///< the number of each of `UnassignedBytes`
     bool ascii = true;                        ///< no byte above 7F
-    bool utf8 = false;                        ///< has bytes above 7F, and all of them read as UTF-8
+    bool utf8 = false;                        ///< has bytes above 7F, and they are valid UTF-8
 
     friend bool operator==(const FileFacts&, const FileFacts&) = default;
 };

@@ -13,7 +13,7 @@ void WriteHelp(std::ostream& out);
 /// What `lsbook help COMMAND` says.
 void WriteCommandHelp(std::ostream& out, const CommandSpec& command);
 
-/// Names what is wrong with a command line, and how to ask for help. `command` may be empty.
+/// Reports what is wrong with a command line, and how to get help. `command` may be empty.
 void ReportWrongUsage(std::ostream& err, std::string_view command, std::string_view text);
 
 } // namespace ls

@@ -12,7 +12,8 @@ namespace ls {
 
 namespace {
 
-// Whether the header line holds what no header may hold. The book was opened: its first line can be read.
+// Whether the header line holds a character that no header may hold. The book was opened, so its first line
+// can be read.
 bool HasBadHeader(const CommandContext& context)
 {
     std::unique_ptr<BookFile> file;

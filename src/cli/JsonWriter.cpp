@@ -11,7 +11,7 @@ namespace ls {
 
 namespace {
 
-constexpr std::size_t Piece = 256 * 1024; // of a text: what it becomes may be six times as long
+constexpr std::size_t Piece = 256 * 1024; // of a text; its JSON may be six times as long
 
 void AppendEscape(std::string& text, char32_t c)
 {
@@ -44,7 +44,7 @@ void AppendCharacter(std::string& text, char32_t c)
         text += "\\t";
         break;
     default:
-        // DEL and the high control characters need no escape, but a terminal would obey them.
+        // DEL and the high control characters need no escape in JSON, but a terminal would obey them.
         if (c < 0x20 || (c >= 0x7F && c < 0xA0)) {
             AppendEscape(text, c);
         } else {
@@ -75,7 +75,7 @@ JsonWriter& JsonWriter::BookText(std::string_view bytes)
 {
     BeginElement();
     *m_stream << '"';
-    for (; bytes.size() > Piece; bytes.remove_prefix(Piece)) { // each byte is a character
+    for (; bytes.size() > Piece; bytes.remove_prefix(Piece)) { // each byte is a character: none is split
         WriteCharacters(FromBook(bytes.substr(0, Piece)));
     }
     WriteCharacters(FromBook(bytes));
@@ -95,7 +95,7 @@ JsonWriter& JsonWriter::Number(float number)
     BeginElement();
     std::array<char, 64> digits{};
     const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-    // JSON knows neither infinity nor "not a number".
+    // JSON has neither infinity nor "not a number".
     const bool finite = error == std::errc() && number - number == 0.0F;
     *m_stream << (finite ? std::string_view(digits.data(), end) : std::string_view("null"));
     return *this;

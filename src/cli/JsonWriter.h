@@ -9,9 +9,9 @@ namespace ls {
 
 /// Writes JSON to a stream, value by value, in the order of the calls.
 ///
-/// The outermost container, and a list right inside it, have a line for each element; whatever lies deeper
-/// stands in one line, so that a list of records reads, and compares, line by line. Control characters are
-/// escaped; all other characters stand as UTF-8.
+/// The outermost container, and a list directly inside it, have one line for each element; deeper values
+/// share a line. So a list of records is read and compared line by line. Control characters are escaped; all
+/// others are UTF-8.
 class JsonWriter
 {
 public:
@@ -22,30 +22,30 @@ public:
     JsonWriter& BeginArray() { return Begin('['); }
     JsonWriter& EndArray() { return End(']'); }
 
-    /// The name of the value that follows, in an object.
+    /// Writes the name of the next value of an object.
     JsonWriter& Key(std::string_view name);
 
-    /// A text in UTF-8; bytes that are not UTF-8 become U+FFFD.
+    /// Writes a text in UTF-8; bytes that are not UTF-8 become U+FFFD.
     JsonWriter& String(std::string_view utf8);
 
-    /// Book text: its bytes read as Windows-1252.
+    /// Writes book text (Windows-1252).
     JsonWriter& BookText(std::string_view bytes);
 
     JsonWriter& Number(std::int64_t number);
 
-    /// In as few digits as tell it from every other number of its type: 5.3, not 5.30000019.
+    /// Uses the fewest digits that identify the number in its type: 5.3, not 5.30000019.
     JsonWriter& Number(float number);
 
     JsonWriter& Bool(bool value);
     JsonWriter& Null();
 
-    /// Whether what was begun has been ended.
+    /// Whether everything that was begun is ended.
     [[nodiscard]] bool Complete() const { return m_open.empty(); }
 
 private:
     struct Container
     {
-        bool lines = false; ///< each element begins a line
+        bool lines = false; ///< each element begins a new line
         bool empty = true;
     };
 

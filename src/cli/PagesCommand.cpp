@@ -25,7 +25,7 @@ constexpr int Elite = 12;
 constexpr int LetterWidth = 12240;
 constexpr int LetterHeight = 15840;
 
-// What a line of the printed typeface takes.
+// The height of a printed line in twips.
 constexpr int PicaHeight = 272;
 constexpr int EliteHeight = 227;
 
@@ -106,7 +106,7 @@ void WritePage(TerminalSurface& surface, const PageRecorder::Page& page)
     surface.EndRow();
 }
 
-// On a terminal each page has a line above it that tells its number; elsewhere a form feed ends it.
+// On a terminal a line with the page's number precedes each page; elsewhere a form feed ends it.
 void WriteText(CommandContext& context, const PageRecorder& printer)
 {
     CliEnvironment& environment = context.Env();

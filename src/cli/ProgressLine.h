@@ -7,11 +7,11 @@
 
 namespace ls {
 
-/// Long work on a terminal: one line "Reading 45%", which is rewritten in place and goes when it is erased.
+/// Shows long work on a terminal as one line, "Reading 45%". It is rewritten in place and erased at the end.
 class ProgressLine : public Progress
 {
 public:
-    /// Writes nothing at all when `shown` is false.
+    /// Writes nothing when `shown` is false.
     ProgressLine(std::ostream& stream, bool shown) : m_stream(&stream), m_shown(shown) {}
     ~ProgressLine() override { Erase(); }
     ProgressLine(const ProgressLine&) = delete;
@@ -19,17 +19,17 @@ public:
 
     bool Step(std::int64_t done, std::int64_t total) override;
 
-    /// The same for work whose end nobody knows: shows a text of one line instead.
+    /// Shows one line of text, for work of unknown length.
     void Show(const std::string& text);
 
-    /// Takes the line away, before anything else is written there.
+    /// Erases the line. Call it before writing anything else there.
     void Erase();
 
 private:
     std::ostream* m_stream;
     bool m_shown;
-    int m_percent = -1;    ///< what stands on the terminal; -1 for no percentage
-    bool m_stands = false; ///< whether anything stands there
+    int m_percent = -1;    ///< the percentage on the terminal; -1 for none
+    bool m_stands = false; ///< whether the line is on the terminal
 };
 
 } // namespace ls

@@ -47,7 +47,7 @@ Status RunHelp(const std::vector<std::string>& arguments, CliEnvironment& enviro
     return Status::Done;
 }
 
-// Whether help is asked for, and not a file of that name behind "--".
+// Whether an option asks for help. After "--" the same word is the name of a file.
 bool AsksForHelp(const std::vector<std::string>& arguments)
 {
     const auto end = std::find(arguments.begin(), arguments.end(), "--");
@@ -104,7 +104,7 @@ Status Dispatch(const std::vector<std::string>& arguments, CliEnvironment& envir
 int RunLsbook(const std::vector<std::string>& arguments, CliEnvironment& environment)
 {
     Status status = Dispatch(arguments, environment);
-    if (environment.in.bad()) { // its end is none: a dialogue is closed by that
+    if (environment.in.bad()) { // end of input is no error; it closes the dialogue
         environment.err << "lsbook: standard input cannot be read\n";
         status = Status::FileFault;
     }

@@ -14,7 +14,8 @@ namespace {
 
 constexpr std::string_view Force = "--force";
 
-// Refuses what would cost a file: the input itself, and any other unless the user forces it.
+// Refuses an output that would destroy a file: the input itself, and any existing file unless the user forces
+// it.
 Status TestOutput(CommandContext& context, const std::string& path)
 {
     FileSystem& files = context.TheSeams().files;
@@ -36,8 +37,8 @@ WriteOutcome Fail(CommandContext& context, const std::string& what, const FileEr
     return WriteOutcome::Failed;
 }
 
-// Writes the book in place of a file that keeps its name until the new one is complete. Here nothing was
-// edited, so what a failure leaves is of no use to anybody, and goes.
+// Writes the book and replaces an existing file only when the new one is complete. Nothing was edited here,
+// so a failure's partial output is useless and is removed.
 WriteOutcome Replace(CommandContext& context, const std::string& path)
 {
     std::unique_ptr<OutputFile> output;
@@ -66,7 +67,7 @@ Status WriteSize(CommandContext& context, const std::string& path)
     FilePos size = 0;
     if (!context.TheSeams().files.OpenForReading(path, Sharing::Shared, file).Ok() ||
         !file->Size(size).Ok()) {
-        return context.GiveUp(); // the error that was met is told, and decides the status
+        return context.GiveUp(); // the error was reported and decides the status
     }
     if (context.Json()) {
         context.WriteJson([size](JsonWriter& json) { json.Key("size").Number(size); });

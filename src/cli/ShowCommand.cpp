@@ -28,7 +28,7 @@ int WidthOf(const CommandContext& context)
     return context.Args().Number(Width, std::clamp(columns, LeastLineWidth, Count16::Max));
 }
 
-// Draws the part of the topic that --first and --rows ask for: all of it without them.
+// Draws the rows that --first and --rows ask for; all rows without them.
 void Draw(const CommandContext& context, TextSurface& surface, const ShownTopic& shown, float version)
 {
     const int first = context.Args().Number(First, 1);
@@ -53,7 +53,7 @@ void WriteTopicJson(CommandContext& context, const ShownTopic& shown)
         true);
 }
 
-// A run as a line for people: "12:5 b-u #7f0000 |Title|", and "end" where it ends its row.
+// A run as a line for people: "12:5 b-u #7f0000 |Title|", with "end" when it ends its row.
 std::string RunText(const CommandContext& context, const Run& run)
 {
     char colour[8];
@@ -91,7 +91,7 @@ void WriteDrawn(CommandContext& context, const ShownTopic& shown)
     surface.EndRow();
 }
 
-// Prepares the chosen topic; `Fault` after its message.
+// Prepares the chosen topic. `Fault` after a message.
 Status Prepare(CommandContext& context, ShownTopic& shown)
 {
     std::string name;

@@ -10,11 +10,11 @@ namespace ls {
 
 namespace {
 
-// A row that does not break may be a large part of the book: it is not to be in memory twice more.
+// An unbroken row may be a large part of the book; writing it in pieces avoids two more copies in memory.
 constexpr std::size_t Piece = 16 * 1024;
 
-// A colour of the terminal's own palette, so that it can be read on any background: black is the terminal's
-// own text colour.
+// A colour from the terminal's own palette, which is readable on any background. Black is the terminal's text
+// colour.
 std::string_view PaletteCode(Colour colour)
 {
     if (colour == Black) {

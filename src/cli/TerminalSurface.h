@@ -6,21 +6,21 @@
 
 namespace ls {
 
-/// Prints a topic on a stream, with its styles where that is a terminal. Its units are characters and rows.
+/// Prints a topic to a stream, with styles on a terminal. Its units are characters and rows.
 class TerminalSurface : public TextSurface
 {
 public:
     struct Look
     {
-        bool terminal = false; ///< control characters become their pictures
-        bool styled = false;   ///< bold, italic, underline and colours are shown
+        bool terminal = false; ///< show control characters as their pictures
+        bool styled = false;   ///< write bold, italic, underline and colours
         int columns = 80;
         int rows = 25;
     };
 
     TerminalSurface(std::ostream& stream, Look look) : m_stream(&stream), m_look(look) {}
 
-    /// A stream cannot be emptied; what comes next begins a row of its own.
+    /// A stream cannot be cleared; the next print begins a new row instead.
     void Clear() override { EndRow(); }
     void SetBold(bool on) override { m_bold = on; }
     void SetItalic(bool on) override { m_italic = on; }
@@ -29,7 +29,7 @@ public:
     void BeginLine(int /*displayLine*/) override {}
     void Print(std::string_view text, bool endRow) override;
 
-    /// Ends the row that the last print left open, if it did.
+    /// Ends the row if the last print left it open.
     void EndRow();
 
     [[nodiscard]] double InnerWidth() const override { return m_look.columns; }

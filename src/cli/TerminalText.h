@@ -5,14 +5,14 @@
 
 namespace ls {
 
-/// Text (UTF-8) as a stream gets it. On a terminal control characters other than a TAB and a line end become
-/// their pictures, so that what stands in a book can never give the terminal an order.
+/// Text (UTF-8) for a stream. On a terminal, control characters other than TAB and line end become their
+/// pictures, so that a book's text can never control the terminal.
 [[nodiscard]] std::string ForStream(std::string_view utf8, bool terminal);
 
-/// The same for one line, in which a line end is no more than a character.
+/// Like `ForStream`, for one line: a line end becomes its picture too.
 [[nodiscard]] std::string LineForStream(std::string_view utf8, bool terminal);
 
-/// Lines parted by CR LF, as books have them, as lines of the running system's streams.
+/// Converts a book's line ends, CR LF, to those of the running system's streams.
 [[nodiscard]] std::string WithNewlines(std::string_view crLfText);
 
 } // namespace ls

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view Logic = "--logic";
 
-// Reads the chosen topic's record; for a plain text file its whole text.
+// Reads the chosen topic's record, or the whole text of a plain text file.
 Status Load(CommandContext& context, TopicRec& rec)
 {
     std::string name;
@@ -27,7 +27,7 @@ Status Load(CommandContext& context, TopicRec& rec)
     if (book.IsPlainText()) {
         return Status::Done;
     }
-    rec = std::move(book.TopicRecs(number)); // nothing else asks for it any more
+    rec = std::move(book.TopicRecs(number)); // nothing else needs it afterwards
     return Status::Done;
 }
 

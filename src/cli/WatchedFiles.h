@@ -6,20 +6,20 @@
 
 namespace ls {
 
-/// The files of the system, with a memory for faults: an error on the way decides the exit status, however
-/// the operation that met it goes on.
+/// The system's files, with a memory for errors: an error decides the exit status even if the operation goes
+/// on.
 class WatchedFiles : public FileSystem
 {
 public:
     explicit WatchedFiles(FileSystem& files) : m_files(&files) {}
 
-    /// The first error that an operation on a file came to; success when there was none.
+    /// The first error of an operation on a file; success when there was none.
     [[nodiscard]] const FileError& Error() const { return m_error; }
 
-    /// The path at which it happened.
+    /// The path of that error.
     [[nodiscard]] const std::string& FailedPath() const { return m_failedPath; }
 
-    /// The file that was opened last; empty when none could be.
+    /// The last file that was opened; empty when none was.
     [[nodiscard]] const std::string& LastOpened() const { return m_lastOpened; }
 
     FileError OpenForReading(const std::string& path, Sharing sharing,
@@ -36,7 +36,7 @@ public:
     bool SameFile(const std::string& a, const std::string& b) override { return m_files->SameFile(a, b); }
     FileError List(const std::string& folder, std::vector<FolderEntry>& entries) override
     {
-        return m_files->List(folder, entries); // looking for another spelling may fail without harm
+        return m_files->List(folder, entries); // not noted: a failed search for another spelling is harmless
     }
     FileError MakeFolder(const std::string& folder) override
     {
@@ -44,7 +44,7 @@ public:
     }
     std::string CurrentFolder() override { return m_files->CurrentFolder(); }
 
-    /// Notes an error, and hands it on.
+    /// Remembers an error and returns it.
     FileError Note(const std::string& path, FileError error);
 
 private:

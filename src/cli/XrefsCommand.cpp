@@ -30,7 +30,7 @@ void WriteList(JsonWriter& json, std::string_view key, const XrefList& list)
     json.EndArray();
 }
 
-// A note's lines, each indented; a note without text adds nothing.
+// Writes a note's lines, indented; a note without text adds nothing.
 void WriteNote(CommandContext& context, const std::string& note, std::size_t indent)
 {
     const std::string text = WithNewlines(FromBook(note));
@@ -73,7 +73,7 @@ void WriteGroup(CommandContext& context, std::string_view heading, const XrefLis
     }
 }
 
-// The records that a list of references stands for.
+// The records of a list of references.
 XrefList Records(const Book& book, const std::vector<XrefEntry>& entries)
 {
     XrefList list;
@@ -101,7 +101,8 @@ Status WriteBothWays(CommandContext& context, const std::string& title)
     return Status::Done;
 }
 
-// The title of the chosen topic, which must be in the book; empty after a report, which `status` tells.
+// The title of the chosen topic, which must be in the book. Empty after a report; `status` then holds the
+// result.
 std::string ChosenTitle(CommandContext& context, Status& status)
 {
     std::string name;

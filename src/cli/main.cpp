@@ -1,4 +1,4 @@
-// lsbook: the author's companion on the command line.
+// lsbook: the command line for authors of books.
 
 #include "base/PathRules.h"
 #include "cli/CliEnvironment.h"

@@ -13,7 +13,7 @@ namespace ls {
 
 namespace {
 
-constexpr double Grid = 16; // the shapes below are drawn on a square of this size
+constexpr double Grid = 16; // the side of the square that the shapes are drawn on
 
 QPainterPath ArrowRightPath()
 {

@@ -27,13 +27,13 @@ std::array<char16_t, 256> MakeCellCharacters()
         characters[byte] = control ? SmallBox : character;
     }
     characters['\t'] = u' ';
-    characters[0xA0] = u' '; // a blank that does not break is as wide as one that does
-    characters[0xAD] = u'-'; // a text engine hides the soft hyphen; here it is a character like any other
+    characters[0xA0] = u' '; // a no-break space is as wide as a space
+    characters[0xAD] = u'-'; // a text engine hides the soft hyphen; here it is visible
     return characters;
 }
 
-// A system resolves an alias ("Courier New" where only its look-alike is installed) only as the first family,
-// so the name is asked for alone, and the look-alike by its own name when that gave nothing of fixed pitch.
+// Names "Courier New" alone: where only its look-alike is installed, the system resolves the name only as the
+// first family. If that gives no fixed pitch, the look-alike is named itself.
 QFont FixedPitchFont(int pixelSize)
 {
     QFont font(QStringLiteral("Courier New"));
@@ -44,7 +44,7 @@ QFont FixedPitchFont(int pixelSize)
     font.setFixedPitch(true);
     font.setStyleHint(QFont::Monospace);
     font.setKerning(false);
-    font.setHintingPreference(QFont::PreferFullHinting); // whole pixels: every column starts alike
+    font.setHintingPreference(QFont::PreferFullHinting); // whole pixels, so that columns are equal
     return font;
 }
 

@@ -13,8 +13,8 @@ namespace {
 
 constexpr double DesignedPoints = 9.75;
 
-// An unknown name alone would give whatever face the system falls back to, often a wider one that clips
-// captions.
+// The first installed family of the list. An unknown name gives the system's fallback, often a wider face
+// that clips captions.
 QString FormFamily()
 {
     const QString designed = QStringLiteral("MS Sans Serif");
@@ -28,7 +28,7 @@ QString FormFamily()
     return designed;
 }
 
-// Who needs larger letters has told the desktop.
+// Users who need larger letters set that on the desktop.
 double DesktopPoints()
 {
     const QFont font = QGuiApplication::font();

@@ -4,8 +4,8 @@
 
 namespace ls {
 
-/// The font of the forms, which they are designed for: "MS Sans Serif" at 9.75 points, or a face of like
-/// measures where that is not installed. Where the desktop's font is larger, it is as large as that.
+/// The font that the forms are designed for: "MS Sans Serif" at 9.75 points, or a face of similar size where
+/// it is not installed. It is never smaller than the desktop's font.
 [[nodiscard]] QFont FormFont();
 
 } // namespace ls

@@ -52,7 +52,7 @@ QMessageBox::StandardButton ButtonOf(Reply reply)
     return QMessageBox::Ok;
 }
 
-// Every button of a box has its letter, whatever the desktop calls its own.
+// Each button has the program's own letter for Alt, not the desktop's.
 QString CaptionOf(Reply reply)
 {
     switch (reply) {
@@ -83,18 +83,18 @@ std::vector<Reply> RepliesOf(Buttons buttons)
     return {Reply::Ok};
 }
 
-// OK with Cancel is asked before something is given up ("Exit without saving changes?"): a careless Enter
-// keeps it. Yes with No offers help, and Yes is what most people want.
+// The button that Enter presses. OK with Cancel asks before something is lost ("Exit without saving
+// changes?"), so a careless Enter cancels. Yes with No offers help; most users want Yes.
 Reply EnterReply(Buttons buttons)
 {
     return buttons == Buttons::OkCancel ? Reply::Cancel : RepliesOf(buttons).front();
 }
 
-// A line of a broken file may be as long as the file, and a box that lays it out would stand still for
-// minutes. The end of a text matters as much as its beginning: it says what went wrong.
+// Cuts the middle out of a long text: a line of a broken file may be as long as the file, and laying it out
+// would block the program for minutes. The end stays, because it says what went wrong.
 QString Shortened(const std::string& text)
 {
-    constexpr std::size_t longest = 2000; // bytes; about what a box can show at once
+    constexpr std::size_t longest = 2000; // bytes; about what a box can show
     constexpr std::size_t tail = 500;
     const auto isInsideCharacter = [&text](std::size_t at) {
         return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
@@ -113,7 +113,7 @@ QString Shortened(const std::string& text)
     return QString::fromStdString(text.substr(0, head) + " ... " + text.substr(rest));
 }
 
-// The prompt is its edit's label, and leads to it by a letter that neither button has.
+// The prompt is the label of its edit. Its letter for Alt differs from those of both buttons.
 void SetPrompt(QInputDialog& box, const QString& prompt)
 {
     box.setLabelText(WithMnemonic(prompt, u"OC"));
@@ -122,8 +122,8 @@ void SetPrompt(QInputDialog& box, const QString& prompt)
     }
 }
 
-// A box takes its width from its text; one of few words would cut its title. The toolkit fits boxes to their
-// layout, so it is there that the room is asked for.
+// A box gets its width from its text, so a short text would cut off the title. The toolkit fits a box to its
+// layout; a spacer in the layout makes it wide enough.
 void WidenToTitle(QDialog& box)
 {
     auto* room = new QSpacerItem(TitleWidth(box.windowTitle()), 0);

@@ -7,17 +7,17 @@
 
 namespace ls {
 
-/// The messages of the desktop program: modal boxes over the form that is open.
+/// The messages of the desktop program: modal boxes over the open form.
 ///
-/// Texts are shown as they are ("<B>" is no markup here), but of more than 2,000 bytes only the beginning and
-/// the end. Escape and the box's close button give the safe
-/// answer. A fault may end the program while a box is open: whoever asked tests for that afterwards.
+/// Texts are plain ("<B>" is no markup here). Of a text of more than 2,000 bytes only the beginning and the
+/// end are shown. Escape and the close button give the safe answer. A fault may end the program while a box
+/// is open, so callers test for that afterwards.
 class FormMessages : public Messages
 {
 public:
     explicit FormMessages(const ProgramEnd& end) : Messages(end) {}
 
-    /// The window that boxes stand over while no form is open.
+    /// The window under the boxes while no form is open.
     void SetParent(QWidget* window) { m_window = window; }
 
 protected:

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int BarLength = 1000;
 constexpr int MillisecondsBetweenMoves = 50;
-constexpr int BoxWidth = 360; // that of a usual label, so that the bar is not as short as a short one
+constexpr int BoxWidth = 360; // the width of a usual label, so that a short label does not make the bar short
 
 int BarPosition(std::int64_t done, std::int64_t total)
 {
@@ -71,7 +71,8 @@ void FormProgress::Open()
     m_dialog->setMinimumDuration(0);
     m_dialog->setAutoReset(false);
     m_dialog->setAutoClose(false);
-    // Escape is the cancel button's shortcut only while the box is active; before that it closes the box.
+    // Escape is the cancel button's shortcut only while the box is active. Before that it closes the box,
+    // which must cancel too.
     connect(m_dialog.get(), &QDialog::rejected, m_dialog.get(), &QProgressDialog::cancel);
     m_dialog->setCancelButtonText(QStringLiteral("&Cancel"));
     if (!m_box.canCancel) {
@@ -86,7 +87,7 @@ bool FormProgress::Cancelled() const
     return m_box.canCancel && m_dialog != nullptr && m_dialog->wasCanceled();
 }
 
-// Work that must run to its end keeps its box: neither Escape nor the close button takes it away.
+// Ignores Escape and the close button for work that must run to its end.
 bool FormProgress::eventFilter(QObject* watched, QEvent* event)
 {
     const bool escape =

@@ -14,18 +14,18 @@ class QWidget;
 
 namespace ls {
 
-/// What the progress box says and offers.
+/// The text and options of a progress box.
 struct ProgressBox
 {
     QString label;                ///< "Reading Guide.IDA"
     bool canCancel = true;        ///< false for work that must run to its end
-    int delayMilliseconds = 1000; ///< work that is done sooner shows no box
+    int delayMilliseconds = 1000; ///< shorter work shows no box
 };
 
-/// Shows how far work has come in a box that appears only when the work lasts. It begins counting when it is
-/// made, and the box goes with it.
+/// Shows a progress box if the work lasts longer than the delay, which starts at construction. The destructor
+/// closes the box.
 ///
-/// The box is modal, and its events run inside `Step`: nothing else of the program may be started from there.
+/// The box is modal, and its events run inside `Step`. Nothing else of the program may be started from there.
 class FormProgress : public QObject, public Progress
 {
     Q_OBJECT

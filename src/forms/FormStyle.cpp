@@ -11,7 +11,8 @@ namespace {
 
 constexpr int HalfWay = 128; // between black and white
 
-// The plain style draws the edge of an empty box darker than the window: on a dark one it cannot be seen.
+// The plain style draws the edge of an empty check box darker than the window, so it is invisible on a dark
+// one. This style draws a visible edge.
 class FormStyle : public QProxyStyle
 {
 public:

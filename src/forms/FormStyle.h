@@ -2,8 +2,8 @@
 
 namespace ls {
 
-/// Sets the program's style: the desktop's own, but where that is the toolkit's plain one, boxes and circles
-/// to be checked get an edge that is seen on a dark desktop, too.
+/// Sets the program's style to the desktop's own. If that is the toolkit's plain style, check boxes and
+/// option circles get an edge that is visible on a dark desktop.
 void SetFormStyle();
 
 } // namespace ls

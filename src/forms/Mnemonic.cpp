@@ -4,7 +4,7 @@ namespace ls {
 
 namespace {
 
-constexpr qsizetype ShortestWord = 3; // an underlined "a" of "Select a book" would look like a slip
+constexpr qsizetype ShortestWord = 3; // an underlined "a" in "Select a book" would look like a mistake
 
 bool IsFree(QChar letter, QStringView taken)
 {

@@ -4,10 +4,9 @@
 
 namespace ls {
 
-/// A caption that is made while the program runs, with its letter for Alt marked: that of the first word of
-/// three letters or more whose letter is not `taken` (capitals), else the first letter that is free. What is
-/// an
-/// "&" of the caption stays one that is seen. Without a free letter nothing is marked.
+/// Marks the letter for Alt in a caption that is made at run time: the initial of the first word of three
+/// letters or more whose initial is not in `taken` (capitals), else the first letter that is not taken.
+/// Without a free letter nothing is marked. An "&" of the caption stays visible.
 [[nodiscard]] QString WithMnemonic(const QString& caption, QStringView taken);
 
 } // namespace ls

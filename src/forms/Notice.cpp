@@ -10,7 +10,7 @@ namespace ls {
 
 void ShowNotice(QWidget* window, const std::string& text)
 {
-    QWidget* const form = QApplication::activeModalWidget(); // a box over another window would take no click
+    QWidget* const form = QApplication::activeModalWidget(); // a modal form lets no other window take clicks
     auto* const box = new QMessageBox(form != nullptr ? form : window);
     box->setObjectName(QStringLiteral("NoticeBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
@@ -20,7 +20,7 @@ void ShowNotice(QWidget* window, const std::string& text)
     box->setText(QString::fromStdString(text));
     box->setIcon(QMessageBox::Warning);
     box->setStandardButtons(QMessageBox::Ok);
-    box->button(QMessageBox::Ok)->setText(QStringLiteral("&OK")); // with its letter on every desktop
+    box->button(QMessageBox::Ok)->setText(QStringLiteral("&OK")); // the same letter on every desktop
     box->setWindowModality(Qt::NonModal);
     box->show();
 }

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-// A resource of a static library is left out by the linker unless it is asked for; that cannot be done
-// within a namespace.
+// The linker drops a static library's resource unless this macro asks for it. The macro must be outside any
+// namespace.
 static void KeepResource()
 {
     Q_INIT_RESOURCE(ProgramIcon);

@@ -4,7 +4,7 @@
 
 namespace ls {
 
-/// The program's icon, for its windows: the pictures of packaging/icons, from 16 to 256 pixels.
+/// The icon of the program's windows: the pictures of packaging/icons, from 16 to 256 pixels.
 [[nodiscard]] QIcon ProgramIcon();
 
 } // namespace ls

@@ -7,10 +7,10 @@
 
 namespace ls {
 
-/// A text of the core, which is UTF-8, for a control.
+/// A text of the core (UTF-8) for a control.
 [[nodiscard]] QString Shown(std::string_view utf8);
 
-/// A text of a book, in the book's characters, for a control.
+/// Book text for a control.
 [[nodiscard]] QString ShownBookText(const std::string& bookText);
 
 } // namespace ls

@@ -9,9 +9,9 @@ namespace ls {
 
 namespace {
 
-constexpr int TabColumns = 5; // as wide as the display shows a leading TAB
+constexpr int TabColumns = 5; // the width of a leading TAB in the display
 
-// It is asked for raw: else a hard blank would come as an ordinary one.
+// Uses the raw text, because the plain text turns a no-break space into an ordinary one.
 QString RawText(const QPlainTextEdit& box)
 {
     QString text = box.document()->toRawText();
@@ -34,7 +34,7 @@ void SetFixedPitch(QPlainTextEdit& box)
     box.setTabStopDistance(TabColumns * cells.charWidth);
 }
 
-// Counted in the text, not in the box's paragraphs: a soft line break ends a line too.
+// Counts lines in the text, not the box's paragraphs, because a soft line break ends a line too.
 void SelectLine(QPlainTextEdit& box, int line)
 {
     const QString text = RawText(box);

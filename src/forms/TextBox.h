@@ -6,13 +6,13 @@ class QPlainTextEdit;
 
 namespace ls {
 
-/// The text of a box as UTF-8, with "\n" between its lines, every character as it was typed or pasted.
+/// The text of a box as UTF-8, with "\n" between its lines and every other character unchanged.
 [[nodiscard]] std::string TextOf(const QPlainTextEdit& box);
 
-/// The font and the tab stops of a box for text that is laid out in columns, as the display shows it.
+/// Gives a box the font and tab stops of the display, for text laid out in columns.
 void SetFixedPitch(QPlainTextEdit& box);
 
-/// Selects a line, counted from 1, and scrolls there. The focus stays where it is.
+/// Selects a line, from 1, and scrolls to it. The focus does not move.
 void SelectLine(QPlainTextEdit& box, int line);
 
 } // namespace ls

@@ -4,9 +4,9 @@ class QString;
 
 namespace ls {
 
-/// How wide a window must be, in device-independent pixels, so that its title bar shows the whole title. The
-/// window manager draws that in a font of its own; this is for one like the desktop's, in bold, beside the
-/// usual buttons and picture.
+/// The width, in device-independent pixels, at which a window's title bar shows the whole title. An estimate:
+/// the window manager draws the title in its own font; this assumes the desktop's font in bold, and the usual
+/// buttons and picture.
 [[nodiscard]] int TitleWidth(const QString& title);
 
 } // namespace ls

@@ -7,7 +7,7 @@ namespace ls {
 
 namespace {
 
-// Whole pixels on a screen of 96 dots to the inch: 9, 11, 13, 15, 18, 22, 27, 33, 40 and 48.
+// Whole pixels on a screen of 96 dots an inch: 9, 11, 13, 15, 18, 22, 27, 33, 40 and 48.
 constexpr std::array<double, 10> Sizes = {6.75, 8.25,  NormalTypeSize, 11.25, 13.5,
                                           16.5, 20.25, 24.75,          30,    36};
 

@@ -2,11 +2,11 @@
 
 namespace ls {
 
-/// The type size of the reading pane, in points, that a program starts with. It is the one that the main
-/// window is designed for: 80 characters stand in a row.
+/// The reading pane's type size at the start, in points. The main window is designed for it: a row holds 80
+/// characters.
 inline constexpr double NormalTypeSize = 9.75;
 
-/// The next size of a fixed series; the largest and the smallest stay as they are.
+/// The next size of a fixed series; the largest and the smallest do not change.
 [[nodiscard]] double LargerType(double points);
 [[nodiscard]] double SmallerType(double points);
 

@@ -9,7 +9,7 @@ namespace ls {
 struct ConsoleStream
 {
     bool isTerminal = false;
-    int columns = 0; ///< its width in characters; 0 when it is no terminal, or unknown
+    int columns = 0; ///< its width in characters; 0 when unknown or no terminal
 };
 
 enum class StandardStream
@@ -19,12 +19,12 @@ enum class StandardStream
     Error
 };
 
-/// Makes the standard streams carry bytes as they are written: UTF-8, no line end changed.
+/// Makes the standard streams pass bytes unchanged: UTF-8, line ends as written.
 void PrepareConsole();
 
 [[nodiscard]] ConsoleStream ConsoleOf(StandardStream stream);
 
-/// The program's arguments without its name, in UTF-8 where the system says so.
+/// The program's arguments without its name; in UTF-8 where the system passes them so.
 [[nodiscard]] std::vector<std::string> ProgramArguments(int argc, char** argv);
 
 } // namespace ls

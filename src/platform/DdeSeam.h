@@ -6,7 +6,7 @@
 
 namespace ls {
 
-/// The door of the running system for execute strings from other programs.
+/// The running system's receiver of execute strings from other programs.
 [[nodiscard]] std::unique_ptr<DdeServer> MakeDdeServer();
 
 } // namespace ls

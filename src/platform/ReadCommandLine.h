@@ -5,8 +5,8 @@
 
 namespace ls {
 
-/// What the command line of this process asks for: where the system hands over separate arguments, those of
-/// `main`; where it hands over one string, that string, as it was written.
+/// Parses the command line of this process: the arguments of `main` on a system that passes separate
+/// arguments, the unchanged line on a system that passes one string.
 [[nodiscard]] CommandLine ReadCommandLine(int argc, char** argv, const Seams& seams);
 
 } // namespace ls

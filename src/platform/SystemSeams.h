@@ -17,7 +17,7 @@ namespace ls {
 /// The processes of the running system.
 [[nodiscard]] std::unique_ptr<Processes> MakeProcesses();
 
-/// What opens which type of file on the running system. `processes` outlives it.
+/// The programs that open each type of file on the running system. `processes` must outlive it.
 [[nodiscard]] std::unique_ptr<Registry> MakeRegistry(Processes& processes);
 
 /// The volumes of the running system.
@@ -26,11 +26,11 @@ namespace ls {
 /// The printing service of the running system.
 [[nodiscard]] std::unique_ptr<PrintService> MakePrintService();
 
-/// The user's folder for what this program keeps between its runs without being asked: recovery journals. It
-/// need not exist yet; empty where the user has no home.
+/// The user's folder for data that the program keeps between runs by itself: recovery journals. It may not
+/// exist yet; empty when the user has no home.
 [[nodiscard]] std::string StateFolder(Processes& processes);
 
-/// How paths are written on the running system.
+/// How the running system writes paths.
 [[nodiscard]] PathRules NativePaths();
 
 } // namespace ls

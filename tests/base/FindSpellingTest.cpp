@@ -39,7 +39,7 @@ TEST_F(FindSpellingTest, find_exactLevel_isNotLeftForAnother)
 {
     files["/B/Guide.IDA"];
     files["/b/Other.IDA"];
-    EXPECT_EQ(Find("/b/guide.ida"), "/b/guide.ida"); // not in "/b"; "/B" was not meant
+    EXPECT_EQ(Find("/b/guide.ida"), "/b/guide.ida"); // not in "/b", and "/B" is another folder
     EXPECT_EQ(Find("/b/OTHER.IDA"), "/b/Other.IDA");
 }
 

@@ -48,10 +48,10 @@ TEST_F(LineCursorTest, readLine_loneLf_isAnOrdinaryCharacter)
     EXPECT_EQ(Lines(), (Strings{"a\nb", "c\n"}));
 }
 
-// The lines as views, read to the end of the file.
+// Reads all lines as views, to the end of the file.
 TEST_F(LineCursorTest, readLineView_anyPlaceOfALineEnd_readsTheSameLines)
 {
-    // Line ends of both kinds before, at and behind the place where the first block ends.
+    // Line ends of both kinds before, at and after the end of the first block.
     constexpr std::size_t FirstBlock = 16 * 1024;
     for (const char* lineEnd : {"\r\n", "\r"}) {
         for (std::size_t length = FirstBlock - 4; length < FirstBlock + 4; ++length) {
@@ -82,7 +82,7 @@ TEST_F(LineCursorTest, appendLine_keepsWhatTheTextHas)
 
 TEST_F(LineCursorTest, readLine_veryLong_isWholeAndTakesNoMoreRoomThanItNeeds)
 {
-    // The first one is a little longer than what a growing line has room for.
+    // The first line is a little longer than the room that growing by itself would give it.
     for (const std::size_t length : {3'000'000U, 20'000'000U}) {
         SCOPED_TRACE(length);
         std::string bytes(length + 6, 'x');
@@ -156,10 +156,10 @@ TEST_F(LineCursorTest, readLineView_atTheEnd_isError62)
     EXPECT_EQ(cursor.ReadLine(line).number, error::InputPastEnd);
 }
 
-constexpr std::size_t Block = 16 * 1024; ///< what a cursor reads first
+constexpr std::size_t Block = 16 * 1024; ///< size of a cursor's first read
 
-// Line ends around the place where the first block ends: a CR as its last byte, a CR LF over the border, and
-// so on for every offset.
+// Line ends around the end of the first block, at every offset: a CR as its last byte, a CR LF across the
+// border, and so on.
 TEST_F(LineCursorTest, readLine_lineEndsAroundABlockBorder_readTheSame)
 {
     for (const char* lineEnd : {"\r\n", "\r"}) {
@@ -180,7 +180,7 @@ TEST_F(LineCursorTest, readLine_lineEndsAroundABlockBorder_readTheSame)
 
 TEST_F(LineCursorTest, readLine_crLastInTheBlockAndLfAlone_areTwoThings)
 {
-    // "CR x LF": the LF that comes later belongs to its line.
+    // "CR x LF": the later LF belongs to its line.
     Open(std::string(Block - 1, 'x') + "\ry\nz\r");
     EXPECT_EQ(Lines(), (Strings{std::string(Block - 1, 'x'), "y\nz"}));
 }
@@ -306,7 +306,8 @@ TEST_F(LineCursorTest, readLine_failingRead_isReportedAndIsNotTheEnd)
     EXPECT_EQ(cursor.ReadLine(view), MakeFileError(error::DeviceIo));
     EXPECT_EQ(cursor.SkipToLineBeginning('[', '<'), MakeFileError(error::DeviceIo));
     files.fail = nullptr;
-    EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::DeviceIo)) << "what was missed may not be skipped";
+    EXPECT_EQ(cursor.ReadLine(line), MakeFileError(error::DeviceIo))
+        << "the missed bytes must not be skipped";
     cursor.Seek(1);
     ASSERT_TRUE(cursor.ReadLine(line).Ok());
     EXPECT_EQ(line, "a");
@@ -343,7 +344,7 @@ TEST_F(LineCursorTest, skipToLineBeginning_passesOverLinesAndEndsAtTheMark)
     ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
     EXPECT_EQ(cursor.Position(), 9);
     ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
-    EXPECT_EQ(cursor.Position(), 9); // where it stands counts
+    EXPECT_EQ(cursor.Position(), 9); // only the position counts
     std::string line;
     ASSERT_TRUE(cursor.ReadLine(line).Ok());
     EXPECT_EQ(line, "<x");
@@ -382,7 +383,7 @@ TEST_F(LineCursorTest, skipToLineBeginning_noMark_endsAtTheEnd)
     }
 }
 
-// A file of five billion bytes that holds two lines far behind everything that 32 bits can count.
+// A file of five billion bytes with two lines at positions that 32 bits cannot hold.
 class HugeFile : public BookFile
 {
 public:
@@ -437,7 +438,7 @@ TEST_F(LineCursorTest, readCrLfLines_end_isNotPassed)
     LineCursor cursor(*file);
     EXPECT_EQ(cursor.ReadCrLfLines(7), "a\r\nb\r\n");
     EXPECT_EQ(cursor.ReadCrLfLines(7), "");
-    EXPECT_EQ(cursor.ReadCrLfLines(9), "") << "the line ends behind it";
+    EXPECT_EQ(cursor.ReadCrLfLines(9), "") << "the line ends after it";
     EXPECT_EQ(cursor.Position(), 7);
 }
 
@@ -462,12 +463,12 @@ TEST_F(LineCursorTest, readCrLfLines_readError_isLeftToReadLine)
     EXPECT_EQ(cursor.ReadLine(line).number, error::DeviceIo);
 }
 
-// Whatever the line ends and wherever the blocks end: both ways of reading give the same lines.
+// Both ways of reading give the same lines, for random line ends and blocks.
 TEST_F(LineCursorTest, readCrLfLines_anyBytes_givesTheLinesOfReadLine)
 {
     std::minstd_rand random(7);
     for (int round = 0; round < 60; ++round) {
-        const int bareIn = round % 3 == 0 ? 3 : 4000; // one CR of so many lacks its LF
+        const int bareIn = round % 3 == 0 ? 3 : 4000; // one in so many CRs has no LF
         std::string bytes;
         while (bytes.size() < 60000) {
             bytes.append(random() % 200, 'x').append(random() % 9 == 0 ? "\n" : "").append("\r");

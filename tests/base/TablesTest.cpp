@@ -85,7 +85,7 @@ TEST(ChangeFlag, set_readsAsABoolAndCountsEachTime)
     EXPECT_EQ(changed.Changes(), 2U);
     changed = false;
     EXPECT_FALSE(changed);
-    EXPECT_EQ(changed.Changes(), 2U); // nothing new to keep
+    EXPECT_EQ(changed.Changes(), 2U); // no new change
 }
 
 } // namespace

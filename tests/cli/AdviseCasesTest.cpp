@@ -1,4 +1,4 @@
-// Dialogues worked out by hand: the events that lsbook tells of each in JSON.
+// Dialogues worked out by hand: the events of each that lsbook writes as JSON.
 
 #include "CliFixture.h"
 #include "advisor/EventLines.h"
@@ -18,7 +18,7 @@ constexpr const char* Folder = "cases/advisor";
 class AdviseCase : public test::CliFixture, public testing::WithParamInterface<std::string>
 {
 protected:
-    // The command that plays the case.
+    // The command line that plays the case.
     Strings Arguments(const Json& data)
     {
         Strings arguments{"advise", "case.IDA", "--json", "--answers-json", "answers.json"};

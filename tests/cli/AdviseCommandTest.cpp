@@ -150,7 +150,7 @@ TEST_F(Advise, titleThatNoBookCanHold_isToldAsItWasGiven)
 TEST_F(Advise, readErrorAtAnyMoment_endsWithThree)
 {
     int reads = 0;
-    int failing = 0; // the number of the first read that fails
+    int failing = 0; // number of the first read that fails
     files.fail = [&](const std::string& operation) {
         const bool isRead = operation.rfind("read", 0) == 0;
         reads += isRead ? 1 : 0;

@@ -7,7 +7,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-// A command with an option of each kind.
+// A command with one option of each kind.
 CommandSpec Sample()
 {
     return {

@@ -1,4 +1,4 @@
-// The fixture by the built program: what tests of the command line expect in process is expected of it, too.
+// The fixture with the built program: the tests of commands in process also run against it.
 
 #include "CliFixture.h"
 

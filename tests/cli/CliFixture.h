@@ -11,15 +11,15 @@
 
 namespace ls::test {
 
-/// `lsbook` run in process, with files in memory; where CliByProgram.cpp takes the place of CliFixture.cpp,
+/// Runs `lsbook` in process, with files in memory. With CliByProgram.cpp in place of CliFixture.cpp it runs
 /// the built program with real files.
 class CliFixture : public testing::Test
 {
 protected:
-    /// The exit status; `out` and `err` then hold what it wrote.
+    /// Runs lsbook and returns the exit status; `out` and `err` get its output.
     int Run(const std::vector<std::string>& arguments);
 
-    /// Runs a command that must end with `status` and say nothing on standard error; gives its output.
+    /// Runs a command that must end with `status` and write nothing to standard error; returns its output.
     std::string Out(const std::vector<std::string>& arguments, int status = 0)
     {
         EXPECT_EQ(Run(arguments), status);
@@ -27,7 +27,7 @@ protected:
         return out;
     }
 
-    /// The same with its output as JSON.
+    /// Like `Out`, with the output parsed as JSON.
     Json OutJson(std::vector<std::string> arguments, int status = 0)
     {
         arguments.emplace_back("--json");
@@ -36,7 +36,7 @@ protected:
 
     MemoryFileSystem files;
     RecordingProcesses processes;
-    std::string in; ///< what standard input holds
+    std::string in; ///< the content of standard input
     bool inIsTerminal = false;
     bool outIsTerminal = false;
     bool errIsTerminal = false;

@@ -56,7 +56,7 @@ TEST_F(Export, jsonWithAFile_givesBoth)
     EXPECT_EQ(Run({"export", "a.IDA", "Café", "-o", "x.htm", "--json"}), 0);
     EXPECT_TRUE(test::Json::Parse(out)["html"].String().starts_with("<HTML>\r\n"));
     EXPECT_EQ(files["/work/x.htm"], Cafe);
-    EXPECT_EQ(err, Complete) << "said once";
+    EXPECT_EQ(err, Complete) << "reported once";
 }
 
 TEST_F(Export, existingFile_isRefusedAndKept)

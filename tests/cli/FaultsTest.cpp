@@ -1,4 +1,4 @@
-// Every command meets every kind of file that is no good book.
+// Every command on every kind of file that is no good book.
 
 #include "CliFixture.h"
 
@@ -13,7 +13,7 @@ const std::string Declined = "question: The file you opened is not a Lodestar Bo
                              "want to view it as a single topic text file?\n";
 const std::string NoBook = Declined + "lsbook: --plain takes it as plain text.\n";
 
-// Each command as it is asked for the file "/work/x".
+// Each command, run on the file "/work/x".
 const std::vector<Strings> Commands = {
     {"info", "x"},      {"topics", "x"},    {"xrefs", "x"},       {"xrefs", "x", "A"},
     {"show", "x", "A"}, {"text", "x", "A"}, {"export", "x", "A"}, {"pages", "x", "A"},
@@ -22,12 +22,12 @@ const std::vector<Strings> Commands = {
 class Faults : public test::CliFixture
 {
 protected:
-    // All commands, for people and as JSON, come to that status and those messages; JSON can be parsed.
+    // All commands, for people and as JSON, give that status and message; the JSON parses.
     void ExpectAll(int status, const std::string& message)
     {
         for (Strings command : Commands) {
             SCOPED_TRACE(testing::PrintToString(command));
-            // A plain text file has no topic to export, so there --plain is not offered.
+            // A plain text file has no topic to export, so the message of export does not offer --plain.
             const bool noHint = message == NoBook && command.front() == "export";
             const std::string& expected = noHint ? Declined : message;
             EXPECT_EQ(Run(command), status);
@@ -171,14 +171,14 @@ TEST_F(Faults, bookOfNulBytesAndAHugeLine_isRead)
     EXPECT_EQ(OutJson({"info", "x"})["topic_count"].Int(), 1);
 }
 
-// A book with some bytes changed, put in and taken out, the same for the same seed.
+// A book with some bytes changed, inserted and removed; the same for the same seed.
 std::string Damaged(std::uint32_t seed)
 {
     std::string book = test::SmallBook();
     std::minstd_rand random(seed);
     const std::string bytes("<>[]/&;=\"\r\n \t\\\0\x81\xFF", 17);
     for (int i = 0; i < 12; ++i) {
-        // The first 18 bytes are kept, so that most of these still count as books.
+        // The first 18 bytes stay, so that most of the files still count as books.
         const std::size_t at = 18 + random() % (book.size() - 18);
         const std::size_t kind = random() % 4;
         if (kind == 0) {
@@ -212,11 +212,11 @@ TEST_F(Faults, damagedBooks_endInGoodOrderWithJsonThatParses)
             const int status = Run(withJson);
             EXPECT_TRUE(status == 0 || (status == 1 && !err.empty())) << status << err;
             EXPECT_EQ(test::Json::Parse(out).GetKind(), test::Json::Kind::Object);
-            EXPECT_EQ(Run(command), status) << "the form of the output changes no verdict";
+            EXPECT_EQ(Run(command), status) << "JSON has the same exit status";
             opened += status == 0 ? 1 : 0;
         }
     }
-    EXPECT_GT(opened, 1000) << "most of them must get past the header to mean anything";
+    EXPECT_GT(opened, 1000) << "most books must open, or the test proves little";
 }
 
 TEST_F(Faults, pathThatIsNoUtf8_isShownSafely)

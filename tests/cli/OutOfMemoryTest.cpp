@@ -1,4 +1,4 @@
-// Memory that runs out ends a command with a message.
+// When memory runs out, a command ends with a message.
 
 #include "CliFixture.h"
 
@@ -14,7 +14,7 @@ class OutOfMemory : public test::CliFixture
 protected:
     void SetUp() override { files["/work/a.IDA"] = test::SmallBook(); }
 
-    // From its nth read on the file's lines do not fit.
+    // From read number `nth` on, the file's lines do not fit into memory.
     void FailFromRead(int nth)
     {
         files.fail = [this, nth](const std::string& operation) {

@@ -98,7 +98,7 @@ TEST_F(Pages, options_setThePage)
     EXPECT_EQ(SetupOf({"--line-height", "300"}), "10368 14112 72 47 6 3");
     EXPECT_EQ(SetupOf({"--page", "11906", "16838"}), "10034 15110 69 55 6 3");
     EXPECT_EQ(SetupOf({"--page", "11906", "16838", "--landscape"}), "10466 14966 72 55 5 3")
-        << "a size that is given counts as it stands";
+        << "a given size is not turned";
     EXPECT_EQ(SetupOf({"--printable", "10800", "12960"}), "10368 12960 72 47 2 0");
 }
 

@@ -1,4 +1,5 @@
-// The built program on a system that refuses: full devices, limits of the user, rights, folders for files.
+// The built program on a system that refuses: full devices, limits of the user, missing rights, folders in
+// place of files.
 
 #include "platform/ChildProcess.h"
 #include "support/ScratchFolder.h"
@@ -34,7 +35,8 @@ protected:
         scratch.MakeFolder("folder");
     }
 
-    // Runs lsbook with arguments written for a shell, behind what sets the shell up; gives its status.
+    // Runs lsbook with arguments written for a shell, after the shell commands of `setUp`; returns its
+    // status.
     int Run(const std::string& setUp, const std::string& arguments)
     {
         const std::string command =
@@ -51,7 +53,7 @@ struct Row
     const char* name;
     const char* setUp;
     const char* arguments;
-    const char* told; ///< on standard error
+    const char* told; ///< expected on standard error
 };
 
 class Refusals : public ProgramFaults, public testing::WithParamInterface<Row>
@@ -72,7 +74,7 @@ TEST_P(Refusals, command_isToldWithStatusThreeAndLeavesTheOldFile)
 constexpr const char* NoOutput = "lsbook: standard output cannot be written";
 constexpr const char* Full = "warning: Failed to write due to error #61: Disk full";
 
-// One descriptor beside the standard streams: 3 is closed first, as a caller may have left it open.
+// One descriptor besides the standard streams. 3 is closed first, because a caller may have left it open.
 constexpr const char* FourDescriptors = "exec 3>&-; prlimit --nofile=4";
 
 const Row Rows[] = {
@@ -123,7 +125,7 @@ TEST_F(ProgramFaults, inputThatIsNoTerminal_isNotRead)
     EXPECT_TRUE(scratch.Read("stdout").ends_with("No answer is left for this question.\n"));
 }
 
-// Runs lsbook in the background of a terminal, from which it may not read then: error EIO.
+// Runs lsbook in the background of a terminal, where reading from the terminal fails with EIO.
 int RunBehindTerminal(const std::string& folder)
 {
     int terminal = -1;
@@ -132,7 +134,7 @@ int RunBehindTerminal(const std::string& folder)
         const pid_t job = ::fork();
         if (job == 0) {
             ::setpgid(0, 0);
-            std::signal(SIGTTIN, SIG_IGN); // else it were stopped
+            std::signal(SIGTTIN, SIG_IGN); // else the signal would stop it
             ::execl("/bin/sh", "sh", "-c", "cd \"$1\" && exec \"$0\" advise a.IDA A >stdout 2>stderr",
                     LS_LSBOOK, folder.c_str(), nullptr);
             ::_exit(127);
@@ -154,7 +156,7 @@ TEST_F(ProgramFaults, terminalThatCannotBeRead_endsTheDialogueAndIsTold)
     EXPECT_TRUE(scratch.Read("stdout").ends_with("Your Answer: \nNo answer is left for this question.\n"));
 }
 
-// Root is refused nothing, so these are asked by somebody else.
+// Root has all rights, so an ordinary user runs these.
 TEST_F(ProgramFaults, rightsThatLack_areToldWithStatusThree)
 {
     ASSERT_EQ(::chmod(scratch.Path().c_str(), 0755), 0);

@@ -10,12 +10,12 @@
 
 namespace ls::test {
 
-/// The built lsbook, as a shell runs it inside a scratch folder.
+/// The built lsbook, run by a shell in a scratch folder.
 class ProgramFixture : public testing::Test
 {
 protected:
-    /// The exit status for arguments written for a shell; `out` and `err` then hold what it wrote. `before`
-    /// is what the shell does first, such as "ulimit -v 100000; ".
+    /// Runs lsbook with arguments written for a shell and returns the exit status; `out` and `err` get its
+    /// output. `before` runs first in the shell, such as "ulimit -v 100000; ".
     int Run(const std::string& arguments, const std::string& before = {})
     {
         const std::string command = before + "cd '" + scratch.Path() + "' && '" LS_LSBOOK "' " + arguments +

@@ -18,14 +18,13 @@ constexpr int Limit = 32767;
 constexpr const char* Header = "LODESTAR BOOK V5.3\r\n";
 constexpr const char* Overflow = "critical: Overflow\n";
 
-// What takes far more than that ends here instead of filling the machine's memory.
+// A program that takes far more memory fails here and does not fill the machine's memory.
 constexpr const char* OneGibibyte = "ulimit -v 1048576; ";
 
 class ProgramLimits : public test::ProgramFixture
 {
 protected:
-    // A book of a header and `count` times what `piece` gives for 1, 2, ..., with something before and
-    // behind.
+    // Writes a book: the header, `before`, the pieces 1 to `count` from `piece`, `behind`.
     void WriteMany(int count, const std::string& before, const std::function<std::string(int)>& piece,
                    const std::string& behind = {})
     {
@@ -36,8 +35,8 @@ protected:
         scratch.Write("a.IDA", bytes + behind);
     }
 
-    // A book whose bytes between `before` and `behind`, which begins at `size`, are zero and take no room on
-    // the disk.
+    // Writes a book: `before`, a hole of zeros, and `behind`, which begins at byte `size`. The hole takes no
+    // room on the disk.
     void WriteWithHole(const std::string& before, std::uintmax_t size, const std::string& behind)
     {
         const std::string path = scratch.Write("a.IDA", Header + before);
@@ -45,10 +44,10 @@ protected:
         std::ofstream(path, std::ios::binary | std::ios::app) << behind;
     }
 
-    // The number of lines that the last command wrote.
+    // The number of lines in the last command's output.
     [[nodiscard]] std::ptrdiff_t Lines() const { return std::count(out.begin(), out.end(), '\n'); }
 
-    // The last line that the last command wrote.
+    // The last line of the last command's output.
     [[nodiscard]] std::string LastLine() const
     {
         return out.empty() ? out : out.substr(out.rfind('\n', out.size() - 2) + 1);
@@ -86,7 +85,7 @@ TEST_F(ProgramLimits, oneTopicMore_isRefusedByEveryCommand)
         EXPECT_EQ(out, "");
         EXPECT_EQ(err, Overflow);
     }
-    EXPECT_FALSE(scratch.Has("b.IDA")) << "a cut table would be saved short";
+    EXPECT_FALSE(scratch.Has("b.IDA")) << "saving a cut table would lose topics";
 }
 
 std::string Reference(int number)
@@ -211,7 +210,7 @@ TEST_F(ProgramLimits, lineOfOneGibibyte_isShownUntilTheLinesEnd)
 
 TEST_F(ProgramLimits, lineOfOneGibibyte_isInMemoryOnceAndSavedWithoutBeingThere)
 {
-    // Besides the line: the program, its libraries and a little work.
+    // Room for the line, the program, its libraries and a little work.
     constexpr const char* OnceAndABit = "ulimit -v 1179648; ";
     constexpr const char* NotOnce = "ulimit -v 131072; ";
     WriteWithHole("[A]\r\nbefore\r\n", std::uintmax_t{1} << 30, "\r\nafter\r\n[B]\r\nb\r\n");
@@ -223,10 +222,10 @@ TEST_F(ProgramLimits, lineOfOneGibibyte_isInMemoryOnceAndSavedWithoutBeingThere)
     EXPECT_EQ(out, "");
 }
 
-// A "<" that nothing ends keeps the line from breaking: all of it is one row, which has to be in memory.
+// Without a closing ">" the line cannot break: all of it is one row, which must fit into memory.
 TEST_F(ProgramLimits, lineThatDoesNotBreak_isShownWhereItFitsIntoMemoryTwice)
 {
-    // The line while it is read, the row that it becomes, and the program and some room to grow.
+    // Room for the line, the row made from it, the program and some growth.
     constexpr const char* OnceAndABit = "ulimit -v 98304; ";
     constexpr const char* TwiceAndABit = "ulimit -v 180224; ";
     const std::string start = "a < b ";

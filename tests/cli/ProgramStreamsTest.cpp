@@ -1,4 +1,4 @@
-// The built program on streams that this system has: a terminal, and a device that is always full.
+// The built program on streams of this system: a terminal, and a device that is always full.
 
 #include "support/ScratchFolder.h"
 #include "support/TestSeams.h"
@@ -29,7 +29,7 @@ TEST_F(ProgramStreams, fullOutput_endsWithThree)
     EXPECT_EQ(scratch.Read("stderr"), "lsbook: standard output cannot be written\n");
 }
 
-// Runs `lsbook show a.IDA A` in a folder, on a terminal that is 20 characters wide; gives what stands there.
+// Runs `lsbook show a.IDA A` in a folder, on a terminal 20 characters wide; returns the terminal's content.
 std::string ShowOnTerminal(const std::string& folder)
 {
     winsize size{};

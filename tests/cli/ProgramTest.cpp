@@ -1,4 +1,4 @@
-// The built program in a process of its own: exact streams and exit status.
+// The built program in its own process: exact output and exit status.
 
 #include "platform/SystemSeams.h"
 #include "support/RunProgram.h"
@@ -83,7 +83,7 @@ TEST_F(Program, bookWithANameBeyondTheCodePage_isWrittenReadAndNamed)
     EXPECT_EQ(Run({"save", "a.IDA", name}), 0);
     EXPECT_EQ(Run({"topics", name}), 0);
     EXPECT_EQ(out, "1. A\n");
-    EXPECT_EQ(Run({"save", "a.IDA", name}), 1) << "nothing is written over";
+    EXPECT_EQ(Run({"save", "a.IDA", name}), 1) << "no file is overwritten";
     EXPECT_EQ(Run({"info", "\xCE\xB3" + name}), 3);
     EXPECT_EQ(err, "critical: Error opening <<\xCE\xB3" + name + ">> with code 53: File not found\n");
 }

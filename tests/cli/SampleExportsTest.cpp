@@ -1,5 +1,5 @@
-// The sample books as exported, byte for byte, against the pages that tests/data/exports/model.py wrote; it
-// writes them anew when a sample has changed.
+// Compares the export of the sample books, byte for byte, with the pages of tests/data/exports/model.py. When
+// a sample changes, that script rewrites them.
 
 #include "CliFixture.h"
 

@@ -1,5 +1,5 @@
-// The sample books as printed, run by run, against the pages that tests/data/pages/model.py wrote; it writes
-// them anew when a sample has changed.
+// Compares the printed sample books, run by run, with the pages of tests/data/pages/model.py. When a sample
+// changes, that script rewrites them.
 
 #include "CliFixture.h"
 
@@ -25,7 +25,7 @@ const Paper A4Sideways{"a4-elite-landscape",
                        {"--page", "16840", "11900", "--printable", "16120", "10460", "--line-height", "227",
                         "--cpi", "12", "--landscape"}};
 
-// A run as a golden line: "b-u #7f0000 |A heading|", with "+" at its end where its row goes on.
+// A run as a golden line: "b-u #7f0000 |A heading|", with "+" at the end if its row continues.
 std::string RunLine(const Json& run)
 {
     const std::vector<Json>& parts = run["colour"].Items();

@@ -61,7 +61,7 @@ TEST_F(Save, forcedNameThatCannotBeReplaced_saysSoAndKeepsTheOldFile)
     EXPECT_EQ(files["/work/b.IDA"], "old");
     EXPECT_FALSE(files.Has("/work/b.IDA.new"));
     files.fail = nullptr;
-    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 0) << "the next one goes well";
+    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 0) << "the next save succeeds";
     EXPECT_EQ(files["/work/b.IDA"], Book);
 }
 

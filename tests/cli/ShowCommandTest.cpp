@@ -144,7 +144,7 @@ TEST_F(Show, firstAndRows_chooseTheDrawnLines)
     const test::Json runs = OutJson({"show", "b.IDA", "A", "--runs", "--first", "2", "--rows", "1"});
     ASSERT_EQ(runs["runs"].Items().size(), 1U);
     EXPECT_EQ(runs["runs"].Items().front()["text"].String(), "two");
-    EXPECT_FALSE(runs["runs"].Items().front()["bold"].Bool()) << "opened above the first line";
+    EXPECT_FALSE(runs["runs"].Items().front()["bold"].Bool()) << "<B> is above the first line";
 }
 
 TEST_F(Show, firstInJsonWithoutRuns_isWrongUsage)

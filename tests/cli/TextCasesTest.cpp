@@ -1,4 +1,4 @@
-// Books worked out by hand: what lsbook tells of each in JSON.
+// Books worked out by hand: what lsbook writes about each as JSON.
 
 #include "CliFixture.h"
 
@@ -60,7 +60,7 @@ TEST_P(TextCase, save_asExpected)
     EXPECT_EQ(files["/work/out.IDA"], test::ReadWholeFile(expected));
     EXPECT_EQ(saved["size"].Int(), static_cast<int>(files["/work/out.IDA"].size()));
     EXPECT_EQ(Run({"save", "out.IDA", "again.IDA"}), 0);
-    EXPECT_EQ(files["/work/again.IDA"], files["/work/out.IDA"]) << "a saved book is saved byte for byte";
+    EXPECT_EQ(files["/work/again.IDA"], files["/work/out.IDA"]) << "saving a saved book changes no byte";
 }
 
 TEST_P(TextCase, topics_asExpected)
@@ -91,7 +91,7 @@ TEST_P(TextCase, xrefs_asExpected)
 
 TEST_P(TextCase, show_asExpected)
 {
-    // A bad header is told at every opening; showing a topic adds nothing to that.
+    // A bad header is reported at every opening; showing a topic adds no message.
     const std::size_t messagesOfOpening = Of({"info"})["messages"].Items().size();
     for (const Json& expected : m_expected["show"].Items()) {
         const std::string number = std::to_string(expected["number"].Int());

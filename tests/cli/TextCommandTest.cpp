@@ -53,7 +53,7 @@ TEST_F(Text, plainTextFile_isWhole)
     EXPECT_EQ(out, "[A]\n<IXML>\n");
 }
 
-// It is written piece by piece: whatever stands where two of them meet, nothing is lost or torn.
+// The text is written in pieces; nothing is lost or split where two of them meet.
 TEST_F(Text, longText_isWhole)
 {
     constexpr std::size_t Piece = 256 * 1024;

@@ -9,7 +9,7 @@
 
 namespace ls::test {
 
-/// Runs `work` in a process of its own and gives what it gives (0 to 255); -1 when a signal ended it.
+/// Runs `work` in a process of its own and returns its result (0 to 255); -1 when a signal ended it.
 inline int RunInChild(const std::function<int()>& work)
 {
     const pid_t child = ::fork();
@@ -21,7 +21,7 @@ inline int RunInChild(const std::function<int()>& work)
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// Gives up the rights of root, who is refused nothing; for use in a child only. False when it failed.
+/// Gives up root's rights, because root is refused nothing. Only for a child process. False when it failed.
 inline bool BecomeOrdinaryUser()
 {
     constexpr unsigned Nobody = 65534;

@@ -8,7 +8,7 @@ namespace {
 struct CommandRow
 {
     const char* name;
-    const char* exec; // as it stands in the file
+    const char* exec; // as written in the file
     const char* command;
 };
 

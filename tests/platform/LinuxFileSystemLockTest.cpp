@@ -25,7 +25,7 @@ struct LinuxFileSystemLockTest : testing::TestWithParam<Row>
     LinuxFileSystem files;
     std::unique_ptr<BookFile> file;
 
-    // What another process, which inherits nothing that matters, gets for opening the file.
+    // The error number of opening the file in another process.
     int OpenElsewhere(Sharing sharing)
     {
         return RunInChild([this, sharing] {

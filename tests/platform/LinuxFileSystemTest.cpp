@@ -35,7 +35,7 @@ struct LinuxFileSystemTest : testing::Test
         return buffer.substr(0, got);
     }
 
-    // "name", "name/" for a folder, "(name)" for a hidden one; sorted.
+    // Sorted names: "name", "name/" for a folder, "(name)" for a hidden one.
     std::vector<std::string> Names(const std::string& path)
     {
         std::vector<FolderEntry> entries;
@@ -79,7 +79,7 @@ TEST_F(LinuxFileSystemTest, readAt_endOfFile_givesFewerBytes)
     EXPECT_EQ(ReadAt(1'000'000'000'000, 10), "");
 }
 
-// The kernel gives this file a page at a time, however much is asked for.
+// The kernel gives this file one page at a time, whatever size is asked for.
 TEST_F(LinuxFileSystemTest, readAt_shortReads_goesOnToTheEnd)
 {
     ASSERT_EQ(Open("/proc/self/smaps"), FileError{});
@@ -100,7 +100,7 @@ TEST_F(LinuxFileSystemTest, readAt_beyondTwoGigabytes_readsThere)
 {
     const std::string path = folder.Write("a", "");
     constexpr FilePos Far = 3'000'000'000;
-    std::filesystem::resize_file(path, Far - 1); // a hole: takes no room on the disk
+    std::filesystem::resize_file(path, Far - 1); // a hole, which takes no room on the disk
     std::FILE* end = std::fopen(path.c_str(), "a");
     std::fputs("far", end);
     std::fclose(end);
@@ -176,7 +176,7 @@ TEST_F(LinuxFileSystemTest, open_impossibleName_is52)
     EXPECT_EQ(Open(std::string(5000, '/') + "a"), badName);
 }
 
-// Root is refused nothing, so an ordinary user asks, in a process of his own.
+// Root is refused nothing, so a child process without root's rights opens it.
 TEST_F(LinuxFileSystemTest, open_noRights_is70)
 {
     const std::string path = folder.Write("closed/a", "");
@@ -236,7 +236,7 @@ TEST_F(LinuxFileSystemTest, list_folder_tellsFoldersAndHiddenNames)
     folder.Write(".hidden", "");
     folder.MakeFolder("books");
     folder.MakeFolder(".config");
-    folder.Write("na\xefve.IDA", ""); // the system's own bytes, whatever they are
+    folder.Write("na\xefve.IDA", ""); // any bytes, not only UTF-8
     std::filesystem::create_symlink("books", folder / "to folder");
     std::filesystem::create_symlink("Guide.IDA", folder / "to file");
     std::filesystem::create_symlink("none", folder / "to nothing");
@@ -270,7 +270,7 @@ TEST_F(LinuxFileSystemTest, list_noRights_is70)
                   return test::BecomeOrdinaryUser() ? files.List(folder / "closed", entries).number : 255;
               }),
               70);
-    ASSERT_EQ(::chmod((folder / "closed").c_str(), 0755), 0); // so that it can be taken away
+    ASSERT_EQ(::chmod((folder / "closed").c_str(), 0755), 0); // so that the folder can be removed
 }
 
 TEST_F(LinuxFileSystemTest, currentFolder_changed_isTheFullPath)

@@ -100,7 +100,7 @@ TEST_F(LinuxFileSystemWriteTest, write_fullDevice_failsAndFinishTellsItAgain)
     EXPECT_EQ(full.Finish(), DiskFull);
 }
 
-// Only a part of the last write fits: what is written is cut, and told as a failure.
+// Only a part of the last write fits: the file is cut, and the write fails.
 TEST_F(LinuxFileSystemWriteTest, write_beyondTheUsersLimit_isDiskFullAndNotTheEnd)
 {
     EXPECT_EQ(RunInChild([this] {
@@ -148,7 +148,7 @@ bool Sleeps(pid_t thread)
     return name != std::string::npos && stat[name + 2] == 'S';
 }
 
-// Reads a full pipe empty, but first lets the writer wait and interrupts it three times.
+// Lets the writer wait at a full pipe, interrupts it three times, then reads the pipe empty.
 std::size_t InterruptAndRead(int pipe, pthread_t writer, pid_t writerId, std::size_t size)
 {
     for (int i = 0; i < 3; ++i) {
@@ -169,7 +169,7 @@ std::size_t InterruptAndRead(int pipe, pthread_t writer, pid_t writerId, std::si
     return received;
 }
 
-// A full pipe takes nothing until it is read, and a signal without SA_RESTART interrupts who waits for it.
+// A writer waits at a full pipe until it is read. A signal without SA_RESTART interrupts the wait.
 TEST_F(LinuxFileSystemWriteTest, write_interruptedAndShortWrites_writesAll)
 {
     int ends[2];
@@ -189,7 +189,7 @@ TEST_F(LinuxFileSystemWriteTest, write_interruptedAndShortWrites_writesAll)
     });
     LinuxOutputFile pipe{FileDescriptor(ends[1])};
     EXPECT_EQ(pipe.Write(bytes), FileError{});
-    EXPECT_EQ(pipe.Finish(), FileError{}); // a pipe cannot be flushed, and that is no failure
+    EXPECT_EQ(pipe.Finish(), FileError{}); // a pipe cannot be flushed, which is no failure
     reader.join();
     EXPECT_EQ(received, size);
     ::close(ends[0]);
@@ -219,7 +219,7 @@ TEST_F(LinuxFileSystemWriteTest, renameToNew_missing_tellsWhat)
     EXPECT_EQ(folder.Read("b"), "mine");
 }
 
-// Several writers of one name at one moment: exactly one gets it, the others keep their file.
+// Several writers want one name at the same moment. Exactly one gets it; the others keep their files.
 TEST_F(LinuxFileSystemWriteTest, renameToNew_race_hasOneWinner)
 {
     constexpr int Writers = 4;

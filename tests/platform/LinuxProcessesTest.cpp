@@ -24,7 +24,7 @@ struct LinuxProcessesTest : testing::Test
     test::ScratchFolder folder;
     LinuxProcesses processes;
 
-    // A script that runs `body`, whose output becomes the file "out" in one step.
+    // A script that runs `body`; its output becomes the file "out" in one step.
     std::string Script(const std::string& name, const std::string& body)
     {
         return folder.WriteProgram(name, "#!/bin/sh\n{\n" + body + "\n} > '" + (folder / "out.part") +
@@ -32,7 +32,7 @@ struct LinuxProcessesTest : testing::Test
                                              "'\n");
     }
 
-    // What the script put out, once it has come to its end.
+    // The output of the script, after it has ended.
     std::string Output()
     {
         for (int i = 0; i < 3000 && !folder.Has("out"); ++i) {
@@ -95,7 +95,7 @@ TEST_F(LinuxProcessesTest, start_anyProgram_isNobodysChild)
 
 TEST_F(LinuxProcessesTest, start_program_hasASessionOfItsOwn)
 {
-    // The sixth field of the stat line is the session; the name in it holds no blank here.
+    // The sixth field of the stat line is the session; the program's name in that line has no blank here.
     const std::string script = Script("web", "cut -d' ' -f6 /proc/$$/stat");
     const Processes::Started started = processes.Start(script);
     EXPECT_EQ(started.error, FileError{});
@@ -112,7 +112,7 @@ TEST_F(LinuxProcessesTest, start_program_taskIdIsItsProcess)
 
 TEST_F(LinuxProcessesTest, start_openDescriptors_areClosedForTheProgram)
 {
-    // Two that would be inherited, one of them far up.
+    // Two descriptors that a child would inherit, one with a high number.
     const int low = ::open("/dev/zero", O_RDONLY);
     const int high = ::fcntl(low, F_DUPFD, 400);
     ASSERT_GE(high, 400);
@@ -141,7 +141,7 @@ TEST_F(LinuxProcessesTest, start_standardInputClosed_stillHasTheNullDevice)
 TEST_F(LinuxProcessesTest, start_allStandardDescriptorsClosed_programHasThem)
 {
     const std::string part = folder / "out.part";
-    // The shell's own descriptors are looked at from another process, while none is redirected.
+    // Another process looks at the shell's own descriptors while none is redirected.
     const std::string script = folder.WriteProgram(
         "web", "#!/bin/sh\nlinks=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\necho \"$links\" > '" +
                    part + "'\nmv '" + part + "' '" + (folder / "out") + "'\n");
@@ -163,7 +163,7 @@ TEST_F(LinuxProcessesTest, start_ignoredAndBlockedSignals_areDefaultForTheProgra
     ::sigemptyset(&blocked);
     ::sigaddset(&blocked, SIGUSR1);
     ::pthread_sigmask(SIG_BLOCK, &blocked, &oldMask);
-    // Not by a script: a shell may clear the mask for what it runs. The copy is written in one piece.
+    // Not by a script, because a shell may clear the mask for its commands. cp writes the copy in one piece.
     EXPECT_EQ(processes.Start("cp /proc/self/status " + (folder / "out")).error, FileError{});
     ::pthread_sigmask(SIG_SETMASK, &oldMask, nullptr);
     std::signal(SIGTERM, before);
@@ -176,9 +176,9 @@ TEST_F(LinuxProcessesTest, start_ignoredAndBlockedSignals_areDefaultForTheProgra
 
 TEST_F(LinuxProcessesTest, start_longRunningProgram_isNotWaitedFor)
 {
-    // The program goes on only after the file that is made behind the start.
+    // The started program waits for a file that the test creates after the start.
     const std::string script =
-        // A test that was cut short takes its folder away, and the script ends with it.
+        // If the test is cut short, its folder disappears and the script ends.
         Script("web", "until [ -e '" + (folder / "go") + "' ] || [ ! -e '" + (folder / "web") +
                           "' ]; do sleep 0.05; done; echo done");
     EXPECT_EQ(processes.Start(script).error, FileError{});
@@ -190,7 +190,7 @@ TEST_F(LinuxProcessesTest, start_longRunningProgram_isNotWaitedFor)
 struct StartFailure
 {
     const char* name;
-    const char* commandLine; // "@" stands for the scratch folder
+    const char* commandLine; // "@" is replaced by the scratch folder
     FileError expected;
 };
 

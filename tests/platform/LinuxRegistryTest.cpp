@@ -25,7 +25,7 @@ struct LinuxRegistryTest : testing::Test, test::ScratchDesktop
                                              "application/pdf=viewer.desktop\n");
     }
 
-    // A key's text as the program reads it; "" for no key.
+    // A key's text as the program reads it; "" without a key.
     std::string Text(const std::string& path)
     {
         const auto key = registry.Open(Registry::Root::CurrentUser, path);

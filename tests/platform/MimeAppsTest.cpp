@@ -22,8 +22,8 @@ struct MimeAppsTest : testing::Test, test::ScratchDesktop
     }
 };
 
-// Every place that can name an application, the strongest first. Each one is written, and the test takes
-// them away one after the other.
+// Every place that can name an application, strongest first. The test writes all of them and removes them one
+// by one.
 struct Place
 {
     const char* file;

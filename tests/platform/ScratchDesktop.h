@@ -7,7 +7,7 @@
 
 namespace ls::test {
 
-/// A desktop of real files: the folders "config" and "data" of a user, "etc" and "share" of the system, and
+/// A desktop of real files: the user's folders "config" and "data", the system's "etc" and "share", and
 /// programs in "bin".
 struct ScratchDesktop
 {
@@ -35,7 +35,7 @@ struct ScratchDesktop
         folder.Write(file, "[Desktop Entry]\nType=Application\n" + lines);
     }
 
-    /// A list with one group and one line for web pages.
+    /// Writes a list with one group and one line for web pages.
     void WriteList(const std::string& file, const std::string& group, const std::string& ids)
     {
         folder.Write(file, "[" + group + "]\ntext/html=" + ids + "\n");

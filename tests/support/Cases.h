@@ -7,8 +7,8 @@
 
 namespace ls::test {
 
-/// The names of the cases in a folder of the tests' data ("cases/text"), sorted. A case is a book that was
-/// worked out by hand, "NAME.IDA", with what is to come of it beside it, "NAME.json".
+/// The sorted names of the cases in a folder of the tests' data ("cases/text"). A case is a book worked out
+/// by hand, "NAME.IDA", with its expected results in "NAME.json".
 [[nodiscard]] std::vector<std::string> CaseNames(const std::string& folder);
 
 /// The path of a case's file without its type.

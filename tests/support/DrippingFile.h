@@ -9,12 +9,12 @@
 
 namespace ls::test {
 
-/// A file in memory that gives few bytes at a time, so that whoever reads it meets the end of what is known
-/// again and again.
+/// A file in memory that gives few bytes at a time, so that its reader meets the end of a block again and
+/// again.
 class DrippingFile : public NoFile
 {
 public:
-    /// Each read gives `drop` bytes at most.
+    /// Each read gives at most `drop` bytes.
     DrippingFile(std::string bytes, std::size_t drop) : m_bytes(std::move(bytes)), m_drop(drop) {}
 
     FileError ReadAt(FilePos pos, char* buffer, std::size_t size, std::size_t& got) override
@@ -29,8 +29,8 @@ public:
         return {};
     }
 
-    std::size_t failsAt = std::string::npos; ///< from there on nothing is given but an error
-    bool uneven = false; ///< reads differ: each gives 1 to `drop` bytes, the same in every run
+    std::size_t failsAt = std::string::npos; ///< reads from this index on fail
+    bool uneven = false;                     ///< each read gives 1 to `drop` bytes, the same in every run
 
 private:
     std::string m_bytes;

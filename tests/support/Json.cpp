@@ -11,7 +11,7 @@
 
 namespace ls::test {
 
-/// Walks a JSON text once; a fault is thrown as its description.
+/// Parses a JSON text in one pass; throws an error as its description.
 class JsonReader
 {
 public:

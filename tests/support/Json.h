@@ -7,9 +7,9 @@
 
 namespace ls::test {
 
-/// A value of a JSON text, as the data files of tests hold them.
+/// A value of a JSON text, for the tests' data files.
 ///
-/// A member or element that is asked for and not there fails the test and reads as null.
+/// Asking for a missing member or element fails the test and gives null.
 class Json
 {
 public:
@@ -23,7 +23,7 @@ public:
         Object
     };
 
-    /// Reads a whole text; a fault in it fails the test, names its place, and gives null.
+    /// Parses a whole text. An error fails the test, names its place, and gives null.
     static Json Parse(std::string_view text);
     static Json ParseFile(const std::string& path);
 
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] int Int() const { return static_cast<int>(m_number); }
     [[nodiscard]] const std::string& String() const { return m_string; } ///< UTF-8
 
-    /// The elements of an array; none of anything else.
+    /// The elements of an array; empty for other values.
     [[nodiscard]] const std::vector<Json>& Items() const { return m_items; }
     /// The elements of an array as texts.
     [[nodiscard]] std::vector<std::string> Strings() const;

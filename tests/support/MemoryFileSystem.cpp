@@ -57,7 +57,7 @@ public:
     FileError Write(std::string_view bytes) override
     {
         if (const int number = m_owner.Fault("write " + m_path); number != 0) {
-            // A disk that fills up takes a part of what was written.
+            // A full disk takes only a part of the text.
             m_bytes->append(bytes.substr(0, bytes.size() / 2));
             return MakeFileError(number);
         }

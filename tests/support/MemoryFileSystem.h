@@ -11,11 +11,11 @@
 
 namespace ls::test {
 
-/// Files that live in memory. Paths use "/"; a folder exists when it was added or when a file lies in it.
+/// A file system in memory. Paths use "/". A folder exists when it was added or contains a file.
 ///
-/// Faults are planted by `fail`, which is asked before every operation ("open /a", "read /a 1", "size /a",
-/// "write /a", "finish /a", "create /a", "rename /a /b", "remove /a", "list /a", "writable /a", "folder /a")
-/// and gives the error number to fail with, 0 for none.
+/// `fail` injects errors: it is called before every operation ("open /a", "read /a 1", "size /a", "write /a",
+/// "finish /a", "create /a", "rename /a /b", "remove /a", "list /a", "writable /a", "folder /a") and returns
+/// the error number to fail with, 0 for none.
 class MemoryFileSystem : public FileSystem
 {
 public:
@@ -32,17 +32,17 @@ public:
     FileError MakeFolder(const std::string& folder) override;
     std::string CurrentFolder() override { return currentFolder; }
 
-    /// The content of a file, which may be changed while it is open; it is made when it does not exist.
+    /// The content of a file; creates a missing file. It may change while the file is open.
     std::string& operator[](const std::string& path);
     [[nodiscard]] bool Has(const std::string& path) const { return m_files.count(path) != 0; }
     void AddFolder(const std::string& path) { m_folders.insert(path); }
 
     std::string currentFolder = "/work";
     std::function<int(const std::string& operation)> fail;
-    std::vector<std::string> log;    ///< every operation, reads with their position: "read /a 1"
+    std::vector<std::string> log;    ///< every operation; reads with their position: "read /a 1"
     std::vector<std::string> opened; ///< "path shared" or "path locked"
 
-    /// The error number planted for an operation; logs it.
+    /// The injected error number for an operation; logs the operation.
     int Fault(const std::string& operation);
 
 private:

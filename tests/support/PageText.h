@@ -9,8 +9,8 @@
 
 namespace ls::test {
 
-/// A run as a line: its styles, its colour, its text, and "|" where it ends its row, "+" where it does not:
-/// "b-u #7f0000 |A heading|".
+/// A run as a line: its styles, its colour and its text, then "|" if it ends its row, else "+": "b-u #7f0000
+/// |A heading|".
 inline std::string RunText(const Run& run)
 {
     char colour[8];
@@ -30,7 +30,7 @@ inline std::vector<std::string> RunTexts(const PageRecorder::Page& page)
     return texts;
 }
 
-/// A page's rows as they are read, without styles and without blanks at their ends.
+/// A page's rows as plain text, without blanks at their ends.
 inline std::vector<std::string> RowTexts(const PageRecorder::Page& page)
 {
     std::vector<std::string> rows;

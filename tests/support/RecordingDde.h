@@ -6,7 +6,7 @@
 
 namespace ls::test {
 
-/// Hands execute strings to whoever listens, as a carrier does.
+/// Passes execute strings from the test to the started handler.
 class RecordingDde : public DdeServer
 {
 public:
@@ -17,7 +17,7 @@ public:
     }
     void Stop() override { handler = nullptr; }
 
-    Handler handler; ///< empty while nobody listens
+    Handler handler; ///< empty until the server is started
 };
 
 } // namespace ls::test

@@ -8,11 +8,11 @@
 
 namespace ls::test {
 
-/// Shows nothing, records every box as one text, and answers from a script.
+/// Shows nothing, records every box as a text, and answers from a script.
 ///
-/// A box reads "critical|Lodestar Advisor|Overflow", one that asks adds its buttons:
-/// "question|...|text|OKCancel". A box that asks and finds no reply in the script fails the test, and so do
-/// replies left over when the test ends.
+/// A box is recorded as "critical|Lodestar Advisor|Overflow"; a question adds its text and buttons:
+/// "question|...|text|OKCancel". A question without a reply in the script fails the test; so does a reply
+/// that is left over at the end.
 class RecordingMessages : public Messages
 {
 public:
@@ -20,7 +20,7 @@ public:
     ~RecordingMessages() override;
 
     std::vector<std::string> boxes;
-    std::deque<Reply> replies;                     ///< for boxes that ask
+    std::deque<Reply> replies;                     ///< for questions
     std::deque<std::optional<std::string>> inputs; ///< for input boxes
 
     /// The boxes since the last call, in order.

@@ -11,8 +11,8 @@
 
 namespace ls::test {
 
-/// A printer that keeps its pages and what it was told, and fails where a test wants it to. It holds upright
-/// Letter paper, all of which can be printed on, and lines 272 twips high.
+/// A printer that records its pages and its calls, and fails where a test wants it. It holds portrait Letter
+/// paper, printable to the edges, and its lines are 272 twips high.
 class RecordingPrinter : public PageRecorder
 {
 public:
@@ -33,9 +33,9 @@ public:
     std::vector<std::string> names = {"Office"};
     std::string current = "Office";
     std::string fileTo;                       ///< the printer of this name asks for a file
-    PrinterState state;                       ///< of the current one
-    std::map<int, FileError> refuse;          ///< paper codes that are refused
-    std::map<int, std::pair<int, int>> sizes; ///< width and height of papers that lie ready
+    PrinterState state;                       ///< of the printer in use
+    std::map<int, FileError> refuse;          ///< paper codes that it refuses
+    std::map<int, std::pair<int, int>> sizes; ///< width and height of the available papers
     FileError failNewPage;
     FileError failEndDoc;
     FileError failColour;

@@ -9,16 +9,16 @@
 
 namespace ls::test {
 
-/// A registry of one value a key, in memory; it records which keys were opened and closed.
+/// A registry in memory with one value for each key. It records which keys are opened and closed.
 class RecordingRegistry : public Registry
 {
 public:
-    /// A key's value under the empty name. `text` is without its terminating NUL.
+    /// A key's default value. `text` has no terminating NUL.
     struct Value
     {
         std::string text;
         std::uint32_t type = RegSz;
-        bool readable = true; ///< false: the type is told, the text is not
+        bool readable = true; ///< false: the type can be read, the text cannot
     };
 
     std::unique_ptr<RegistryKey> Open(Root root, const std::string& path) override
@@ -42,7 +42,7 @@ public:
     }
 
     std::map<std::string, std::optional<Value>> keys; ///< a key without a value is an empty optional
-    std::vector<std::string> opened;                  ///< "HKCU\path" or "HKLM\path", also in vain
+    std::vector<std::string> opened;                  ///< "HKCU\path" or "HKLM\path", also of failed attempts
     int openKeys = 0;                                 ///< opened and not yet closed
 
 private:

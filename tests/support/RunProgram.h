@@ -5,16 +5,16 @@
 
 namespace ls::test {
 
-/// What a program that ran to its end left.
+/// The result of a program that has ended.
 struct ProgramRun
 {
-    int status = -1; ///< its exit status; -1 when it did not start, or did not come to its end by itself
+    int status = -1; ///< its exit status; -1 when it did not start or was ended from outside
     std::string out;
     std::string err;
 };
 
-/// Runs a program in a folder, with nothing on its standard input, and waits for it. The arguments, in UTF-8,
-/// reach it as they are; no shell has a say in it.
+/// Runs a program in a folder, with empty standard input, and waits for it. The arguments (UTF-8) reach it
+/// unchanged, without a shell.
 [[nodiscard]] ProgramRun RunProgram(const std::string& program, const std::vector<std::string>& arguments,
                                     const std::string& folder);
 

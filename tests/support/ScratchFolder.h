@@ -4,7 +4,7 @@
 
 namespace ls::test {
 
-/// A folder of real files for one test, gone with all that it holds when the test ends.
+/// A folder of real files for one test; the destructor deletes it with its content.
 class ScratchFolder
 {
 public:
@@ -13,16 +13,16 @@ public:
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
 
-    /// Full, links resolved, without a trailing separator.
+    /// The full path, links resolved, without a trailing separator.
     [[nodiscard]] const std::string& Path() const { return m_path; }
 
     /// The full path of a name in the folder.
     [[nodiscard]] std::string operator/(const std::string& name) const;
 
-    /// Writes a file, in place of an older one, and makes the folders above it. Gives its full path.
+    /// Writes or replaces a file, creates missing folders, and returns the full path.
     std::string Write(const std::string& name, const std::string& bytes) const;
 
-    /// As `Write`, and everybody may run it.
+    /// Like `Write`, and everybody may run the file.
     std::string WriteProgram(const std::string& name, const std::string& bytes) const;
 
     std::string MakeFolder(const std::string& name) const;

@@ -8,7 +8,7 @@
 
 namespace ls::test {
 
-/// A world of its own for one test: files in memory, recorded boxes and starts.
+/// The outside world of one test: files in memory, recorded boxes and recorded starts.
 struct TestSeams
 {
     ProgramEnd end;
@@ -17,11 +17,11 @@ struct TestSeams
     RecordingProcesses processes;
     PathRules paths = UnixPaths;
 
-    /// The seams as the core takes them; made anew, so that `paths` may be changed before.
+    /// The seams for the core. Built at each call, so that a test can change `paths` first.
     [[nodiscard]] Seams Get() { return {files, messages, processes, end, paths}; }
 };
 
-/// The lines joined by CR LF, each with its line end: a book from readable text.
+/// The lines joined, each with CR LF: makes a book from readable text.
 inline std::string CrLf(std::initializer_list<const char*> lines)
 {
     std::string text;

@@ -11,7 +11,7 @@ namespace {
 constexpr const char* LibraryName = "libcups.so.2";
 constexpr int FirstErrorStatus = 0x0400;
 
-// A destination as the library lays it out; the options are only handed back to it.
+// A destination in the library's layout. The options are only passed back to it.
 struct Destination
 {
     char* name;
@@ -27,7 +27,8 @@ using NamedDestCall = Destination* (*)(void* http, const char* name, const char*
 using GetOptionCall = const char* (*)(const char* name, int optionCount, void* options);
 using FreeDestsCall = void (*)(int count, Destination* destinations);
 
-// A function of the library; nullptr where there is none. The library stays loaded: the toolkit uses it too.
+// A function of the library; nullptr without the library. The library stays loaded, because the toolkit uses
+// it too.
 template <typename Call>
 Call Find(const char* name)
 {
@@ -64,7 +65,7 @@ std::optional<bool> CupsService::Landscape(const std::string& printer)
     if (namedDest == nullptr || getOption == nullptr || freeDests == nullptr) {
         return std::nullopt;
     }
-    // A printer with settings of its own stands behind the printer's name and a slash.
+    // "NAME/INSTANCE" is a printer with settings of its own.
     const std::size_t slash = printer.find('/');
     const std::string instance = slash == std::string::npos ? std::string() : printer.substr(slash + 1);
     Destination* const destination =
@@ -76,7 +77,7 @@ std::optional<bool> CupsService::Landscape(const std::string& printer)
         getOption("orientation-requested", destination->optionCount, destination->options);
     const std::string code = orientation == nullptr ? "" : orientation;
     freeDests(1, destination);
-    return code == "4" || code == "5"; // turned to the left, and to the right
+    return code == "4" || code == "5"; // landscape, turned left or right
 }
 
 } // namespace ls

@@ -4,8 +4,8 @@
 
 namespace ls {
 
-/// The printing service of Linux, asked by way of its library where that is installed. The toolkit hands jobs
-/// to the same library but keeps the answer to itself.
+/// The printing service of Linux, called through its library if that is installed. The toolkit hands jobs to
+/// the same library but does not pass on the results.
 class CupsService : public PrintService
 {
 public:

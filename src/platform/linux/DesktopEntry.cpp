@@ -13,14 +13,15 @@ namespace {
 
 constexpr std::string_view Group = "Desktop Entry";
 
-// Programs that start another one, named behind them: without their arguments they open nothing, or a prompt.
+// Programs that start another program, which is among their arguments. Without arguments they open nothing,
+// or a prompt.
 constexpr std::array<std::string_view, 27> Launchers = {
     "bash",   "bwrap",  "dash", "env",    "exo-open",       "firejail", "flatpak",
     "gio",    "ionice", "java", "ksh",    "gtk-launch",     "konsole",  "mono",
     "nice",   "nohup",  "perl", "pkexec", "gnome-terminal", "python",   "python3",
     "setsid", "sh",     "snap", "sudo",   "systemd-run",    "xterm"};
 
-// A value's own escapes: "\s" is a blank, "\\" a backslash.
+// Resolves a value's own escapes: "\s" is a blank, "\\" a backslash.
 std::string Unescape(std::string_view value)
 {
     std::string text;
@@ -60,7 +61,7 @@ std::string WithoutSpaceBefore(const std::string& text)
     return first == std::string::npos ? std::string() : text.substr(first);
 }
 
-// Splits the command into its program and the rest; false where a quote is never closed.
+// Splits the command into its program and the rest; false when a quote is not closed.
 bool SplitCommand(DesktopEntry& entry)
 {
     const std::string& exec = entry.exec;
@@ -75,7 +76,7 @@ bool SplitCommand(DesktopEntry& entry)
             entry.rest = WithoutSpaceBefore(exec.substr(i + 1));
             return !entry.program.empty();
         }
-        // Inside the quotes a backslash makes the next character an ordinary one.
+        // Inside the quotes a backslash makes the next character ordinary.
         i += exec[i] == '\\' && i + 1 < exec.size() ? 1 : 0;
         entry.program += exec[i];
     }
@@ -87,7 +88,8 @@ bool IsTrue(std::string_view text, std::string_view key)
     return KeyFileValue(text, Group, key) == "true";
 }
 
-// A word that is neither a switch nor a placeholder: "run" in "flatpak run org.web.Web %u".
+// Whether the rest begins with a word that is neither a switch nor a placeholder: "run" in "flatpak run
+// org.web.Web %u".
 bool BeginsWithPlainWord(std::string_view rest)
 {
     return !rest.empty() && std::string_view("-%@\"").find(rest.front()) == std::string_view::npos;

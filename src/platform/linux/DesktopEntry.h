@@ -6,24 +6,25 @@
 
 namespace ls {
 
-/// What the entry of an installed application says about starting it.
+/// How an installed application is started, from its desktop entry.
 struct DesktopEntry
 {
-    std::string exec;    ///< the command line as it is written, "web %u"
-    std::string tryExec; ///< a program without which the entry counts as missing; may be empty
-    std::string program; ///< the first word of `exec`, quotes and escapes taken away
-    std::string rest;    ///< what follows it in `exec`, without the space before
+    std::string exec;    ///< the command line as written, "web %u"
+    std::string tryExec; ///< if this program is missing, so is the application; may be empty
+    std::string program; ///< the first word of `exec`, without quotes and escapes
+    std::string rest;    ///< what follows it in `exec`, without the space between
 };
 
-/// The entry in the text of a ".desktop" file; nothing for one that is hidden, is no application, needs a
-/// terminal (there is none to show it in), or has no command that can be read.
+/// Parses the text of a ".desktop" file. Nothing for an entry that is hidden, is no application, needs a
+/// terminal (there is none), or has no readable command.
 [[nodiscard]] std::optional<DesktopEntry> ParseDesktopEntry(std::string_view text);
 
-/// The command that opens a document: the entry's own, its program in double quotes where it holds a blank.
+/// The command that opens a document: the entry's own, with its program in double quotes if it contains a
+/// blank.
 ///
-/// Callers keep only the program of it. Where that alone would not start the application ("flatpak run ...",
-/// "env A=B web"), or the program's name could not be told (it holds a "%" or a double quote), the command is
-/// "xdg-open", which starts the application by its whole entry.
+/// Callers use only the program of the command. It is "xdg-open", which starts the application by its whole
+/// entry, in two cases: the program alone would not start the application ("flatpak run ...", "env A=B web"),
+/// or its name is unclear (it contains a "%" or a double quote).
 [[nodiscard]] std::string OpenCommand(const DesktopEntry& entry);
 
 } // namespace ls

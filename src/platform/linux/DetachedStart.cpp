@@ -10,8 +10,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// Between a fork and the start of the other program only calls that need no lock and no memory are allowed:
-// another thread of this program may have held such a lock at the fork, and nobody would ever give it back.
+// Between a fork and the start of the other program, only calls that take no lock and no memory are allowed.
+// Another thread may hold such a lock during the fork; in the new process it is never released.
 
 namespace ls {
 
@@ -25,7 +25,7 @@ enum class Told : int
     Failure
 };
 
-// What the new processes write into the pipe; short enough that a write is never cut.
+// What the new processes write into the pipe; short enough for one uncut write.
 struct Report
 {
     Told told = Told::Id;
@@ -45,7 +45,7 @@ void Tell(int pipe, Told told, int value)
     ::_exit(127);
 }
 
-// A signal that this program ignores or blocks would stay so in the other one.
+// Resets all signals, because the other program would inherit those that are ignored or blocked.
 void ResetSignals()
 {
     for (int number = 1; number < NSIG; ++number) {
@@ -56,7 +56,7 @@ void ResetSignals()
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-// Moves the pipe to the first free number and closes everything behind it; gives the pipe's number.
+// Moves the pipe to the first free number and closes all higher ones; returns the pipe's number.
 int CloseAllBut(int pipe)
 {
     if (pipe != FirstFreeDescriptor) {
@@ -65,7 +65,7 @@ int CloseAllBut(int pipe)
         }
     }
     if (::close_range(FirstFreeDescriptor + 1, UINT_MAX, 0) != 0) {
-        // An older kernel: one by one, as far as this program can have opened any.
+        // An older kernel: closes them one by one, up to the limit for this program.
         const long limit = ::sysconf(_SC_OPEN_MAX);
         for (int number = FirstFreeDescriptor + 1; number < (limit > 0 ? limit : 1024); ++number) {
             ::close(number);
@@ -93,7 +93,8 @@ void UseNullDevice(int pipe)
     UseNullDevice(pipe);
     pipe = CloseAllBut(pipe);
     ResetSignals();
-    // The process between: when it ends, the program's parent is the system, which takes its end.
+    // The process between the two programs. When it ends, the system becomes the new program's parent and
+    // collects its exit status.
     const pid_t child = ::fork();
     if (child < 0) {
         TellFailure(pipe);
@@ -106,7 +107,7 @@ void UseNullDevice(int pipe)
     TellFailure(pipe);
 }
 
-// Reads until the pipe is closed, which a successful start does by itself.
+// Reads until the pipe is closed; a successful start closes it.
 DetachedProcess Collect(int pipe)
 {
     DetachedProcess result;
@@ -125,7 +126,7 @@ DetachedProcess Collect(int pipe)
     return result;
 }
 
-// A pipe whose ends are above the standard descriptors, also when this program runs with those closed.
+// A pipe with both ends above the standard descriptors, even when those are closed.
 int MakePipe(FileDescriptor& readEnd, FileDescriptor& writeEnd)
 {
     int ends[2] = {-1, -1};

@@ -5,17 +5,17 @@
 
 namespace ls {
 
-/// What a start came to: the process id, or the errno of the call that failed.
+/// The result of a start: the process id, or the errno of the call that failed.
 struct DetachedProcess
 {
     int errnoValue = 0;
     int id = 0;
 };
 
-/// Starts `program` with `words` as its arguments (the first is its own name) in a session of its own.
+/// Starts `program` in a session of its own. `words` are its arguments; the first is its own name.
 ///
-/// Nothing of this program goes with it: no descriptor (its three standard ones are the null device), no
-/// ignored or blocked signal. It is nobody's child that would have to be waited for.
+/// The new program inherits no descriptors (its three standard ones are the null device) and no ignored or
+/// blocked signals. It is not a child that this program must wait for.
 [[nodiscard]] DetachedProcess StartDetached(const std::string& program,
                                             const std::vector<std::string>& words);
 

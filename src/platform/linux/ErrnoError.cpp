@@ -53,7 +53,8 @@ int NumberOfErrno(int errnoValue)
         return error::OutOfMemory;
     case EINVAL:
         return error::InvalidCall;
-    default: // a folder as a file, a loop of links, a rename across disks, a folder that is not empty ...
+    // a file used as a folder, a loop of links, a rename across disks, a folder that is not empty ...
+    default:
         return error::PathFileAccess;
     }
 }

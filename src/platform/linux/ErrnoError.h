@@ -6,20 +6,20 @@
 
 namespace ls {
 
-/// The program's error for an errno of the system; `FileError{}` for 0.
+/// The program's error for an errno; `FileError{}` for 0.
 [[nodiscard]] FileError ErrorOfErrno(int errnoValue);
 
-/// As `ErrorOfErrno`, for a call that named a path: where that is missing, a missing folder (76) is told from
-/// a missing file (53).
+/// Like `ErrorOfErrno`, for a call with a path: a missing path is error 76 when its folder is missing, else
+/// 53.
 [[nodiscard]] FileError ErrorOfPath(int errnoValue, const std::string& path);
 
 /// The folder that holds the path's last name; "." for a bare name.
 [[nodiscard]] std::string HoldingFolder(const std::string& path);
 
-/// Whether a folder is there, also behind a link.
+/// Whether the path is an existing folder or a link to one.
 [[nodiscard]] bool IsFolder(const std::string& path);
 
-/// A name that the system cannot be asked for is error 52: it would be cut at a NUL and mean another file.
+/// Error 52 for a path with a NUL: the system would cut it there and use another file.
 [[nodiscard]] FileError CheckPath(const std::string& path);
 
 } // namespace ls

@@ -9,8 +9,7 @@ namespace ls {
 int FileDescriptor::Close()
 {
     const int number = std::exchange(m_number, -1);
-    // The kernel gives the descriptor back even when it was interrupted: a second close could hit a file that
-    // was opened meanwhile.
+    // An interrupted close has still closed the descriptor. A second close could hit a file opened meanwhile.
     return number < 0 || ::close(number) == 0 || errno == EINTR ? 0 : errno;
 }
 

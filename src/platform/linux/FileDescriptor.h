@@ -4,7 +4,7 @@
 
 namespace ls {
 
-/// Owns one descriptor of the system, closed when it goes; -1 is none.
+/// Owns a file descriptor; the destructor closes it. -1 is none.
 class FileDescriptor
 {
 public:
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] int Get() const { return m_number; }
     [[nodiscard]] bool IsOpen() const { return m_number >= 0; }
 
-    /// Closes it now; the result is the errno of a failure, 0 for none.
+    /// Closes it; returns the errno of a failure, 0 on success.
     int Close();
 
 private:

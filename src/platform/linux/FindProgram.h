@@ -6,11 +6,11 @@
 
 namespace ls {
 
-/// Where a command's program lies. A name that holds a "/" is its path; a bare one is looked for in the
-/// folders of `searchPath` (parted by ":"). An empty part, which would mean the current folder, is passed
-/// over: a program that lies beside a book is not started by its bare name.
+/// Finds a command's program. A name with a "/" is its path. A bare name is searched in the folders of
+/// `searchPath` (separated by ":"). Empty parts, which would mean the current folder, are skipped: a bare
+/// name must not start a program that is beside a book.
 ///
-/// The errors: 53 where it is missing, 70 where the file may not be run, 75 for a folder.
+/// Errors: 53 when it is missing, 70 when the file may not be run, 75 for a folder.
 [[nodiscard]] FileError FindProgram(const std::string& name, const std::string& searchPath,
                                     std::string& program);
 

@@ -5,7 +5,7 @@
 
 namespace ls {
 
-/// A regular file, read by position. Its lock, if any, goes with it.
+/// A regular file, read by position. Closing it releases its lock.
 class LinuxBookFile : public BookFile
 {
 public:

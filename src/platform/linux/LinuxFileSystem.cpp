@@ -22,7 +22,7 @@ namespace ls {
 
 namespace {
 
-// What the user's mask leaves of it.
+// The rights of a new file; the user's mask reduces them.
 constexpr mode_t EverybodysMode = 0666;
 constexpr mode_t PrivateMode = 0600;
 
@@ -35,7 +35,7 @@ int OpenFile(const std::string& path, int flags, mode_t mode = EverybodysMode)
     return descriptor;
 }
 
-// 75 for a folder, 68 for a pipe, a socket or a device.
+// Error 75 for a folder; 68 for a pipe, a socket or a device.
 FileError ErrorOfKind(mode_t mode)
 {
     if (S_ISREG(mode)) {
@@ -44,11 +44,11 @@ FileError ErrorOfKind(mode_t mode)
     return MakeFileError(S_ISDIR(mode) ? error::PathFileAccess : error::DeviceUnavailable);
 }
 
-// Network file systems grant an exclusive lock only to a descriptor that can write, so Locked asks for one
-// and does with reading where the file may not be written.
+// Network file systems grant an exclusive lock only to a descriptor that can write. So Locked opens for
+// writing, or for reading when the file may not be written.
 FileDescriptor OpenRegular(const std::string& path, Sharing sharing)
 {
-    // A pipe that took the name since it was looked at must not block the program, so never wait.
+    // Never waits: a pipe may have taken the name since the check.
     if (sharing == Sharing::Locked) {
         FileDescriptor writable(OpenFile(path, O_RDWR | O_NONBLOCK | O_NOCTTY));
         if (writable.IsOpen()) {
@@ -64,12 +64,12 @@ FileError TakeLock(int descriptor, Sharing sharing)
     do {
         result = ::flock(descriptor, (sharing == Sharing::Locked ? LOCK_EX : LOCK_SH) | LOCK_NB);
     } while (result != 0 && errno == EINTR);
-    // Every other failure says that this file system has no locks.
+    // Every other failure means that this file system has no locks.
     return result != 0 && errno == EWOULDBLOCK ? MakeFileError(error::PermissionDenied) : FileError{};
 }
 
-// A name is on the disk only when its folder is. Some file systems cannot flush a folder, and the rename has
-// happened in any case, so a failure changes nothing for the caller.
+// A name is safe on the disk only when its folder is flushed. Failures are ignored: some file systems cannot
+// flush a folder, and the rename itself has succeeded.
 void FlushFolder(const std::string& folder)
 {
     const FileDescriptor descriptor(OpenFile(folder, O_RDONLY | O_DIRECTORY));
@@ -78,7 +78,7 @@ void FlushFolder(const std::string& folder)
     }
 }
 
-// ENOENT of a rename: the old name is missing (53, or 76 with its folder), or the new name's folder (76).
+// ENOENT of a rename: the old name is missing (53, or 76 with its folder), or the new name's folder is (76).
 FileError ErrorOfRename(int errnoValue, const std::string& from)
 {
     struct stat status = {};
@@ -120,7 +120,7 @@ struct CloseFolder
 
 LinuxFileSystem::LinuxFileSystem()
 {
-    // A file that grows beyond the user's limit must fail with "Disk full", not end the program and its
+    // A file that passes the user's size limit must fail with "Disk full", not end the program and lose its
     // edits.
     std::signal(SIGXFSZ, SIG_IGN);
 }
@@ -132,7 +132,7 @@ FileError LinuxFileSystem::OpenForReading(const std::string& path, Sharing shari
     if (const FileError bad = CheckPath(path); !bad.Ok()) {
         return bad;
     }
-    // Looked at before it is opened: opening alone can set a device going.
+    // Checked before opening, because opening a device can start it.
     struct stat status = {};
     if (::stat(path.c_str(), &status) != 0) {
         return ErrorOfPath(errno, path);
@@ -259,7 +259,7 @@ FileError LinuxFileSystem::MakeFolder(const std::string& folder)
         }
     }
     const int failure = ::mkdir(folder.c_str(), 0700) == 0 ? 0 : errno;
-    if (failure == EEXIST) { // another program may have made it at the same moment
+    if (failure == EEXIST) { // another program may have made it just now
         return IsFolder(folder) ? FileError{} : MakeFileError(error::PathFileAccess);
     }
     return ErrorOfPath(failure, folder);

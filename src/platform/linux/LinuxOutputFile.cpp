@@ -27,7 +27,8 @@ FileError LinuxOutputFile::Write(std::string_view bytes)
             bytes.remove_prefix(taken);
             StartWriteback(taken);
         } else if (count == 0) {
-            m_failure = MakeFileError(error::DiskFull); // nothing taken and no error: do not try forever
+            // nothing written and no error: must not loop for ever
+            m_failure = MakeFileError(error::DiskFull);
         } else if (errno != EINTR) {
             m_failure = ErrorOfErrno(errno);
         }
@@ -35,8 +36,8 @@ FileError LinuxOutputFile::Write(std::string_view bytes)
     return m_failure;
 }
 
-// Lets the disk begin while the rest is still being made, so that `Finish` has less to wait for. It is a
-// hint: what goes wrong on the disk, `Finish` tells.
+// Starts writing to the disk early, so that `Finish` waits less. It is only a hint; `Finish` reports disk
+// errors.
 void LinuxOutputFile::StartWriteback(std::size_t count)
 {
     m_unstarted += count;
@@ -56,7 +57,7 @@ FileError LinuxOutputFile::Finish()
         flushed = ::fsync(m_descriptor.Get()) == 0 ? 0 : errno;
     } while (flushed == EINTR);
     if (flushed == EINVAL || flushed == EROFS) {
-        flushed = 0; // a file system that cannot flush: there is nothing to wait for
+        flushed = 0; // this file system cannot flush; nothing to wait for
     }
     const int closed = m_descriptor.Close();
     if (m_failure.Ok()) {

@@ -7,7 +7,7 @@
 
 namespace ls {
 
-/// A new file that is being written. The first failure stays: `Finish` tells it again.
+/// A new file that is being written. It remembers the first failure, and `Finish` reports it again.
 class LinuxOutputFile : public OutputFile
 {
 public:
@@ -22,7 +22,7 @@ private:
     void StartWriteback(std::size_t count);
 
     FileDescriptor m_descriptor;
-    std::size_t m_unstarted = 0; ///< bytes that the system was given and not yet told to write
+    std::size_t m_unstarted = 0; ///< bytes written since the last writeback was started
     FileError m_failure;
 };
 

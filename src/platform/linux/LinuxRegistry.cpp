@@ -39,7 +39,7 @@ private:
     std::string m_text;
 };
 
-// The type that a file of this name is known by; empty for one that is not opened from here.
+// The MIME type of files with this ending; empty for unknown endings.
 std::string MimeTypeOf(std::string_view fileType)
 {
     static constexpr std::pair<std::string_view, std::string_view> Types[] = {

@@ -6,12 +6,12 @@ namespace ls {
 
 class Processes;
 
-/// The registry's two look-ups, answered from the desktop's own files.
+/// Answers the program's two look-ups in the registry from the desktop's files.
 ///
-/// "SOFTWARE\Classes\.HTM" is the id of the application that opens web pages ("web.desktop"), and
-/// "SOFTWARE\Classes\web.desktop\shell\open\command" is its command. The user's files and the system's are
-/// one list there, so all of it stands under the current user; the machine has no keys. No application: no
-/// key. The files are read at each look-up: a browser chosen meanwhile is found.
+/// "SOFTWARE\Classes\.HTM" is the id of the application that opens web pages ("web.desktop").
+/// "SOFTWARE\Classes\web.desktop\shell\open\command" is its command. Linux merges the user's and the system's
+/// settings, so both keys are under the current user and the machine has none. Without an application there
+/// is no key. The files are read at each look-up, so that a newly chosen browser is found.
 class LinuxRegistry : public Registry
 {
 public:

@@ -19,7 +19,8 @@ bool IsOctal(char c)
     return c >= '0' && c <= '7';
 }
 
-// The table writes a blank in a path as "\040", and likewise TAB, line end and backslash.
+// Resolves the table's escapes: it writes a blank in a path as "\040", and likewise TAB, line end and
+// backslash.
 std::string Unescaped(std::string_view text)
 {
     std::string plain;
@@ -35,7 +36,7 @@ std::string Unescaped(std::string_view text)
     return plain;
 }
 
-// The second field of a line: where it is mounted.
+// The second field of a line: the mount point.
 std::string MountPoint(std::string_view line)
 {
     const std::size_t first = line.find(' ');
@@ -56,7 +57,8 @@ bool IsForPeople(const std::string& mountPoint)
     return mountPoint == "/mnt" || mountPoint == "/media";
 }
 
-// A table's lines; those before an error are whole. Such a file has no size: it is read until its end.
+// The lines of a table; after an error, the complete lines before it. Such a file has no size, so it is read
+// to its end.
 std::string ReadLines(const std::string& path)
 {
     std::string text;

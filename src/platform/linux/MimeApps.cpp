@@ -21,7 +21,7 @@ bool IsId(const std::string& id)
            id.find('\0') == std::string::npos;
 }
 
-// The text of the id's file in a folder. A dash of the id may stand for a folder: "a-web.desktop" is also
+// The text of the id's file in a folder. A dash in the id may mean a subfolder: "a-web.desktop" is also
 // "a/web.desktop".
 std::optional<std::string> ReadEntryFile(const std::string& folder, const std::string& id)
 {
@@ -50,7 +50,7 @@ Ids IdsIn(const std::string& text, const char* group, const std::string& mimeTyp
     return SplitList(KeyFileValue(text, group, mimeType).value_or(""));
 }
 
-// A folder that may hold lists, and whether applications lie in it.
+// A folder that may hold association lists, and whether it holds applications too.
 struct ListFolder
 {
     std::string path;
@@ -74,7 +74,8 @@ std::string ReadList(const ListFolder& folder, const std::string& name)
     return ReadSmallFile(JoinPath(UnixPaths, folder.path, name)).value_or("");
 }
 
-// What the user or the system chose, in the order of the folders; the running desktop's list comes first.
+// The applications that the user or the system chose, in the order of the folders. In each folder the running
+// desktop's list comes first.
 Ids ChosenDefaults(const XdgFolders& folders, const std::string& mimeType)
 {
     Ids ids;
@@ -91,7 +92,8 @@ Ids ChosenDefaults(const XdgFolders& folders, const std::string& mimeType)
     return ids;
 }
 
-// What can open the type. An association that a list removes is not taken from any later one.
+// The applications that can open the type. An association that one list removes is ignored in all later
+// lists.
 Ids Associated(const XdgFolders& folders, const std::string& mimeType)
 {
     Ids ids;
@@ -136,7 +138,7 @@ std::optional<DesktopEntry> FindDesktopEntry(const XdgFolders& folders, const st
         if (!text) {
             continue;
         }
-        // The first file counts, also when it hides the application that a later folder has.
+        // The first file decides, even when it hides an application of a later folder.
         std::optional<DesktopEntry> entry = ParseDesktopEntry(*text);
         const bool there = entry && IsThere(folders, entry->program) &&
                            (entry->tryExec.empty() || IsThere(folders, entry->tryExec));

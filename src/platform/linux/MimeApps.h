@@ -10,24 +10,26 @@ namespace ls {
 
 class Processes;
 
-/// The folders in which a desktop keeps what opens which type of file, the user's before the system's.
+/// The folders with the desktop's settings of which program opens which type of file; the user's come before
+/// the system's.
 struct XdgFolders
 {
     std::vector<std::string> config;
     std::vector<std::string> data;
     std::vector<std::string> desktops; ///< the running desktop's names in lower case, the closest first
-    std::string searchPath;            ///< where bare names of programs are looked for
+    std::string searchPath;            ///< the folders to search for programs
 };
 
-/// From the environment; an unset variable has its standard value, a folder that is not absolute is left out.
+/// Reads the environment. An unset variable has its standard value; a folder that is not absolute is left
+/// out.
 [[nodiscard]] XdgFolders ReadXdgFolders(Processes& processes);
 
-/// The application of that id ("web.desktop"): the first file of that name in the data folders. Nothing where
-/// it is missing, hidden or unreadable, or where its program is not there.
+/// The application with that id ("web.desktop"): the first file of that name in the data folders. Nothing
+/// when it is missing, hidden or unreadable, or when its program is missing.
 [[nodiscard]] std::optional<DesktopEntry> FindDesktopEntry(const XdgFolders& folders, const std::string& id);
 
-/// The id of the application that opens a type of file ("text/html"): the first default that is there, else
-/// the first one that was added to the type or says that it can open it. Empty when there is none.
+/// The id of the application that opens a type of file ("text/html"): the first existing default, else the
+/// first application that was added for the type or declares it. Empty when there is none.
 [[nodiscard]] std::string DefaultApplication(const XdgFolders& folders, const std::string& mimeType);
 
 } // namespace ls

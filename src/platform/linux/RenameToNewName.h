@@ -4,18 +4,18 @@
 
 namespace ls {
 
-/// Gives `from` the name `to` and never replaces what has that name, also when it appears at the same moment.
-/// The result is an errno, EEXIST for a taken name, 0 for success.
+/// Renames `from` to `to` and never replaces an existing `to`, even if it appears at the same moment. Returns
+/// an errno: EEXIST for a taken name, 0 for success.
 [[nodiscard]] int RenameToNewName(const std::string& from, const std::string& to);
 
-/// The three ways behind it, from the best to the last resort. Each keeps that rule; EINVAL, ENOSYS,
-/// EOPNOTSUPP and, from the second, EPERM mean that the file system does not know this way.
+/// The three methods that RenameToNewName tries, best first; none replaces a file. EINVAL, ENOSYS, EOPNOTSUPP
+/// and, from the second, EPERM mean that the file system does not support the method.
 [[nodiscard]] int RenameByFlag(const std::string& from, const std::string& to);
 
-/// A second name for the file, then the first one is taken away.
+/// Gives the file a second name, then removes the first one.
 [[nodiscard]] int RenameByLink(const std::string& from, const std::string& to);
 
-/// An empty file takes the name, which only one can do; the rename then replaces that file.
+/// Creates an empty file of the new name, which only one process can do; the rename then replaces that file.
 [[nodiscard]] int RenameByReservation(const std::string& from, const std::string& to);
 
 } // namespace ls

@@ -18,7 +18,7 @@ void AddAbsolute(std::vector<std::string>& folders, const std::string& list)
     }
 }
 
-// The user's folder of the variable; `standard` below the home folder when it is unset.
+// Adds the user's folder from the variable; `standard` below the home folder when it is unset.
 void AddUserFolder(Processes& processes, std::vector<std::string>& folders, const std::string& variable,
                    const std::string& standard)
 {

@@ -15,7 +15,7 @@ bool IsLetter(char c)
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
-// The length of "/NAME=" at the start of a text; 0 when it does not begin so.
+// The length of "/NAME=" at the start of a text; 0 when it begins otherwise.
 std::size_t ParameterNameLength(std::string_view text)
 {
     if (!text.starts_with('/')) {
@@ -71,14 +71,14 @@ LaunchLine ToLaunchLine(std::string_view commandLine)
     const std::string& program = words.front();
     const std::size_t start = commandLine.find_first_not_of(' ');
     const std::size_t quotes = commandLine[start] == '"' ? 2 : 0;
-    // A quote that is never closed: the program runs to the end.
+    // If the quote is not closed, the program runs to the end of the line.
     const std::size_t end = std::min(start + program.size() + quotes, commandLine.size());
     return {program, '"' + program + '"' + std::string(commandLine.substr(end))};
 }
 
 bool IsBatchFile(std::string_view program)
 {
-    // The system passes over dots and blanks at the end of a name.
+    // The system ignores dots and blanks at the end of a name.
     const std::size_t last = program.find_last_not_of(" .");
     const std::string name = UpperCase(program.substr(0, last == std::string_view::npos ? 0 : last + 1));
     return name.ends_with(".BAT") || name.ends_with(".CMD");

@@ -5,28 +5,28 @@
 
 namespace ls {
 
-/// What follows the program's own name in the line that a process was started with, without the blanks
-/// between. The name ends at the first blank or TAB that does not stand between two double quotes.
+/// The command line after the program's own name and the blanks that follow it. The name ends at the first
+/// blank or TAB outside double quotes.
 [[nodiscard]] std::string BehindProgramName(std::string_view line);
 
-/// The line with each parameter that stands in quotes as a whole ("/INIDIR=C:\My Settings" in quotes, as
-/// shells and scripts write it) quoted in its value instead: /INIDIR="C:\My Settings". The quote in front
-/// would otherwise count as a part of the book's path.
+/// Moves quotes around a whole parameter to its value: "/INIDIR=C:\My Settings" becomes /INIDIR="C:\My
+/// Settings". Shells and scripts write the first form; its quote would count as part of the book's path.
 [[nodiscard]] std::string WithQuotedValues(std::string_view line);
 
-/// A command line that is to be started.
+/// A command line to start.
 struct LaunchLine
 {
-    std::string program; ///< its first word, without quotes; empty when there is none
-    std::string line;    ///< the whole line with the program in quotes, all else as it was written
+    std::string program; ///< its first word, without quotes; may be empty
+    std::string line;    ///< the whole line with the program in quotes, the rest unchanged
 };
 
-/// Takes a command line apart by the program's own quoting. The system would guess where an unquoted program
-/// ends ("C:\Program" or "C:\Program Files\Web.exe"): with the quotes it starts the first word or nothing.
+/// Splits off the first word, by this program's rules for quotes, and quotes it. Without quotes the system
+/// would guess where the program ends ("C:\Program" or "C:\Program Files\Web.exe"); with them it starts the
+/// first word or nothing.
 [[nodiscard]] LaunchLine ToLaunchLine(std::string_view commandLine);
 
-/// Whether a program is a batch file. The system runs those in its shell, which would carry out what stands
-/// in a document's name or in a web address behind a "&".
+/// Whether a program is a batch file. The system runs those in its shell, which would execute text after a
+/// "&" in a document's name or a web address.
 [[nodiscard]] bool IsBatchFile(std::string_view program);
 
 } // namespace ls

@@ -13,8 +13,7 @@ namespace {
 constexpr DWORD PieceSize = 4096;
 constexpr wchar_t CtrlZ = 0x1A;
 
-// What is there of the line, at most a piece of it; empty at the end of the input and when it was
-// interrupted.
+// Reads the next piece of the line. Empty at the end of the input and after an interruption.
 std::wstring ReadPiece()
 {
     std::wstring piece(PieceSize, L'\0');

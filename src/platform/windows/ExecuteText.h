@@ -5,16 +5,16 @@
 
 namespace ls {
 
-/// What came with an execute request.
+/// The text of an execute request.
 struct ExecuteText
 {
-    bool wide = false; ///< UTF-16, else the system's narrow code page
-    std::string bytes; ///< without the NUL that ends the text and what lies behind it
+    bool wide = false; ///< UTF-16; else the system's narrow code page
+    std::string bytes; ///< without the NUL that ends the text and what follows it
 };
 
-/// Tells the form of an execute string by its bytes. The system promises narrow text to a server that asked
-/// for it, yet clients that are themselves wide are known to get UTF-16 through. A command begins with a
-/// letter of the basic alphabet, whose second byte is 0 only there.
+/// Detects the coding of an execute string. The system promises narrow text to a server that asks for it, but
+/// some wide clients still send UTF-16. A command begins with an ASCII letter, whose second byte is 0 only in
+/// UTF-16.
 [[nodiscard]] ExecuteText ReadExecuteText(std::string_view data);
 
 } // namespace ls

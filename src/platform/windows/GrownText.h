@@ -6,11 +6,10 @@
 
 namespace ls {
 
-/// Calls a function of the system that fills a buffer with text, with a buffer that grows until the text
-/// fits.
+/// Calls a system function that fills a buffer with text; the buffer grows until the text fits.
 ///
-/// `call(buffer, size)` gives the length of the text when it fitted, more than that when it did not, and 0 on
-/// failure, as `GetCurrentDirectoryW` and its like do. Empty on failure.
+/// `call(buffer, size)` returns the text's length when it fits, a larger number when it does not, and 0 on
+/// failure, as `GetCurrentDirectoryW` does. The result is empty on failure.
 template <class Call>
 [[nodiscard]] std::wstring GrownText(Call call)
 {
@@ -22,7 +21,7 @@ template <class Call>
             text.resize(length);
             return text;
         }
-        // A call that names no length (it cut the text) answers with the size that it was given.
+        // A function that reports no length cuts the text and returns the given size.
         text.resize(length > size ? std::size_t{length} : text.size() * 2);
     }
 }

@@ -11,7 +11,7 @@ namespace ls {
 
 namespace {
 
-// A folder's path must leave room for a short name below it, so this is less than MAX_PATH.
+// Less than MAX_PATH, because a folder's path must leave room for a short name below it.
 constexpr std::size_t LongestOldPath = MAX_PATH - 14;
 
 bool IsLongForm(const std::wstring& path)

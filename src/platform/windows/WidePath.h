@@ -6,14 +6,14 @@
 
 namespace ls {
 
-/// A path of the core, which is UTF-8, as the system's wide calls take it.
+/// Converts a path of the core (UTF-8) for the system's wide calls.
 ///
-/// One that is longer than old calls could take comes in the long form ("\\?\C:\..."), so that a book deep
-/// below a long folder name opens. Bytes that are not UTF-8, and a NUL, which would cut the name so that it
-/// means another file, are error 52; an empty path is 53.
+/// A path that is too long for old calls gets the long form ("\\?\C:\..."), so that a book deep below a long
+/// folder name opens. Bytes that are not UTF-8 are error 52; so is a NUL, which would cut the path and name
+/// another file. An empty path is 53.
 [[nodiscard]] FileError ToWidePath(const std::string& path, std::wstring& wide);
 
-/// The full path that a wide path has in the current folder; empty on failure.
+/// The full path of a wide path, from the current folder; empty on failure.
 [[nodiscard]] std::wstring FullWidePath(const std::wstring& path);
 
 } // namespace ls

@@ -8,10 +8,10 @@ namespace ls {
 
 namespace {
 
-// The system reads at most so much at once; servers on a network refuse far less than its own limit.
+// The most that one read asks for; network servers fail at far less than the system's own limit.
 constexpr std::size_t LargestPiece = std::size_t{1} << 20;
 
-// The place of a read, 0-based. The file was not opened for overlapped work, so the read is still waited for.
+// The position of a read, 0-based. The file is not opened for overlapped reads, so the read still waits.
 OVERLAPPED PlaceAt(FilePos offset)
 {
     OVERLAPPED place = {};

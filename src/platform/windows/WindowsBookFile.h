@@ -5,7 +5,7 @@
 
 namespace ls {
 
-/// A file on a disk, read by position. What it keeps others from goes with it.
+/// A file on a disk, read by position. Closing it ends its lock.
 class WindowsBookFile : public BookFile
 {
 public:

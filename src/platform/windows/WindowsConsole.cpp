@@ -25,14 +25,14 @@ HANDLE HandleOf(StandardStream stream)
     return ::GetStdHandle(name);
 }
 
-// The mode of a console; false for a file, a pipe, and the null device.
+// The mode of a console; false for a file, a pipe and the null device.
 bool ConsoleMode(HANDLE handle, DWORD& mode)
 {
     return ::GetConsoleMode(handle, &mode) != 0;
 }
 
-// The console takes UTF-8 for as long as the program runs: its code page is the window's, not the program's,
-// and the next program in that window finds it as it was.
+// Sets the console to UTF-8 while the program runs. The code page belongs to the window, so the destructor
+// restores it for the next program.
 class ConsoleCodePage
 {
 public:
@@ -57,7 +57,7 @@ private:
     UINT m_before;
 };
 
-// Bold, underlined and coloured text is written as escape sequences, which a console must be told to obey.
+// Makes a console obey the escape sequences of bold, underlined and coloured text.
 void ObeyEscapeSequences(StandardStream stream)
 {
     const HANDLE handle = HandleOf(stream);
@@ -95,7 +95,8 @@ ConsoleStream ConsoleOf(StandardStream stream)
     return console;
 }
 
-// What `main` was handed is in the system's old code page, in which some names cannot be written.
+// Ignores the arguments of `main`: they are in the system's old code page, which lacks characters of some
+// names.
 std::vector<std::string> ProgramArguments(int /*argc*/, char** /*argv*/)
 {
     int count = 0;

@@ -14,14 +14,14 @@ namespace {
 constexpr const char* ServiceName = "Lodestar";
 constexpr const char* TopicName = "FileForm";
 
-// Everything but connecting and executing is refused by the library itself.
+// The library itself refuses everything but connecting and executing.
 constexpr DWORD ServerFlags = APPCLASS_STANDARD | APPCMD_FILTERINITS | CBF_FAIL_ADVISES | CBF_FAIL_POKES |
                               CBF_FAIL_REQUESTS | CBF_FAIL_SELFCONNECTIONS | CBF_SKIP_ALLNOTIFICATIONS;
 
-// The library's callback is not told whom it serves.
+// The library's callback has no parameter for the server, so the server is global.
 WindowsDdeServer* started = nullptr;
 
-// What an answer to a request is: a number in the place of a handle.
+// The answer to a request: a number in place of a handle.
 HDDEDATA Answer(ULONG_PTR value)
 {
     return reinterpret_cast<HDDEDATA>(value);
@@ -86,7 +86,7 @@ void WindowsDdeServer::Stop()
             ::DdeFreeStringHandle(m_instance, std::exchange(*name, nullptr));
         }
     }
-    ::DdeUninitialize(std::exchange(m_instance, 0)); // ends conversations that are still open
+    ::DdeUninitialize(std::exchange(m_instance, 0)); // ends open conversations
     started = nullptr;
     m_handler = nullptr;
 }
@@ -96,7 +96,7 @@ bool WindowsDdeServer::IsOurs(HSZ topic, HSZ service) const
     return ::DdeCmpStringHandles(topic, m_topic) == 0 && ::DdeCmpStringHandles(service, m_service) == 0;
 }
 
-// A refusal means that a command is still pending, and "busy" tells the client just that: try again later.
+// A refusal means that a command is still pending; "busy" asks the client to try again later.
 HDDEDATA WindowsDdeServer::Execute(HDDEDATA data) const
 {
     return Answer(m_handler(TextOf(data)) ? DDE_FACK : DDE_FBUSY);

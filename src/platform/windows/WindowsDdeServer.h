@@ -8,11 +8,10 @@
 
 namespace ls {
 
-/// Execute strings through the system's own DDE library: service "Lodestar", topic "FileForm".
+/// Receives execute strings through the system's DDE library: service "Lodestar", topic "FileForm".
 ///
-/// Requests come in the event loop of the thread that started the server, and a refused one is answered
-/// "busy". Several instances of the program may serve the name at once; which of them a client reaches is the
-/// system's choice.
+/// Requests arrive in the event loop of the thread that started the server; a refused one is answered "busy".
+/// Several instances of the program may serve the name; the system chooses which one a client reaches.
 class WindowsDdeServer : public DdeServer
 {
 public:
@@ -21,7 +20,7 @@ public:
     WindowsDdeServer(const WindowsDdeServer&) = delete;
     WindowsDdeServer& operator=(const WindowsDdeServer&) = delete;
 
-    /// False also while another server of this process is started.
+    /// False also when this process has another started server.
     bool Start(Handler handler) override;
     void Stop() override;
 
@@ -34,7 +33,7 @@ private:
     [[nodiscard]] HDDEDATA Execute(HDDEDATA data) const;
 
     Handler m_handler;
-    DWORD m_instance = 0; ///< the library's number for this server; 0 while it is stopped
+    DWORD m_instance = 0; ///< the library's number for this server; 0 when stopped
     HSZ m_service = nullptr;
     HSZ m_topic = nullptr;
 };

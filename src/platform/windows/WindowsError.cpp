@@ -10,7 +10,7 @@ constexpr DWORD NoSuchDevice = 433;
 constexpr DWORD ElevationRequired = 740;
 constexpr DWORD DiskQuotaExceeded = 1295;
 
-// What a drive, a disk or a connection says about itself; 0 for every other code.
+// The error for a code of a drive, a disk or a connection; 0 for every other code.
 int NumberOfDeviceCode(DWORD code)
 {
     switch (code) {
@@ -59,7 +59,7 @@ int NumberOfCode(DWORD code)
     case ERROR_FILE_NOT_FOUND:
         return error::FileNotFound;
     case ERROR_PATH_NOT_FOUND:
-    case ERROR_DIRECTORY: // a file where the path needs a folder
+    case ERROR_DIRECTORY: // a file used as a folder
     case ERROR_BAD_NETPATH:
     case ERROR_BAD_NET_NAME:
         return error::PathNotFound;
@@ -100,9 +100,9 @@ int NumberOfCode(DWORD code)
     }
 }
 
-// Whether a path that was not found begins with the letter of a drive that is not there (68), or whose disk
-// is not in it (71): Windows says that itself, Wine does not. 0 when it is neither. A path in the long form
-// has its letter behind "\\?\".
+// For a path that was not found: 68 if its drive does not exist, 71 if the drive holds no disk, 0 for any
+// other reason. Windows reports these itself, Wine does not. In the long form the drive's letter follows
+// "\\?\".
 int NumberOfDrive(const std::wstring& path)
 {
     const std::size_t at = path.starts_with(L"\\\\?\\") ? 4 : 0;
@@ -133,7 +133,7 @@ FileError ErrorOfPath(DWORD code, const std::wstring& path)
     if (maybeFolder && IsFolder(path)) {
         return MakeFileError(error::PathFileAccess);
     }
-    // The console of a program that has none: a path leads to no handle but that one.
+    // Only the console's name gives this code for a path: the program has no console.
     if (code == ERROR_INVALID_HANDLE) {
         return MakeFileError(error::DeviceUnavailable);
     }

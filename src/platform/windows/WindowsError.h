@@ -11,13 +11,13 @@ namespace ls {
 /// The program's error for a code of `GetLastError`; `FileError{}` for 0.
 [[nodiscard]] FileError ErrorOfCode(DWORD code);
 
-/// As `ErrorOfCode`, for a call that named a path: the system says "access denied" (or, with a
-/// separator at its end, that the path is bad) also of a folder that is used as a file (75), and "not found"
-/// also where the whole drive is missing (68) or has no disk (71), and "bad handle" of "CON" where there is
-/// no console (68).
+/// Like `ErrorOfCode`, for a call with a path. The path makes some codes clearer:
+/// - "access denied", or "bad path" with a separator at the end: 75 for a folder used as a file
+/// - "not found": 68 for a missing drive, 71 for a drive without a disk
+/// - "bad handle" of "CON": 68 without a console
 [[nodiscard]] FileError ErrorOfPath(DWORD code, const std::wstring& path);
 
-/// Whether a folder is there, also behind a link.
+/// Whether the path is an existing folder or a link to one.
 [[nodiscard]] bool IsFolder(const std::wstring& path);
 
 } // namespace ls

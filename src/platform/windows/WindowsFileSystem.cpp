@@ -15,19 +15,19 @@ namespace ls {
 
 namespace {
 
-// A virus scanner or an indexer opens a file that was just closed, for a moment, and keeps it from being
-// renamed or replaced: then it is tried again, for about a second.
+// A virus scanner or an indexer may briefly open a file that was just closed, which blocks its renaming and
+// replacing. So a rename is repeated for about a second.
 constexpr int RenameTries = 20;
 constexpr DWORD RenamePause = 50;
 
-// Whatever is no file on a disk is closed again: reading from it could wait for ever.
+// Refuses anything but a file on a disk; reading from it could wait for ever.
 FileError CheckKind(const WindowsHandle& handle)
 {
     ::SetLastError(ERROR_SUCCESS);
     switch (::GetFileType(handle.Get())) {
     case FILE_TYPE_DISK:
         return {};
-    case FILE_TYPE_UNKNOWN: // also what it says when it failed
+    case FILE_TYPE_UNKNOWN: // also the result of a failure
         if (const DWORD code = ::GetLastError(); code != ERROR_SUCCESS) {
             return ErrorOfCode(code);
         }
@@ -37,7 +37,7 @@ FileError CheckKind(const WindowsHandle& handle)
     }
 }
 
-// Opens the file, or makes it; `handle` is open only on success.
+// Opens or creates the file; `handle` is open only on success.
 FileError OpenFile(const std::string& path, DWORD access, DWORD sharing, DWORD disposition,
                    WindowsHandle& handle)
 {
@@ -45,7 +45,7 @@ FileError OpenFile(const std::string& path, DWORD access, DWORD sharing, DWORD d
     if (FileError bad = ToWidePath(path, wide); !bad.Ok()) {
         return bad;
     }
-    // A pipe that somebody else serves must not be able to act in this user's name.
+    // Stops the server of a named pipe from acting in this user's name.
     constexpr DWORD flags = FILE_ATTRIBUTE_NORMAL | SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION;
     handle =
         WindowsHandle(::CreateFileW(wide.c_str(), access, sharing, nullptr, disposition, flags, nullptr));
@@ -56,15 +56,15 @@ FileError OpenFile(const std::string& path, DWORD access, DWORD sharing, DWORD d
     if (!kind.Ok()) {
         handle.Close();
         if (disposition == CREATE_NEW) {
-            // Made a moment ago, and nobody gets it. A device has no file to take away.
+            // Removes the file that was just created. A device has no file to remove.
             ::DeleteFileW(wide.c_str());
         }
     }
     return kind;
 }
 
-// An "access denied" is told by the new name where that is a folder (75), else it stands as it is (70).
-// A file that was not found is the old one, unless that is there.
+// The error of a failed rename. "Access denied" is 75 when the new name is a folder, else 70. "Not found"
+// refers to the old file, or to the new name's folder if the old file exists.
 FileError ErrorOfRename(DWORD code, const std::wstring& from, const std::wstring& to)
 {
     const bool oldIsMissing =
@@ -72,8 +72,8 @@ FileError ErrorOfRename(DWORD code, const std::wstring& from, const std::wstring
     return ErrorOfPath(code, oldIsMissing ? from : to);
 }
 
-// Whether a rename failed since somebody has one of the two files open. Of one that is to be replaced the
-// system says "access denied" then, as it does of a folder.
+// Whether a rename failed because another program has one of the two files open. If that file is to be
+// replaced, the system reports "access denied", as for a folder.
 bool MayBeInUse(DWORD code, const std::wstring& to, DWORD flags)
 {
     const bool replaces = (flags & MOVEFILE_REPLACE_EXISTING) != 0;
@@ -98,7 +98,7 @@ FileError Rename(const std::string& from, const std::string& to, DWORD flags)
     return code == 0 ? FileError{} : ErrorOfRename(code, wideFrom, wideTo);
 }
 
-// What tells a file from every other. Asking for no access at all succeeds also for a file that is locked.
+// The identity of a file. Opening it without any access succeeds even if it is locked.
 bool Identify(const std::string& path, BY_HANDLE_FILE_INFORMATION& information)
 {
     std::wstring wide;
@@ -111,7 +111,7 @@ bool Identify(const std::string& path, BY_HANDLE_FILE_INFORMATION& information)
     return handle.IsOpen() && ::GetFileInformationByHandle(handle.Get(), &information) != 0;
 }
 
-// "C:\BOOKS" and "C:\" are searched for "*" below them, "C:" for "*" in its current folder.
+// "C:\BOOKS" and "C:\" are searched for "*" below them; "C:" for "*" in its current folder.
 std::string SearchPattern(const std::string& folder)
 {
     const bool complete =
@@ -119,7 +119,7 @@ std::string SearchPattern(const std::string& folder)
     return folder + (complete ? "*" : "\\*");
 }
 
-// Systems differ in what they say of a search below a file: that it is no folder, or that the name is bad.
+// For a search below a file, versions of the system report different codes: "no folder" or "bad name".
 FileError ErrorOfSearch(DWORD code, const std::string& folder, const std::wstring& pattern)
 {
     std::wstring wide;
@@ -169,8 +169,8 @@ void AddEntry(const WIN32_FIND_DATAW& found, std::vector<FolderEntry>& entries)
 
 WindowsFileSystem::WindowsFileSystem()
 {
-    // A drive without a disk is an error that the program tells of, not a box of the system's own that hides
-    // behind the window.
+    // Stops the system's own box for a drive without a disk, which would hide under the window; the program
+    // reports the error.
     ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
 }
 
@@ -237,7 +237,7 @@ bool WindowsFileSystem::Exists(const std::string& path)
     if (!ToWidePath(path, wide).Ok()) {
         return false;
     }
-    // A file that the system has for itself alone does not even tell what it is, but it is there.
+    // A file that the system itself uses gives no attributes, but it exists.
     return ::GetFileAttributesW(wide.c_str()) != INVALID_FILE_ATTRIBUTES ||
            ::GetLastError() == ERROR_SHARING_VIOLATION;
 }
@@ -259,7 +259,7 @@ FileError WindowsFileSystem::List(const std::string& folder, std::vector<FolderE
     }
     Search search(pattern);
     if (!search.IsOpen()) {
-        // Every folder has at least its "."; only a drive's root can be quite empty.
+        // Every folder lists at least "."; only a drive's root can be empty.
         const DWORD code = ::GetLastError();
         return code == ERROR_FILE_NOT_FOUND ? FileError{} : ErrorOfSearch(code, folder, pattern);
     }
@@ -270,8 +270,7 @@ FileError WindowsFileSystem::List(const std::string& folder, std::vector<FolderE
     return code == ERROR_NO_MORE_FILES ? FileError{} : ErrorOfPath(code, pattern);
 }
 
-// A new folder has the rights of the one above it; below the user's own folder only the user may look into
-// it.
+// A new folder inherits its parent's rights; below the user's own folder only the user may look into it.
 FileError WindowsFileSystem::MakeFolder(const std::string& folder)
 {
     std::wstring wide;

@@ -6,9 +6,9 @@ namespace ls {
 
 /// The files of a Windows system.
 ///
-/// Locked lets nobody else open the file while it is open here; Shared lets others read, write, rename and
-/// delete it. The system itself keeps to that, so a locked file is safe from every program. Only files on a
-/// disk are opened: "CON", "COM1" or a pipe could keep the program waiting for ever, and is error 68.
+/// With Locked nobody else can open the file while it is open here; with Shared others may read, write,
+/// rename and delete it. The system enforces this for every program. Only files on a disk open: "CON", "COM1"
+/// or a pipe could block the program for ever, and is error 68.
 class WindowsFileSystem : public FileSystem
 {
 public:
@@ -20,11 +20,11 @@ public:
     FileError RenameToNew(const std::string& from, const std::string& to) override;
     FileError RenameOver(const std::string& from, const std::string& to) override;
 
-    /// Takes the name away; a folder is error 75, a file that is marked as read-only 70.
+    /// Removes a file; error 75 for a folder, 70 for a file marked read-only.
     FileError Remove(const std::string& path) override;
 
-    /// A link that leads nowhere has its name, too.
     FileError CheckWritable(const std::string& path) override;
+    /// True also for a link that leads nowhere.
     bool Exists(const std::string& path) override;
 
     bool SameFile(const std::string& a, const std::string& b) override;

@@ -6,7 +6,7 @@
 
 namespace ls {
 
-/// Owns one handle of an open file, closed when it goes.
+/// Owns the handle of an open file; the destructor closes it.
 class WindowsHandle
 {
 public:
@@ -28,7 +28,7 @@ public:
     [[nodiscard]] HANDLE Get() const { return m_handle; }
     [[nodiscard]] bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
 
-    /// Closes it now; the result is the system's code of a failure, 0 for none.
+    /// Closes it; returns the system's code of a failure, 0 on success.
     DWORD Close()
     {
         const HANDLE handle = std::exchange(m_handle, INVALID_HANDLE_VALUE);

@@ -8,10 +8,10 @@ namespace ls {
 
 namespace {
 
-// Servers on a network refuse far less than the system's own limit.
+// Network servers fail at far less than the system's own limit.
 constexpr std::size_t LargestPiece = std::size_t{1} << 20;
 
-// Whether the code says that there is no way to flush here, so that there is nothing to wait for.
+// Whether the code means that flushing is not supported, so that there is nothing to wait for.
 bool CannotFlush(DWORD code)
 {
     return code == ERROR_INVALID_FUNCTION || code == ERROR_NOT_SUPPORTED;
@@ -30,7 +30,8 @@ FileError WindowsOutputFile::Write(std::string_view bytes)
         if (::WriteFile(m_handle.Get(), bytes.data(), piece, &count, nullptr) == 0) {
             m_failure = ErrorOfCode(::GetLastError());
         } else if (count == 0) {
-            m_failure = MakeFileError(error::DiskFull); // nothing taken and no error: do not try forever
+            // nothing written and no error: must not loop for ever
+            m_failure = MakeFileError(error::DiskFull);
         } else {
             bytes.remove_prefix(count);
         }

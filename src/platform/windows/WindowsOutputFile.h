@@ -5,7 +5,7 @@
 
 namespace ls {
 
-/// A new file that is being written. The first failure stays: `Finish` tells it again.
+/// A new file that is being written. It remembers the first failure, and `Finish` reports it again.
 class WindowsOutputFile : public OutputFile
 {
 public:

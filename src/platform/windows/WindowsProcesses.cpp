@@ -26,7 +26,7 @@ std::wstring ProgramPath()
     return GrownText([](wchar_t* buffer, DWORD size) { return ::GetModuleFileNameW(nullptr, buffer, size); });
 }
 
-// The path without the mark of the long form, which other programs do not take.
+// The path without the prefix of the long form, which other programs do not accept.
 std::wstring InUsualForm(const std::wstring& path)
 {
     if (path.starts_with(L"\\\\?\\UNC\\")) {
@@ -35,8 +35,8 @@ std::wstring InUsualForm(const std::wstring& path)
     return path.starts_with(L"\\\\?\\") ? path.substr(4) : path;
 }
 
-// Where a link leads. Only a link is followed: the real path of an ordinary file on a network drive would
-// lose its drive letter.
+// The target of a link. Other files are left alone, because resolving a file on a network drive would lose
+// its drive letter.
 std::wstring LinkResolved(const std::wstring& path)
 {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
@@ -55,7 +55,7 @@ std::wstring LinkResolved(const std::wstring& path)
     return real.empty() ? path : InUsualForm(real);
 }
 
-// Looks a file up in folders parted by ";", or, when it is a full path, there alone.
+// Searches a file in folders separated by ";". A full path is looked up by itself.
 std::wstring SearchFile(const std::wstring& folders, const std::wstring& name)
 {
     return GrownText([&](wchar_t* buffer, DWORD size) {
@@ -79,13 +79,13 @@ FileError FindProgramFile(const std::string& name, std::wstring& program)
     }
     program = SearchFile(folders, wide);
     if (program.empty()) {
-        // Whether the file or its folder is missing makes no difference to who wanted to start it.
+        // Starting needs no distinction between a missing file and a missing folder.
         return MakeFileError(error::FileNotFound);
     }
     return IsFolder(program) ? MakeFileError(error::PathFileAccess) : FileError{};
 }
 
-// Starts it with a normal window that may come to the front. The result is its process id, 0 for a failure.
+// Starts it with a normal window that may come to the front. Returns its process id, 0 for a failure.
 DWORD StartProcess(const std::wstring& program, std::wstring line)
 {
     STARTUPINFOW start = {};
@@ -93,7 +93,7 @@ DWORD StartProcess(const std::wstring& program, std::wstring line)
     start.dwFlags = STARTF_USESHOWWINDOW;
     start.wShowWindow = SW_SHOWNORMAL;
     PROCESS_INFORMATION process = {};
-    // This program does without the system's boxes about missing disks; the other one gets them back.
+    // This program turns off the system's boxes about missing disks; the other program gets them back.
     if (::CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, CREATE_DEFAULT_ERROR_MODE,
                          nullptr, nullptr, &start, &process) == 0) {
         return 0;

@@ -31,14 +31,14 @@ private:
     HKEY m_key;
 };
 
-// A text as it is kept, up to its NUL: it may lack that one, or have more than one. `query(bytes, size)` asks
-// for it, or for its size alone when there is no room for bytes.
+// A text value up to its NUL, which may be missing or repeated. `query(bytes, size)` reads it, or only its
+// size when `bytes` is null.
 template <class Char, class Query>
 std::optional<std::basic_string<Char>> ReadValue(Query query)
 {
     std::basic_string<Char> text;
     LONG result = ERROR_MORE_DATA;
-    // Somebody may write a longer value between the question for its size and the one for its text.
+    // Another program may write a longer value between the query for the size and the one for the text.
     for (int tries = 0; result == ERROR_MORE_DATA && tries < 5; ++tries) {
         DWORD size = 0;
         result = query(nullptr, &size);
@@ -63,8 +63,8 @@ std::optional<std::string> WindowsRegistryKey::Text(const std::string& valueName
     if (!narrow || !name) {
         return std::nullopt;
     }
-    // A program may lie in a folder whose name the code page cannot write: "C:\Users\(Greek
-    // letters)\web.exe".
+    // A wide query, because a program's folder may have a name that the code page cannot write:
+    // "C:\Users\(Greek letters)\web.exe".
     const std::optional<std::wstring> wide = ReadValue<wchar_t>([&](BYTE* bytes, DWORD* size) {
         return ::RegQueryValueExW(m_key, name->c_str(), nullptr, nullptr, bytes, size);
     });
@@ -81,7 +81,7 @@ bool WindowsRegistryKey::QueryType(const std::string& valueName, std::uint32_t& 
     type = kind;
     size = bytes;
     if (kind == RegSz || kind == RegExpandSz) {
-        // The size is that of the text as it is handed on: UTF-8 with one NUL.
+        // The size of the result, UTF-8 with one NUL.
         const std::optional<std::string> text = Text(valueName);
         size = text ? static_cast<std::uint32_t>(text->size() + 1) : size;
     }

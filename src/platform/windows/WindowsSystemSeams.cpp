@@ -27,7 +27,7 @@ std::unique_ptr<Volumes> MakeVolumes()
     return std::make_unique<WindowsVolumes>();
 }
 
-// The toolkit asks the system itself for everything here.
+// The toolkit gets everything here from the system itself.
 std::unique_ptr<PrintService> MakePrintService()
 {
     return std::make_unique<PrintService>();

@@ -11,8 +11,8 @@ namespace {
 
 constexpr int LetterCount = 26;
 
-// The name that was given to the disk. Only a fixed one is asked: a drive for removable disks would start to
-// turn, and a network drive that is away would keep the list waiting.
+// The disk's label, for fixed disks only: a removable disk would start to spin, and a network drive that is
+// away would delay the list.
 std::string NameOfDisk(const std::wstring& root)
 {
     wchar_t name[MAX_PATH + 1] = {};
@@ -23,7 +23,7 @@ std::string NameOfDisk(const std::wstring& root)
                : std::string();
 }
 
-// The full path of "C:" is the folder that is current on that drive; its root when there is none yet.
+// The full path of "C:" is the current folder on that drive, or its root when there is none yet.
 std::string CurrentFolderOf(const std::wstring& drive)
 {
     std::wstring folder = GrownText([&drive](wchar_t* buffer, DWORD size) {

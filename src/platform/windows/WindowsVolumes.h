@@ -4,8 +4,7 @@
 
 namespace ls {
 
-/// The drives of a Windows system, by their letters: "a:", "c: [SYSTEM]". Each leads to its own current
-/// folder.
+/// The drives of a Windows system by their letters: "a:", "c: [SYSTEM]". Each opens its own current folder.
 class WindowsVolumes : public Volumes
 {
 public:

@@ -14,14 +14,14 @@ namespace {
 
 constexpr auto None = std::string_view::npos;
 
-// Titles are book text. One that the code page lacks is looked up as it was typed: no topic of a book has
-// that name, and the look-up says so.
+// A title as book text. If the code page lacks a character, the title stays as typed: no topic matches it,
+// and the search reports that.
 std::string TopicFromArgument(const std::string& value)
 {
     return ToBook(value).value_or(value);
 }
 
-// False for a name that no parameter has.
+// Stores a parameter; false when no parameter has this name.
 bool StoreParameter(CommandLine& commandLine, const std::string& name, const std::string& value)
 {
     if (name == "INIDIR") {
@@ -34,7 +34,7 @@ bool StoreParameter(CommandLine& commandLine, const std::string& name, const std
     return true;
 }
 
-// A path in quotes without them: what stands between the first quote and the second.
+// The path between the first quote and the second.
 std::string BetweenQuotes(std::string_view path)
 {
     const std::size_t open = path.find('"');
@@ -63,8 +63,8 @@ bool ParameterBeginsAt(std::string_view text, std::size_t at)
     return end > at + 1 && end < text.size() && text[end] == '=';
 }
 
-// Where the next parameter begins in one string that holds them all: at its start or behind a blank, and not
-// between two quotes.
+// Where the next parameter begins in one string that holds them all: at its start or after a blank, outside
+// quotes.
 std::size_t NextParameter(std::string_view text, std::size_t from)
 {
     for (std::size_t at = from; at < text.size(); ++at) {
@@ -77,7 +77,7 @@ std::size_t NextParameter(std::string_view text, std::size_t from)
     return None;
 }
 
-// Cuts the classic form, one string with everything in it, into its path and its parameters.
+// Splits one string with everything in it into the path and the parameters.
 std::vector<std::string> CutOneString(std::string_view line)
 {
     std::vector<std::string> pieces;
@@ -94,7 +94,7 @@ std::vector<std::string> CutOneString(std::string_view line)
     return pieces;
 }
 
-// A value that a desktop entry or another program has put in quotes of its own.
+// Removes quotes that a desktop entry or another program put around the whole value.
 std::string WithoutOuterQuotes(std::string value)
 {
     const bool quoted = value.size() > 1 && value.front() == '"' && value.find('"', 1) == value.size() - 1;
@@ -123,8 +123,8 @@ bool IsParameter(const std::string& argument, const Seams& seams)
     return ParameterBeginsAt(argument, 0) && !seams.files.Exists(argument);
 }
 
-// Joins what belongs together: everything before the first parameter is the path, and what follows a
-// parameter and is none itself goes on with its value. Element 0 is the path.
+// Joins the arguments. Those before the first parameter are the path; later ones that are no parameters
+// continue the value before them. Element 0 of the result is the path.
 std::vector<std::string> JoinArguments(const std::vector<std::string>& arguments, const Seams& seams)
 {
     std::vector<std::string> joined(1);
@@ -171,7 +171,7 @@ CommandLine ParseArguments(const std::vector<std::string>& arguments, const Seam
     for (std::size_t i = 1; i < joined.size(); ++i) {
         TakeParameter(commandLine, joined[i]);
     }
-    // The shell has taken its quotes away: one that is left may well belong to the name of a file.
+    // The shell has removed its quotes, so a remaining quote may be part of a file's name.
     const std::string& path = joined.front();
     commandLine.bookPath = seams.files.Exists(path) ? path : BetweenQuotes(path);
     return commandLine;

@@ -13,7 +13,7 @@ constexpr double NewestVersion = 5.3;
 
 std::string IniPath(FileSystem& files, PathRules rules, const std::string& iniDir)
 {
-    // The folder is looked up by itself, so that a first settings file gets into it too.
+    // The folder is looked up first, so that a new settings file goes into it too.
     const std::string folder = FindSpelling(files, rules, iniDir);
     return FindSpelling(files, rules, JoinPath(rules, folder, IniFileName));
 }

@@ -12,13 +12,13 @@ namespace {
 
 constexpr std::string_view NameField = "NAME";
 
-// Takes the statements of one settings file into the settings.
+// Applies the statements of one settings file to the settings.
 class SettingsLoader
 {
 public:
     SettingsLoader(Settings& settings, const Seams& seams) : m_settings(settings), m_seams(seams) {}
 
-    // False when loading ends here.
+    // Applies one statement; false ends the loading.
     bool Take(const Statement& statement)
     {
         if (statement.Begins('\'')) {
@@ -76,7 +76,7 @@ private:
             return;
         }
         if (field != NameField) {
-            // The box names a file of an older name; people know it by that.
+            // Intended: the box shows the file's older name, which users know.
             m_seams.messages.MsgBox("LSIdeas.INI file contains invalid field name for Top10Files: " +
                                         FromPath(field),
                                     Icon::Warning);
@@ -110,7 +110,7 @@ void LoadSettings(Settings& settings, const Seams& seams)
     reader.ReadLine(signature);
     if (!reader.Error().Ok()) {
         settings.ReadIncomplete = true;
-        return; // as good as a file that cannot be opened
+        return; // treated like a file that cannot be opened
     }
     if (!IsIniSignature(signature)) {
         seams.messages.MsgBox("Failed to load LSADVISOR.INI due to invalid format or version.",

@@ -15,8 +15,8 @@ constexpr std::string_view NewType = ".new";
 constexpr std::string_view BackupType = ".bak";
 constexpr int MaxBackups = 99;
 
-// A path as its record holds it. "~" stands before what would mean something else when it is read back, and
-// before a blank at either end, which would be trimmed; ";" keeps the last one from ending its line.
+// A path as its record holds it. "~" goes before a character with a special meaning, and before a blank at
+// either end, which would be trimmed. ";" goes after a final blank, so that the line does not end in a blank.
 std::string Escaped(const std::string& path)
 {
     std::string text;
@@ -32,7 +32,7 @@ std::string Escaped(const std::string& path)
     return path.ends_with(' ') ? text + ';' : text;
 }
 
-// A line end in a path would tear its record apart; such a book is opened, but not remembered.
+// A path with a line end would break its record. Such a book opens, but is not remembered.
 bool FitsOnALine(const std::string& path)
 {
     return path.find_first_of(LineEnd) == std::string::npos;
@@ -55,7 +55,7 @@ std::string IniText(const Settings& settings)
     return text;
 }
 
-// Makes the file that will take the settings file's name; one left behind by a crash is in nobody's way.
+// Creates the file that will replace the settings file; removes one that a crash left.
 FileError WriteNewFile(FileSystem& files, const std::string& path, const std::string& text)
 {
     std::unique_ptr<OutputFile> file;
@@ -78,7 +78,7 @@ FileError WriteNewFile(FileSystem& files, const std::string& path, const std::st
     return error;
 }
 
-// Whether a file stands there that loading would refuse, cannot even read, or did not read to its end.
+// Whether to keep the existing file: loading would refuse it, cannot read it, or did not read all of it.
 bool MustBeKept(FileSystem& files, const std::string& path, bool readIncomplete)
 {
     if (!files.Exists(path)) {
@@ -86,14 +86,14 @@ bool MustBeKept(FileSystem& files, const std::string& path, bool readIncomplete)
     }
     std::unique_ptr<BookFile> file;
     if (const FileError error = files.OpenForReading(path, Sharing::Shared, file); !error.Ok()) {
-        return error.number != error::PathFileAccess; // a folder is left where it is: saving then fails
+        return error.number != error::PathFileAccess; // a folder is not moved; saving then fails
     }
     StatementReader reader(*file);
     std::string signature;
     return readIncomplete || !reader.ReadLine(signature) || !IsIniSignature(signature);
 }
 
-// Puts the file beside, under the first backup name that is free: ".bak", ".bak2", ...
+// Renames the file to the first free backup name: ".bak", ".bak2", ...
 FileError KeepBeside(FileSystem& files, const std::string& path, std::string& backup)
 {
     FileError error;

@@ -8,7 +8,7 @@ namespace ls {
 
 namespace {
 
-// The index of the last entry that names `path`; -1 when none does.
+// The index of the entry for `path`; -1 when there is none.
 int EntryOf(const Settings& settings, const std::string& path)
 {
     const std::string wanted = WithoutCase(path);
@@ -30,9 +30,9 @@ void AddRecentFile(Settings& settings, const std::string& path)
     }
     if (place < 0) {
         settings.RecentFileCount = std::min(settings.RecentFileCount + 1, MaxRecentFiles);
-        place = settings.RecentFileCount - 1; // the last place is the new one, or its entry falls off
+        place = settings.RecentFileCount - 1; // the new last place, or the entry that drops out
     }
-    const std::string added = path; // it may be one of the entries that move
+    const std::string added = path; // a copy: `path` may be one of the entries that move
     const auto first = settings.RecentFiles.begin();
     std::move_backward(first, first + place, first + place + 1);
     settings.RecentFiles.front() = added;

@@ -73,8 +73,8 @@ bool StatementReader::ReadFilledLine(std::string& line)
     return false;
 }
 
-// Reads one statement of IniLine from m_taken on, and the lines that continue it. It moves along the line
-// instead of cutting it, since a line may be as long as its file.
+// Reads one statement of IniLine from m_taken on, and the lines that continue it. It moves an index and cuts
+// nothing off, because a line may be as long as its file.
 Statement StatementReader::TakeStatement()
 {
     Statement statement;
@@ -82,7 +82,7 @@ Statement StatementReader::TakeStatement()
         const char c = IniLine[m_taken++];
         const bool last = m_taken == IniLine.size();
         if (c == Escape) {
-            if (!last) { // at a line's end it escapes nothing and is dropped
+            if (!last) { // at a line's end "~" escapes nothing and is dropped
                 Append(statement, IniLine[m_taken++], true);
             }
         } else if (c == Continuation && last) {

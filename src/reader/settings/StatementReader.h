@@ -8,9 +8,10 @@
 
 namespace ls {
 
-/// One statement of the settings file, with its escapes resolved and blanks trimmed at both ends.
+/// One statement of the settings file, with escapes resolved and blanks trimmed at both ends.
 ///
-/// `marks` runs beside `text`: "~" where one stood before the character, which then has no special meaning.
+/// `marks` is as long as `text`. It holds "~" where a "~" preceded the character, which then has no special
+/// meaning.
 struct Statement
 {
     std::string text;
@@ -21,17 +22,17 @@ struct Statement
 
     [[nodiscard]] bool IsEscaped(std::size_t at) const { return marks[at] == '~'; }
 
-    /// Where the first unescaped `mark` stands; `std::string::npos` when there is none.
+    /// The position of the first unescaped `mark`; `std::string::npos` when there is none.
     [[nodiscard]] std::size_t Find(char mark) const;
 
-    /// The part from `from` on, `count` characters long, without the unescaped blanks at its ends.
+    /// `count` characters from `from` on, with unescaped blanks trimmed at both ends.
     [[nodiscard]] Statement Part(std::size_t from, std::size_t count = std::string::npos) const;
 };
 
-/// Reads the statements of the settings file, several of which may share a line.
+/// Reads the statements of the settings file. Several may share a line.
 ///
-/// ";" ends a statement, "+" at the end of a line joins the next line that is not empty, and "~" takes the
-/// special meaning from the character behind it. A line may end with LF alone, as Unix editors leave it.
+/// ";" ends a statement. "+" at the end of a line joins the next line that is not empty. "~" removes the
+/// special meaning of the next character. A line may also end with LF alone, as Unix editors write it.
 class StatementReader
 {
 public:
@@ -45,7 +46,7 @@ public:
     /// Reads the next statement that is not empty. False at the end of the file and after an error.
     bool Next(Statement& statement);
 
-    /// What ended reading; a file that was read to its end is no error.
+    /// The error that ended reading; none when the file was read to its end.
     [[nodiscard]] const FileError& Error() const { return m_error; }
 
 private:
@@ -55,7 +56,7 @@ private:
     LineCursor m_cursor;
     FileError m_error;
     std::string m_lines;                    ///< one line, or several that end with LF alone
-    std::size_t m_next = std::string::npos; ///< where the next of them begins; npos: all are read
+    std::size_t m_next = std::string::npos; ///< where the next of m_lines begins; npos when all are read
     std::string IniLine;                    ///< the line being parsed
     std::size_t m_taken = 0;                ///< how much of it is read
 };

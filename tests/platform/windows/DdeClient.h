@@ -5,24 +5,23 @@
 
 namespace ls::test {
 
-/// What a DDE client asks for. The names are UTF-8.
+/// The requests of a DDE client. The names are UTF-8.
 struct DdeRequest
 {
-    bool wide = false; ///< the client speaks UTF-16, else the system's narrow code page
+    bool wide = false; ///< the client sends UTF-16; else the system's narrow code page
     std::string service;
     std::string topic;
-    std::vector<std::string> commands; ///< sent one behind the other, each when the one before is answered
+    std::vector<std::string> commands; ///< sent one after the other, each after the answer to the one before
 };
 
-/// Sends execute strings through the system's DDE library and gives the answer to each: "accepted",
-/// "refused", or "error" and its number. Where there is no such server or topic the only answer is "no
-/// server".
+/// Sends execute strings through the system's DDE library. Returns the answer to each: "accepted", "refused",
+/// or "error" with its number. Without such a server or topic the only answer is "no server".
 ///
-/// A command "request NAME" asks for an item and "poke NAME" sends one instead.
+/// The command "request NAME" requests an item, and "poke NAME" sends one.
 [[nodiscard]] std::vector<std::string> AskByLibrary(const DdeRequest& request);
 
-/// The same by window messages of its own, as programs did it before there was a library. These show how a
-/// command was refused: "busy" or "not processed".
+/// Like `AskByLibrary`, with window messages and no library. These distinguish the refusals "busy" and "not
+/// processed".
 [[nodiscard]] std::vector<std::string> AskByMessages(const DdeRequest& request);
 
 } // namespace ls::test

@@ -26,7 +26,7 @@ const char* const NoControl =
     "exclamation|Lodestar Advisor|Invalid DDE PUSH command received.  Use a command "
     "toLodestar|FileForm in the format <<PUSH controlname>>.";
 
-/// A client that is started as a process of its own.
+/// A client that runs in its own process.
 struct Client
 {
     const char* name;
@@ -39,8 +39,7 @@ const Client Clients[] = {{"libraryNarrow", "library", "narrow"},
                           {"messagesNarrow", "messages", "narrow"},
                           {"messagesWide", "messages", "wide"}};
 
-/// The server with the form's rules behind it. Its timer fires as soon as a request was answered, unless the
-/// test holds it.
+/// The server with the form's rules. Its timer fires directly after each answer, unless the test holds it.
 class DdeWorld : public testing::Test
 {
 protected:
@@ -52,7 +51,7 @@ protected:
         }));
     }
 
-    // Serves until the client has all its answers, and gives them.
+    // Serves until the client has all its answers; returns them.
     Strings Send(const Client& client, const Strings& sent, const std::string& service = "Lodestar",
                  const std::string& topic = "FileForm")
     {
@@ -85,7 +84,7 @@ protected:
         }
     }
 
-    // A refusal as that client sees it.
+    // How this client sees a refusal.
     static std::string Refused(const Client& client)
     {
         return client.way == std::string("messages") ? "busy" : "refused";

@@ -1,4 +1,4 @@
-// The built program, ended by the system while it saves.
+// The built program, killed while it saves.
 
 #include "platform/windows/WideText.h"
 #include "platform/windows/WindowsHandle.h"
@@ -29,7 +29,7 @@ struct KilledSave : testing::Test
 
     KilledSave() { folder.Write("In.IDA", input); }
 
-    // Saves "In.IDA" as "Out.IDA" and ends the process when `now` says so, unless it ended by itself.
+    // Saves "In.IDA" as "Out.IDA" and kills the process when `now` returns true, unless it has ended before.
     void Round(const std::function<bool()>& now)
     {
         for (const char* name : {"Out.IDA", "Out.IDA.part"}) {
@@ -53,9 +53,9 @@ struct KilledSave : testing::Test
 
     void ExpectAllWhole()
     {
-        EXPECT_TRUE(folder.Read("In.IDA") == input) << "the book that was open is not whole";
+        EXPECT_TRUE(folder.Read("In.IDA") == input) << "the open book is damaged";
         if (folder.Has("Out.IDA")) {
-            EXPECT_TRUE(folder.Read("Out.IDA") == input) << "there is half a book";
+            EXPECT_TRUE(folder.Read("Out.IDA") == input) << "the new book is incomplete";
             EXPECT_FALSE(folder.Has("Out.IDA.part"));
         }
     }
@@ -80,7 +80,7 @@ TEST_F(KilledSave, save_endedWhileItWrites_leavesAPartOnly)
         ExpectAllWhole();
         parts += folder.Has("Out.IDA.part") ? 1 : 0;
     }
-    EXPECT_GT(parts, 0) << "it was always too fast to be ended in the middle";
+    EXPECT_GT(parts, 0) << "no save was killed in the middle";
 }
 
 } // namespace

@@ -62,7 +62,7 @@ private:
                       : ::DdeCreateStringHandleA(m_instance, ToAnsi(name)->c_str(), CP_WINANSI);
     }
 
-    // The text with the NUL that ends it.
+    // The text with its terminating NUL.
     std::string Bytes(const std::string& text) const
     {
         if (!m_wide) {
@@ -74,7 +74,7 @@ private:
 
     static std::string Refusal(UINT error)
     {
-        // Wine's library tells of a busy server as of one that did not process the command.
+        // For a busy server, Wine's library reports that the command was not processed.
         const bool refused = error == DMLERR_BUSY || error == DMLERR_NOTPROCESSED;
         return refused ? "refused" : "error " + std::to_string(error);
     }

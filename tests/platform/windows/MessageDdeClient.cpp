@@ -16,10 +16,10 @@ constexpr DWORD AnswerTime = 20'000; // milliseconds
 constexpr int Accepted = 0x8000;
 constexpr int Busy = 0x4000;
 
-/// What the window has heard; there is one client in a process.
+/// The messages that the window received; a process has one client.
 struct Heard
 {
-    HWND server = nullptr; ///< who answered the call for a server
+    HWND server = nullptr; ///< the server that answered the call
     bool answered = false;
     int status = 0;
 };
@@ -31,7 +31,7 @@ LRESULT CALLBACK Listen(HWND window, UINT message, WPARAM first, LPARAM second)
         return ::IsWindowUnicode(window) ? ::DefWindowProcW(window, message, first, second)
                                          : ::DefWindowProcA(window, message, first, second);
     }
-    if (heard.server == nullptr) { // sent while the call for a server goes round
+    if (heard.server == nullptr) { // sent before the call for a server has returned
         heard.server = reinterpret_cast<HWND>(first);
         return 0;
     }
@@ -61,7 +61,7 @@ HWND MakeWindow(bool wide)
     return ::CreateWindowA("NarrowClient", "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
 }
 
-// A block of memory that goes to the server with the message, and comes back with its answer.
+// A block of memory that goes to the server with the message and returns with its answer.
 HGLOBAL Block(bool wide, const std::string& text)
 {
     const std::wstring units = *ToWide(text);

@@ -1,11 +1,13 @@
-// The other program of tests with two processes.
+// The second program of tests with two processes.
 //
-//   peer dde library|messages narrow|wide SERVICE TOPIC COMMAND...   sends execute strings; a line for each
-//   answer peer open shared|locked PATH                                     opens a file; the status is the
-//   error's number peer write PATH                                                  opens one to write,
-//   sharing all; likewise
+//   peer dde library|messages narrow|wide SERVICE TOPIC COMMAND...
+//       sends execute strings and writes a line for each answer
+//   peer open shared|locked PATH
+//       opens a file; the exit status is the error's number
+//   peer write PATH
+//       opens a file for writing and shares it for everything; the exit status is the error's number
 //
-// With LSTEST_REPORT set it writes to that file how it was started, and does nothing else.
+// With LSTEST_REPORT set it only writes to that file how it was started.
 
 #include "DdeClient.h"
 
@@ -27,8 +29,8 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-// The whole line, what the program reads of it, its window, and its folder. The file has its name only when
-// it is whole.
+// Reports the whole line, what the program reads of it, its window and its folder. The file gets its name
+// only when it is complete.
 int Report(const std::string& path)
 {
     STARTUPINFOW start = {};

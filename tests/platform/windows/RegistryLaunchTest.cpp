@@ -1,4 +1,4 @@
-// Programs that the real registry names, as far as the command line that would be started.
+// Programs named in the real registry, up to the command line that would be started.
 
 #include "ScratchKeys.h"
 #include "browser/APISubs.h"
@@ -51,9 +51,9 @@ struct CommandRow
     const char* name;
     const char* command;
     DWORD type;
-    const char* line; ///< what is started; null when nothing is
+    const char* line; ///< the started line; null when nothing is started
     int result;
-    const char* box; ///< null for none
+    const char* box; ///< the box; null for none
 };
 
 struct RegisteredCommand : RegistryLaunch, testing::WithParamInterface<CommandRow>
@@ -128,7 +128,7 @@ TEST_F(RegistryLaunch, machinesKeys_areAskedWhereTheUserHasNone)
     EXPECT_EQ(Launch(), 0);
     keys.SetText(HKEY_CURRENT_USER, "lstest.page\\shell\\open\\command", "C:\\user.exe %1");
     EXPECT_EQ(Launch(), 0);
-    keys.Make(HKEY_CURRENT_USER, ".lstest"); // left behind without a value
+    keys.Make(HKEY_CURRENT_USER, ".lstest"); // a key without a value
     EXPECT_EQ(Launch(), 0);
     EXPECT_EQ(processes.started,
               (Strings{"C:\\machine.exe C:\\DIR\\page.htm", "C:\\user.exe C:\\DIR\\page.htm",
@@ -139,7 +139,7 @@ TEST_F(RegistryLaunch, machinesKeys_areAskedWhereTheUserHasNone)
 struct EndRow
 {
     const char* name;
-    DWORD type; ///< of a default value of four bytes; REG_NONE: there is none
+    DWORD type; ///< type of a default value of four bytes; REG_NONE: no value
     const char* text;
 };
 
@@ -170,7 +170,7 @@ INSTANTIATE_TEST_SUITE_P(
                     EndRow{"none", REG_NONE, "Failed to find registry value for:  Program exiting."}),
     [](const auto& row) { return row.param.name; });
 
-// What setup programs of other languages and of other times left in registries.
+// Forms of texts that older and foreign setup programs left in registries.
 TEST_F(RegistryLaunch, textsKeptOddly_areReadToTheirEnd)
 {
     keys.SetText(HKEY_CURRENT_USER, ".lstest", "lstest.page");
@@ -180,9 +180,9 @@ TEST_F(RegistryLaunch, textsKeptOddly_areReadToTheirEnd)
     EXPECT_EQ(Launch(""), 0) << "no NUL at its end";
     const std::wstring several = text + std::wstring(3, L'\0');
     keys.SetBytes(HKEY_CURRENT_USER, command, REG_SZ, several.data(), several.size() * sizeof(wchar_t));
-    EXPECT_EQ(Launch(""), 0) << "three of them";
+    EXPECT_EQ(Launch(""), 0) << "three NULs at its end";
     keys.SetBytes(HKEY_CURRENT_USER, command, REG_SZ, text.data(), 0);
-    EXPECT_EQ(Launch(""), -1) << "nothing at all";
+    EXPECT_EQ(Launch(""), -1) << "an empty value";
     EXPECT_EQ(processes.started, (Strings{"C:\\a.exe", "C:\\a.exe"}));
     EXPECT_FALSE(world.end.Ended());
     EXPECT_EQ(world.messages.Take(), Strings{});

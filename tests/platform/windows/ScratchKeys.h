@@ -11,7 +11,7 @@
 
 namespace ls::test {
 
-/// Keys of the real registry below SOFTWARE\Classes, gone when the test ends.
+/// Keys of the real registry below SOFTWARE\Classes; the destructor removes them.
 class ScratchKeys
 {
 public:
@@ -25,7 +25,7 @@ public:
     ScratchKeys(const ScratchKeys&) = delete;
     ScratchKeys& operator=(const ScratchKeys&) = delete;
 
-    /// Makes a key, with the levels above it.
+    /// Creates a key and the levels above it.
     void Make(HKEY root, const std::string& path) { Close(Open(root, path)); }
 
     /// Sets a key's default value to text.

@@ -41,7 +41,7 @@ struct SelectorDrives : testing::Test
     }
     ~SelectorDrives() override { ::SetCurrentDirectoryW(ToWide(oldFolder)->c_str()); }
 
-    // The place of a drive in the list; -1 when it is not offered.
+    // The index of a drive in the list; -1 when it is not offered.
     [[nodiscard]] int IndexOf(const std::string& drive) const
     {
         const Strings& drives = selector->Drives();
@@ -78,7 +78,7 @@ TEST_F(SelectorDrives, driveWithoutADisk_typedOrPicked_isToldAndStays)
     EXPECT_EQ(selector->OkClicked("E:\\*.IDA"), Outcome::Stay);
     EXPECT_EQ(messages.Take(), told);
     ExpectWhereItBegan();
-    ASSERT_NE(IndexOf("e:"), -1) << "it is offered: a disk may be put into it";
+    ASSERT_NE(IndexOf("e:"), -1) << "offered, because a disk may be inserted";
     selector->DriveChanged(IndexOf("e:"));
     EXPECT_EQ(messages.Take(), told);
     ExpectWhereItBegan();

@@ -1,4 +1,4 @@
-// Books that two processes open, locked and shared.
+// Books opened by two processes, locked and shared.
 
 #include "platform/windows/WindowsFileSystem.h"
 #include "support/RunProgram.h"
@@ -14,7 +14,7 @@ struct Row
     const char* name;
     Sharing first;
     const char* second;
-    int expected; ///< the error's number for the second process
+    int expected; ///< error number for the second process
 };
 
 struct SharingTest : testing::TestWithParam<Row>
@@ -68,7 +68,7 @@ TEST_F(ForeignProgram, write_lockedBook_isRefusedByTheSystem)
 {
     ASSERT_EQ(files.OpenForReading(path, Sharing::Locked, file), FileError{});
     EXPECT_EQ(WriteElsewhere(), 70);
-    EXPECT_TRUE(files.Exists(path)) << "asking whether it is there takes no lock";
+    EXPECT_TRUE(files.Exists(path)) << "Exists takes no lock";
     EXPECT_EQ(files.CheckWritable(path), FileError{});
     EXPECT_TRUE(files.SameFile(path, path));
 }

@@ -49,14 +49,14 @@ struct WindowsFileSystemTest : testing::Test
         return buffer.substr(0, got);
     }
 
-    // What the file of that name holds; "error N" when it does not open.
+    // The content of that file; "error N" when it does not open.
     std::string Content(const std::string& path)
     {
         const FileError error = Open(path);
         return error.Ok() ? ReadAt(1, 1000) : "error " + std::to_string(error.number);
     }
 
-    // "name", "name\" for a folder, "(name)" for a hidden one; sorted.
+    // Sorted names: "name", "name\" for a folder, "(name)" for a hidden one.
     Strings Names(const std::string& path)
     {
         std::vector<FolderEntry> entries;
@@ -98,7 +98,7 @@ TEST_F(WindowsFileSystemTest, readAt_beyondFourGigabytes_readsThere)
 {
     const std::string path = folder.Write("a", "");
     constexpr FilePos Far = 5'000'000'000;
-    std::filesystem::resize_file(path, Far - 1); // a hole: takes no room on the disk
+    std::filesystem::resize_file(path, Far - 1); // a hole, which takes no room on the disk
     std::FILE* end = std::fopen(path.c_str(), "ab");
     std::fputs("far", end);
     std::fclose(end);
@@ -199,7 +199,7 @@ TEST_F(WindowsFileSystemTest, names_inAnotherCase_areTheSameFile)
     EXPECT_TRUE(files.SameFile(folder / "Guide.IDA", folder / "GUIDE.ida"));
     std::unique_ptr<OutputFile> made;
     EXPECT_EQ(files.CreateNew(folder / "GUIDE.ida", made), MakeFileError(error::FileAlreadyExists));
-    EXPECT_EQ(Names(folder.Path()), Strings{"Guide.IDA"}) << "listed as it is spelled";
+    EXPECT_EQ(Names(folder.Path()), Strings{"Guide.IDA"}) << "listed in its real spelling";
 }
 
 TEST_F(WindowsFileSystemTest, names_beyondTheCodePage_workEverywhere)
@@ -219,7 +219,7 @@ TEST_F(WindowsFileSystemTest, names_beyondTheCodePage_workEverywhere)
     EXPECT_FALSE(files.Exists(accents));
 }
 
-// A drive has a folder that is current on it; a name behind the colon is taken there.
+// A name after the colon is taken in the drive's current folder.
 TEST_F(WindowsFileSystemTest, names_behindADriveAlone_areInItsCurrentFolder)
 {
     folder.Write("Guide.IDA", "book");
@@ -233,10 +233,10 @@ TEST_F(WindowsFileSystemTest, names_behindADriveAlone_areInItsCurrentFolder)
     std::unique_ptr<OutputFile> made;
     EXPECT_EQ(files.CreateNew("C:New.IDA", made), FileError{});
     EXPECT_TRUE(folder.Has("New.IDA"));
-    EXPECT_EQ(Content("C:\\Guide.IDA"), "error 53") << "the root's is another";
+    EXPECT_EQ(Content("C:\\Guide.IDA"), "error 53") << "the root has no such file";
     EXPECT_EQ(Content(folder.Path().substr(2) + "\\Guide.IDA"), "book") << "a name without its drive";
 
-    // The variable in which the system keeps the folder of a drive that is not the current one.
+    // In this variable the system keeps the current folder of another drive.
     ::SetEnvironmentVariableW(L"=C:", ToWide(folder.Path())->c_str());
     GoTo("Z:\\");
     EXPECT_EQ(Content("C:Guide.IDA"), "book") << "from another drive";
@@ -317,7 +317,7 @@ TEST_F(WindowsFileSystemTest, longPath_isReached)
     EXPECT_EQ(Content(path + "\\None.IDA"), "error 53");
     file.reset();
     EXPECT_EQ(files.Remove(path + "\\Guide.IDA"), FileError{});
-    for (; !folders.empty(); folders.pop_back()) { // the library's own way of doing it fails here
+    for (; !folders.empty(); folders.pop_back()) { // the library's own function fails here
         EXPECT_NE(::RemoveDirectoryW(folders.back().c_str()), 0);
     }
 }

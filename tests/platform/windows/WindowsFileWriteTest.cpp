@@ -101,7 +101,7 @@ TEST_F(WindowsFileWriteTest, finish_twice_is52)
     EXPECT_EQ(folder.Read("a"), "");
 }
 
-// A handle without the right to write stands for a disk that fails.
+// A handle without the right to write replaces a disk that fails.
 TEST_F(WindowsFileWriteTest, write_thatFails_isToldAgainByFinish)
 {
     folder.Write("a", "old");
@@ -147,7 +147,7 @@ TEST_F(WindowsFileWriteTest, renameOver_takenName_isReplaced)
     EXPECT_FALSE(folder.Has("from"));
 }
 
-// What a reader of this program has open shared does not stand in the way of a new version.
+// A file that a reader has open with Shared can be replaced and removed.
 TEST_F(WindowsFileWriteTest, renameAndRemove_fileThatIsOpenShared_areDone)
 {
     const std::string path = folder.Write("a", "old");
@@ -160,7 +160,7 @@ TEST_F(WindowsFileWriteTest, renameAndRemove_fileThatIsOpenShared_areDone)
     EXPECT_FALSE(folder.Has("b"));
 }
 
-// A scanner has it open for a moment: the rename waits and then succeeds.
+// A scanner has the file open for a moment: the rename waits and then succeeds.
 TEST_F(WindowsFileWriteTest, rename_fileThatIsOpenForAMoment_waits)
 {
     const std::string path = folder.Write("a", "new");
@@ -217,7 +217,7 @@ TEST_F(WindowsFileWriteTest, makeFolder_levels_areMadeAndKept)
     EXPECT_EQ(files.MakeFolder(folder / "a\\b\\\xCE\xB1"), FileError{});
     EXPECT_TRUE(files.Exists(folder / "a\\b\\\xCE\xB1"));
     folder.Write("a\\kept", "kept");
-    EXPECT_EQ(files.MakeFolder(folder / "a"), FileError{}) << "one that is there is left as it is";
+    EXPECT_EQ(files.MakeFolder(folder / "a"), FileError{}) << "an existing folder is left alone";
     EXPECT_EQ(folder.Read("a\\kept"), "kept");
     EXPECT_EQ(files.MakeFolder("C:\\"), FileError{});
     EXPECT_EQ(files.MakeFolder(folder / "a\\kept"), Folder);

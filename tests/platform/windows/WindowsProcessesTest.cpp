@@ -23,7 +23,7 @@ void SetVariable(const char* name, const std::string& value)
     ::SetEnvironmentVariableW(ToWide(name)->c_str(), ToWide(value)->c_str());
 }
 
-/// A program with a blank in its folder, which writes how it was started; see Peer.cpp.
+/// A program with a blank in its folder that writes how it was started; see Peer.cpp.
 struct WindowsProcessesTest : testing::Test
 {
     test::ScratchFolder folder;
@@ -48,7 +48,7 @@ struct WindowsProcessesTest : testing::Test
         ASSERT_NE(::SetCurrentDirectoryW(ToWide(path)->c_str()), 0) << path;
     }
 
-    // The line that the program got, what it reads of it, the way to show its window, its folder.
+    // The program's line, what it reads of it, how to show its window, and its folder.
     Strings Report()
     {
         for (int i = 0; i < 3000 && !folder.Has("report"); ++i) {
@@ -127,7 +127,7 @@ TEST_F(WindowsProcessesTest, start_unquotedProgram_isItsFirstWord)
     EXPECT_EQ(processes.Start(folder / "web" + " page.htm").error, FileError{}) << "its type may be left out";
     EXPECT_EQ(Report()[1], "page.htm|||valid");
     EXPECT_EQ(processes.Start(program + " page.htm").error, MakeFileError(error::FileNotFound))
-        << "nothing is guessed behind the first blank";
+        << "the program ends at the first blank";
 }
 
 TEST_F(WindowsProcessesTest, start_bareName_isLookedForInThePathOnly)
@@ -144,7 +144,7 @@ TEST_F(WindowsProcessesTest, start_bareName_isLookedForInThePathOnly)
 struct FailureRow
 {
     const char* name;
-    const char* commandLine; ///< "@" stands for the scratch folder
+    const char* commandLine; ///< "@" is replaced by the scratch folder
     int expected;
 };
 
@@ -181,7 +181,7 @@ INSTANTIATE_TEST_SUITE_P(Table, WindowsProcessesFailureTest,
                                          FailureRow{"notUtf8", "@\\\xFF.exe", 5}),
                          [](const auto& row) { return row.param.name; });
 
-// The whole way: the registry names a program, and it gets the page.
+// The whole launch: the registry names a program, and it gets the page.
 TEST_F(WindowsProcessesTest, launchProgram_pageInTheCurrentFolder_reachesTheBrowser)
 {
     test::ScratchKeys keys;

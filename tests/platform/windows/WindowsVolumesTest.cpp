@@ -11,7 +11,7 @@
 namespace ls {
 namespace {
 
-// Where the drive of that letter leads; "none" when it is not offered.
+// The folder that the drive of that letter opens; "none" when it is not offered.
 std::string FolderOf(char letter)
 {
     for (const Volume& volume : WindowsVolumes().List()) {

@@ -8,7 +8,7 @@ using test::CrLf;
 constexpr const char* FormatBox =
     "warning|Lodestar Advisor|Failed to load LSADVISOR.INI due to invalid format or version.";
 
-// What a settings file holds behind its signature, and what comes of it.
+// The content of a settings file after its signature, and the expected result.
 struct StatementCase
 {
     const char* name;

@@ -105,7 +105,7 @@ TEST_F(SettingsTest, save_refusedFile_isKeptBeside)
     EXPECT_EQ(world.files["/ini/LSAdvisor.INI.bak"], "LSADVISOR V5.4 INI\r\nprecious");
     EXPECT_EQ(world.files[Ini], CrLf({Signature}));
     SetRecent({"a"});
-    Save(); // the file is one of this version now: no second backup
+    Save(); // this version wrote the file, so no second backup
     EXPECT_EQ(world.files["/ini/LSAdvisor.INI.bak"], "LSADVISOR V5.4 INI\r\nprecious");
     EXPECT_FALSE(world.files.Has("/ini/LSAdvisor.INI.bak2"));
 }

@@ -23,7 +23,7 @@ inline constexpr const char* Signature = "LSADVISOR V5.3 INI";
     return {settings.RecentFiles.begin(), settings.RecentFiles.begin() + settings.RecentFileCount};
 }
 
-/// Settings in the folder "/ini" of files in memory.
+/// Settings in the folder "/ini" of a file system in memory.
 struct SettingsTest : testing::Test
 {
     test::TestSeams world;

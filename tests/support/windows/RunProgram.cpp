@@ -10,8 +10,8 @@ namespace ls::test {
 
 namespace {
 
-// The argument as a program's start-up code takes it out of the one string again: backslashes are special
-// before a double quote only.
+// Quotes an argument so that a program's start-up code splits the line correctly. Backslashes are special
+// only before a double quote.
 std::string Quoted(const std::string& argument)
 {
     std::string quoted = "\"";
@@ -53,8 +53,8 @@ int WaitForEnd(const PROCESS_INFORMATION& process)
     return ::GetExitCodeProcess(program.Get(), &status) != 0 ? static_cast<int>(status) : -1;
 }
 
-// Gives the system's code of a failure, 0 for none. On a busy machine Wine cannot start one program in some
-// thousand and calls that an internal error, before anything of the program has run: then it is tried again.
+// Returns the system's code of a failure, 0 for none. On a busy machine Wine fails to start about one program
+// in some thousand, with an internal error and before the program runs; then the start is repeated.
 DWORD Start(const std::string& program, const std::wstring& commandLine, const std::string& folder,
             STARTUPINFOW start, PROCESS_INFORMATION& process)
 {

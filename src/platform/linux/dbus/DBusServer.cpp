@@ -24,8 +24,8 @@ QString ObjectPath()
     return QStringLiteral("/FileForm");
 }
 
-// Where no bus is given but a display is, the bus library would start a bus of its own, which outlives the
-// program: then there is nobody to talk to.
+// With a display but no bus, the bus library would start a bus that outlives the program. Then no bus is
+// used.
 bool HasBus()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
@@ -35,7 +35,7 @@ bool HasBus()
 
 } // namespace
 
-// The object and its adaptor; the adaptor belongs to the object.
+// The object and its adaptor; the object owns the adaptor.
 class DBusServer::Link
 {
 public:
@@ -52,7 +52,7 @@ public:
         }
     }
 
-    // The object comes first: a caller that waited for the name finds it at once.
+    // Registers the object before the name, so that a caller that waits for the name finds the object.
     bool Start()
     {
         if (!m_bus.isConnected() || !m_bus.registerObject(ObjectPath(), &m_object)) {
@@ -60,7 +60,7 @@ public:
         }
         m_started = m_bus.registerService(ServiceName());
         if (!m_started) {
-            m_bus.unregisterObject(ObjectPath()); // another instance has the name, and keeps it
+            m_bus.unregisterObject(ObjectPath()); // another instance owns the name and keeps it
         }
         return m_started;
     }

@@ -6,11 +6,10 @@
 
 namespace ls {
 
-/// Execute strings over the session bus: name `org.lodestar.Advisor`, object `/FileForm`, method
+/// Receives execute strings over the session bus: name `org.lodestar.Advisor`, object `/FileForm`, method
 /// `Execute(s)`.
 ///
-/// Without a bus, or where another instance of the program has the name, `Start` is false and nothing else
-/// changes.
+/// Without a bus, or when another instance owns the name, `Start` returns false and nothing else changes.
 class DBusServer : public DdeServer
 {
 public:

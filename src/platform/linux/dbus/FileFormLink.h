@@ -9,7 +9,7 @@
 
 namespace ls {
 
-/// The object on the bus: hands each call to a handler and answers a refusal by an error.
+/// The object on the bus: passes each call to a handler and answers a refusal with an error.
 class FileFormLink : public QObject, protected QDBusContext
 {
     Q_OBJECT
