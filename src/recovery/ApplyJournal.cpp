@@ -19,7 +19,7 @@ bool IsSameFile(const JournalBook& of, const Book& book, const Seams& seams)
            (of.path == book.OpenPath || seams.files.SameFile(of.path, book.OpenPath));
 }
 
-// Every topic of the file once, under the name that it has there.
+// Whether `topics` holds every topic of the file exactly once, under its name in the file.
 bool HasTopicsOf(const std::vector<JournalTopic>& topics, const Book& book)
 {
     Array1<char> found(book.TopicCount);
@@ -68,7 +68,7 @@ void FinishBook(Book& book)
     book.BookChanged = true;
 }
 
-// The edited topics by their numbers in the old table, with those that were only being typed.
+// The edited topics, by their numbers in the old table. Topics that the user was only typing in are included.
 std::map<int, JournalRec> EditedTopics(const Journal& journal)
 {
     std::map<int, JournalRec> edited;
@@ -142,7 +142,7 @@ RunningEdits AsNewBook(const Journal& journal, Book& book)
 {
     std::map<int, int> newNumbers;
     for (const auto& [number, rec] : EditedTopics(journal)) {
-        const int index = static_cast<int>(newNumbers.size()) + 1; // no more than the table of a book holds
+        const int index = static_cast<int>(newNumbers.size()) + 1; // no more than a book's table holds
         newNumbers[number] = index;
         GrowTopicTables(book, index);
         book.TopicNames(index) = rec.name;

@@ -9,9 +9,9 @@ namespace {
 
 constexpr std::uint32_t Polynomial = 0xEDB88320U;
 
-constexpr std::size_t Step = 8; // bytes that are taken at once
+constexpr std::size_t Step = 8; // bytes per step
 
-// Table k tells what a byte does to the checksum when k more bytes follow it.
+// Entry b of table k: the effect of byte b on the checksum when k more bytes follow it.
 using Tables = std::array<std::array<std::uint32_t, 256>, Step>;
 
 constexpr Tables MakeTables()

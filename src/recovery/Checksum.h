@@ -5,7 +5,7 @@
 
 namespace ls {
 
-/// The CRC-32 that archives and pictures use, of `bytes`; `before` is that of what stands in front of them.
+/// The CRC-32 of archives and pictures. `before` is the checksum of the bytes that come before `bytes`.
 [[nodiscard]] std::uint32_t Crc32(std::string_view bytes, std::uint32_t before = 0);
 
 } // namespace ls

@@ -14,7 +14,8 @@ namespace ls {
 
 namespace {
 
-// The names of all journals of the folder that have any file at all.
+// The names of all journals in the folder, including those of which only a lock or a half-written file
+// exists.
 FileError ListNames(const Seams& seams, const std::string& folder, std::set<std::string>& names)
 {
     std::vector<FolderEntry> entries;
@@ -43,7 +44,7 @@ std::string CannotBeRead(const std::string& path, const FileError& error)
            ". It stays where it is.";
 }
 
-// Why a journal that was read cannot be offered; empty for one that can.
+// Why a journal cannot be offered; empty if it can.
 std::string Refusal(FoundJournal& found)
 {
     const std::string journal = "The recovery journal " + Quoted(found.claim->Path());
@@ -58,7 +59,7 @@ std::string Refusal(FoundJournal& found)
     if (!found.claim->KeepDamaged().Ok()) {
         return damaged + "It stays where it is.";
     }
-    std::ignore = found.claim->Remove(); // what stays is found again at the next start
+    std::ignore = found.claim->Remove(); // a file that stays is found again at the next start
     return damaged + "It is called " + Quoted(found.claim->DamagedPath()) + " now.";
 }
 
@@ -66,7 +67,7 @@ void Look(const Seams& seams, FoundJournal&& found, JournalSearch& search)
 {
     const FileError error = ReadJournal(seams.files, found.claim->Path(), found.reading);
     if (error.number == error::FileNotFound) {
-        std::ignore = found.claim->Remove(); // what stays is found again at the next start
+        std::ignore = found.claim->Remove(); // a file that stays is found again at the next start
         return;
     }
     std::string note;
@@ -99,7 +100,7 @@ JournalSearch FindJournals(const Seams& seams, const std::string& folder)
         const FileError refused = JournalClaim::Take(seams.files, seams.paths, folder, name, found.claim);
         if (refused.Ok()) {
             Look(seams, std::move(found), search);
-        } else if (refused.number != error::PermissionDenied) { // else its program is running
+        } else if (refused.number != error::PermissionDenied) { // otherwise its program is running
             const std::string path = JoinPath(seams.paths, folder, name + std::string(JournalType));
             search.notes.push_back(CannotBeRead(path, refused));
         }

@@ -10,37 +10,38 @@
 
 namespace ls {
 
-/// A journal that some program left when it ended without saving.
+/// A journal that a program left when it ended without saving.
 struct FoundJournal
 {
-    std::unique_ptr<JournalClaim> claim; ///< no other program offers it meanwhile
+    std::unique_ptr<JournalClaim> claim; ///< keeps other programs from offering it
     JournalReading reading;
 };
 
-/// What a look at the folder came to.
+/// The result of a search in the journals' folder.
 struct JournalSearch
 {
-    std::vector<FoundJournal> journals; ///< the newest first
-    std::vector<std::string> notes;     ///< what is there and cannot be offered: whole sentences in UTF-8
+    std::vector<FoundJournal> journals; ///< newest first
+    /// Journals that cannot be offered, and why: whole sentences in UTF-8.
+    std::vector<std::string> notes;
 };
 
-/// Looks for the journals of a folder that can be offered: those of programs that are not running any more.
-/// One that a later version wrote, or that cannot be read at the moment, stays where it is; one in which
-/// nothing can be found is put aside as damaged. Lock files and half-written journals without a journal are
-/// cleared away. A folder that does not exist has none.
+/// Finds the journals of a folder that can be offered: those of programs that no longer run. A journal stays
+/// where it is if a later version wrote it, or if it cannot be read now. A journal in which nothing can be
+/// found is put aside as damaged. Lock files and half-written journals without a journal are removed. A
+/// folder that does not exist has no journals.
 [[nodiscard]] JournalSearch FindJournals(const Seams& seams, const std::string& folder);
 
-/// Whether a journal's edits can be brought into their book.
+/// Whether a journal's edits can be applied to their book.
 enum class JournalFit
 {
     Fits,
-    NeverSaved, ///< there is no file
-    Gone,       ///< the file is not there any more
+    NeverSaved, ///< the book has no file
+    Gone,       ///< the file no longer exists
     Refused,    ///< the file cannot be opened now
-    Changed,    ///< the file is not as it was
+    Changed,    ///< the file differs from the one that was edited
 };
 
-/// What the user is asked about a journal, as UTF-8: whose edits they are, and what can be done with them.
+/// The question to the user about a journal, as UTF-8: whose edits it holds, and what can be done with them.
 [[nodiscard]] std::string RecoveryQuestion(const JournalReading& reading, JournalFit fit);
 
 } // namespace ls

@@ -13,9 +13,9 @@ namespace ls {
 /// Which file the edits belong to.
 struct JournalBook
 {
-    std::string path;    ///< the full path of the file that was open, in the system's bytes; empty for none
-    FilePos size = 0;    ///< of that file, in bytes
-    bool locked = false; ///< it was open for editing by this program alone
+    std::string path;    ///< full path of the open file, in the system's bytes; empty if there is no file
+    FilePos size = 0;    ///< size of that file, in bytes
+    bool locked = false; ///< this program had it open for editing, and no other could open it
 
     friend bool operator==(const JournalBook&, const JournalBook&) = default;
 };
@@ -31,20 +31,20 @@ struct JournalHeader
     friend bool operator==(const JournalHeader&, const JournalHeader&) = default;
 };
 
-/// A place in the table of topics.
+/// One row of the table of topics.
 struct JournalTopic
 {
     std::string name;   ///< the header line, with its brackets
-    int fileNumber = 0; ///< the how manyeth topic of the file it is, from 1; 0 for one that was added
+    int fileNumber = 0; ///< its position in the file, from 1; 0 if added since
     bool deleted = false;
 
     friend bool operator==(const JournalTopic&, const JournalTopic&) = default;
 };
 
-/// What was edited of one topic. It names its topic itself, so that it can be read where the table cannot.
+/// The edits of one topic. It holds the topic's name too, so that it can be used when the table is damaged.
 struct JournalRec
 {
-    int topic = 0; ///< the number in the table, from 1
+    int topic = 0; ///< number in the table, from 1
     std::string name;
     bool deleted = false;
     std::string text;
@@ -53,15 +53,15 @@ struct JournalRec
     friend bool operator==(const JournalRec&, const JournalRec&) = default;
 };
 
-/// The unsaved edits of one book, as they are kept beside it for the case that the program ends before they
-/// are saved. A part that could not be read back from a damaged file is missing.
+/// The unsaved edits of one book, stored on disk in case the program ends before they are saved. A part that
+/// could not be read from a damaged file is missing.
 struct Journal
 {
-    std::int64_t written = 0; ///< seconds since the beginning of 1970; 0 when it is not known
+    std::int64_t written = 0; ///< seconds since the beginning of 1970; 0 if unknown
     std::optional<JournalBook> book;
     std::optional<JournalHeader> header;
     std::optional<std::vector<JournalTopic>> topics; ///< the whole table, in its order
-    std::vector<JournalRec> recs;                    ///< of the edited topics, by their numbers
+    std::vector<JournalRec> recs;                    ///< the edited topics, ordered by number
     RunningEdits running;
 };
 

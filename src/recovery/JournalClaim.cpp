@@ -35,8 +35,8 @@ std::string RandomJournalName()
     return name.data();
 }
 
-// A program that is just looking for journals may hold the new lock file for a moment, or take it away for
-// one that was left behind: then another name is tried.
+// Tries another name if a program that looks for journals has the new lock file open, or has removed it as
+// one that was left over.
 FileError JournalClaim::MakeNew(FileSystem& files, PathRules paths, const std::string& folder,
                                 const JournalNames& names, std::unique_ptr<JournalClaim>& claim)
 {
@@ -70,8 +70,9 @@ FileError JournalClaim::Take(FileSystem& files, PathRules paths, const std::stri
     std::unique_ptr<JournalClaim> taken(new JournalClaim(files, JoinPath(paths, folder, name)));
     FileError error = taken->Lock();
     if (IsMissing(error)) {
-        // Nobody holds what has no lock file: it was copied here, or its lock was removed by hand. Another
-        // program may make one at the same moment; in a folder that cannot be written nobody can.
+        // Without a lock file no program claims the journal: it was copied here, or a user removed its lock.
+        // Another program may make a lock file at the same moment. If the folder cannot be written, no
+        // program can make one, and the claim is made without it.
         error = MakeEmptyFile(files, taken->m_base + std::string(JournalLockType));
         const bool lockable = error.Ok() || error.number == error::FileAlreadyExists;
         error = lockable ? taken->Lock() : FileError{};
@@ -82,8 +83,8 @@ FileError JournalClaim::Take(FileSystem& files, PathRules paths, const std::stri
     return error;
 }
 
-// The lock file may be removed between its opening and its locking: a lock on a file without a name would
-// keep nobody away.
+// Checks that the file still exists: another program may remove it between opening and locking, and the lock
+// on a removed file would keep nobody away.
 FileError JournalClaim::Lock()
 {
     const std::string path = m_base + std::string(JournalLockType);
@@ -102,7 +103,7 @@ FileError JournalClaim::Remove()
     if (!error.Ok() && !IsMissing(error)) {
         return error;
     }
-    m_lock.reset(); // a file that is open cannot be removed everywhere
+    m_lock.reset(); // some systems cannot remove an open file
     m_files.RemoveIfPossible(m_base + std::string(JournalLockType));
     return {};
 }

@@ -9,20 +9,20 @@
 
 namespace ls {
 
-/// Gives names for journals, none of them twice.
+/// Returns a new name for a journal at each call.
 using JournalNames = std::function<std::string()>;
 
-/// Names of 16 hexadecimal digits by chance: two programs never come upon the same.
+/// A random name of 16 hexadecimal digits. Two programs practically never get the same one.
 [[nodiscard]] std::string RandomJournalName();
 
-/// What the files of a journal are called behind its name.
+/// The endings of file names: of a journal, its lock file and the copy of a damaged journal.
 inline constexpr std::string_view JournalType = ".journal";
 inline constexpr std::string_view JournalLockType = ".lock";
 inline constexpr std::string_view DamagedJournalType = ".damaged";
 
-/// This program's hold on a journal: as long as it lasts, no other running program takes, offers or removes
-/// it. A locked file beside the journal tells them; the system gives that lock back even when the program is
-/// killed. The journal itself need not exist yet.
+/// This program's claim to a journal. While it lasts, no other running program takes, offers or removes the
+/// journal. The claim is a locked file beside the journal; the system releases the lock even when the program
+/// is killed. The journal itself need not exist yet.
 class JournalClaim
 {
 public:
@@ -30,27 +30,25 @@ public:
     JournalClaim(const JournalClaim&) = delete;
     JournalClaim& operator=(const JournalClaim&) = delete;
 
-    /// A hold on a new journal in a folder that exists.
+    /// Claims a new journal in a folder that exists.
     static FileError MakeNew(FileSystem& files, PathRules paths, const std::string& folder,
                              const JournalNames& names, std::unique_ptr<JournalClaim>& claim);
 
-    /// A hold on the journal of that name that some program left. Error 70 when that program is running, or
-    /// another one has taken it.
+    /// Claims the journal of that name, which some program left. Error 70 if that program is running or if
+    /// another program has claimed the journal.
     static FileError Take(FileSystem& files, PathRules paths, const std::string& folder,
                           const std::string& name, std::unique_ptr<JournalClaim>& claim);
 
-    /// The journal's full path.
     [[nodiscard]] std::string Path() const { return m_base + std::string(JournalType); }
 
-    /// The path under which it is kept when it is damaged.
+    /// The path of the copy that is made when the journal is damaged.
     [[nodiscard]] std::string DamagedPath() const { return m_base + std::string(DamagedJournalType); }
 
-    /// Takes the journal away, and gives the hold up. While the journal cannot be removed the hold on it goes
-    /// on.
+    /// Removes the journal and ends the claim. If the journal cannot be removed, the claim goes on.
     FileError Remove();
 
-    /// Copies a journal that could not be read whole under a name that is never offered: what it holds can
-    /// still be looked for by hand once the journal is written anew or removed.
+    /// Copies a damaged journal to a name that is never offered. A person can still search the copy after the
+    /// journal is rewritten or removed.
     FileError KeepDamaged();
 
 private:
@@ -59,7 +57,7 @@ private:
 
     FileSystem& m_files;
     std::string m_base;
-    std::unique_ptr<BookFile> m_lock; ///< none in a folder where none can be made
+    std::unique_ptr<BookFile> m_lock; ///< null in a folder where no lock file can be made
 };
 
 } // namespace ls

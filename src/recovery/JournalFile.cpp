@@ -20,7 +20,7 @@ FileError WriteWhole(FileSystem& files, const std::string& path, std::string_vie
     return file->Finish();
 }
 
-// A file that shrinks meanwhile is read to its end as it is then.
+// A file that shrinks while it is read is read to its new end.
 FileError ReadWhole(FileSystem& files, const std::string& path, std::string& bytes)
 {
     std::unique_ptr<BookFile> file;
@@ -60,7 +60,7 @@ FileError WriteJournal(FileSystem& files, const std::string& path, std::string_v
         return MakeFileError(error::OutOfMemory);
     }
     const std::string newPath = NewJournalName(path);
-    files.RemoveIfPossible(newPath); // what an earlier failure could not take away
+    files.RemoveIfPossible(newPath); // left over from an earlier failure
     FileError error = WriteWhole(files, newPath, bytes);
     if (error.Ok()) {
         error = files.RenameOver(newPath, path);

@@ -8,25 +8,24 @@
 
 namespace ls {
 
-/// Puts a journal's bytes under its name, in place of the older journal that is there. They are written
-/// beside it (".new" behind the name) and take the name only when all of them are on the disk, so that at
-/// every moment a whole journal stands there. After a failure the older one does.
+/// Replaces the journal at `path`. The bytes are written to a file beside it (its name ends in ".new"), which
+/// takes the name once all of them are on the disk. So a whole journal exists at every moment; after a
+/// failure it is the older one.
 ///
-/// The name is this program's alone: see `JournalClaim`.
+/// REQUIRES: this program claims the journal, see `JournalClaim`.
 FileError WriteJournal(FileSystem& files, const std::string& path, std::string_view bytes);
 
-/// The most that a journal may hold, in bytes: what cannot be read back is not written. Error 7 tells of
-/// more.
+/// The greatest size of a journal, in bytes. A larger one could not be read back, so it is not written: error
+/// 7.
 inline constexpr FilePos MostJournalBytes = FilePos{1} << 30U;
 
-/// Reads the journal of that name. An error is that of the file; what became of its bytes is told by
-/// `reading`.
+/// Reads the journal of that name. The error is that of the file; `reading` reports damage in its bytes.
 FileError ReadJournal(FileSystem& files, const std::string& path, JournalReading& reading);
 
-/// Writes a journal's bytes, whatever they are, under another name too.
+/// Copies a journal's bytes to another name, damaged or not.
 FileError CopyJournal(FileSystem& files, const std::string& from, const std::string& to);
 
-/// The name under which a journal is written until it is whole.
+/// The name of the file that holds a journal until it is whole.
 [[nodiscard]] std::string NewJournalName(const std::string& path);
 
 } // namespace ls

@@ -20,12 +20,12 @@ JournalBook BookOf(const Book& book, const Seams& seams)
     of.path = full ? book.OpenPath : JoinPath(seams.paths, seams.files.CurrentFolder(), book.OpenPath);
     of.locked = book.LockBook;
     if (!book.File->Size(of.size).Ok()) {
-        of.size = 0; // no book fits that: the edits are then offered as a new one
+        of.size = 0; // no book has this size, so the edits are offered as a new book
     }
     return of;
 }
 
-// The table, each topic with its place in the file: topics may have been moved since it was scanned.
+// The table, each topic with its position in the file: topics may have been moved since the scan.
 std::vector<JournalTopic> TopicsOf(const Book& book)
 {
     std::vector<FilePos> inFile;

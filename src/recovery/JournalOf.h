@@ -7,11 +7,10 @@ namespace ls {
 
 struct Book;
 
-/// Whether a book has edits that saving it would keep, or that stand in an open form.
+/// Whether a book has edits that saving it would store, or an open form holds edits.
 [[nodiscard]] bool HasEdits(const Book& book, const RunningEdits& running);
 
-/// The edits of a book as they stand now. Nothing of it is changed, and nothing is read but the size of its
-/// file.
+/// The present edits of a book. Does not change the book, and reads nothing but the size of its file.
 [[nodiscard]] Journal JournalOf(const Book& book, const RunningEdits& running, const Seams& seams);
 
 } // namespace ls

@@ -16,12 +16,12 @@ constexpr char Mark = '@';
 constexpr char LineEnd = '\n';
 constexpr std::size_t ChecksumDigits = 8;
 
-// What follows a broken head is looked through for whole sections, each of which may claim to reach to the
-// file's end. A file made of such heads would keep a start waiting for hours: so often the file's size may go
-// into checksums in vain. Damage in fewer than so many heads is always seen through.
+// After a broken head, the bytes are searched for whole sections. Each head found may claim a section up to
+// the end of the file. A file full of such heads would delay a start by hours. So failed checksums may cover
+// at most this many times the file's size. Damage in fewer heads is always searched completely.
 constexpr std::size_t MostSummed = 64;
 
-// Of the kind, too: a section must not be taken for one of another kind.
+// The checksum covers the kind too, so that no section is taken for another kind.
 std::string ChecksumText(std::string_view kind, std::string_view payload)
 {
     std::array<char, ChecksumDigits + 1> digits{};
@@ -29,7 +29,7 @@ std::string ChecksumText(std::string_view kind, std::string_view payload)
     return digits.data();
 }
 
-// What stands before the next `delimiter`, which is taken, too; nothing when there is none.
+// Takes the text before the next `delimiter`, and the delimiter; nothing if there is none.
 std::optional<std::string_view> TakeUntil(std::string_view& text, char delimiter)
 {
     const std::size_t end = text.find(delimiter);
@@ -105,8 +105,8 @@ std::optional<JournalSection> JournalSections::Next()
     return std::nullopt;
 }
 
-// The section that begins there, and where it ends. Its checksum alone decides: a line end that is missing or
-// broken behind it does not harm it.
+// The section that begins at `at`, and its end. Only the checksum decides: a missing or broken line end after
+// the section does no harm.
 std::optional<JournalSection> JournalSections::SectionAt(std::size_t at, std::size_t& end)
 {
     std::string_view rest = m_bytes.substr(at);

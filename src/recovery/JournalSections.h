@@ -8,14 +8,13 @@
 
 namespace ls {
 
-/// A section of a journal's file.
 struct JournalSection
 {
     std::string_view kind;
     std::string_view payload;
 };
 
-/// Texts in a row: each as its length, ":", its bytes and ",".
+/// A row of texts. Each is written as its length, ":", its bytes and ",".
 class JournalTexts
 {
 public:
@@ -28,13 +27,13 @@ private:
     std::string m_bytes;
 };
 
-/// The texts of a section; nothing where they are not that.
+/// The texts of a section; nothing if the payload is malformed.
 [[nodiscard]] std::optional<std::vector<std::string_view>> ReadJournalTexts(std::string_view payload);
 
-/// A whole number from its digits, 0 to `max`; nothing for anything else.
+/// The number that the digits give, 0 to `max`; nothing for anything else.
 [[nodiscard]] std::optional<std::int64_t> ReadJournalNumber(std::string_view digits, std::int64_t max);
 
-/// Adds a section to a journal's bytes.
+/// Appends a section to a journal's bytes.
 void PutJournalSection(std::string& bytes, std::string_view kind, const JournalTexts& texts);
 
 /// Finds the whole sections of a file, one after the other.
@@ -43,10 +42,10 @@ class JournalSections
 public:
     explicit JournalSections(std::string_view bytes) : m_bytes(bytes) {}
 
-    /// The next whole section; nothing behind the last.
+    /// The next whole section; nothing after the last one.
     [[nodiscard]] std::optional<JournalSection> Next();
 
-    /// Whether anything was passed over so far that is no whole section.
+    /// Whether any bytes so far were skipped because they are no whole section.
     [[nodiscard]] bool Damaged() const { return m_damaged; }
 
 private:
@@ -54,7 +53,7 @@ private:
 
     std::string_view m_bytes;
     std::size_t m_at = 0;
-    std::size_t m_summed = 0; ///< bytes for which a checksum was made that did not fit
+    std::size_t m_summed = 0; ///< bytes whose checksum was computed and did not match
     bool m_damaged = false;
 };
 

@@ -11,7 +11,7 @@ std::int64_t FromBool(bool value)
     return value ? 1 : 0;
 }
 
-// Puts sections behind one another and counts them: the last one tells how many stand before it.
+// Writes sections one after the other and counts them for the last one.
 class Writer
 {
 public:

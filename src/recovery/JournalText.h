@@ -8,7 +8,7 @@
 
 namespace ls {
 
-/// What a journal's first line consists of: the mark and the number of the format's version.
+/// The start of a journal's first line; the format's version number follows it.
 inline constexpr std::string_view JournalMagic = "LODESTAR RECOVERY JOURNAL ";
 inline constexpr std::int64_t JournalVersion = 1;
 
@@ -16,12 +16,11 @@ inline constexpr std::int64_t JournalVersion = 1;
 enum class JournalState
 {
     Whole,
-    Damaged,    ///< something is missing or broken; what is whole was read
-    Unreadable, ///< there is nothing in it that could be recovered
-    Newer,      ///< a later version of this program wrote it, and only that can read it
+    Damaged,    ///< something is missing or broken; the whole sections were read
+    Unreadable, ///< it holds nothing that could be recovered
+    Newer,      ///< written by a later version of this program, which alone can read it
 };
 
-/// A journal as it was read.
 struct JournalReading
 {
     JournalState state = JournalState::Unreadable;
@@ -30,19 +29,20 @@ struct JournalReading
 
 /// The bytes of a journal's file.
 ///
-/// The first line is "LODESTAR RECOVERY JOURNAL 1". Sections follow, each with a line of its own in front
-/// ("@TOPIC 1234 89abcdef": its kind, the bytes in it, and the checksum of both) and a line end behind; the
-/// last one is "@END", with the number of those before it. A section is a row of texts, each as its length,
-/// ":", its bytes and ",". So every section can be told to be whole by itself, and found behind one that is
-/// broken.
+/// The first line is "LODESTAR RECOVERY JOURNAL 1". Sections follow, and each begins with a line like this:
+///
+///   @TOPIC 1234 89abcdef     its kind, its size in bytes, and the checksum of kind and bytes
+///
+/// A line end follows the bytes. The last section is "@END", with the number of sections before it. A section
+/// is a row of texts, each written as its length, ":", its bytes and ",". So each section can be checked by
+/// itself, and found even after a broken one.
 [[nodiscard]] std::string JournalText(const Journal& journal);
 
-/// The first bytes of that: the first line, and the section that holds the time, if the journal has one. The
-/// rest of the bytes does not depend on the time.
+/// The first bytes of `JournalText`: the first line and the section with the time, if the journal has a time.
+/// The bytes after them do not depend on the time.
 [[nodiscard]] std::string JournalHead(const Journal& journal);
 
-/// Reads such bytes, whatever has happened to them: a section counts when its checksum does, and all others
-/// are passed over.
+/// Reads a journal's bytes, damaged or not. Sections whose checksum matches are read, all others are skipped.
 [[nodiscard]] JournalReading ParseJournal(std::string_view bytes);
 
 } // namespace ls

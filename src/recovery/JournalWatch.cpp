@@ -37,7 +37,7 @@ RunningEdits JournalWatch::Collect(const Forms& forms)
     return running;
 }
 
-// Memory may run out while a large text is copied: the journal that stands there is better than none.
+// Memory may run out while a large text is copied. The journal on disk is then left as it is.
 void JournalWatch::Look(const Forms& forms, bool busy)
 {
     if (m_seams.end.Ended()) {
@@ -53,8 +53,8 @@ void JournalWatch::Look(const Forms& forms, bool busy)
     }
 }
 
-// While a command runs and no form waits for its user, edits that are gone may be about to be saved: the
-// journal stays until the command has come to its end.
+// While a command runs and no form is open, edits that are gone may be about to be saved. So the journal is
+// not removed before the command ends.
 void JournalWatch::LookAt(const Forms& forms, bool busy, State state)
 {
     const RunningEdits running = Collect(forms);
@@ -80,12 +80,12 @@ void JournalWatch::LastAct(const Forms& forms)
     try {
         WriteLast(forms);
     } catch (const std::exception&) {
-        return; // nothing more can be done, and what stands there stands
+        return; // nothing more can be done; the journal on disk stays
     }
 }
 
-// A fault of the program itself may have taken the form away already: what was typed there is in the journal
-// only, and stays in it unless it was accepted meanwhile.
+// A fault in the program may have destroyed the form already. Then only the journal holds what was typed
+// there, and it stays there unless it has been accepted since.
 void JournalWatch::WriteLast(const Forms& forms)
 {
     const State state = StateOf(forms);

@@ -17,29 +17,29 @@ class OwnJournal;
 
 /// Decides when the running program's journal is written.
 ///
-/// It is looked at often: a look at which nothing was edited costs next to nothing, however large the book
-/// is. It may come while a box or a form of a command is open. The book is in order then whenever something
-/// was edited since the last look: each edit brings the tables in order before it sets `BookChanged`, and
-/// what takes the book out of order for a while (opening another one) clears `BookChanged` first.
+/// `Look` is called often. Without a new edit it costs next to nothing, however large the book is. It may be
+/// called while a box or a form of a command is open. The book is consistent whenever something was edited
+/// since the last look: each edit makes the tables consistent before it sets `BookChanged`, and an action
+/// that leaves them inconsistent for a while (opening another book) clears `BookChanged` first.
 class JournalWatch
 {
 public:
     using Forms = std::vector<EditSource*>;
     using Clock = std::function<std::int64_t()>;          ///< seconds since the beginning of 1970
-    using Tell = std::function<void(const std::string&)>; ///< tells the user; the text is UTF-8
+    using Tell = std::function<void(const std::string&)>; ///< shows the user a text, in UTF-8
 
     JournalWatch(const Book& book, const Seams& seams, OwnJournal& journal, Clock clock, Tell tell);
 
-    /// Brings the journal up to date. `forms` are the open ones in which the book is edited; `busy` tells
-    /// whether a command is running. A journal that cannot be written is told once, and tried again at every
-    /// look.
+    /// Brings the journal up to date. `forms` are the open forms in which the book is edited; `busy` is true
+    /// while a command runs. If the journal cannot be written, the user is told once, and each look tries
+    /// again.
     void Look(const Forms& forms, bool busy);
 
-    /// A fault ends the program: the forms stand as the user left them, and what is in them is written.
+    /// Called when a fault ends the program: writes what the forms still hold.
     void LastAct(const Forms& forms);
 
-    /// The program is about to end. After a fault what could not be written then is tried once more; else the
-    /// journal goes, since the user has saved the edits or given them up.
+    /// Called when the program is about to end. After a fault, tries once more to write what could not be
+    /// written then. Otherwise removes the journal, as the user has saved the edits or given them up.
     void Finish();
 
 private:
@@ -64,14 +64,14 @@ private:
     OwnJournal& m_journal;
     Clock m_clock;
     Tell m_tell;
-    State m_kept;          ///< when the journal was brought up to date last
-    bool m_typing = false; ///< it holds what stood in a form then
+    State m_kept;          ///< the state that the journal holds
+    bool m_typing = false; ///< the journal holds the contents of a form
     bool m_told = false;
     bool m_unwritten = false; ///< `m_last` could not be written
-    RunningEdits m_last;      ///< what stood in the forms when a fault ended the program
+    RunningEdits m_last;      ///< the contents of the forms when a fault ended the program
 };
 
-/// What the user is told when the journal cannot be written: the text is UTF-8.
+/// The message to the user when the journal cannot be written, as UTF-8.
 [[nodiscard]] std::string JournalTrouble(const std::string& folder, const FileError& error);
 
 } // namespace ls

@@ -21,7 +21,7 @@ constexpr std::string_view LineEnd = "\r\n";
 
 using Notes = std::vector<std::string>;
 
-// "U+2192"
+// Such as "U+2192".
 std::string CodeOf(char32_t character)
 {
     std::array<char, 16> code{};
@@ -29,8 +29,7 @@ std::string CodeOf(char32_t character)
     return code.data();
 }
 
-// The text as a book holds it. Each kind of character that it cannot hold is told once; `what` says where it
-// stands.
+// The text as a book holds it. Each character that a book cannot hold is noted once; `what` names its place.
 std::string KeptText(std::string_view utf8, const std::string& what, Notes& notes)
 {
     std::string kept;
@@ -65,8 +64,8 @@ bool IsTopicOf(const Book& book, int topic)
     return topic >= 1 && topic <= book.TopicCount;
 }
 
-// As the editor's command does before it opens: a topic with one edited half would be saved without its
-// other one. False when it cannot be read from its file.
+// Loads the topic, as the editor's command does before it opens; otherwise a topic with one edited half would
+// be saved without the other half. False if it cannot be read from its file.
 bool BringIntoMemory(Book& book, const Seams& seams, const RunningText& running)
 {
     const TopicRec& rec = book.TopicRecs(running.topic);
@@ -93,7 +92,7 @@ void KeepText(Book& book, const RunningText& running, Notes& notes)
     book.TopicRecs(running.topic).Text = text.empty() ? LineEnd : text;
 }
 
-// What the editor's Done asks about is told here: comments of the old block that the editor cannot hold.
+// Notes the comments of the old block that the editor cannot hold. The editor's Done asks about them.
 void KeepLogic(Book& book, const RunningText& running, Notes& notes)
 {
     TopicRec& rec = book.TopicRecs(running.topic);
@@ -130,7 +129,8 @@ std::vector<std::string> KeepRunningEdits(Book& book, const Seams& seams, const 
 {
     Notes notes;
     if (running.text && IsTopicOf(book, running.text->topic)) {
-        static_cast<void>(BringIntoMemory(book, seams, *running.text)); // the writer copies the file's logic
+        // If it fails, the writer copies the logic from the file.
+        static_cast<void>(BringIntoMemory(book, seams, *running.text));
         KeepText(book, *running.text, notes);
     }
     if (running.logic && IsTopicOf(book, running.logic->topic)) {

@@ -23,8 +23,8 @@ bool IsMissing(const FileError& error)
     return error.number == error::FileNotFound || error.number == error::PathNotFound;
 }
 
-// Opens the book that a journal belongs to, for a try: nothing is said when that fails, and a fault of it
-// ends nothing, since the edits can still become a new book.
+// Tries to open the book of a journal, without messages. A fault here does not end the program, as the edits
+// can still become a new book.
 JournalFit OpenFitting(const Journal& journal, Book& book, const Seams& seams)
 {
     if (!journal.book || journal.book->path.empty()) {
@@ -60,8 +60,8 @@ std::string NotesText(const char* first, const std::vector<std::string>& notes)
     return text;
 }
 
-// The own journal goes on with the one that was recovered, except with a damaged one that cannot be copied:
-// what could not be read of it must not be written over.
+// The own journal continues the recovered one. A damaged journal that cannot be copied is the exception: its
+// unread part must not be overwritten.
 void Adopt(FoundJournal& found, OwnJournal& own, std::vector<std::string>& notes)
 {
     if (found.reading.state == JournalState::Damaged) {
@@ -97,7 +97,7 @@ void Discard(FoundJournal& found, const Seams& seams)
     }
 }
 
-// A book without anything in it, in the working folder of `book`.
+// An empty book with the working folder of `book`.
 Book EmptyBook(const Book& book)
 {
     Book empty;
@@ -105,7 +105,7 @@ Book EmptyBook(const Book& book)
     return empty;
 }
 
-// True when it was recovered.
+// True if the journal was recovered.
 bool Offer(FoundJournal& found, Book& book, const Seams& seams, OwnJournal& own, const AskRecovery& ask)
 {
     Book tried = EmptyBook(book);

@@ -12,7 +12,7 @@ namespace ls {
 struct Book;
 class OwnJournal;
 
-/// What the user wants done with a journal.
+/// The user's answer about a journal.
 enum class RecoveryChoice
 {
     Recover,
@@ -23,14 +23,14 @@ enum class RecoveryChoice
 /// Asks the user; the text is UTF-8.
 using AskRecovery = std::function<RecoveryChoice(const std::string& question)>;
 
-/// Offers the journals that were left in the folder, the newest first, until one is recovered; the others
-/// are offered at the next start. Those that cannot be read are told in a box. One that fits no book and
-/// holds no edited topic is not offered, and stays.
+/// Offers the journals in the folder, newest first, until one is recovered. The others are offered at the
+/// next start. A box lists those that cannot be read. A journal that fits no book and holds no edited topic
+/// is not offered and stays.
 ///
-/// A recovered one is in `book` then, which had nothing open: in the book that it belongs to, open and
-/// scanned, or where it fits none (any more) as a new book. What was being typed is in it, too, and what the
-/// author should look at is told in a box. `own` goes on with the journal; one that was damaged is kept
-/// aside. True when one was recovered: it is to be shown. Else `book` is as it was.
+/// True if a journal was recovered: `book`, which must be empty before, then holds its edits and should be
+/// shown. It is the book that the journal belongs to, open and scanned, or a new book if the journal fits
+/// none. What the user was typing is in it too, and a box lists what the author should check. `own` continues
+/// the journal; a damaged one is also copied. False leaves `book` unchanged.
 [[nodiscard]] bool OfferJournals(const std::string& folder, Book& book, const Seams& seams, OwnJournal& own,
                                  const AskRecovery& ask);
 

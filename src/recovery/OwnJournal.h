@@ -12,7 +12,7 @@ namespace ls {
 
 struct Book;
 
-/// How long an edit may stand in memory only, in milliseconds, and how often a program looks for that.
+/// The longest time that an edit may be in memory only, and the interval between two looks.
 inline constexpr int JournalMaxAgeMilliseconds = 2000;
 inline constexpr int JournalIntervalMilliseconds = 1000;
 
@@ -20,30 +20,30 @@ inline constexpr int JournalIntervalMilliseconds = 1000;
 class OwnJournal
 {
 public:
-    /// `folder` is made when the first edit is written; an empty one stands for none: writing fails with
-    /// error 76 then.
+    /// `folder` is made when the first edit is written. If it is empty there is no folder, and writing fails
+    /// with error 76.
     OwnJournal(const Seams& seams, std::string folder, JournalNames names = RandomJournalName)
         : m_seams(seams), m_folder(std::move(folder)), m_names(std::move(names))
     {
     }
 
-    /// Brings the journal to what the book's edits are now: written when they differ from what stands there,
-    /// removed when there are none any more (they were saved or given up). After an error what stood there
-    /// stands, and the next call tries again. A journal or a folder that somebody took away is made anew.
-    /// `now` is in seconds since the beginning of 1970.
+    /// Brings the journal up to date with the book's edits. Writes it if the edits differ from its contents;
+    /// removes it if no edits are left, as they were saved or given up. After an error the journal on disk
+    /// stays unchanged, and the next call tries again. If the journal or its folder was removed from outside,
+    /// it is made anew. `now` is in seconds since the beginning of 1970.
     FileError Update(const Book& book, const RunningEdits& running, std::int64_t now);
 
-    /// Goes on with a journal whose edits were just recovered, in place of an own one, so that they stand in
-    /// a journal at every moment.
+    /// Continues a journal whose edits were just recovered, in place of an own one. So the edits are on disk
+    /// at every moment.
     void Adopt(std::unique_ptr<JournalClaim> recovered);
 
-    /// Removes the journal: the program ends, and nothing is to be offered.
+    /// Removes the journal, so that the next start offers nothing.
     FileError Remove();
 
-    /// Whether a journal stands on the disk.
+    /// Whether there is a journal on disk.
     [[nodiscard]] bool Stands() const { return m_claim != nullptr; }
 
-    /// False when the journal that was written has been taken away from outside; `Update` writes it again.
+    /// False if the journal was removed from outside; `Update` writes it again.
     [[nodiscard]] bool InPlace() const;
 
     [[nodiscard]] const std::string& Folder() const { return m_folder; }
@@ -56,7 +56,7 @@ private:
     std::string m_folder;
     JournalNames m_names;
     std::unique_ptr<JournalClaim> m_claim;
-    std::string m_written; ///< what stands there, without its time
+    std::string m_written; ///< the journal's contents without its time
 };
 
 } // namespace ls

@@ -14,13 +14,13 @@ constexpr std::int64_t MaxNumber = std::numeric_limits<std::int64_t>::max();
 
 using Texts = std::vector<std::string_view>;
 
-// The sections of a file into the parts of a journal.
+// Turns the sections of a file into the parts of a journal.
 class Reader
 {
 public:
     explicit Reader(Journal& journal) : m_journal(journal) {}
 
-    // False for one that is not what its kind says.
+    // False if the section does not have the form of its kind.
     bool Take(const JournalSection& section)
     {
         const std::optional<Texts> texts = ReadJournalTexts(section.payload);
@@ -55,10 +55,10 @@ public:
         return section.kind == "TYPINGREMOVALS" && TakeRemovals(*texts);
     }
 
-    // Whether the last section was there and all those before it.
+    // Whether the last section was read, and all sections before it.
     [[nodiscard]] bool Complete() const { return m_complete; }
 
-    // Whether there is anything to offer: what is only told about the edits is none of them.
+    // Whether there is anything to offer. The time and the book's path alone are not enough.
     [[nodiscard]] bool FoundEdits() const
     {
         return m_journal.header || m_journal.topics || !m_journal.recs.empty() || !m_journal.running.None();
@@ -191,7 +191,7 @@ enum class FirstLine
     Broken
 };
 
-// Takes the first line away, unless it is broken: then a section may follow at once.
+// Removes the first line. A broken first line stays, as a section may begin in it.
 FirstLine TakeFirstLine(std::string_view& bytes)
 {
     const std::size_t end = bytes.find('\n');
