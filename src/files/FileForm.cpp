@@ -29,7 +29,7 @@ namespace {
 
 constexpr int TimerMilliseconds = 10;
 constexpr const char* HelpPage = "Lodestar_Open.htm";
-constexpr QStringView TakenLetters = u"BUSLOCI"; // by the captions that the form always has
+constexpr QStringView TakenLetters = u"BUSLOCI"; // taken by captions that the form always has
 
 } // namespace
 
@@ -46,7 +46,7 @@ FileForm::FileForm(QWidget* parent, FileDialog& dialog, Book& book, const Settin
     m_timer1->setObjectName(QStringLiteral("Timer1"));
     m_timer1->setInterval(TimerMilliseconds);
     m_ui->FilenameBox->setCompleter(
-        nullptr); // it would change a name that is typed, and take Enter for itself
+        nullptr); // completion would change a typed name, and take Enter for itself
     ConnectControls();
     Form_Load(settings);
 }
@@ -90,11 +90,12 @@ void FileForm::Form_Load(const Settings& settings)
     m_ui->FilenameBox->lineEdit()->selectAll();
     m_ui->FilenameBox->setFocus();
     m_remote.Reset();
-    // Somebody else may have the name, or nobody may be there to talk to: the form works without.
+    // Starting may fail: another program may use the name, or there is nothing to talk to. The form works
+    // without it.
     m_forms.ddeServer.Start([this](const std::string& command) { return Form_LinkExecute(command); });
 }
 
-// O.K. and Cancel take the place of the frame.
+// Moves O.K. and Cancel into the place of the frame.
 void FileForm::HideSharing()
 {
     m_ui->SharingFrame->hide();
@@ -117,7 +118,7 @@ void FileForm::Form_Resize()
     ShowDefaultFolder();
 }
 
-// A folder that is too long for the form loses its middle, and stands in the tool tip.
+// Shortens a folder that is too long for the form in its middle; the tool tip then shows it whole.
 void FileForm::ShowDefaultFolder()
 {
     QLabel& label = *m_ui->DefaultLabel;
@@ -140,7 +141,8 @@ void FileForm::SetName(const std::string& name)
     m_ui->FilenameBox->setEditText(PathText(name));
 }
 
-// A name that was put into the box and not changed keeps its bytes, also where they are no valid text.
+// A name that the form put into the box and that was not changed keeps its bytes, even if they are no valid
+// text.
 std::string FileForm::NameInBox() const
 {
     const QString text = m_ui->FilenameBox->currentText();
@@ -157,8 +159,8 @@ void FileForm::OKButton_Click()
     }
 }
 
-// Events go on while the selector reads its first folder, before it stands over this form: until it is closed
-// nothing here may act.
+// Events go on while the selector reads its first folder and is not yet shown. This form must not act on
+// them.
 void FileForm::ShowSelector()
 {
     const QScopedValueRollback<bool> selecting(m_selecting, true);
@@ -207,13 +209,13 @@ void FileForm::InfoButton_Click()
 bool FileForm::Form_LinkExecute(const std::string& command)
 {
     const bool accepted = m_remote.LinkExecute(command);
-    if (accepted) { // a refused one must not put off the one that is pending
+    if (accepted) { // a refused command must not delay the pending one
         m_timer1->start();
     }
     return accepted;
 }
 
-// Whether the form can take a click: it is shown, enabled, and no box or form stands over it.
+// Whether the form can take a click: it is shown and enabled, and no box or form is open above it.
 bool FileForm::Ready() const
 {
     return isVisible() && isEnabled() && !m_selecting && QApplication::activeModalWidget() == this;

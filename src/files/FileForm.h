@@ -27,13 +27,14 @@ class FileForm : public QDialog
     Q_OBJECT
 
 public:
-    /// Reads what to ask for from `dialog` and answers in it, and in `book.LockBook` when it asks about
-    /// sharing.
+    /// Takes its inputs from `dialog` and puts the results there. If the form asks about sharing, that answer
+    /// goes into `book.LockBook`.
     FileForm(QWidget* parent, FileDialog& dialog, Book& book, const Settings& settings, const Seams& seams,
              const FormSeams& forms);
     ~FileForm() override;
 
-    /// Shows the form until it is closed. A fault that ends the program while it loads keeps it from showing.
+    /// Shows the form until it is closed. If a fault ended the program while the form loaded, it is not
+    /// shown.
     void Run();
 
 public Q_SLOTS:
@@ -67,9 +68,8 @@ private:
     FormSeams m_forms;
     RemoteCommands m_remote;
     QTimer* m_timer1;
-    std::vector<std::string>
-        m_names;              ///< of the list, and what was put into the box last, in the system's bytes
-    bool m_selecting = false; ///< while the file selector is loaded and shown
+    std::vector<std::string> m_names; ///< names in the list and in the box, in the system's bytes
+    bool m_selecting = false;         ///< the file selector is loading or shown
     int m_designWidth = 0;
     int m_browseLeft = 0;
     int m_nameWidth = 0;

@@ -11,8 +11,9 @@ namespace ls {
 
 namespace {
 
-// Whether a path begins as `prefix` does, which is `folder` with its separator. Without drives, names that
-// differ only in case are two folders, unless the one is not there as it is spelled and the other is meant.
+// Whether `path` is below `folder`; `prefix` is `folder` with a separator. On a system without drives, names
+// that differ only in case are two folders. But if `folder` does not exist as spelled, the other spelling is
+// meant.
 bool LiesIn(const std::string& path, const std::string& prefix, const std::string& folder, const Seams& seams)
 {
     if (path.size() <= prefix.size() || path.starts_with(prefix)) {
@@ -60,7 +61,7 @@ FileFormView LoadFileForm(FileDialog& dialog, const Settings& settings, const Se
 bool AcceptFileName(FileDialog& dialog, const std::string& text, bool exclusive, bool& lockBook,
                     const Seams& seams)
 {
-    // "?" is let through, which is kept: only these two count as wildcards here.
+    // Intended: the user may type "?". Only these two are wildcards here.
     if (text.find_first_of("*%") != std::string::npos) {
         seams.messages.MsgBox("Sorry, you cannot include a wildcard symbol in the filename.",
                               Icon::Exclamation);

@@ -10,7 +10,7 @@ namespace ls {
 
 struct Settings;
 
-/// What the file form shows when it comes up.
+/// What the file form shows at first.
 struct FileFormView
 {
     std::string caption;
@@ -18,30 +18,29 @@ struct FileFormView
     std::string defaultLabel;
     bool showSharing = false;
     bool showInfo = false;                ///< "Save Info"
-    std::vector<std::string> recentFiles; ///< for the list of the name box
-    std::string fileName;                 ///< its text
+    std::vector<std::string> recentFiles; ///< the rows of the name box's list
+    std::string fileName;                 ///< the text of the name box
 };
 
-/// Clears the answers of `dialog`, completes its inputs, and tells what to show. Another mode than "R" and
-/// "W" ends the program; the result is then of no use.
+/// Clears the results in `dialog`, fills in its empty inputs, and returns what to show. A mode other than "R"
+/// and "W" ends the program; the returned view is then meaningless.
 [[nodiscard]] FileFormView LoadFileForm(FileDialog& dialog, const Settings& settings, const Seams& seams);
 
-/// O.K.: takes the name in the box unless it holds a wildcard, which shows a message and gives false.
-/// `lockBook` is set when the form asked about sharing.
+/// O.K.: accepts the name in the box. A name with a wildcard shows a message and gives false. `lockBook` is
+/// set if the form asked about sharing.
 bool AcceptFileName(FileDialog& dialog, const std::string& text, bool exclusive, bool& lockBook,
                     const Seams& seams);
 
-/// What the name box shows after the file selector gave back `ChosenFullPath`: the name as it stands below
-/// the default folder, else the whole path. A cancelled selector (an empty path) leaves `text` as it was.
+/// Puts the file selector's `ChosenFullPath` into the name box: relative to the default folder if it is below
+/// that folder, else as the whole path. A cancelled selector (an empty path) leaves `text` unchanged.
 void TakeBrowsedFile(FileDialog& dialog, std::string& text, const Seams& seams);
 
-/// The path by which a chosen book is opened: the name as it stood in the box. One that Browse found below
-/// the default folder goes by its full path when `workDir` is set: with a separator in it, it would be taken
-/// in the current folder.
+/// The path by which a chosen book is opened: the name in the box. A name from Browse becomes the full path
+/// if `workDir` is set: a name with a separator would otherwise be searched for in the current folder.
 [[nodiscard]] std::string PathOfChosenBook(const FileDialog& dialog, const std::string& workDir);
 
-/// A file name made absolute: empty stays empty, absolute stays as it is, else it lies in `folder` (the
-/// current folder when that is empty).
+/// Makes a file name absolute with `folder`, or with the current folder if `folder` is empty. Empty and
+/// absolute names stay unchanged.
 [[nodiscard]] std::string MakeFullPath(const std::string& folder, const std::string& name,
                                        const Seams& seams);
 

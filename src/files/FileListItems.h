@@ -7,7 +7,8 @@
 
 namespace ls {
 
-/// The rows of a list of file names. A row's text is made when it is drawn: a folder may hold many thousands.
+/// The rows of a list of file names. A row's text is made when it is drawn, as a folder may hold many
+/// thousands.
 class FileListItems : public QAbstractListModel
 {
 public:

@@ -19,7 +19,7 @@ constexpr int LabelGap = 2;
 
 using Controls = std::initializer_list<QWidget*>;
 
-// The labels, one below the other. Gives where the next row begins.
+// Arranges the labels, one below the other. Returns the top of the next row.
 int FitLabels(Ui::FileForm& ui)
 {
     int top = ui.TitleLabel->y();
@@ -30,7 +30,7 @@ int FitLabels(Ui::FileForm& ui)
     return std::max(ui.FilenameBox->y(), top + Gap - LabelGap);
 }
 
-// The frame's title stands above its options.
+// Makes room for the frame's title above its options.
 void FitFrame(Ui::FileForm& ui, int top)
 {
     const int inset = ui.ExclusiveOption->x();
@@ -45,7 +45,8 @@ void FitFrame(Ui::FileForm& ui, int top)
     ui.SharingFrame->setGeometry(Margin, top, width, std::max(ui.SharingFrame->height(), y + Gap));
 }
 
-// The buttons right of the frame end with it. Gives where the last one ends.
+// Arranges the buttons in a row right of the frame, level with its lower edge. Returns the right end of the
+// row.
 int FitButtons(Ui::FileForm& ui)
 {
     const Controls buttons = {ui.OKButton, ui.CancelButton, ui.InfoButton};

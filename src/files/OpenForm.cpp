@@ -58,7 +58,7 @@ void OpenForm::ConnectControls()
             [this](const QModelIndex& at) { FileListBox_DblClick(at.row()); });
 }
 
-// The lists as the selector has them; filling them is no choice of the user's.
+// Shows the selector's lists. Filling them is not a choice of the user.
 void OpenForm::ShowSelector()
 {
     const QSignalBlocker drives(m_ui->DriveDropDown);
@@ -101,7 +101,7 @@ void OpenForm::FinishIf(OpenFormRules::Outcome outcome)
     }
 }
 
-// What the user did not change goes back as it came: a name that is no valid text would not survive the box.
+// A path that the user did not change keeps its bytes. The box would alter a name that is no valid text.
 void OpenForm::OKButton_Click()
 {
     const QString text = m_ui->TextBox->text();
@@ -114,7 +114,7 @@ void OpenForm::DriveDropDown_Change(int index)
     ShowSelector();
 }
 
-// One click shows the folder. The second click of a double click falls on the new list, and means nothing.
+// One click shows the folder. The second click of a double click falls on the new list and does nothing.
 void OpenForm::DirsBox_Click(int row)
 {
     if (m_sinceFolderClick.isValid() && m_sinceFolderClick.elapsed() < QApplication::doubleClickInterval()) {
@@ -130,7 +130,7 @@ void OpenForm::ShowFolder(int row)
     ShowSelector();
 }
 
-// Enter on a folder; a double click comes here too, and its first click has shown the folder.
+// Enter on a folder. A double click calls this too, but its first click has already shown the folder.
 void OpenForm::DirsBox_Enter(int row)
 {
     if (!m_sinceFolderClick.isValid() ||

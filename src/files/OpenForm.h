@@ -17,8 +17,8 @@ namespace ls {
 
 struct FileDialog;
 
-/// The file selector: a path or pattern, a drive list, a folder list and a file list. It is shown by the
-/// Browse button of `FileForm`, and alone to select a program. Its rules are in `OpenFormRules`.
+/// The file selector: a path or pattern, a drive list, a folder list and a file list. `FileForm` shows it for
+/// its Browse button, `SelectProgram` to pick a program. Its rules are in `OpenFormRules`.
 class OpenForm : public QDialog
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ private:
     QStringListModel m_folders;
     FileListItems m_files;
     QElapsedTimer m_sinceFolderClick;
-    bool m_filling = false; ///< while the lists are filled: no choice of the user's
+    bool m_filling = false; ///< the lists are being filled; a change of row is not the user's choice
 };
 
 } // namespace ls

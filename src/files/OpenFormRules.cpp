@@ -13,7 +13,7 @@ namespace ls {
 
 namespace {
 
-// Names sorted as a person looks for them: without regard to case, equal ones by bytes.
+// Sorts names without regard to case. Names that differ only in case are ordered by their bytes.
 void SortNames(std::vector<std::string>& names)
 {
     std::vector<std::pair<std::string, std::string>> keyed;
@@ -35,7 +35,7 @@ struct Listing
     std::vector<std::string> files;
 };
 
-// What lies in a folder, sorted. Files that are hidden are left out.
+// The contents of a folder, sorted. Hidden files are left out.
 Listing ListingOf(FileSystem& files, const std::string& folder)
 {
     Listing listing;
@@ -53,7 +53,7 @@ Listing ListingOf(FileSystem& files, const std::string& folder)
     return listing;
 }
 
-// "C:" of "C:\\Books"; nothing where there are no drives.
+// "C:" of "C:\\Books"; empty on systems without drives.
 std::string DriveOf(std::string_view path)
 {
     return path.size() >= 2 && path[1] == ':' ? std::string(path.substr(0, 2)) : std::string();
@@ -113,7 +113,7 @@ void OpenFormRules::ResetText()
     m_text = InFolder(m_pattern);
 }
 
-// The drive part of what the drive list shows: up to its ":", which a one-letter text gets added.
+// The drive's name in the drive list, up to its ":". A one-letter name gets a ":".
 std::string OpenFormRules::CurrentDriveText()
 {
     const std::string* const shown = ItemAt(m_driveLabels, m_drive);
@@ -151,7 +151,7 @@ bool OpenFormRules::SwitchDrive(const std::string& drive)
     return true;
 }
 
-// Reads what lies in a folder; on success it is the folder on show.
+// Reads a folder; if that succeeds, it becomes the shown folder.
 FileError OpenFormRules::ReadFolder(const std::string& folder)
 {
     Listing listing;
@@ -195,7 +195,7 @@ void OpenFormRules::ListFolders()
     }
 }
 
-// The volume with the longest root that holds the folder.
+// Selects the volume with the longest root that holds the folder.
 void OpenFormRules::SelectDriveOf(const std::string& folder)
 {
     std::size_t longest = 0;
@@ -224,7 +224,7 @@ bool OpenFormRules::SwitchFolder(const std::string& folder, const std::string& a
     return false;
 }
 
-// The folder that a text names: none is the folder on show, and a relative one lies in that.
+// The folder that a text names. No folder means the shown one; a relative folder is below the shown one.
 std::string OpenFormRules::FolderMeant(const PathParts& parts) const
 {
     if (parts.folder.empty()) {
@@ -237,7 +237,7 @@ std::string OpenFormRules::FolderMeant(const PathParts& parts) const
     if (m_seams.paths.drives) {
         return LowerCaseAscii(bare) == LowerCaseAscii(m_folderPath) ? m_folderPath : bare;
     }
-    // Names that differ only in case are two folders here: spelled as one of them, that one is meant.
+    // Names that differ only in case may be two folders here. The exact spelling wins.
     return FindSpelling(m_seams.files, m_seams.paths, bare);
 }
 
@@ -251,8 +251,7 @@ OpenFormRules::Outcome OpenFormRules::Apply()
         }
     }
     const std::string folder = FolderMeant(parts);
-    // Names that differ only in case are two folders on some systems: spelled as it is, the one on show
-    // stays.
+    // The comparison is exact, as names that differ only in case are two folders on some systems.
     if (folder != m_folderPath && !SwitchFolder(folder, parts.folder)) {
         return Outcome::Stay;
     }
@@ -262,13 +261,13 @@ OpenFormRules::Outcome OpenFormRules::Apply()
         ResetText();
         return Outcome::Stay;
     }
-    if (!SwitchFolder(m_folderPath, m_folderPath)) { // the list may be old: a file may have come or gone
+    if (!SwitchFolder(m_folderPath, m_folderPath)) { // reads again: files may be new or gone
         return Outcome::Stay;
     }
     return ChooseName(parts.Pattern());
 }
 
-// Where there are drives, a name in another case is the same folder.
+// With drives, a name in other case is the same folder.
 bool OpenFormRules::IsSubfolder(const std::string& name) const
 {
     const bool anyCase = m_seams.paths.drives;
@@ -281,8 +280,8 @@ bool OpenFormRules::IsSubfolder(const std::string& name) const
 
 OpenFormRules::Outcome OpenFormRules::ChooseName(const std::string& name)
 {
-    // The whole folder is searched, not only what the pattern lists: "does not exist" must be true. As
-    // spelled wins; else the first that differs only in case.
+    // Searches the whole folder, not only the files that match the pattern, so that "does not exist" is true.
+    // The exact spelling wins, else the first name that differs only in case.
     auto found = std::find(m_allFiles.begin(), m_allFiles.end(), name);
     if (found == m_allFiles.end()) {
         found = std::find_if(m_allFiles.begin(), m_allFiles.end(),
@@ -290,7 +289,7 @@ OpenFormRules::Outcome OpenFormRules::ChooseName(const std::string& name)
                                  return LowerCaseAscii(file) == lower;
                              });
     }
-    // A hidden file is not listed, but it is there.
+    // A hidden file is not listed, but it exists.
     const bool hidden =
         found == m_allFiles.end() && m_seams.files.Exists(InFolder(name)) && !IsSubfolder(name);
     const bool exists = found != m_allFiles.end() || hidden;

@@ -12,38 +12,39 @@
 
 namespace ls {
 
-/// An entry of the folder list: the way from the root to the folder on show, then the folders in it.
+/// A row of the folder list. The list holds the folders from the root to the shown one, then the shown
+/// folder's subfolders.
 struct FolderItem
 {
-    std::string label; ///< the folder's name; a root is shown as it is written
+    std::string label; ///< the folder's name; for a root its path
     std::string path;
     int depth = 0;     ///< levels below the root, for the indentation
-    bool open = false; ///< lies on the way to the folder on show, or is it
+    bool open = false; ///< the shown folder, or a folder above it
 };
 
 /// The rules of the file selector: one text that always holds a full path or a full pattern, and three lists
-/// that are kept in step with it. The form shows what stands here and reports what the user picked.
+/// that always match it. `OpenForm` shows its state and passes on the user's choices.
 class OpenFormRules
 {
 public:
-    /// What an action came to.
+    /// The result of an action.
     enum class Outcome
     {
         Stay,     ///< the form shows the lists and the text anew
         Accepted, ///< `ChosenFullPath` is set; the form closes
     };
 
-    /// `fileMode` "R" wants an existing file, "W" asks before one that exists.
+    /// `fileMode` "R" accepts existing files only; "W" asks before it accepts one.
     OpenFormRules(const Seams& seams, Volumes& volumes, std::string fileMode, std::string workDir);
 
-    /// Reads a folder, which may be large or far away; returns when that is done.
+    /// Runs the function, which reads a folder that may be large or slow, and returns when it is done.
     using RunWork = std::function<void(const std::function<void()>&)>;
 
-    /// Lets folders be read by `run` instead of directly, so that a form can stay alive meanwhile.
+    /// Reads folders through `run`, so that a form can stay responsive meanwhile.
     void ReadFoldersBy(RunWork run) { m_run = std::move(run); }
 
-    /// Starts at a folder, a folder with a pattern, or a pattern alone; empty: `WorkDir`, else the current
-    /// folder.
+    /// Starts at a folder, a folder with a pattern, or a pattern alone. If empty: at `WorkDir`, else at the
+    /// current folder.
     void Load(const std::string& startPath);
 
     Outcome OkClicked(const std::string& text);
@@ -88,12 +89,12 @@ private:
     std::vector<Volume> m_volumes;
     std::vector<std::string> m_driveLabels;
     int m_drive = -1;
-    std::string m_folderPath;              ///< without a trailing separator, but for a root
-    std::vector<std::string> m_subfolders; ///< those that are listed, sorted
+    std::string m_folderPath;              ///< without a trailing separator, except for a root
+    std::vector<std::string> m_subfolders; ///< listed ones, sorted
     std::vector<std::string> m_hiddenFolders;
-    std::vector<std::string> m_allFiles; ///< of the folder, sorted
+    std::vector<std::string> m_allFiles; ///< all listed files of the folder, sorted
     std::vector<FolderItem> m_folders;
-    std::vector<std::string> m_files; ///< those that fit the pattern
+    std::vector<std::string> m_files; ///< those that match the pattern
     std::string m_pattern = "*.*";
     std::string m_text;
 

@@ -49,9 +49,9 @@ bool MatchesPattern(std::string_view fileName, std::string_view wildcards)
     const std::string pattern = LowerCaseAscii(wildcards);
     std::size_t n = 0;
     std::size_t p = 0;
-    std::size_t star = std::string::npos; // the last "*" passed, and where its text began
+    std::size_t star = std::string::npos; // the last "*" passed; `afterStar` is where its match begins
     std::size_t afterStar = 0;
-    // Each turn either moves on in the name or lets the last "*" take one character more: it ends.
+    // Each turn either moves on in the name, or lets the last "*" match one more character. So the loop ends.
     while (n < name.size()) {
         if (p < pattern.size() && pattern[p] == '*') {
             star = p++;

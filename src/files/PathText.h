@@ -6,11 +6,11 @@
 
 namespace ls {
 
-/// A path for a control. Bytes that are no valid text are shown as replacement characters: such a path must
-/// be kept beside the control and not read back from it.
+/// A path for a control. Bytes that are no valid text become replacement characters, so callers must keep the
+/// path itself and not read it back from the control.
 [[nodiscard]] QString PathText(const std::string& path);
 
-/// A path that the user typed, in the system's own bytes.
+/// A path that the user typed, in the system's bytes.
 [[nodiscard]] std::string PathBytes(const QString& text);
 
 } // namespace ls

@@ -60,7 +60,7 @@ RemoteCommands::Action RemoteCommands::Timer(bool ready, Messages& messages)
     m_ddeCommand.clear();
     const Action action = ActionOf(controlName);
     if (action == Action::None) {
-        // The two sentences' joint lacks its blank, which is kept: "toLodestar".
+        // Intended: the message lacks a blank between its sentences, so the user reads "toLodestar".
         messages.MsgBox(
             "Invalid DDE PUSH command received.  Use a command toLodestar|FileForm in the format <<PUSH "
             "controlname>>.",

@@ -8,10 +8,11 @@ class Messages;
 
 /// Execute strings from other programs: "PUSH controlname" presses a button of the file form.
 ///
-/// A string is taken in at once and carried out a moment later, when a timer fires, so that the sender's
-/// request has returned before a button opens a box. One may be pending; a second is refused. A string that
-/// is no well-formed PUSH stays pending for good, and so does one that came while the form could not act:
-/// until the form is loaded again everything is refused, which is kept.
+/// A string is stored at once and carried out a moment later by a timer, so that the sender's request has
+/// returned before a button opens a box. Only one may be pending; a second is refused.
+///
+/// Intended: a string that is no PUSH command stays pending for good, and so does one that came while the
+/// form could not act. Further strings are refused until the form is loaded again.
 class RemoteCommands
 {
 public:
@@ -24,13 +25,13 @@ public:
         PushBrowse,
     };
 
-    /// A form that is loaded begins with nothing pending.
+    /// Drops a pending command; for a form that is just loaded.
     void Reset();
 
-    /// Takes an execute string and switches the timer on. False refuses it, since another is pending.
+    /// Stores an execute string and starts the timer. False if another string is pending.
     bool LinkExecute(const std::string& command);
 
-    /// The timer fires: it is off at once. `ready` tells whether the form can take input. An ill-formed
+    /// Called when the timer fires; stops the timer. `ready` is true if the form can take input. A malformed
     /// command shows its message.
     Action Timer(bool ready, Messages& messages);
 
@@ -38,7 +39,7 @@ public:
     [[nodiscard]] const std::string& DdeCommand() const { return m_ddeCommand; }
 
 private:
-    std::string m_ddeCommand; ///< the pending command, empty when there is none
+    std::string m_ddeCommand; ///< the pending command, empty if none
     bool m_timerEnabled = false;
 };
 

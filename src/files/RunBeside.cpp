@@ -10,8 +10,8 @@ namespace ls {
 
 namespace {
 
-// Work that is done sooner lets no event in between. Together with what follows it stays below the tenth of a
-// second after which a program seems to hang.
+// Faster work lets no event in between. This wait and what follows stay below a tenth of a second, after
+// which a program seems to hang.
 constexpr unsigned long PatienceMilliseconds = 40;
 
 } // namespace

@@ -4,9 +4,9 @@
 
 namespace ls {
 
-/// Runs work in a thread of its own and returns when it is done; where that takes long, events go on
-/// meanwhile, but for keys and the mouse, which wait. What the work touches must not be touched by others
-/// until then. A fault of the work is the caller's.
+/// Runs work in a thread of its own and returns when it is done. While long work runs, events are handled,
+/// except those of keys and mouse, which wait. Nothing else may touch what the work uses until it is done.
+/// Exceptions of the work reach the caller.
 void RunBeside(const std::function<void()>& work);
 
 } // namespace ls

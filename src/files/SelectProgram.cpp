@@ -8,7 +8,7 @@ namespace ls {
 std::string SelectProgram(QWidget* parent, const Seams& seams, const FormSeams& forms,
                           const std::string& workDir, const std::string& startPath)
 {
-    FileDialog dialog; // the file that a form may be asking for is another matter
+    FileDialog dialog; // not the caller's dialog, whose form may be open
     dialog.FileMode = "R";
     dialog.ChosenFullPath = startPath;
     OpenForm(parent, dialog, seams, forms.volumes, workDir).exec();
