@@ -22,7 +22,7 @@ bool HasValue(RegistryKey& key, const std::string& valueName)
     return key.QueryType(valueName, type, size);
 }
 
-// The fault that ends the program: told first, then the reason is kept.
+// Shows the message, then ends the program with it.
 std::string EndWith(const Seams& seams, const std::string& text)
 {
     seams.messages.MsgBox(text, Icon::Critical);
@@ -30,7 +30,7 @@ std::string EndWith(const Seams& seams, const std::string& text)
     return {};
 }
 
-// The program that the registry names for a file type; empty when it names none.
+// The program that the registry names for a file type; empty if none.
 std::string RegisteredProgram(const Seams& seams, Registry& registry, const std::string& fileType)
 {
     const std::string fileClass = RegGetString(seams, registry, "SOFTWARE\\Classes\\" + fileType, "");
@@ -41,8 +41,8 @@ std::string RegisteredProgram(const Seams& seams, Registry& registry, const std:
         RegGetString(seams, registry, "SOFTWARE\\Classes\\" + fileClass + "\\shell\\open\\command", ""));
 }
 
-// Tells of a variable that could not be expanded; where the program came from the registry, the user is
-// sent there.
+// Shows a message about a variable that could not be expanded. If the program came from the registry, the
+// message names that file type.
 void TellExpansion(const Seams& seams, const Expansion& expansion, const std::string& progSpec,
                    const std::string& keptSpec)
 {
@@ -60,7 +60,7 @@ std::int16_t StartCommandLine(const Seams& seams, const std::string& commandLine
 {
     const Processes::Started started = seams.processes.Start(commandLine);
     if (!started.error.Ok()) {
-        // A positive number has a blank where a minus sign would stand: "Error # 53".
+        // Intended: a positive number has a blank in place of a minus sign, so the user reads "Error # 53".
         const int number = started.error.number;
         seams.messages.MsgBox("Error #" + std::string(number < 0 ? "" : " ") + std::to_string(number) +
                                   " on command line " + InAngles(commandLine) +
@@ -85,8 +85,7 @@ std::string RegGetString(const Seams& seams, Registry& registry, const std::stri
         return {};
     }
     std::unique_ptr<RegistryKey> key = registry.Open(Registry::Root::CurrentUser, keyPath);
-    // Installers leave keys of the user behind that have no value: that is no reason to end the program
-    // while the machine's key has one.
+    // Installers leave keys of the user that hold no value. Then the machine's key is used.
     if (!key || !HasValue(*key, valueName)) {
         std::unique_ptr<RegistryKey> machine = registry.Open(Registry::Root::LocalMachine, keyPath);
         key = machine ? std::move(machine) : std::move(key);

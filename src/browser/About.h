@@ -6,7 +6,7 @@ namespace ls {
 
 struct Book;
 
-/// The box that tells about the program, and about the book's author where one is named.
+/// The box about the program, and about the book's author if the book names one.
 void ShowAbout(const Book& book, const Seams& seams);
 
 } // namespace ls

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* FirstPage = "Lodestar_Ideas.htm";
 
-// Programs have a type of their own only where there are drives; elsewhere they lie together in a folder.
+// Systems with drives mark programs by their file type; others put them in common folders.
 std::string WhereProgramsAre(const Seams& seams)
 {
     return seams.paths.drives ? "*.exe" : "/usr/bin/*";

@@ -8,19 +8,19 @@
 
 namespace ls {
 
-/// Shows the file selector in open mode at a start path, for a program; gives the path that was picked, empty
-/// when the user cancels.
+/// Shows the file selector in open mode at a start path, to pick a program. Returns the path, or an empty one
+/// if the user cancels.
 using AskForProgram = std::function<std::string(const std::string& startPath)>;
 
-/// The real path of a help page in the program's folder, also when it is spelled in another case there;
-/// `pageName` empty means the first page of the help.
+/// The path of a help page in the program's folder, even if its name has other case there. An empty
+/// `pageName` is the first page of the help.
 [[nodiscard]] std::string HelpPagePath(const std::string& pageName, const Seams& seams);
 
-/// Whether there is such a page to show.
+/// Whether that page exists.
 [[nodiscard]] bool HasHelpPage(const std::string& pageName, const Seams& seams);
 
-/// Shows a help page in the web browser that is registered for pages. Where that comes to nothing, the user
-/// is asked to find a browser, and the page is shown once more with that; the choice is not kept.
+/// Shows a help page in the registered web browser. If that fails, asks the user for a browser and tries once
+/// more with it. The user's choice is not stored.
 void ShowHelpPage(const std::string& pageName, const Seams& seams, Registry& registry,
                   const AskForProgram& askForProgram);
 

@@ -23,7 +23,7 @@ std::string ProgramOfCommand(std::string_view command)
     if (command.empty() || command.front() != '"') {
         return std::string(command.substr(0, command.find(' ')));
     }
-    // The closing quote is looked for from the third character on: of two quotes at the start, the second
+    // The search for the closing quote begins at the third character: of two quotes at the start, the second
     // belongs to the path.
     const std::size_t end = command.find('"', 2);
     return std::string(end == std::string_view::npos ? command.substr(1) : command.substr(1, end - 1));

@@ -9,25 +9,25 @@ namespace ls {
 
 class Processes;
 
-/// The program of a registered command: what stands in its leading double quotes, else all up to the first
-/// blank. Its switches and its placeholder are dropped. An unquoted path that holds a blank is cut there,
-/// as registered commands have always been read here.
+/// The program in a registered command: the text in its leading double quotes, else the text up to the first
+/// blank. Switches and placeholder are dropped. Intended: an unquoted path that holds a blank is cut there,
+/// so its program is not found.
 [[nodiscard]] std::string ProgramOfCommand(std::string_view command);
 
-/// A document as an argument: an address stays as it is, a file name without a folder gets the current one.
+/// A document as an argument: an address stays unchanged, a file name without a folder gets the current one.
 [[nodiscard]] std::string FullDocument(PathRules rules, const std::string& currentFolder,
                                        const std::string& document);
 
-/// In double quotes when it holds a blank and does not begin with a double quote.
+/// Adds double quotes if the text holds a blank and does not begin with a double quote.
 [[nodiscard]] std::string QuotedIfBlank(const std::string& text);
 
-/// How the expansion of "%NAME%" went.
+/// The result of `ExpandVariables`.
 struct Expansion
 {
     enum class Result
     {
         Done,
-        Malformed, ///< a "%" without a second one, or variables that never end
+        Malformed, ///< a "%" without a second one, or too many variables
         Undefined  ///< a variable that is unset or empty: `name`
     };
 
@@ -35,8 +35,8 @@ struct Expansion
     std::string name;
 };
 
-/// Replaces every "%NAME%" by the environment variable of that name, also those that a value brings in, and
-/// at most a thousand of them: variables that name each other would never end.
+/// Replaces every "%NAME%" by that environment variable, also those in inserted values. Stops after a
+/// thousand, as variables that name each other would never end.
 [[nodiscard]] Expansion ExpandVariables(Processes& processes, std::string& text);
 
 } // namespace ls

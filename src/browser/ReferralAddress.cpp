@@ -9,7 +9,7 @@ namespace ls {
 
 namespace {
 
-// "http://", "HTTP://" and the like at the beginning: letters, a colon and two slashes.
+// Whether the address begins with letters, a colon and two slashes, such as "http://" or "HTTP://".
 bool HasScheme(const std::string& url)
 {
     const std::size_t colon = url.find("://");

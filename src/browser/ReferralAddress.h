@@ -4,9 +4,9 @@
 
 namespace ls {
 
-/// The book's address as an argument for the browser. It comes from whoever wrote the book, so it must be an
-/// address and nothing else: one without a scheme gets "http://", lest "--option" is taken for an option, and
-/// a double quote is written as %22, lest it ends the argument and begins another.
+/// The book's address as an argument for the browser. The author of a book is not trusted, so the argument
+/// must be an address and nothing else. An address without a scheme gets "http://", so that "--option" is no
+/// option. A double quote becomes %22, so that it does not end the argument and begin another.
 [[nodiscard]] std::string AddressToOpen(const std::string& bookUrl);
 
 } // namespace ls

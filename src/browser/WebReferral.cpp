@@ -39,8 +39,8 @@ private:
     std::string m_text;
 };
 
-// A path as text of the page. What the code page lacks is written as HTML names it, so that the browser shows
-// and posts the name that the user sees.
+// A path as text of the page. A character that the code page lacks becomes "&#8594;" or the like, so that the
+// browser shows and posts the name that the user sees.
 std::string PathInPage(const std::string& path)
 {
     const std::string utf8 = FromPath(path);
@@ -67,7 +67,7 @@ FileError WritePage(FileSystem& files, const std::string& path, const std::strin
     return error;
 }
 
-// Writes the page and gives its path; empty after a message.
+// Writes the page and returns its path; empty after a message.
 std::string MakePage(const Book& book, const Seams& seams, const std::string& topicName)
 {
     const std::string path = JoinPath(seams.paths, book.WorkDir, PageName);
@@ -80,7 +80,7 @@ std::string MakePage(const Book& book, const Seams& seams, const std::string& to
     return {};
 }
 
-// The address to open, when the user agrees to that; else empty.
+// The address to open if the user agrees, else empty.
 std::string AskForSite(const Book& book, const Seams& seams)
 {
     const Reply reply = seams.messages.MsgBox(
