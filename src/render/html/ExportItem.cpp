@@ -10,7 +10,7 @@ namespace ls {
 
 namespace {
 
-// The book's topics are read from its file while they are exported.
+// Refuses the open book's file, as its topics are read during the export.
 FileError OpenFile(const Book& book, FileSystem& files, const std::string& path, bool replace,
                    std::unique_ptr<OutputFile>& output)
 {

@@ -20,7 +20,7 @@ std::string_view TitleOf(std::string_view topicName)
     return inBrackets ? topicName.substr(1, topicName.size() - 2) : topicName;
 }
 
-// Unlike the display, which passes over references, an export stops at them.
+// An export ends at references. The display skips them.
 bool EndsTopic(std::string_view line)
 {
     return BeginsUpper(line, "<XREF") || EqualsUpper(Trim(line), "<IXML>") || line.starts_with('[');
@@ -33,8 +33,8 @@ enum class Located
     Unreadable
 };
 
-// A topic that is not there is no news to the user here, nor is a file that has become shorter: there the
-// topic is gone. A disk that fails is.
+// No message if the topic is missing, or if the file has become shorter and the topic is gone. A disk error
+// shows one.
 Located Locate(const Book& book, const Seams& seams, const std::string& name, Count16 number,
                LineCursor& cursor)
 {

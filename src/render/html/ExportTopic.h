@@ -10,12 +10,13 @@ namespace ls {
 struct Book;
 class OutputFile;
 
-/// Writes one topic as a whole HTML document to `output`, finishes that, and says "The export is complete.".
+/// Writes one topic as a whole HTML document to `output`, finishes the file, and says "The export is
+/// complete.".
 ///
-/// `topicName` is the title with or without brackets, `topicIndex` its number, 0 when it is to be looked up.
-/// The topic is taken from the book's file as it stands there, whatever was edited since. One that is not
-/// there gives an empty file, without a message. What cannot be read or written is told, and `output` is then
-/// not finished: false.
+/// `topicName` is the title with or without brackets. `topicIndex` is the topic's number, 0 to look it up.
+/// The topic is read from the book's file; unsaved edits are not exported. A topic that the file does not
+/// hold gives an empty file, without a message. If reading or writing fails, a message is shown, `output` is
+/// not finished, and the result is false.
 bool ExportTopic(const Book& book, const Seams& seams, const std::string& topicName, Count16 topicIndex,
                  OutputFile& output);
 

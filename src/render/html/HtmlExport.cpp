@@ -19,7 +19,7 @@ bool IsHeading(std::string_view segment)
            segment[3] == '>';
 }
 
-// How a list is opened that begins with this character, and how it is closed.
+// The tags of a list.
 struct ListTags
 {
     std::string_view open;
@@ -66,7 +66,7 @@ void HtmlExport::AddLine(std::string_view line)
         if (IsHeading(m_segment)) {
             CloseList();
             m_output->Line({m_segment});
-            return; // headings are short: what does not fit a line is dropped
+            return; // Intended: a heading that does not fit a line is cut
         }
         if (continuation) {
             m_output->Line({m_segment, !last ? "" : hang == 0 ? "</P>" : "</LI>"});
@@ -87,7 +87,7 @@ void HtmlExport::AddFirst(std::string_view segment, int hang, bool last)
     if (!m_inList) {
         OpenList(segment);
     }
-    // Behind a leading tag, as in "<B>1. First", it is the tag that is cut; so it has always been.
+    // Intended: after a leading tag, as in "<B>1. First", the tag is cut and the number stays.
     segment.remove_prefix(std::min(segment.size(), static_cast<std::size_t>(hang)));
     m_output->Line({"<LI>", segment, last ? "</LI>" : ""});
 }

@@ -9,16 +9,16 @@ class HtmlOutput;
 
 /// Turns the source lines of a topic into the lines of an HTML document.
 ///
-/// Tags and entities are HTML as they are, and pass through; paragraphs, headings and lists are made from
-/// the structure of the lines. Bytes stay what they are in the book.
+/// Tags and entities pass through unchanged. Paragraphs, headings and lists follow from the structure of the
+/// lines. Bytes stay in the book's code page.
 class HtmlExport
 {
 public:
     explicit HtmlExport(HtmlOutput& output) : m_output(&output) {}
 
     void Begin(std::string_view title);
-    void AddLine(std::string_view line); ///< trailing blanks cut already
-    void End();                          ///< a list that is still open stays so, as it always has
+    void AddLine(std::string_view line); ///< trailing blanks are cut already
+    void End();                          ///< Intended: a list that is open at the topic's end stays open
 
 private:
     void AddFirst(std::string_view segment, int hang, bool last);

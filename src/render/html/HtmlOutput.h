@@ -10,16 +10,16 @@ namespace ls {
 
 class OutputFile;
 
-/// Writes text lines, each ended by CR LF, in large pieces. After an error nothing more is written.
+/// Writes text lines in large pieces, each line ended by CR LF. After an error nothing more is written.
 class HtmlOutput
 {
 public:
     explicit HtmlOutput(OutputFile& file);
 
-    /// One line of these pieces, with nothing between them.
+    /// Writes these pieces as one line, with nothing between them.
     void Line(std::initializer_list<std::string_view> pieces);
 
-    /// Brings all of it to the disk and tells whether it got there.
+    /// Writes the rest to the disk. Returns the first error.
     FileError Finish();
 
     [[nodiscard]] const FileError& Error() const { return m_error; }

@@ -70,7 +70,7 @@ void FindBar::SetShown(bool shown)
     }
 }
 
-// A longer text is looked for from where the shorter one was found.
+// A longer text is searched for from the match of the shorter one.
 void FindBar::FindBox_Change()
 {
     Recount();
@@ -90,14 +90,14 @@ void FindBar::Find(bool forward)
     ShowMatch(forward ? NextMatch(m_matches, behind) : PreviousMatch(m_matches, from.begin));
 }
 
-// A text that no book can hold is found nowhere.
+// A text that no book can hold has no matches.
 void FindBar::Recount()
 {
     const std::optional<std::string> sought = ToBook(m_ui->FindBox->text().toStdString());
     m_matches = FindAll(m_pane->Topic().Text(), sought.value_or(std::string()));
 }
 
-// Where nothing is found, what a shorter text was found in is no longer selected.
+// If nothing is found, the match of a shorter text is deselected.
 void FindBar::ShowMatch(std::optional<std::size_t> match)
 {
     const std::size_t from = m_pane->Selection().Range().begin;
@@ -105,8 +105,8 @@ void FindBar::ShowMatch(std::optional<std::size_t> match)
     ShowCount();
 }
 
-// Where one of the places is selected, the count tells which. Screen readers announce a description of the
-// box that changes while one types in it.
+// If one of the matches is selected, shows its number. The box's description is set too, as screen readers
+// announce it while the user types in the box.
 void FindBar::ShowCount()
 {
     const TextRange selected = m_pane->Selection().Range();

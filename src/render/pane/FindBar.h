@@ -17,8 +17,9 @@ namespace ls {
 
 class ReadingPane;
 
-/// The bar below the reading pane that finds text in the topic: what is sought, how many places hold it, next
-/// and previous. It finds while one types; Enter goes on, with Shift back, Escape closes it.
+/// The bar below the reading pane that finds text in the topic: a box for the text, the number of matches,
+/// Next and Previous. It searches while the user types. Enter finds the next match, Shift+Enter the previous
+/// one, Escape closes the bar.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -27,22 +28,21 @@ public:
     explicit FindBar(QWidget* parent = nullptr);
     ~FindBar() override;
 
-    /// The pane whose topic is searched.
+    /// Sets the pane whose topic is searched.
     void SetPane(ReadingPane* pane);
 
-    /// Shows the bar with the focus in its box. A selection within one row is taken over as what is sought.
+    /// Shows the bar with the focus in its box. A selection within one row is put into the box.
     void Open();
 
-    /// Hides the bar, if it is shown, and gives the focus to the pane, where the place found last stays
-    /// selected.
+    /// Hides the bar and gives the focus to the pane. The last match stays selected.
     void Close();
 
-    /// Selects the next place in the pane, or the one before. With nothing to seek, opens the bar.
+    /// Selects the next match in the pane, or the previous one. If the box is empty, opens the bar.
     void FindNext() { Find(true); }
     void FindPrevious() { Find(false); }
 
 Q_SIGNALS:
-    /// The bar came or went: there is less or more room for the pane.
+    /// The bar is shown or hidden, so the pane has less or more room.
     void ShownOrHidden();
 
 protected:

@@ -14,7 +14,7 @@ bool IsGap(char c)
     return c == ' ' || c == '\n' || c == '\t';
 }
 
-// Capital letters, and one blank for each run of them.
+// In capital letters, with one blank for each gap.
 std::string Folded(std::string_view sought)
 {
     std::string folded;
@@ -28,7 +28,7 @@ std::string Folded(std::string_view sought)
     return folded;
 }
 
-// Where a match that begins at `at` ends; npos when none begins there.
+// The end of a match that begins at `at`; npos if none begins there.
 std::size_t MatchEnd(std::string_view text, std::size_t at, std::string_view folded)
 {
     for (const char c : folded) {
@@ -70,8 +70,8 @@ std::vector<TextRange> FindAll(std::string_view text, std::string_view sought)
             at = end;
             continue;
         }
-        // A gap counts as one: what does not match from its start does not match from its middle, and a long
-        // one is walked only once.
+        // A gap is skipped whole: what does not match from its start does not match from its middle. So a
+        // long gap is walked only once.
         const bool passGap = IsGap(text[at]);
         do {
             ++at;

@@ -9,15 +9,15 @@
 
 namespace ls {
 
-/// Every place where a text holds what is sought, in order and without overlaps, small and capital letters
-/// being the same. A blank also stands for several, for a TAB, and for the end of a row with the indent
-/// behind it: words are found wherever their line was broken. Nothing is found for an empty `sought`.
+/// All matches of `sought` in a text, in order and without overlaps. Case does not matter. A blank in
+/// `sought` also matches several blanks, a TAB, and a row's end with the indent after it, so words are found
+/// across broken lines. An empty `sought` has no matches.
 [[nodiscard]] std::vector<TextRange> FindAll(std::string_view text, std::string_view sought);
 
-/// The first match, as an index, that begins at `from` or behind it; from the start again behind the last.
+/// The index of the first match that begins at `from` or later; after the last match, the first one.
 [[nodiscard]] std::optional<std::size_t> NextMatch(std::span<const TextRange> matches, std::size_t from);
 
-/// The last match that begins before `from`; from the end again before the first.
+/// The index of the last match that begins before `from`; before the first match, the last one.
 [[nodiscard]] std::optional<std::size_t> PreviousMatch(std::span<const TextRange> matches, std::size_t from);
 
 } // namespace ls

@@ -13,14 +13,14 @@ namespace ls {
 
 namespace {
 
-// The cells of a row that can be seen, counted from 0: from `first` on, up to but without `end`.
+// The visible cells of a row, counted from 0: from `first` to before `end`.
 struct ColumnRange
 {
     std::size_t first = 0;
     std::size_t end = 0;
 };
 
-// The columns that touch the area, and one more on each side: slanted letters lean out of their cells.
+// The columns in the area, and one more on each side, as slanted letters lean out of their cells.
 ColumnRange VisibleColumns(const CellMetrics& metrics, const QRectF& area)
 {
     const double left = std::floor(area.left() / metrics.charWidth) - 1;
@@ -38,7 +38,7 @@ std::size_t FaceOf(const Run& run)
     return (run.bold ? BoldFace : RegularFace) + (run.italic ? ItalicFace : RegularFace);
 }
 
-// Draws text from `column` on: as many characters at once as advance by exactly one cell, the others alone.
+// Draws text from `column` on. Characters that advance by exactly one cell are drawn together, others alone.
 void DrawCells(QPainter& painter, const std::string_view text, std::size_t column, double baseline,
                const CellMetrics& metrics, const std::bitset<256>& exact)
 {

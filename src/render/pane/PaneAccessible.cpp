@@ -22,7 +22,7 @@ std::size_t Index(int offset)
     return static_cast<std::size_t>(std::max(offset, 0));
 }
 
-// Of the offsets that ask for a place, -1 is the end of the text and -2 the caret.
+// The toolkit's offset -1 means the end of the text, -2 the caret.
 std::size_t Place(const ReadingPane& pane, int offset)
 {
     if (offset >= 0) {
@@ -128,14 +128,14 @@ void PaneAccessible::setCursorPosition(int position)
     m_pane.MoveCaret(Index(position));
 }
 
-// An end of -1 is that of the text.
+// An `endOffset` of -1 is the end of the text.
 QString PaneAccessible::text(int startOffset, int endOffset) const
 {
     const std::size_t end = endOffset < 0 ? m_pane.Topic().Length() : Index(endOffset);
     return ShownBookText(m_pane.Topic().Part({Index(startOffset), end}));
 }
 
-// The row of a character, or one so many rows away, with the end that parts it from the next one.
+// The row of a character, or the row `away` rows from it, with its line end.
 QString PaneAccessible::LineAt(int offset, int away, int* startOffset, int* endOffset) const
 {
     const TopicText& topic = m_pane.Topic();
@@ -190,7 +190,7 @@ QRect PaneAccessible::characterRect(int offset) const
 int PaneAccessible::offsetAtPoint(const QPoint& point) const
 {
     const QPoint inside = m_pane.mapFromGlobal(point);
-    // The character under the point, not the gap next to it.
+    // The character under the point, not the nearest gap between characters.
     const QPointF cell = QPointF(inside) - QPointF(m_pane.CharWidth() / 2, 0);
     return m_pane.contentsRect().contains(inside) ? static_cast<int>(m_pane.OffsetAtPoint(cell)) : -1;
 }
@@ -211,7 +211,7 @@ QString PaneAccessible::attributes(int offset, int* startOffset, int* endOffset)
 
 void InstallPaneAccessible()
 {
-    QAccessible::installFactory(MakePaneAccessible); // one that is there already is not added again
+    QAccessible::installFactory(MakePaneAccessible); // has no effect when repeated
 }
 
 void TellTextChanged(ReadingPane& pane, const QString& before)

@@ -10,9 +10,8 @@ namespace ls {
 
 class ReadingPane;
 
-/// The reading pane as a screen reader meets it: a read-only text of the whole topic, whichever part of it is
-/// printed, with its lines, its caret and its selection. Attributes tell of styles and headings: text of a
-/// heading has "tag:h1;level:1" and so on.
+/// The reading pane for screen readers: a read-only text of the whole topic (printed or not) with lines,
+/// caret and selection. Attributes give styles and headings: a heading has "tag:h1;level:1" and so on.
 class PaneAccessible : public QAccessibleWidget, public QAccessibleTextInterface
 {
 public:
@@ -48,13 +47,13 @@ private:
     ReadingPane& m_pane;
 };
 
-/// Lets the toolkit make a `PaneAccessible` for every pane. May be called again.
+/// Makes the toolkit use a `PaneAccessible` for every pane. Further calls do nothing.
 void InstallPaneAccessible();
 
-/// Tells listeners that the pane has another text. Called only when there are some.
+/// Informs listeners that the pane's text changed. Called only if there are listeners.
 void TellTextChanged(ReadingPane& pane, const QString& before);
 
-/// Tells listeners that the caret or the selection is not what it was before.
+/// Informs listeners that the caret or the selection changed.
 void TellSelectionChanged(ReadingPane& pane, const TextSelection& before);
 
 } // namespace ls

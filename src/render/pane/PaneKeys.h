@@ -8,10 +8,10 @@
 
 namespace ls {
 
-/// What a key without modifiers does to the scroll bar of the reading pane.
+/// The scroll bar's action for a key without modifiers.
 [[nodiscard]] std::optional<QAbstractSlider::SliderAction> ScrollActionOf(int key);
 
-/// How the caret goes along with an arrow or page key that scrolls.
+/// The caret's move for an arrow or page key that scrolls.
 [[nodiscard]] CaretMove ScrollMoveOf(int key);
 
 struct CaretKey
@@ -20,8 +20,8 @@ struct CaretKey
     bool extend = false;
 };
 
-/// What a key does to the caret: left and right, by words with Control; with Shift every key extends the
-/// selection; Home and End are those of the row with Shift, those of the topic with Control.
+/// The caret's move for a key: Left and Right, by words with Control. With Shift, every key extends the
+/// selection. Home and End go to the ends of the row with Shift, to those of the topic with Control.
 [[nodiscard]] std::optional<CaretKey> CaretKeyOf(int key, Qt::KeyboardModifiers modifiers);
 
 } // namespace ls

@@ -33,7 +33,7 @@ Colour ColourOf(const QColor& colour)
             static_cast<std::uint8_t>(colour.blue())};
 }
 
-// The page is white on every desktop, so what is drawn on it must not take a colour of a dark one.
+// The page is white on every desktop, so it must not use text colours of a dark desktop.
 QPalette PageColours()
 {
     QPalette page;
@@ -93,12 +93,12 @@ void ReadingPane::SetTopic(const DisplayLines* lines, float bookVersion)
     Q_EMIT SelectionChanged();
 }
 
-// A selection that is as it was was not taken away: the topic could not be printed again.
+// If the selection is unchanged, nothing was printed anew, so there is nothing to restore.
 void ReadingPane::KeepSelection(const std::function<void()>& printAgain)
 {
     const TextSelection before = m_selection;
     const bool caretShown = m_caretShown;
-    if (before == TextSelection()) { // the topic's whole text need not be read
+    if (before == TextSelection()) { // saves reading the topic's whole text
         printAgain();
         m_caretShown = caretShown;
         return;
@@ -169,7 +169,7 @@ void ReadingPane::Copy() const
     }
 }
 
-// Where the desktop pastes with the middle button.
+// For desktops on which the middle button pastes.
 void ReadingPane::OfferSelection() const
 {
     const QString text = SelectedText();
@@ -292,13 +292,13 @@ void ReadingPane::PaintCaret(QPainter& painter) const
     QRectF cell = CharacterRect(m_selection.Caret());
     if (!cell.isEmpty()) {
         cell.translate(-contentsRect().topLeft());
-        cell.moveLeft(std::round(cell.left())); // a whole pixel, so that it is sharp
+        cell.moveLeft(std::round(cell.left())); // a whole pixel, for a sharp edge
         cell.setWidth(CaretWidth);
         painter.fillRect(cell, Qt::black);
     }
 }
 
-// The border also tells a keyboard user that the keys go to the text.
+// The border also shows a keyboard user whether the text has the focus.
 void ReadingPane::PaintBorder(QPainter& painter) const
 {
     painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : QColor(Qt::gray));

@@ -21,16 +21,16 @@ namespace ls {
 struct CellPlace;
 struct DisplayLines;
 
-/// The pane in which topics are read: black on white in a fixed-pitch font, whatever the desktop's colours.
+/// The pane in which topics are read: black on white in a fixed-pitch font, whatever the desktop's colours
+/// are.
 ///
-/// Prints are recorded, and painting only shows the record: what the pane shows changes by printing alone. It
-/// never scrolls by itself. Wheel and keys move the scroll bar that it was given, and whoever listens to the
-/// bar prints anew.
+/// Prints are recorded, and painting shows the record: only printing changes the pane's contents. The pane
+/// never scrolls by itself. Wheel and keys move the scroll bar, and the listener of the bar prints anew.
 ///
-/// Text is selected by mouse and keys in the whole topic, whatever part of it is printed. The caret shows
-/// when a key has moved it; the keys that scroll take it along.
+/// Mouse and keys select text in the whole topic, printed or not. The caret is shown once a key has moved it;
+/// the keys that scroll move it too.
 ///
-/// Lengths are device-independent pixels.
+/// Lengths are in device-independent pixels.
 class ReadingPane : public QWidget, public TextSurface
 {
     Q_OBJECT
@@ -38,54 +38,53 @@ class ReadingPane : public QWidget, public TextSurface
 public:
     explicit ReadingPane(QWidget* parent = nullptr);
 
-    /// The bar that wheel, arrow, page, Home and End keys move. While it is hidden they do nothing.
+    /// Sets the bar that wheel, arrow, page, Home and End keys move. While it is hidden they do nothing.
     void SetScrollBar(QScrollBar* bar);
 
-    /// The width of "W", and with it of every character.
+    /// The width of "W" and of every other character.
     [[nodiscard]] double CharWidth() const { return m_metrics.charWidth; }
 
-    /// The height of a row.
     [[nodiscard]] double RowHeight() const { return m_metrics.rowHeight; }
 
     /// In points.
     [[nodiscard]] double TypeSize() const { return m_typeSize; }
 
-    /// Changes the character cell; what is printed is to be wrapped and printed anew.
+    /// Changes the character cell. The caller must then wrap and print the topic anew.
     void SetTypeSize(double points);
 
-    /// Tells which topic the prints come from; nullptr for none. The lines stay the caller's, who tells again
-    /// when they change. Nothing is selected afterwards, and the caret is at the start.
+    /// Sets the topic whose lines are printed; nullptr for none. The caller keeps the lines, and calls this
+    /// again when they change. Clears the selection and puts the caret at the start.
     void SetTopic(const DisplayLines* lines, float bookVersion);
 
-    /// Runs what prints the same topic again in other lines: the same characters are selected afterwards.
+    /// Runs `printAgain`, which prints the same topic in other lines, and selects the same characters again.
     void KeepSelection(const std::function<void()>& printAgain);
 
-    /// The text of that topic, read when it is first asked for.
+    /// The text of that topic, made at the first call.
     [[nodiscard]] const TopicText& Topic() const;
 
     [[nodiscard]] const TextSelection& Selection() const { return m_selection; }
     [[nodiscard]] QString SelectedText() const;
 
-    /// Selects a part of the topic and scrolls there, so that its end is seen.
+    /// Selects a part of the topic and scrolls to show its end.
     void Select(TextRange range);
     void SelectAll();
 
-    /// Puts the caret somewhere and scrolls there.
+    /// Moves the caret and scrolls to it.
     void MoveCaret(std::size_t offset);
 
-    /// Puts what is selected on the clipboard; leaves it as it is when nothing is selected.
+    /// Copies the selection to the clipboard. Without a selection the clipboard stays unchanged.
     void Copy() const;
 
     /// The place in the text that is nearest to a point of the widget.
     [[nodiscard]] std::size_t OffsetAtPoint(const QPointF& point) const;
 
-    /// The cell of a character on the widget; empty when its line is not printed.
+    /// The cell of a character in the widget; empty if its line is not printed.
     [[nodiscard]] QRectF CharacterRect(std::size_t offset) const;
 
-    /// Moves the bar as little as it takes to see a place of the text.
+    /// Scrolls as little as needed to show a place in the text.
     void ScrollTo(std::size_t offset);
 
-    /// What was printed since the last `Clear`.
+    /// The prints since the last `Clear`.
     [[nodiscard]] const std::vector<Run>& Runs() const { return m_record.Runs(); }
 
     void Clear() override;
@@ -96,7 +95,7 @@ public:
     void BeginLine(int displayLine) override { m_record.BeginLine(displayLine); }
     void Print(std::string_view text, bool endRow) override;
 
-    /// The room for text: inside the border and its margin.
+    /// The room for text, inside the border and its margin.
     [[nodiscard]] double InnerWidth() const override;
     [[nodiscard]] double InnerHeight() const override;
     [[nodiscard]] double TextWidth(std::string_view text) const override;
@@ -105,7 +104,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The wheel was turned by a notch with Control held.
+    /// The user turned the wheel by a notch with Control held.
     void WheelZoomed(bool larger);
     void TopicChanged();
     void SelectionChanged();
@@ -157,9 +156,9 @@ private:
     bool m_caretShown = false;
     bool m_selecting = false; ///< while the mouse is dragged
     Unit m_unit = Unit::Character;
-    TextRange m_firstUnit;    ///< where the dragging began
-    QPointF m_pointer;        ///< where the mouse was pressed or dragged to
-    QBasicTimer m_dragScroll; ///< while it is above or below the text
+    TextRange m_firstUnit;    ///< where the drag began
+    QPointF m_pointer;        ///< last place of a press or drag
+    QBasicTimer m_dragScroll; ///< runs while the mouse is dragged above or below the text
     QElapsedTimer m_sinceDoubleClick;
     int m_wheelTurned = 0; ///< with Control, since the last notch
 };

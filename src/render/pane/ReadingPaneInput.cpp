@@ -1,4 +1,4 @@
-// What keys and the mouse do in the reading pane.
+// How the reading pane handles keys and the mouse.
 
 #include "render/pane/PaneKeys.h"
 #include "render/pane/ReadingPane.h"
@@ -17,7 +17,7 @@ namespace ls {
 
 namespace {
 
-constexpr int DragScrollMilliseconds = 50; // a line each
+constexpr int DragScrollMilliseconds = 50; // for each line
 
 } // namespace
 
@@ -44,8 +44,8 @@ bool ReadingPane::ScrollByKey(const QKeyEvent& event)
     return true;
 }
 
-// The caret moves as far as the text is scrolled, also where the bar is at its end, and is brought back where
-// the text had been scrolled without it. So a screen reader reads line by line.
+// Moves the caret as far as the text scrolls, even if the bar is already at its end. A caret out of sight
+// comes back to the visible rows. So a screen reader reads line by line.
 void ReadingPane::TakeCaretAlong(int key)
 {
     const bool first = key == Qt::Key_Home;
@@ -80,7 +80,7 @@ bool ReadingPane::MoveByKey(const QKeyEvent& event)
     return true;
 }
 
-// A third press where the second one was selects the row.
+// A third press at the place of a double click selects the row.
 void ReadingPane::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton || m_lines == nullptr) {
@@ -127,7 +127,7 @@ TextRange ReadingPane::UnitAtPointer() const
     case Unit::Row:
         return Topic().Row(Topic().RowAt(gap));
     case Unit::Word:
-        // The character under the pointer, not the gap next to it.
+        // The character under the pointer, not the nearest gap between characters.
         return WordAt(Topic().Text(), OffsetAtPoint(m_pointer - QPointF(m_metrics.charWidth / 2, 0)));
     default:
         return {gap, gap};
@@ -165,8 +165,8 @@ void ReadingPane::ExtendToPointer()
     SetSelection(selection);
 }
 
-// The bar knows how many lines the desktop scrolls for a notch, and adds up the parts of one that a touch pad
-// sends. With Control the wheel changes the type, as it does elsewhere.
+// The bar knows how many lines the desktop scrolls for a notch, and adds up the parts of a notch from a touch
+// pad. With Control the wheel changes the type size, as in other programs.
 void ReadingPane::wheelEvent(QWheelEvent* event)
 {
     if (event->modifiers().testFlag(Qt::ControlModifier)) {

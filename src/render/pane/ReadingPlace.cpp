@@ -9,7 +9,7 @@ namespace ls {
 
 namespace {
 
-// A TAB, too, is blanks where a line begins with it.
+// A TAB counts as blank, as it becomes blanks at the start of a line.
 bool IsSolid(char c)
 {
     return c != ' ' && c != '\n' && c != '\t';

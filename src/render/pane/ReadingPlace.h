@@ -8,40 +8,39 @@ namespace ls {
 
 class TopicText;
 
-// A reader's place is the count of characters before it that are no blanks. It stays the same however the
-// topic's lines are broken.
+// A reader's place is the count of characters before it, without blanks. It does not change when the topic's
+// lines are broken anew.
 
-/// How far a reader has come at an offset of the text.
+/// The reader's place at an offset in the text.
 [[nodiscard]] std::size_t ReadingPlace(const TopicText& topic, std::size_t offset);
 
-/// The first character, no blank, that a reader who has come so far still has to read; the end of the text
-/// where there is none.
+/// The offset of the first unread character that is not blank; the end of the text if there is none.
 [[nodiscard]] std::size_t OffsetOfPlace(const TopicText& topic, std::size_t place);
 
-/// Where a reader who has come so far stopped: behind the last character, no blank, that was read.
+/// The offset after the last read character that is not blank.
 [[nodiscard]] std::size_t OffsetBehindPlace(const TopicText& topic, std::size_t place);
 
-/// The display line, from 1, that a reader who has come so far goes on in.
+/// The display line, from 1, in which the reader goes on.
 [[nodiscard]] int LineOfPlace(const TopicText& topic, std::size_t place);
 
-/// A selection that is to be found again when the topic's lines have been broken anew. Blanks at its ends are
-/// lost, unless they are those of the whole text. A caret without selection is kept as well.
+/// A selection that can be found again after the topic's lines are broken anew. Blanks at its ends are lost,
+/// except at the start and end of the text. Without a selection it holds the caret.
 class KeptSelection
 {
 public:
     KeptSelection(const TopicText& topic, const TextSelection& selection);
 
-    /// The same characters in the same topic, whose lines may be others.
+    /// Selects the same characters in the same topic with other lines.
     [[nodiscard]] TextSelection In(const TopicText& topic) const;
 
 private:
     std::size_t m_begin = 0; // places of a reader
     std::size_t m_end = 0;
     bool m_empty = true;
-    bool m_behind = false; // a caret with a blank or a row's end behind it stays with what is before it
+    bool m_behind = false; // a caret before a blank or a row's end stays after the character before it
     bool m_fromStart = false;
     bool m_toEnd = false;
-    bool m_backwards = false; // the caret is at the first character
+    bool m_backwards = false; // the caret is at the start of the selection
 };
 
 } // namespace ls

@@ -6,7 +6,7 @@ namespace ls {
 
 namespace {
 
-// Goes through runs, and tells of each where it begins in the text. The first one is the first of its line.
+// Computes where each run begins in the text. REQUIRES: the first run is the first one of its line.
 class RunPlaces
 {
 public:
@@ -58,7 +58,8 @@ std::size_t OffsetAt(std::span<const Run> runs, const TopicText& topic, CellPlac
     }
     const int row = std::clamp(place.row, runs.front().row, runs.back().row);
     auto run = std::partition_point(runs.begin(), runs.end(), [row](const Run& r) { return r.row < row; });
-    // The last run that begins at the column or before it; of a row that is left of the text, the first.
+    // Finds the last run that begins at the column or before it. If all begin after it, the row's first run
+    // counts.
     RunPlaces places(topic);
     std::size_t offset = topic.LineStart(run->displayLine);
     for (; run != runs.end() && run->row == row; ++run) {

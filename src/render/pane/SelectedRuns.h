@@ -9,7 +9,7 @@
 
 namespace ls {
 
-/// A place between the characters of recorded rows: in front of the one in that row and column, from 1.
+/// A place between the characters of recorded rows: before the character in that row and column, from 1.
 struct CellPlace
 {
     int row = 1;
@@ -18,18 +18,18 @@ struct CellPlace
     friend bool operator==(const CellPlace&, const CellPlace&) = default;
 };
 
-// In the following, `runs` are those that lines of `topic` gave, drawn from whichever line on.
+// In the functions below, `runs` are prints of `topic` that begin at any line.
 
-/// The place in the text that is nearest to a place in the rows: a row's end for columns behind it, the first
-/// row for what lies above, the last for what lies below.
+/// The place in the text that is nearest to a place in the rows. A column after a row's end gives that end, a
+/// place above the first row gives the first row, a place below the last row gives the last row.
 [[nodiscard]] std::size_t OffsetAt(std::span<const Run> runs, const TopicText& topic, CellPlace place);
 
-/// Where a place in the text is seen; nothing when its line was not drawn.
+/// The place in the rows of a place in the text; nothing if its line was not drawn.
 [[nodiscard]] std::optional<CellPlace> PlaceOf(std::span<const Run> runs, const TopicText& topic,
                                                std::size_t offset);
 
-/// What a part of the text covers in the rows: pieces of the runs with the styles they have. The end of a row
-/// is a plain blank, so that an empty row is seen to be selected, too.
+/// The part of the rows that `range` covers: pieces of the runs, with their styles. A row's end becomes a
+/// plain blank, so that a selected empty row is visible.
 [[nodiscard]] std::vector<Run> SelectedRuns(std::span<const Run> runs, const TopicText& topic,
                                             TextRange range);
 

@@ -134,7 +134,7 @@ void TextSelection::Move(const TopicText& topic, CaretMove move, bool extend, in
     }
 }
 
-// Beyond the first row the caret goes to the start, beyond the last one to the end of the text.
+// Above the first row the caret goes to the start of the text, below the last row to its end.
 void TextSelection::MoveRows(const TopicText& topic, int rows, bool extend)
 {
     const int from = topic.RowAt(m_caret);

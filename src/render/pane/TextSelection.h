@@ -6,7 +6,7 @@
 
 namespace ls {
 
-/// Where the keys move a caret.
+/// Where a key moves the caret.
 enum class CaretMove
 {
     Left,
@@ -23,28 +23,28 @@ enum class CaretMove
     TextEnd
 };
 
-/// A caret in a topic's text, and what is selected between it and the place where the selecting began.
+/// A caret in a topic's text, and the selection between it and the place where the selection began.
 class TextSelection
 {
 public:
     [[nodiscard]] std::size_t Caret() const { return m_caret; }
     [[nodiscard]] std::size_t Anchor() const { return m_anchor; }
 
-    /// What is selected, first character first; empty at the caret when nothing is.
+    /// The selection, first character first; empty at the caret if nothing is selected.
     [[nodiscard]] TextRange Range() const;
 
-    /// Puts the caret somewhere. What was selected no longer is, unless it is extended up to there.
+    /// Moves the caret. Extends the selection up to there with `extend`, else clears it.
     void MoveTo(std::size_t offset, bool extend);
 
     /// Selects a part with the caret at its end.
     void Select(TextRange range);
 
-    /// Selects from one part to another, both whole, with the caret on the side of `last`: words or rows, as
-    /// the mouse is dragged over them.
+    /// Selects from one part to another, both whole, with the caret on the side of `last`. The parts are
+    /// words or rows while the mouse is dragged.
     void SelectBetween(TextRange first, TextRange last);
 
-    /// Moves as a key says, by `pageRows` rows for a page. Up and down keep to the column that the caret had
-    /// before the first of them. Without `extend`, left and right first go to the ends of what is selected.
+    /// Moves the caret as a key does; a page is `pageRows` rows. Repeated up and down moves keep the first
+    /// one's column. Without `extend`, left and right first go to the ends of a selection.
     void Move(const TopicText& topic, CaretMove move, bool extend, int pageRows);
 
     friend bool operator==(const TextSelection& a, const TextSelection& b)
@@ -58,17 +58,17 @@ private:
 
     std::size_t m_anchor = 0;
     std::size_t m_caret = 0;
-    std::optional<std::size_t> m_column; ///< where up and down keep to, from 0
+    std::optional<std::size_t> m_column; ///< the column for up and down, from 0
 };
 
-/// The word around a character: letters and digits; or the blanks, or the other signs, that stand together
-/// there. It ends with its row; at a row's end it is what stands before it.
+/// The word at a character: all neighbouring letters and digits, or blanks, or other signs. It ends with its
+/// row. At a row's end it is the word before.
 [[nodiscard]] TextRange WordAt(std::string_view text, std::size_t offset);
 
 /// The start of the next word, or the end of the text.
 [[nodiscard]] std::size_t NextWord(std::string_view text, std::size_t offset);
 
-/// The start of the word that ends before a place, or that the place is in.
+/// The start of the word at or before a place.
 [[nodiscard]] std::size_t PreviousWord(std::string_view text, std::size_t offset);
 
 } // namespace ls

@@ -26,7 +26,7 @@ TopicDisplay::TopicDisplay(ReadingPane& pane, QScrollBar& bar) : m_pane(pane), m
     ClearDisplay();
 }
 
-// The pane may outlive the lines.
+// The pane may live longer than the lines.
 TopicDisplay::~TopicDisplay()
 {
     m_pane.SetTopic(nullptr, 0);
@@ -80,7 +80,7 @@ void TopicDisplay::SetUpScrolling()
     Draw(1);
 }
 
-// A topic without lines has a bar whose greatest value is 0; its least is then 0 as well.
+// The bar of a topic without lines has 0 as its greatest and least value.
 void TopicDisplay::SetBar(int max, int largeChange)
 {
     m_suppressScrollRedraw = true;

@@ -10,7 +10,7 @@ namespace ls {
 
 class ReadingPane;
 
-/// The reading pane with its scroll bar: the lines of the topic on show, drawn from the bar's value on.
+/// The reading pane with its scroll bar. Draws the lines of the shown topic from the bar's value on.
 class TopicDisplay
 {
 public:
@@ -19,26 +19,26 @@ public:
     TopicDisplay(const TopicDisplay&) = delete;
     TopicDisplay& operator=(const TopicDisplay&) = delete;
 
-    /// Characters that fit across the pane. Never so few that a word has no room beside an indent: of the
-    /// largest type on a screen of large dots the ends of the rows are cut off instead.
+    /// The number of characters that fit across the pane. There is a least number, so that an indent leaves
+    /// room for words; with very large type the ends of rows are cut off.
     [[nodiscard]] int LineWidthChars() const;
 
-    /// Takes the lines of a topic, in exchange for those of the last one, and shows them from the first on.
+    /// Takes the lines of a topic, gives back those of the last one, and shows them from the first line on.
     void Show(DisplayLines& lines, float bookVersion);
 
-    /// Draws from the line on that the scroll bar stands at.
+    /// Draws from the scroll bar's line on.
     void VScroll1_Change();
 
     /// Draws as many rows as the pane now holds, from the same line on.
     void PaneHeight_Change();
 
-    /// Runs what shows the topic again in other lines; what was selected is selected again.
+    /// Runs `showAgain`, which shows the topic in other lines, and selects the same text again.
     void KeepSelection(const std::function<void()>& showAgain);
 
-    /// The same, and scrolls back to the text that stood at the top.
+    /// Like `KeepSelection`, and scrolls back to the text that was at the top.
     void KeepPlace(const std::function<void()>& showAgain);
 
-    /// Empties the pane, hides the scroll bar and gives it its values at rest.
+    /// Empties the pane, hides the scroll bar and resets the bar's values.
     void ClearDisplay();
 
     [[nodiscard]] const DisplayLines& Lines() const { return m_lines; }

@@ -5,7 +5,7 @@ namespace ls {
 namespace {
 
 constexpr double TwipsPerPoint = 20;
-constexpr double CellOfHeight = 0.6; // a character of a fixed-pitch font is this wide
+constexpr double CellOfHeight = 0.6; // the width of a character in a fixed-pitch font
 
 } // namespace
 
@@ -20,7 +20,7 @@ FileError PageRecorder::Choose(const std::string& /*name*/)
     return MakeFileError(error::DeviceUnavailable);
 }
 
-// There is one kind of paper in it.
+// It has one kind of paper.
 FileError PageRecorder::SetPaperSize(int code)
 {
     return code == m_state.paperSize ? FileError{} : MakeFileError(error::InvalidCall);

@@ -7,7 +7,7 @@
 
 namespace ls {
 
-/// The prints of one page: a list of runs that is measured in twips.
+/// The prints of one page: a list of runs, measured in twips.
 class PageRuns : public RunList
 {
 public:
@@ -37,16 +37,16 @@ private:
     double m_innerHeight = 0;
 };
 
-/// A printer without paper: it keeps what is printed, page by page.
+/// A printer without paper: it records what is printed, page by page.
 class PageRecorder : public PrinterDevice
 {
 public:
     using Page = std::vector<Run>;
 
-    /// A sheet, and the height of a line on it, in twips.
+    /// Sets the sheet, and the height of a line on it in twips.
     PageRecorder(const PrinterState& state, double lineHeight);
 
-    /// The pages that were ended so far.
+    /// The pages that are complete.
     [[nodiscard]] const std::vector<Page>& Pages() const { return m_pages; }
 
     std::vector<std::string> Names() override { return {}; }

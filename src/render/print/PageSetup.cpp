@@ -15,7 +15,7 @@ namespace {
 
 constexpr int TwipsPerInch = 1440;
 
-// Where the text begins, from the paper's edge, in twips.
+// The left and top edge of the text, from the paper's edge, in twips.
 struct Margins
 {
     int left;
@@ -25,7 +25,7 @@ struct Margins
 constexpr Margins Portrait{936, 864};
 constexpr Margins Landscape{720, 936};
 
-// A margin from the edge of what can be printed on: half of what cannot lies before it.
+// The margin inside the printable area. Half of the unprintable part lies before that area.
 int Inside(int margin, int unprintable)
 {
     return std::max(0, RoundHalfEven(margin - unprintable / 2.0));

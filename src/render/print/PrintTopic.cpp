@@ -25,8 +25,8 @@ constexpr Colour Purple{127, 0, 127};
 constexpr int EliteCharsPerInch = 12;
 constexpr double PicaPoints = 12;
 constexpr double ElitePoints = 10;
-constexpr std::size_t LongLine = 50; // only lines beyond this length hang their continuation lines
-constexpr int TitleLines = 2;        // of the title and the empty line below it
+constexpr std::size_t LongLine = 50; // only continuation lines of longer lines hang
+constexpr int TitleLines = 2;        // the title and the empty line below it
 
 void SetPlain(TextSurface& surface)
 {
@@ -53,7 +53,7 @@ void PrintLineWith(TextSurface& surface, const PrintSettings& settings, std::str
     DrawLine(surface, segment, bookVersion, buffer, ColoursOf(settings.PrintInColour));
 }
 
-// The pages of one topic. Once the printer has failed, nothing more is printed.
+// The pages of one topic. After a printer error nothing more is printed.
 class Pages
 {
 public:
@@ -69,7 +69,7 @@ public:
         }
     }
 
-    // The title and the empty line below it are counted; the top margin never is.
+    // The title and the empty line below it count as lines of the page. The top margin never counts.
     void PrintTitle(std::string_view title)
     {
         PrintMargin(*m_surface, *m_settings);
@@ -99,15 +99,15 @@ public:
     }
 
 private:
-    // Unlike the display, which passes over references and shows nothing behind them, a print stops there. In
-    // a plain text file all of this is text.
+    // A print ends at references. The display skips them and shows nothing after them. In a plain text file
+    // all lines are text.
     [[nodiscard]] bool Ends(std::string_view line) const
     {
         return !m_book->IsPlainText() &&
                (BeginsUpper(line, "<XREF") || EqualsUpper(Trim(line), "<IXML>") || line.starts_with('['));
     }
 
-    // What remains of a line is not trimmed here: blanks at its end make one more row, an empty one.
+    // Intended: the rest of a line is not trimmed, so blanks at its end make one more, empty row.
     void PrintSourceLine(std::string_view line)
     {
         const int width = std::max(m_settings->CharsPerLine, LeastLineWidth);
@@ -127,7 +127,7 @@ private:
         } while (m_error.Ok() && !rest.Empty());
     }
 
-    // A topic that fills its last page to the end has an empty page behind it, which is kept.
+    // Intended: a topic that fills its last page exactly is followed by an empty page.
     void CountLine()
     {
         if (++m_lineCount < m_settings->LinesPerPage) {
@@ -155,10 +155,10 @@ void SetUpPrinter(PrinterDevice& printer, const PrintSettings& settings)
 {
     printer.SetFont(PrintFont, settings.CharsPerInch == EliteCharsPerInch ? ElitePoints : PicaPoints);
     printer.Surface().Clear();
-    SetPlain(printer.Surface()); // also what the topic before left on
+    SetPlain(printer.Surface()); // also resets what the last topic left on
 }
 
-// Positions the cursor; false after the look-up's message, with a page that says so in the printer.
+// Positions the cursor. If the topic is not found, the look-up shows its message and the result is false.
 bool Locate(const Book& book, const Seams& seams, LineCursor& cursor, std::string& name, Count16 number)
 {
     if (book.IsPlainText()) {
@@ -197,7 +197,8 @@ Printed PrintTopic(const Book& book, const Seams& seams, PrinterDevice& printer,
         return {error};
     }
     if (!body.Error().Ok()) {
-        // What was read before the error may be all that can be had: it is printed, and said to be cut.
+        // The part read before the error may be all that can be read, so it is printed. A message says that
+        // it is cut.
         ShowFetchError(seams, book.IsPlainText() ? ToBook(FromPath(book.BookPath)).value_or("") : name,
                        body.Error());
     }

@@ -14,31 +14,30 @@ class TextSurface;
 struct Book;
 struct PrintSettings;
 
-/// What is printed in, at 12 points for 10 characters to the inch and at 10 points for 12.
+/// The font of printed topics: 12 points for 10 characters to the inch, 10 points for 12.
 inline constexpr std::string_view PrintFont = "Courier New";
 
-/// What printing came to.
+/// The result of a print.
 struct Printed
 {
-    FileError error;     ///< of the printer: nothing was printed then
-    bool located = true; ///< false when the topic was not found, and a page that says so was printed
+    FileError error;     ///< the printer's error; nothing was printed then
+    bool located = true; ///< false if the topic was not found and a page says so
 };
 
-/// Prints a topic of the book's file, or the whole of a plain text file, on the current printer: its title,
-/// then its lines as far as its references and its logic. What was edited and not saved prints as it stands
-/// in the file.
+/// Prints a topic of the book's file, or a whole plain text file, on the current printer: its title, then its
+/// lines up to its references or logic. Unsaved edits are not printed.
 ///
-/// The layout comes from `PageSetup`, which fills the rest of `settings`. A topic that cannot be found prints
-/// a page that says so, after the look-up's message. Without an error the document is with the printer.
+/// `PageSetup` computes the layout and fills the rest of `settings`. If the topic cannot be found, the
+/// look-up shows its message and a page says so. Without an error the printer has the document.
 Printed PrintTopic(const Book& book, const Seams& seams, PrinterDevice& printer, PrintSettings& settings,
                    const std::string& topicName, Count16 topicIndex);
 
-/// Prints one display line behind the left margin: as it stands in a book of a version below 5.0, else with
-/// its tags and entities as on the screen.
+/// Prints one display line after the left margin: unchanged for a book of a version below 5.0, otherwise with
+/// its tags and entities applied as on the screen.
 void PrintLine(TextSurface& surface, const PrintSettings& settings, std::string_view segment,
                float bookVersion);
 
-/// The printer's counterpart of `ApplyTag`: a heading's colour, and the return to black, only in colour.
+/// Like `ApplyTag`, for the printer: a heading's colour and the return to black apply only in colour.
 void ApplyPrintTag(TextSurface& surface, std::string_view name, bool inColour);
 
 } // namespace ls

@@ -48,7 +48,8 @@ void PrtForm::Form_Load()
     m_ui->PaperCombo->setCurrentIndex(static_cast<int>(view.paper));
     m_ui->TypeSizeCombo->setCurrentIndex(view.elite ? 1 : 0);
     (view.colour ? m_ui->ColourOption : m_ui->BWOption)->setChecked(true);
-    // The Tab key stops at the chosen one of the two; the toolkit sees to that only once one had the focus.
+    // The Tab key must stop at the chosen option of the two. The toolkit does that only after one had the
+    // focus.
     (view.colour ? m_ui->BWOption : m_ui->ColourOption)->setFocusPolicy(Qt::ClickFocus);
     m_ui->HelpButton->setEnabled(HasHelpPage(HelpPage, m_seams));
 }

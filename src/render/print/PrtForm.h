@@ -16,8 +16,8 @@ namespace ls {
 struct Book;
 struct PrintSettings;
 
-/// The print dialog: printer, paper, type size and colour of what is printed. It sets up the current printer
-/// and the settings, whose `PrintConfirmed` says whether it was left by its print button.
+/// The print dialog: printer, paper, type size and colour. It sets up the current printer and the settings.
+/// `PrintConfirmed` is set if the user leaves it with its print button.
 class PrtForm : public QDialog
 {
     Q_OBJECT

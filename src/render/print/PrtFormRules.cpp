@@ -25,9 +25,9 @@ constexpr int LeastHeight = 11520; // 8 inches
 constexpr int Pica = 10;
 constexpr int Elite = 12;
 constexpr const char* PdfType = ".pdf";
-constexpr std::size_t LongestProposal = 80; // characters of a title: names of files may be 255 bytes long
+constexpr std::size_t LongestProposal = 80; // characters of a title: file names may have up to 255 bytes
 
-// The captions have always stood so; legal paper is 14 inches long, but not 11 wide.
+// Intended: the captions say "11 x 14", though legal paper is 8.5 inches wide.
 std::vector<PaperChoice> Papers()
 {
     return {{"Letter 8.5 x 11 in.", LetterPaper}, {"Legal 11 x 14 in.", 5}, {"A4 Letter 21 x 29.7 cm", 9}};
@@ -57,7 +57,7 @@ bool IsLargeEnough(const PrinterState& page, const Seams& seams)
     return false;
 }
 
-// A title as a file name that every system takes.
+// The title as a file name that every system accepts.
 std::string ProposedName(const Book& book, const Seams& seams)
 {
     const std::string title = WithoutBrackets(book.CurrentTopicName).substr(0, LongestProposal);
@@ -74,7 +74,7 @@ std::string ProposedName(const Book& book, const Seams& seams)
     return (name.empty() ? "Topic" : name) + PdfType;
 }
 
-// Where a typed name lies: relative ones in the working folder.
+// The full path of a typed name. Relative names are in the working folder.
 std::string FullPath(const Book& book, const Seams& seams, std::string name)
 {
     if (NameOf(seams.paths, name).find('.') == std::string::npos) {
@@ -149,7 +149,7 @@ void PrinterCombo_Click(PrinterDevice& printer, const std::string& name)
 {
     for (const std::string& each : printer.Names()) {
         if (each == name) {
-            std::ignore = printer.Choose(name); // the print button refuses one that is gone by then
+            std::ignore = printer.Choose(name); // if it is gone by then, the print button refuses it
             return;
         }
     }

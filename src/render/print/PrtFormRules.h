@@ -15,21 +15,21 @@ struct PrintSettings;
 struct PaperChoice
 {
     std::string text;
-    int code = 0; ///< the system's paper code; 0 leaves the printer its own paper
+    int code = 0; ///< the system's paper code; 0 keeps the printer's own paper
 };
 
-/// What the print dialog shows when it comes up.
+/// What the print dialog shows at first.
 struct PrtFormView
 {
     std::vector<std::string> printers;
-    std::string printer; ///< the current one, which is in the list unless that is empty
+    std::string printer; ///< the current one; it is in the list unless empty
     std::vector<PaperChoice> papers;
     std::size_t paper = 0; ///< the selected entry, from 0
     bool colour = false;
     bool elite = false;
 };
 
-/// What the user chose in it.
+/// The user's choices in the print dialog.
 struct PrtFormChoices
 {
     std::string printer;
@@ -38,16 +38,16 @@ struct PrtFormChoices
     bool elite = false;
 };
 
-/// Tells what to show: the last choices, or the printer's own settings where there are none yet. A current
-/// printer that is gone gives way to the first that is there.
+/// What to show: the last choices, or at first the printer's own settings. If the current printer is gone,
+/// the first one in the list becomes current.
 [[nodiscard]] PrtFormView LoadPrtForm(const PrintSettings& settings, PrinterDevice& printer);
 
-/// Another printer was picked from the list: it becomes the current one.
+/// The user picked another printer: it becomes the current one.
 void PrinterCombo_Click(PrinterDevice& printer, const std::string& name);
 
-/// The print button: sets the printer up and keeps the choices. False after a message that keeps the dialog
-/// open, and when the user did not name the file that the printer writes into. The open book's file is never
-/// written over, any other one only when the user agrees.
+/// The print button: sets up the printer and stores the choices. False keeps the dialog open: after a
+/// message, or if the user did not name the file for the printer. The open book's file is never overwritten;
+/// any other file only if the user agrees.
 bool AcceptPrtForm(PrintSettings& settings, PrinterDevice& printer, const Book& book, const Seams& seams,
                    const PrtFormChoices& choices);
 

@@ -36,7 +36,7 @@ int Twips(double points)
     return static_cast<int>(std::lround(points * TwipsPerPoint));
 }
 
-// Of a sheet on its side, the edges that cannot be printed on lie elsewhere.
+// The unprintable edges of a sheet on its side.
 QMarginsF Turned(const QMarginsF& edges)
 {
     return {edges.top(), edges.right(), edges.bottom(), edges.left()};
@@ -87,7 +87,7 @@ bool SystemPrinter::IsThere(const std::string& name) const
     return name == PrintToPdf || QPrinterInfo::availablePrinterNames().contains(QString::fromStdString(name));
 }
 
-// The current printer; the first time it is the system's default, else the first that there is.
+// The current printer. At first it is the system's default, or the first printer if there is no default.
 QPrinter& SystemPrinter::Printer()
 {
     if (!m_printer) {
@@ -122,7 +122,7 @@ void SystemPrinter::TakePrinter(const std::string& name)
         const QPrinterInfo info = QPrinterInfo::printerInfo(QString::fromStdString(name));
         m_printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
         if (info.defaultPageSize().isValid()) {
-            m_printer->setPageSize(info.defaultPageSize()); // it begins with A4 whatever lies in the printer
+            m_printer->setPageSize(info.defaultPageSize()); // else A4, whatever the printer holds
         }
         if (const std::optional<bool> landscape = m_service.Landscape(name); landscape) {
             m_printer->setPageOrientation(*landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
@@ -130,10 +130,10 @@ void SystemPrinter::TakePrinter(const std::string& name)
     }
     m_printer->setFontEmbeddingEnabled(true);
     m_printer->setCreator(QStringLiteral("Lodestar Advisor"));
-    m_printer->setFullPage(true); // where the text stands on the sheet is worked out here
+    m_printer->setFullPage(true); // this class places the text on the sheet itself
 }
 
-// The edges of the sheet that cannot be printed on, in points.
+// The unprintable edges of the sheet, in points.
 QMarginsF SystemPrinter::Edges() const
 {
     QPageLayout layout = m_printer->pageLayout();
@@ -202,7 +202,7 @@ PrinterState SystemPrinter::State()
     return state;
 }
 
-// There is one typeface for topics, the one whose columns are even.
+// Topics have one typeface, whose characters are all equally wide. So the family is ignored.
 void SystemPrinter::SetFont(std::string_view /*family*/, double points)
 {
     Printer();
@@ -217,7 +217,7 @@ TextSurface& SystemPrinter::Surface()
     return m_page;
 }
 
-// A printer may have gone since it was chosen; the toolkit would print into nothing.
+// The chosen printer may no longer exist. The toolkit would then print to nowhere and report no error.
 FileError SystemPrinter::Begin()
 {
     if (!IsThere(m_name)) {
@@ -289,7 +289,7 @@ FileError SystemPrinter::Finish()
     return m_name == PrintToPdf ? StoreFile() : m_service.LastJob();
 }
 
-// The toolkit does not tell when the disk was full while it wrote; a file that is whole ends as one.
+// The toolkit does not report a full disk. So the file's end is checked.
 FileError SystemPrinter::StoreFile()
 {
     QFile made(m_printer->outputFileName());
@@ -300,7 +300,7 @@ FileError SystemPrinter::StoreFile()
     if (!bytes.last(std::min(bytes.size(), EndLength)).contains(EndOfPdf)) {
         return MakeFileError(error::DiskFull);
     }
-    // One that came under that name while the user was not asked any more is kept, too.
+    // If the user was not asked about an old file, one that has appeared since then stays.
     const auto open = m_replace ? OpenToReplace : OpenToCreate;
     std::unique_ptr<OutputFile> file;
     if (const FileError error = open(m_files, m_path, file); !error.Ok()) {
@@ -310,7 +310,7 @@ FileError SystemPrinter::StoreFile()
     return error.Ok() ? file->Finish() : error;
 }
 
-// The document is given up: nothing of it is to reach a printer.
+// Gives up the document, so that nothing of it reaches a printer.
 FileError SystemPrinter::Abandon(const FileError& error)
 {
     if (m_painter && m_painter->isActive()) {

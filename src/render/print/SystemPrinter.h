@@ -18,15 +18,13 @@ namespace ls {
 
 class FileSystem;
 
-/// The printer of this name writes pages into a file. It stands behind the installed ones, and alone where
-/// there are none.
+/// The name of the printer that writes a PDF file. It comes last in the list, after the installed printers.
 inline constexpr const char* PrintToPdf = "Print to PDF";
 
-/// The printers of the system, by way of the toolkit's printer object, and "Print to PDF".
+/// The system's printers, through the toolkit's printer object, and "Print to PDF".
 ///
-/// What is printed is recorded row by row, and a page is painted once it is complete, by the very code that
-/// paints the reading pane. Printers are looked for when they are first needed: at the start of the program
-/// that would be a wait for nothing.
+/// Prints are recorded row by row. A complete page is painted by the same code as the reading pane. Printers
+/// are searched for at the first use, so that the program starts without a delay.
 class SystemPrinter : public PrinterDevice
 {
 public:
@@ -61,15 +59,15 @@ private:
 
     FileSystem& m_files;
     PrintService& m_service;
-    std::unique_ptr<QPrinter> m_printer; ///< none until one is needed
+    std::unique_ptr<QPrinter> m_printer; ///< null until needed
     std::string m_name;
-    std::string m_path; ///< of the file that "Print to PDF" writes
+    std::string m_path; ///< the file that "Print to PDF" writes
     bool m_replace = false;
     QString m_title;
     CellMetrics m_cells;
-    PageRuns m_page;                      ///< what was printed on the page that is not complete yet
-    std::unique_ptr<QTemporaryDir> m_own; ///< where the file is made
-    std::unique_ptr<QPainter> m_painter;  ///< while a document is being printed
+    PageRuns m_page;                      ///< the prints of the page that is not complete yet
+    std::unique_ptr<QTemporaryDir> m_own; ///< the folder in which the file is made
+    std::unique_ptr<QPainter> m_painter;  ///< set while a document is printed
     bool m_pageEnded = false;             ///< the painter's page is complete
 };
 
