@@ -78,7 +78,7 @@ struct EndRow
 {
     const char* name;
     std::optional<RecordingRegistry::Value> users;
-    bool machinesKey; // there is one, without a value
+    bool machinesKey; // the machine's key exists, without a value
     const char* text;
 };
 
@@ -148,7 +148,8 @@ TEST_F(RegGetStringTest, regQueryString_sizeZero_isEmpty)
     EXPECT_FALSE(world.end.Ended());
 }
 
-// The size is told as 4 for three characters and their NUL; the buffer is filled with blanks before.
+// A key that reports 4 bytes: three characters and their NUL. The caller must fill the buffer with blanks
+// first.
 struct BufferKey : RegistryKey
 {
     std::string seen;

@@ -30,7 +30,7 @@ TEST_F(AboutTest, noAuthor_tellsOfTheProgramOnly)
 {
     EXPECT_EQ(Shown(), Strings{Program});
     book.BookCopyright = "2026";
-    EXPECT_EQ(Shown(), Strings{Program}) << "a copyright without an author is not told";
+    EXPECT_EQ(Shown(), Strings{Program}) << "a copyright without an author is not shown";
 }
 
 TEST_F(AboutTest, author_isNamedInAParagraphOfItsOwn)

@@ -24,8 +24,8 @@ struct HelpPagesTest : testing::Test
 {
     test::TestSeams world;
     test::RecordingRegistry registry;
-    Strings asked;      ///< start paths of the file selector
-    std::string picked; ///< what it gives
+    Strings asked;      ///< start paths given to the file selector
+    std::string picked; ///< the path that it returns
 
     void Show(const std::string& page)
     {

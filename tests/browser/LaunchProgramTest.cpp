@@ -24,7 +24,7 @@ struct LaunchProgramTest : testing::Test
         return LaunchProgram(world.Get(), registry, progSpec, document);
     }
 
-    // The one box that came.
+    // The single box that was shown.
     std::string Box()
     {
         EXPECT_EQ(world.messages.boxes.size(), 1U);

@@ -33,7 +33,7 @@ TEST_F(FileFormRules, load_openMode_fillsRecentFilesAndCaptions)
     const FileFormView view = Load();
     EXPECT_EQ(view.caption, "Lodestar Advisor Open");
     EXPECT_EQ(view.title, "Pick a book");
-    EXPECT_EQ(dialog.FileFormTitle, "") << "each caller sets it anew";
+    EXPECT_EQ(dialog.FileFormTitle, "") << "each caller sets the title anew";
     EXPECT_EQ(view.defaultLabel, "Default folder: /books");
     EXPECT_EQ(view.recentFiles, (Strings{"/books/A.IDA", "/books/B.IDA"}));
     EXPECT_EQ(view.fileName, "/books/A.IDA");
@@ -178,8 +178,8 @@ TEST_F(FileFormRules, browse_fileBelowTheDefaultFolder_isNamedRelatively)
         {WindowsPaths, "c:\\books", "C:\\OTHER\\Y.IDA", "C:\\OTHER\\Y.IDA"},
         {WindowsPaths, "c:\\books", "C:\\BOOKS2\\Y.IDA", "C:\\BOOKS2\\Y.IDA"},
         {UnixPaths, "/books", "/books/sub/y.ida", "sub/y.ida"},
-        {UnixPaths, "/BOOKS", "/books/sub/y.ida", "sub/y.ida"}, // there is no /BOOKS
-        {UnixPaths, "/Both", "/both/y.ida", "/both/y.ida"},     // there is a /Both, too
+        {UnixPaths, "/BOOKS", "/books/sub/y.ida", "sub/y.ida"}, // /BOOKS does not exist
+        {UnixPaths, "/Both", "/both/y.ida", "/both/y.ida"},     // /Both exists too
         {UnixPaths, "", "/work/y.ida", "y.ida"},
         {UnixPaths, "/books", "/y.ida", "/y.ida"},
         {UnixPaths, "/books", "", "as it was"},

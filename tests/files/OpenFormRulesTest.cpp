@@ -120,7 +120,7 @@ TEST_F(OpenFormRulesTest, ok_existingFile_isAcceptedInItsRealSpelling)
     EXPECT_EQ(selector->OkClicked("guide.IDA"), Outcome::Accepted);
     EXPECT_EQ(selector->ChosenFullPath(), "/work/Guide.IDA");
     EXPECT_EQ(selector->OkClicked("Sub/Deep.IDA"), Outcome::Accepted)
-        << "a relative folder lies in the one on show";
+        << "a relative folder is below the shown one";
     EXPECT_EQ(selector->ChosenFullPath(), "/work/Sub/Deep.IDA");
 }
 
@@ -258,7 +258,7 @@ TEST_F(OpenFormRulesTest, cancel_emptiesTheChosenPath)
     EXPECT_EQ(selector->ChosenFullPath(), "");
 }
 
-// The same rules with drives: files of a Windows system, kept in memory under "/C:/...".
+// The same rules with drives: the files of a Windows system, in memory under "/C:/...".
 struct DriveFiles : test::MemoryFileSystem
 {
     static std::string Inner(std::string path)

@@ -7,7 +7,7 @@ namespace {
 
 struct ApplyJournalTest : RecoveryFixture
 {
-    Book again; ///< the book after the crash
+    Book again; ///< the book as opened after the crash
 
     /// What saving a book would write.
     std::string Saved(const Book& of)
@@ -17,7 +17,7 @@ struct ApplyJournalTest : RecoveryFixture
         return files[path];
     }
 
-    /// The edits of `book`, through the bytes of a journal.
+    /// The edits of `book`, written to a journal and read back.
     Journal Kept(const RunningEdits& running = {})
     {
         JournalReading reading = ParseJournal(JournalText(JournalOf(book, running, Get())));
@@ -25,7 +25,7 @@ struct ApplyJournalTest : RecoveryFixture
         return reading.journal;
     }
 
-    /// After the crash: the book is opened anew, and the edits are brought into it.
+    /// Opens the book anew after the crash and applies the edits.
     RunningEdits Recover(const Journal& journal)
     {
         EXPECT_TRUE(OpenInto(again));
@@ -33,7 +33,7 @@ struct ApplyJournalTest : RecoveryFixture
         return ApplyJournal(journal, again);
     }
 
-    /// Everything that can be done to a book.
+    /// Makes every kind of edit.
     void EditAll()
     {
         ASSERT_TRUE(OpenThree());
@@ -258,7 +258,7 @@ TEST_F(ApplyJournalTest, keptTyping_replacesTheTextAndKeepsTheLogic)
     EXPECT_EQ(again.BookPost, "");
 }
 
-// The record of the topic was in the part of the journal that got lost.
+// The part of the journal with the topic's record is lost.
 TEST_F(ApplyJournalTest, keptTyping_topicNotInMemory_keepsItsOtherHalf)
 {
     files[BookPath] = test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "<IXML>", "<LOGIC>", "TARGET X",

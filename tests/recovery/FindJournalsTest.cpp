@@ -31,7 +31,7 @@ struct FindJournalsTest : RecoveryFixture
         return times;
     }
 
-    Strings notes; ///< of the last look
+    Strings notes; ///< of the last search
     using Times = std::vector<std::int64_t>;
 };
 
@@ -41,7 +41,7 @@ TEST_F(FindJournalsTest, leftJournals_areFoundNewestFirst)
     Leave("b", Written(3));
     Leave("c", Written(1));
     EXPECT_EQ(Found(), (Times{3, 2, 1}));
-    EXPECT_EQ(Found(), (Times{3, 2, 1})); // "Later": they stay, and are free again
+    EXPECT_EQ(Found(), (Times{3, 2, 1})); // the answer "Later": they stay and are unlocked again
 }
 
 TEST_F(FindJournalsTest, noFolderOrEmptyOne_hasNone)
@@ -146,7 +146,7 @@ TEST_F(FindJournalsTest, nothingInIt_isPutAside)
                       "nothing in it can be read. It is called "
                       "<</home/state/lodestar-advisor/a.damaged>> now."});
     EXPECT_EQ(Found(), Times{});
-    EXPECT_EQ(notes, Strings{}); // told once
+    EXPECT_EQ(notes, Strings{}); // reported only once
 }
 
 TEST_F(FindJournalsTest, nothingInItAndNoRoomToPutItAside_staysWhereItIs)

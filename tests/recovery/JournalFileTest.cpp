@@ -20,7 +20,7 @@ TEST_F(JournalFileTest, writeJournal_newAndAgain_holdsTheLastBytes)
     EXPECT_FALSE(files.Has("/state/j.journal.new"));
 }
 
-// The order that keeps a whole journal there at every moment.
+// This order ensures that a whole journal exists at every moment.
 TEST_F(JournalFileTest, writeJournal_writesBesideAndRenames)
 {
     ASSERT_EQ(WriteJournal(files, path, "one"), FileError{});

@@ -31,7 +31,7 @@ TEST(JournalTextTest, newBookWithoutTopics_isReadBackAsItWas)
     ExpectSame(reading.journal, journal);
 }
 
-// The format is a promise to journals that an older program left.
+// The program must be able to read journals of older versions, so the format is fixed.
 TEST(JournalTextTest, smallJournal_hasTheseBytes)
 {
     Journal journal;
@@ -69,7 +69,7 @@ TEST(JournalTextTest, nothingOfAJournal_isUnreadable)
     }
 }
 
-// Every edit whose section is still whole is there, whatever was done to one byte elsewhere.
+// A broken byte anywhere never harms the other sections.
 TEST(JournalTextTest, anyByteBroken_losesItsOwnSectionAtMost)
 {
     const Journal full = FullJournal();
@@ -110,7 +110,7 @@ TEST(JournalTextTest, anyEndCutOff_keepsWhatStandsBefore)
         }
     }
     EXPECT_EQ(found, full.recs.size());
-    // Without its last line end only, nothing is missing.
+    // The missing last line end alone is no damage.
     EXPECT_EQ(ParseJournal(std::string_view(whole).substr(0, lastLineEnd)).state, JournalState::Whole);
 }
 

@@ -48,7 +48,7 @@ struct JournalWatchTest : RecoveryFixture
         book.BookChanged = true;
     }
 
-    /// "B's text|what is typed" of the journal that stands; "" for none.
+    /// "B's text|typed text" from the journal on disk; "" if there is none.
     std::string Standing(int number = 1)
     {
         if (!files.Has(JournalPath(number))) {
@@ -90,13 +90,13 @@ TEST_F(JournalWatchTest, typing_standsAndGoesWithCancel)
     watch.Look({&form}, Busy);
     EXPECT_EQ(Standing(), "|a");
     form.Type("b");
-    watch.Look({&form}, Busy); // a box stands over it: no difference
+    watch.Look({&form}, Busy); // a box over the form makes no difference
     EXPECT_EQ(Standing(), "|ab");
     watch.Look({}, Idle);
     EXPECT_EQ(FilesThere(), Strings{});
 }
 
-// A look must cost nothing, as scrolling brings many of them, and a book may be huge.
+// A look must cost nothing: scrolling causes many, and a book may be huge.
 TEST_F(JournalWatchTest, nothingNew_looksAtNothing)
 {
     Edit("one");
@@ -130,7 +130,7 @@ TEST_F(JournalWatchTest, boxOfARunningCommand_acceptedEditStands)
     EXPECT_EQ(Standing(), "one|");
 }
 
-// Saving and opening forget the edits before they are done.
+// Saving and opening clear the edits before they are finished.
 TEST_F(JournalWatchTest, editsGone_journalGoesOnlyWhenTheCommandIsDone)
 {
     Edit("one");
@@ -170,7 +170,7 @@ TEST_F(JournalWatchTest, cannotBeWritten_isToldOnceAndTriedAgain)
     Edit("two");
     watch.Look({}, Idle);
     EXPECT_EQ(told.size(), 1U);
-    EXPECT_EQ(Standing(), "one|"); // the older one stands
+    EXPECT_EQ(Standing(), "one|"); // the older one stays
     EXPECT_EQ(messages.Take(), Strings{});
 }
 
@@ -200,7 +200,7 @@ struct JournalWatchEndTest : JournalWatchTest
     JournalWatch::Forms open;
 };
 
-// Not only what the last look saw.
+// Also the typing since the last look.
 TEST_F(JournalWatchEndTest, fault_writesWhatWasTypedUntilThen)
 {
     form.Type("a");
@@ -254,7 +254,7 @@ TEST_F(JournalWatchEndTest, lastWriteFails_isTriedAgainAtTheVeryEnd)
     FailWrites(false);
     watch.Finish();
     EXPECT_EQ(Standing(), "|a");
-    EXPECT_EQ(told, Strings{}); // nothing is said any more
+    EXPECT_EQ(told, Strings{}); // no message any more
 }
 
 TEST_F(JournalWatchEndTest, orderlyEnd_removesTheJournal)

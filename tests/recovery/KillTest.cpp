@@ -1,4 +1,4 @@
-// Programs that are killed at any moment, with real files.
+// Programs killed at any moment, with real files.
 
 #include "RealFilesFixture.h"
 
@@ -18,7 +18,8 @@ namespace {
 
 struct KillTest : RealFilesFixture
 {
-    /// The program: it types without a pause, and tells the number of each edit once its journal is written.
+    /// The child program: types without a pause, and writes each edit's number to `told` once its journal is
+    /// written.
     [[noreturn]] void Edit(int told)
     {
         OwnJournal own(Get(), folder);
@@ -31,7 +32,7 @@ struct KillTest : RealFilesFixture
         }
     }
 
-    /// Starts it, kills it after that time, and gives the last edit that it told.
+    /// Starts the child program and kills it after that time. Returns the last edit that it reported.
     std::int64_t EditAndKill(std::chrono::microseconds after)
     {
         int ends[2] = {};
@@ -110,7 +111,7 @@ TEST_F(KillTest, hugeJournal_isToldAndStays)
 {
     ASSERT_EQ(files->MakeFolder(folder), FileError{});
     std::ofstream(folder + "/huge.journal") << "LODESTAR RECOVERY JOURNAL 1\n";
-    std::filesystem::resize_file(folder + "/huge.journal", MostJournalBytes + 1); // without using the disk
+    std::filesystem::resize_file(folder + "/huge.journal", MostJournalBytes + 1); // takes no room on the disk
     const JournalSearch search = FindJournals(Get(), folder);
     EXPECT_TRUE(search.journals.empty());
     EXPECT_EQ(search.notes, Strings{"The recovery journal <<" + folder +

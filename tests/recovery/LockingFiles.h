@@ -9,8 +9,8 @@
 
 namespace ls::test {
 
-/// Files in memory whose locks keep others away as the system's do: a file that is open locked cannot be
-/// opened again, and one that is open at all cannot be locked.
+/// Files in memory with locks like the system's: a file that is open and locked cannot be opened again, and
+/// an open file cannot be locked.
 class LockingFiles : public MemoryFileSystem
 {
 public:

@@ -12,7 +12,7 @@ struct OfferJournalsTest : RecoveryFixture
     Strings asked;
     RecoveryChoice choice = RecoveryChoice::Recover;
 
-    /// A program edits topic B, and is killed at the time `when`.
+    /// A program edits topic B and is killed at the time `when`.
     void EditAndDie(std::int64_t when, const RunningEdits& running = {})
     {
         ASSERT_TRUE(OpenThree());
@@ -156,7 +156,7 @@ TEST_F(OfferJournalsTest, recover_damagedOneAndNoRoomToPutItAside_isNotWrittenOv
     EXPECT_EQ(FilesThere(), (Strings{"j1.journal", "j1.lock", "j2.journal", "j2.lock"}));
 }
 
-// What was removed or moved means nothing without the book: it must not become a book without topics.
+// Removals and moves mean nothing without the book, and must not become a book without topics.
 TEST_F(OfferJournalsTest, noEditedTopicAndTheBookIsGone_isNotOfferedUntilItIsBack)
 {
     ASSERT_TRUE(OpenThree());
@@ -169,7 +169,7 @@ TEST_F(OfferJournalsTest, noEditedTopicAndTheBookIsGone_isNotOfferedUntilItIsBac
     ASSERT_EQ(files.Remove(BookPath), FileError{});
     EXPECT_FALSE(Offer());
     EXPECT_EQ(asked, Strings{});
-    files[BookPath] = ThreeTopics(); // the stick was put in again
+    files[BookPath] = ThreeTopics(); // the stick is back
     EXPECT_TRUE(Offer());
     EXPECT_TRUE(again.TopicRecs(2).Deleted);
 }
@@ -227,7 +227,8 @@ TEST_F(OfferJournalsTest, journalsThatCannotBeRead_areToldTogether)
                 "Advisor, and only that can recover it. It stays where it is."});
 }
 
-// The fault table of the journal's reader: each call to the file system fails, one run for each.
+// The fault table of the journal's reader: one run for each call to the file system, in which that call
+// fails.
 TEST_F(OfferJournalsTest, eachCallFailing_losesNothingAndIsTold)
 {
     for (const int number : {error::DeviceIo, error::DiskFull, error::PermissionDenied}) {
@@ -235,7 +236,7 @@ TEST_F(OfferJournalsTest, eachCallFailing_losesNothingAndIsTold)
         for (bool error = true; error; ++failAt) {
             names = 0;
             EditAndDie(1);
-            files[JournalPath()].resize(files[JournalPath()].size() - 3); // damaged: it is copied, too
+            files[JournalPath()].resize(files[JournalPath()].size() - 3); // damaged, so it is copied too
             const std::string journal = files[JournalPath()];
             int calls = 0;
             std::string call;
@@ -255,7 +256,7 @@ TEST_F(OfferJournalsTest, eachCallFailing_losesNothingAndIsTold)
                 const bool fits = again.TopicCount == 3;
                 EXPECT_EQ(again.TopicRecs(fits ? 2 : 1).Text, "edited\r\n");
                 EXPECT_TRUE(fits || asked.front().find("new book") != std::string::npos);
-            } else { // 70 is also what a program that is running gives
+            } else { // error 70 also means a running program
                 EXPECT_TRUE(!told.empty() || (number == error::PermissionDenied && call.ends_with(".lock")));
                 EXPECT_EQ(files[JournalPath()], journal);
             }

@@ -47,7 +47,7 @@ TEST_F(OwnJournalTest, acceptedEdit_standsWithItsTime)
     EXPECT_TRUE(own.Stands());
     EXPECT_EQ(Standing().written, 77);
     EXPECT_EQ(Standing().recs, (std::vector<JournalRec>{{2, "[B]", false, "edited\r\n", ""}}));
-    EXPECT_EQ(files[BookPath], ThreeTopics()); // never the book
+    EXPECT_EQ(files[BookPath], ThreeTopics()); // the book itself is never written
 }
 
 TEST_F(OwnJournalTest, runningEdit_standsWithoutAnAcceptedOne)

@@ -8,7 +8,7 @@
 
 namespace ls {
 
-/// A book of one new topic, and a folder for journals in real files.
+/// A book of one new topic, and a folder for journals, in real files.
 struct RealFilesFixture : testing::Test
 {
     test::ScratchFolder scratch;
@@ -23,7 +23,7 @@ struct RealFilesFixture : testing::Test
 
     void SetUp() override { ASSERT_TRUE(AddTopic(book, "One")); }
 
-    /// The names of what is in the folder.
+    /// The names of the files in the folder.
     [[nodiscard]] Strings Entries()
     {
         std::vector<FolderEntry> entries;

@@ -1,4 +1,4 @@
-// Journals in real files of the system that the test runs on.
+// Journals in real files of the system that runs the test.
 
 #include "RealFilesFixture.h"
 

@@ -24,7 +24,7 @@ namespace ls {
 
 using Strings = std::vector<std::string>;
 
-/// A journal with something in every part of it.
+/// A journal with something in every part.
 inline Journal FullJournal()
 {
     Journal journal;
@@ -55,7 +55,7 @@ inline void ExpectSame(const Journal& is, const Journal& shouldBe)
     EXPECT_EQ(is.running.text, shouldBe.running.text);
     EXPECT_EQ(is.running.logic, shouldBe.running.logic);
     EXPECT_EQ(is.running.removals, shouldBe.running.removals);
-    EXPECT_TRUE(JournalText(is) == JournalText(shouldBe)); // the properties, too
+    EXPECT_TRUE(JournalText(is) == JournalText(shouldBe)); // compares the properties too
 }
 
 /// A book of three topics in memory, and a folder for its journals.
@@ -90,7 +90,7 @@ struct RecoveryFixture : testing::Test
         return OpenInto(book);
     }
 
-    /// Journals are called "j1", "j2", ...
+    /// Names journals "j1", "j2", ...
     JournalNames Names()
     {
         return [this] { return "j" + std::to_string(++names); };
@@ -100,13 +100,13 @@ struct RecoveryFixture : testing::Test
         return std::string(Folder) + "/j" + std::to_string(number) + ".journal";
     }
 
-    /// A journal's book, opened anew.
+    /// The names of a book's topics.
     [[nodiscard]] static Strings NamesOf(const Book& of)
     {
         return {of.TopicNames.begin(), of.TopicNames.begin() + of.TopicCount};
     }
 
-    /// What is in the folder of the journals.
+    /// The files in the folder of the journals.
     Strings FilesThere()
     {
         std::vector<FolderEntry> entries;

@@ -1,4 +1,4 @@
-// Which topic is exported, and what goes wrong on the way.
+// Which topic is exported, and what happens when something fails.
 
 #include "render/html/ExportFixture.h"
 
@@ -113,7 +113,7 @@ TEST_F(ExportFaults, fullDisk_isToldOnceAndNothingFinished)
         EXPECT_EQ(world.messages.Take(),
                   Strings{"warning|Lodestar Advisor|Failed to write due to error #61: Disk full"});
         EXPECT_EQ(file.finished, 0);
-        EXPECT_LT(file.text.size(), room + 200'000) << "after the fault nothing more is written";
+        EXPECT_LT(file.text.size(), room + 200'000) << "nothing more is written after the error";
     }
 }
 

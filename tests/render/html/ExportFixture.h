@@ -9,7 +9,7 @@ namespace ls {
 inline const std::string BookHeaderLine = "LODESTAR BOOK V5.3\r\n";
 inline const std::string ExportComplete = "information|Lodestar Advisor|The export is complete.";
 
-/// An output that is kept in memory, and fails from a number of bytes on.
+/// An output in memory that fails from a number of bytes on.
 struct KeptFile : OutputFile
 {
     FileError Write(std::string_view bytes) override

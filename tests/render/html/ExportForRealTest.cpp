@@ -1,5 +1,5 @@
-// Exports to real files: in a folder that may not be written, on a disk that is full, and to names that are
-// no files.
+// Exports to real files: into a folder without write permission, to a full disk, and to names that are no
+// files.
 
 #include "book/BookLoader.h"
 #include "platform/ChildProcess.h"
@@ -41,7 +41,7 @@ struct ExportForReal : testing::Test
         book.CurrentTopicNo = 1;
     }
 
-    // What the program says to an export to that name.
+    // The message of an export to that path.
     std::string Said(const std::string& path)
     {
         messages.inputs = {path};

@@ -18,7 +18,7 @@ struct ExportItemTest : ExportFixture
         book.CurrentTopicNo = 1;
     }
 
-    // Presses Export with that answer; gives the boxes behind the input box.
+    // Presses Export with that answer. Returns the boxes after the input box.
     Strings Answer(const std::optional<std::string>& answer)
     {
         world.messages.inputs = {answer};

@@ -31,7 +31,7 @@ TEST_F(ExportTopicTest, title_isTheNameWithoutItsBrackets)
     for (const Case& c :
          {Case{"[A]", "[A]", "A"}, Case{"A", "[A]", "A"}, Case{"[A [old]]", "[A [old]]", "A [old]"},
           Case{"<A> & \"B\"", "[<A> & \"B\"]", "<A> & \"B\""},
-          // Of a name that begins with a bracket the last character goes, whichever it is.
+          // A name that begins with a bracket loses its last character, whatever it is.
           Case{"[AB", "[AB]", "A"}, Case{"AB]", "[AB]", "AB]"}, Case{"[A", "[A]", "[A"}}) {
         SCOPED_TRACE(c.name);
         ASSERT_TRUE(Scan(BookHeaderLine + c.header + "\r\n"));
@@ -81,7 +81,7 @@ TEST_F(ExportTopicTest, leadingTab_isFiveSpaces)
     EXPECT_EQ(BodyOf({"\tin"}), "<P>     in</P>\r\n");
 }
 
-// The TAB that remains becomes five spaces, which are a segment as any other.
+// The TAB that remains becomes five spaces, a segment like any other.
 TEST_F(ExportTopicTest, remainderOfATab_isASegmentOfSpaces)
 {
     const std::string row(70, 'x');
@@ -155,7 +155,7 @@ TEST_F(ExportTopicTest, longItem_isPlainInTheMiddleAndClosedAtTheEnd)
 
 TEST_F(ExportTopicTest, itemBehindATag_losesTheTagsFirstCharacters)
 {
-    // The tag is cut where the marker was meant.
+    // Intended: the tag is cut in place of the marker.
     EXPECT_EQ(BodyOf({"<B>1. First</B> item"}), "<OL TYPE=a>\r\n<LI>1. First</B> item</LI>\r\n");
     EXPECT_EQ(BodyOf({"<B>- x</B>"}), "<OL TYPE=a>\r\n<LI>>- x</B></LI>\r\n");
 }

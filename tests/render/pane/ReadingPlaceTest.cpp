@@ -28,7 +28,7 @@ TEST(ReadingPlace, linesBrokenAnew_keepsThePlace)
     for (int line = 1; line <= narrow.LineCount(); ++line) {
         toWide.push_back(lineIn(wide, narrow, line));
     }
-    EXPECT_EQ(toWide, (std::vector<int>{1, 1, 3, 3, 3})) << "an empty line is left for the next text";
+    EXPECT_EQ(toWide, (std::vector<int>{1, 1, 3, 3, 3})) << "an empty line counts with the next text";
     EXPECT_EQ(lineIn(narrow, wide, 1), 1);
     EXPECT_EQ(lineIn(narrow, wide, 3), 4);
 }

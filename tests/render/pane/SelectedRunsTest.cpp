@@ -8,7 +8,7 @@
 namespace ls {
 namespace {
 
-// What the pane recorded when it was drawn from a line on.
+// What the pane recorded when it was drawn from `firstLine` on.
 struct Drawn
 {
     explicit Drawn(const std::vector<std::string>& texts, int firstLine = 1, int rows = 100)
@@ -53,7 +53,7 @@ TEST(OffsetAt, everyPlace_givesTheNearest)
     EXPECT_EQ(drawn.At(1, 1), 0U);
     EXPECT_EQ(drawn.At(1, 5), 4U);
     EXPECT_EQ(drawn.At(1, 6), 5U) << "in the second run";
-    EXPECT_EQ(drawn.At(1, 80), 9U) << "behind the row";
+    EXPECT_EQ(drawn.At(1, 80), 9U) << "after the row";
     EXPECT_EQ(drawn.At(1, -3), 0U);
     EXPECT_EQ(drawn.At(2, 7), 10U) << "an empty row";
     EXPECT_EQ(drawn.At(3, 3), 13U);
@@ -82,7 +82,7 @@ TEST(PlaceOf, everyOffset_comesBack)
         ASSERT_TRUE(place) << offset;
         EXPECT_EQ(drawn.At(place->row, place->column), offset);
     }
-    EXPECT_EQ(drawn.Place(9), (CellPlace{1, 10})) << "a row's end is behind its last character";
+    EXPECT_EQ(drawn.Place(9), (CellPlace{1, 10})) << "a row's end is after its last character";
     EXPECT_EQ(drawn.Place(10), (CellPlace{2, 1}));
 }
 

@@ -97,7 +97,7 @@ TEST(TextSelection, selectBetween_takesBothPartsWhole)
     EXPECT_EQ(between({4, 6}, {8, 9}), (std::vector<std::size_t>{4, 9}));
     EXPECT_EQ(between({4, 6}, {1, 2}), (std::vector<std::size_t>{6, 1}));
     EXPECT_EQ(between({4, 6}, {4, 6}), (std::vector<std::size_t>{4, 6}));
-    EXPECT_EQ(between({4, 6}, {5, 5}), (std::vector<std::size_t>{4, 6})) << "an empty part within";
+    EXPECT_EQ(between({4, 6}, {5, 5}), (std::vector<std::size_t>{4, 6})) << "an empty part within the first";
     EXPECT_EQ(between({4, 4}, {7, 7}), (std::vector<std::size_t>{4, 7})) << "characters";
     EXPECT_EQ(between({4, 4}, {2, 2}), (std::vector<std::size_t>{4, 2}));
 }

@@ -18,7 +18,7 @@ struct SetupCase
     bool landscape;
     int charsPerInch;
     double lineHeight;
-    // what is expected
+    // expected
     int printableWidth;
     int printableHeight;
     int charsPerLine;
@@ -64,21 +64,21 @@ TEST_P(PageSetupCase, settings_computedAsExpected)
     EXPECT_EQ(settings.TopMarginLines, setup.topMarginLines);
 }
 
-// Worked out by hand, from the margins of 936 and 864 twips (720 and 936 sideways).
+// Computed by hand from the margins: 936 and 864 twips, sideways 720 and 936.
 const SetupCase Cases[] = {
-    // The whole sheet can be printed on.
+    // The whole sheet is printable.
     {"letter_pica", 12240, 15840, 12240, 15840, false, 10, 272, 10368, 14112, 72, 51, 6, 3},
     {"letter_elite", 12240, 15840, 12240, 15840, false, 12, 227, 10368, 14112, 86, 62, 8, 4},
     {"letter_sideways", 15840, 12240, 15840, 12240, true, 10, 272, 14400, 10368, 100, 38, 5, 3},
-    // On its side, with half an inch at each side that cannot be printed on, and an inch above and below:
-    // 720 - 1440 / 2 = 0 and 936 - 2880 / 2 = -504, which is raised to 0.
+    // On its side, with an unprintable half inch at the left and right and an inch above and below:
+    // 720 - 1440 / 2 = 0 and 936 - 2880 / 2 = -504, raised to 0.
     {"letter_sidewaysWideEdges", 15840, 12240, 14400, 9360, true, 10, 272, 14400, 9360, 100, 34, 0, 0},
     // 720 - 720 / 2 = 360 and 936 - 480 / 2 = 696.
     {"letter_sidewaysNarrowEdges", 15840, 12240, 15120, 11760, true, 10, 272, 14400, 10368, 100, 38, 2, 3},
     {"a4_pica", 11906, 16838, 11906, 16838, false, 10, 272, 10034, 15110, 69, 55, 6, 3},
-    // Half an inch at each side, and an inch above and below, cannot be printed on.
+    // Half an inch at the left and right, and an inch above and below, is unprintable.
     {"letter_wideEdges", 12240, 15840, 10800, 12960, false, 10, 272, 10368, 12960, 72, 47, 2, 0},
-    // More cannot be printed on than the margins: they are 0 then.
+    // The unprintable edges exceed the margins, which become 0.
     {"letter_edgesBeyondTheMargins", 12240, 15840, 9000, 12000, false, 10, 272, 9000, 12000, 62, 44, 0, 0},
     // 936 - 721 / 2 = 575.5 and 864 - 361 / 2 = 683.5: halves go to the even 576 and 684.
     {"halves_goToTheEvenNeighbour", 12240, 15840, 11519, 15479, false, 10, 272, 10367, 14111, 71, 51, 4, 3},
@@ -98,7 +98,7 @@ std::string TestName(const testing::TestParamInfo<SetupCase>& info)
 
 INSTANTIATE_TEST_SUITE_P(Sheets, PageSetupCase, testing::ValuesIn(Cases), TestName);
 
-// A page whose lines are as high as "_" and whose bars are twice as high.
+// A page on which "_" has the height of a line, and "|" twice that.
 class UnevenPage : public PageRuns
 {
 public:

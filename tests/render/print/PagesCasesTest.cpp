@@ -1,5 +1,5 @@
-// Every topic of the samples as it is printed, against pages that tests/data/pages/model.py laid out; it
-// writes them anew when a sample has changed.
+// Compares every printed sample topic with the pages that tests/data/pages/model.py laid out. After a change
+// to a sample that script writes them anew.
 
 #include "base/Text.h"
 #include "render/print/PageSetup.h"
@@ -33,7 +33,7 @@ constexpr Sheet A4Sideways{"a4-elite-landscape", 16840, 11900, 16120, 10460, tru
 
 struct SampleCase
 {
-    const char* book; ///< its name without its type
+    const char* book; ///< its name without extension
     const char* type;
     Sheet sheet;
 };

@@ -8,8 +8,8 @@
 namespace ls {
 namespace {
 
-// Prints topics of books in memory. The margin is 6 blanks at the left and 3 rows at the top, a line holds 72
-// characters and a page 51 lines.
+// Prints topics of books in memory. The margins are 6 blanks at the left and 3 rows at the top. A line holds
+// 72 characters and a page 51 lines.
 struct PrintTopicTest : ShowTopicTest
 {
     test::RecordingPrinter printer;
@@ -36,14 +36,14 @@ struct PrintTopicTest : ShowTopicTest
                                              : Strings{"no such page"};
     }
 
-    // The rows of a book's first page behind the top margin, the title and the empty row below it.
+    // The rows of a book's first page, without the top margin, the title and the empty row below it.
     [[nodiscard]] Strings BodyRows() const
     {
         const Strings rows = Rows();
         return rows.size() < 5 ? Strings{"no body"} : Strings(rows.begin() + 5, rows.end());
     }
 
-    // The same as runs, without the empty run that ends each margin row.
+    // Those rows as runs, without the empty run that ends each margin row.
     [[nodiscard]] Strings BodyRuns() const
     {
         const Strings runs = test::RunTexts(printer.Pages().at(0));
@@ -171,7 +171,7 @@ TEST_F(PrintTopicTest, listItemOfMoreThan50Characters_hangs)
     EXPECT_EQ(BodyRows(), (Strings{"      - " + std::string(60, 'x'), "        " + std::string(20, 'y')}));
 }
 
-// On paper of 25 characters the line breaks, though it is no long one.
+// On paper of 25 characters the line breaks, though it is not a long line.
 TEST_F(PrintTopicTest, listItemOf50Characters_doesNotHang)
 {
     printer.state.width = printer.state.scaleWidth = 2 * 936 + 25 * 144;
@@ -183,15 +183,15 @@ TEST_F(PrintTopicTest, listItemOf50Characters_doesNotHang)
                                    "        " + std::string(20, 'y'), "        1234567"}));
 }
 
-// The TAB becomes five blanks, which are a row of their own.
+// The TAB becomes five blanks, which make a row of their own.
 TEST_F(PrintTopicTest, remainderThatBecomesBlanks_printsAnEmptyRow)
 {
     PrintBody(std::string(72, 'x') + "\t\r\nnext\r\n");
     EXPECT_EQ(BodyRows(), (Strings{"      " + std::string(72, 'x'), "", "      next"}));
 }
 
-// Behind an indent of 10 on paper of 12 characters, two of the five blanks fit a row: the last two make
-// another one.
+// With an indent of 10 on paper of 12 characters, two of the five blanks fit in a row. The last two make one
+// more row.
 TEST_F(PrintTopicTest, remainderOfBlanksOnly_printsOneMoreEmptyRow)
 {
     printer.state.width = printer.state.scaleWidth = 2 * 936 + 12 * 144;
@@ -296,7 +296,7 @@ TEST_F(PrintTopicTest, topicThatFillsItsPage_hasAnEmptyPageBehindIt)
 
 TEST_F(PrintTopicTest, topicThatFillsItsPageWithoutTopMargin_hasNone)
 {
-    printer.state.scaleHeight -= 2000; // more than the margins cannot be printed on
+    printer.state.scaleHeight -= 2000; // more than the margins is unprintable
     PrintBody(NumberedLines(48));
     EXPECT_EQ(settings.TopMarginLines, 0);
     EXPECT_EQ(settings.LinesPerPage, 50);
@@ -319,7 +319,7 @@ TEST_F(PrintTopicTest, paperNarrowerThanAnyIndent_wrapsToElevenCharacters)
     PrintBody("12345678. " + std::string(60, 'x') + "\r\n");
     EXPECT_EQ(settings.CharsPerLine, 3);
     EXPECT_EQ(BodyRows()[0], "      12345678.");
-    EXPECT_EQ(BodyRows().size(), 7U) << "five rows of 11 characters behind their indent, and the rest";
+    EXPECT_EQ(BodyRows().size(), 7U) << "five rows of 11 characters after their indent, and the rest";
 }
 
 TEST_F(PrintTopicTest, paperSmallerThanItsMargins_printsNothing)
@@ -401,7 +401,8 @@ TEST_F(PrintTopicTest, printerFailsAtANewPage_endsThePrintAtOnce)
     ASSERT_TRUE(Scan(Header + "[A]\r\n" + NumberedLines(500)));
     Print("[A]", 1);
     EXPECT_EQ(printed.error, MakeFileError(error::DeviceUnavailable));
-    EXPECT_EQ(printer.log, Strings{"font Courier New 12"}) << "the document is not ended, so not printed";
+    EXPECT_EQ(printer.log, Strings{"font Courier New 12"})
+        << "the document is not ended, so it is not printed";
 }
 
 TEST_F(PrintTopicTest, printAfterOneThatFailed_beginsAtTheTopLeft)
