@@ -19,15 +19,15 @@
 
 namespace ls::test {
 
-/// Says yes to whatever is asked, and keeps what was said as "icon: text".
+/// Answers yes to every question, and records messages as "icon: text".
 class AgreeingMessages : public Messages
 {
 public:
     using Messages::Messages;
 
-    std::string input; ///< what is typed into an input box; nothing takes what it proposes
+    std::string input; ///< the text typed into an input box; if empty, the proposed text stays
 
-    /// What was said since the last call, joined by " + "; questions left out.
+    /// The messages since the last call, joined by " + ", without questions.
     std::string Take();
 
 protected:
@@ -42,25 +42,25 @@ private:
 /// Names and contents of files.
 using Disk = std::map<std::string, std::string>;
 
-/// A book with a reference, an advisor that leads to another topic's, and a block that is none.
+/// A book with a reference, an advisor that leads to another topic's advisor, and an invalid logic block.
 [[nodiscard]] std::string DeskBook();
 
 /// The files of some folders, with their contents.
 [[nodiscard]] Disk FilesOf(MemoryFileSystem& files, const std::vector<std::string>& folders);
 
 /// The whole program without its windows, on files in memory: "/work/Book.IDA", and settings in "/ini" that
-/// remember "/work/Old.IDA".
+/// list "/work/Old.IDA".
 struct Desk
 {
     Desk();
 
-    /// The book is opened with a lock, and its topic A is on show.
+    /// Opens the book with a lock and shows its topic A.
     void OpenBook();
 
-    /// Opens another book, "/work/Long.IDA", whose topic A lies in several blocks of the file.
+    /// Opens another book, "/work/Long.IDA", whose topic A fills several blocks of the file.
     void OpenLong();
 
-    /// Opens the book, with the text of topic B edited and not saved.
+    /// Opens the book and edits the text of topic B, without saving.
     void OpenEdited();
 
     /// Picks that name in the file form and runs the Open command.
@@ -69,10 +69,10 @@ struct Desk
     /// Picks that name in the file form and runs the Save command.
     void SaveAs(const std::string& name);
 
-    /// What is on show, whether the edits are there, and whether the program goes on: "A|a, edited".
+    /// The shown topic and its lines, whether edits are there, and whether the program ends: "A|a, edited".
     [[nodiscard]] std::string State() const;
 
-    /// The files that lie there now, with their contents.
+    /// The present files, with their contents.
     [[nodiscard]] Disk Files();
 
     ProgramEnd end;
@@ -89,12 +89,12 @@ struct Desk
     BookCommands commands{book, global.settings, global.fileDialog, seams, view, navigation};
     SaveCommand save{book, global.settings, global.fileDialog, seams, view, commands};
     EditCommands edit{book, seams, view, navigation};
-    std::string shown; ///< what a row wants to be told besides: a dialogue's events, a list
+    std::string shown; ///< more state that a row compares: a dialogue's events, a list
 };
 
-/// What differs between two disks, by name: "Out.IDA whole" where it is as in `whole`, "cut" where it is the
-/// beginning of that and ends within a line, "other" where it is something else; of a name that `whole` lacks
-/// "kept" when it holds what some file held before, else "cut"; "gone".
+/// The differences between two disks, as "Out.IDA whole, ...". A file that is also in `whole` is "whole" if
+/// equal to it, "cut" if it is a beginning of it that ends within a line, else "other". Any other file is
+/// "kept" if its content was in some file before, else "cut". A missing file is "gone".
 [[nodiscard]] std::string Changes(const Disk& before, const Disk& after, const Disk& whole);
 
 } // namespace ls::test

@@ -11,7 +11,7 @@ struct Plan
     int failAt = 0;
     SystemFault fault{};
     const char* error = "";
-    std::string path; ///< of the call that failed
+    std::string path; ///< the path given to the call that failed
 };
 
 Plan plan;

@@ -6,42 +6,43 @@
 
 namespace ls::test {
 
-/// A way in which calls of the system fail.
+/// A way in which system calls fail.
 struct SystemFault
 {
     const char* name;
-    int code;     ///< what the system would say: an `errno`, or a code of `GetLastError`
-    bool forGood; ///< the calls behind the first one fail, too
+    int code;     ///< the system's error: an `errno`, or a code of `GetLastError`
+    bool forGood; ///< all calls after the first one fail too
 };
 
-/// Lets one of the system calls fail that the program's own code makes; the linker leads them through here.
+/// Makes one of the program's own system calls fail. The linker replaces these calls by our versions.
 class FailingCalls
 {
 public:
-    /// The call of that number, counted from now, fails, or that one and all behind it. 0 only counts.
+    /// Makes call number `failAt`, counted from now, fail, and with `forGood` all calls after it. 0 only
+    /// counts.
     FailingCalls(int failAt, const SystemFault& fault);
     ~FailingCalls();
     FailingCalls(const FailingCalls&) = delete;
     FailingCalls& operator=(const FailingCalls&) = delete;
 
-    /// The name of the call that failed first; empty when none did.
+    /// The name of the first call that failed; empty if none did.
     [[nodiscard]] std::string Error() const;
 
-    /// The path that it was given; of a call on something open the path that was opened last.
+    /// The path given to that call. For a call on an open file, the path opened last.
     [[nodiscard]] std::string Path() const;
 };
 
-/// For what stands in a call's place: the code with which it is to fail now, if it is. `path` is what it was
-/// given, or nothing.
+/// For the replaced calls: the error code if this call must fail now. `path` is the call's path, if it has
+/// one.
 [[nodiscard]] std::optional<int> CodeOfFailing(const char* call, const std::string& path = {});
 
-/// Whether a `FailingCalls` is there, so that nobody needs to wait for anything.
+/// Whether a `FailingCalls` exists; the replaced calls then need not wait.
 [[nodiscard]] bool CallsAreFailing();
 
-/// What the running system may say when a disk or a file fails.
+/// The errors that the running system may give when a disk or a file fails.
 [[nodiscard]] std::vector<SystemFault> SystemFaults();
 
-/// The calls by which it saves a book, and the one that takes a file away.
+/// The system calls that save a book.
 [[nodiscard]] std::vector<std::string> CallsOfSaving();
 [[nodiscard]] std::string CallOfRemoving();
 

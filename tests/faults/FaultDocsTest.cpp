@@ -1,4 +1,4 @@
-// The page on quality tells every message that a failing file brings up.
+// The page on quality lists every message that a failing file causes.
 
 #include "FaultRow.h"
 
@@ -20,7 +20,7 @@ std::string ReadAll(const std::string& path)
     return text.str();
 }
 
-// A message as the page has it: "Failed to fetch topic TOPIC due to error #N: WHY".
+// A message as the page writes it: "Failed to fetch topic TOPIC due to error #N: WHY".
 std::string General(std::string text)
 {
     const std::pair<const char*, const char*> names[] = {

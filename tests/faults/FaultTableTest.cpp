@@ -1,4 +1,4 @@
-// Everything that the program does with files, on a file system whose calls fail, each one in turn.
+// Every action of the program with files, on a file system whose calls fail in turn.
 
 #include "FaultRow.h"
 
@@ -18,7 +18,7 @@ using test::Outcome;
 
 constexpr int MostCalls = 200;
 
-// One run of a row, in which the call of that number fails; 0 for none.
+// One run of a row in which call number `failAt` fails; 0 for none.
 struct FaultRun
 {
     FaultRun(const FaultRow& row, int failAt, int number, bool forGood = false)
@@ -82,7 +82,7 @@ TEST_P(FaultTable, eachCallFailing_comesToWhatTheTableSays)
     }
 }
 
-// No file but the ones that are meant is touched, and what stands under a final name is whole.
+// The book's file stays unchanged, and each file under its final name is whole.
 void ExpectNoHalfFile(const std::string& disk)
 {
     EXPECT_EQ(disk.find("Book.IDA"), std::string::npos) << disk;
@@ -102,7 +102,7 @@ TEST_P(FaultTable, eachCallFailing_leavesNoHalfFile)
     }
 }
 
-// What the user is not told of has no consequence that he could see, but for those that the row names.
+// A failure without a message must not change what the user sees, except in the calls that the row names.
 TEST_P(FaultTable, eachCallFailing_isToldWhereItShows)
 {
     const std::vector<Outcome> outcomes = OutcomesOf(GetParam(), error::DeviceIo);
@@ -117,7 +117,7 @@ TEST_P(FaultTable, eachCallFailing_isToldWhereItShows)
     }
 }
 
-// The disk is gone from some call on: what was not saved is still there to be saved elsewhere.
+// If the disk fails for good from some call on, unsaved edits stay in memory and can be saved elsewhere.
 TEST_P(FaultTable, diskGoneFromEachCallOn_losesNoEditsAndLeavesNoHalfFile)
 {
     const FaultRun good(GetParam(), 0, error::DeviceIo);
@@ -127,7 +127,8 @@ TEST_P(FaultTable, diskGoneFromEachCallOn_losesNoEditsAndLeavesNoHalfFile)
         SCOPED_TRACE(run.outcome.call);
         const std::string disk = test::Changes(run.before, run.after, good.after);
         ExpectNoHalfFile(disk);
-        EXPECT_FALSE(run.outcome.told.empty() && !keeps && disk.empty()) << "nothing done, nothing told";
+        EXPECT_FALSE(run.outcome.told.empty() && !keeps && disk.empty())
+            << "nothing was done, and no message was shown";
         if (good.editedBefore && !GetParam().dropsEdits && disk.find("Out.IDA whole") == std::string::npos) {
             EXPECT_NE(run.outcome.left.find(", edited, unsaved"), std::string::npos) << run.outcome.left;
         }

@@ -1,4 +1,4 @@
-// Every command of lsbook on a file system whose calls fail, each one in turn, and on an output that is full.
+// Every command of lsbook on a file system whose calls fail in turn, and on a full output.
 
 #include "FaultRow.h"
 #include "base/FileError.h"
@@ -27,7 +27,7 @@ struct CommandRow
     Disk files = {};
 };
 
-// An output that takes so many bytes.
+// An output that takes `room` bytes.
 class FullBuffer : public std::streambuf
 {
 public:
@@ -53,7 +53,7 @@ private:
     std::string m_text;
 };
 
-// One run of a command, in which the call of that number fails; 0 for none.
+// One run of a command in which call number `failAt` fails; 0 for none.
 struct CommandRun
 {
     CommandRun(const CommandRow& row, bool json, int failAt, int number, bool forGood = false,
@@ -98,7 +98,7 @@ struct CommandRun
     Disk after;
 };
 
-// "status 3, no output"
+// Such as "status 3, no output".
 std::string StateOf(const CommandRun& run, const CommandRun& good)
 {
     const std::string state = "status " + std::to_string(run.status);
@@ -139,8 +139,8 @@ TEST_P(LsbookFaults, eachCallFailing_comesToWhatTheTableSays)
     }
 }
 
-// A script sees a failure by the status, and a file under its final name is whole; also when the disk is gone
-// for good, and in JSON.
+// The exit status reports every failure, and each file under its final name is whole. Also in JSON, and if
+// the disk fails for good.
 TEST_P(LsbookFaults, eachCallFailing_isTheStatusAndLeavesNoHalfFile)
 {
     for (const bool json : {false, true}) {

@@ -1,4 +1,4 @@
-// Opening: books, plain texts, converted copies, what the command line names, and looking for files.
+// Opening: books, plain texts, converted copies, files from the command line, and searches for files.
 
 #include "FaultRow.h"
 

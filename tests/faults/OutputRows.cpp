@@ -29,7 +29,7 @@ void Help(Desk& desk)
     desk.shown = desk.processes.started.empty() ? "" : desk.processes.started.front();
 }
 
-// The print dialog's button, with the printer that writes a PDF file under the name that is proposed.
+// Presses the print dialog's button, with the printer that writes a PDF file under the proposed name.
 void NamePdf(Desk& desk)
 {
     desk.printer.names = {"PDF"};

@@ -1,4 +1,4 @@
-// Saving the book: into a new file, which is then the open book.
+// Saving the book to a new file, which then becomes the open book.
 
 #include "FaultRow.h"
 

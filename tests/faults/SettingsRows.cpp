@@ -1,4 +1,4 @@
-// The settings file: read at the start, written whenever a book is opened or saved.
+// The settings file: read at the start, written each time a book is opened or saved.
 
 #include "FaultRow.h"
 
@@ -15,7 +15,7 @@ std::string Recent(const Settings& settings)
     return names;
 }
 
-// Settings of 1,000 records, ten of which are taken: more than one block of the file.
+// Writes settings of 1,000 records, of which ten are used: more than one block of the file.
 void WriteLong(Desk& desk)
 {
     std::string& ini = desk.files["/ini/LSAdvisor.INI"];
@@ -26,7 +26,7 @@ void WriteLong(Desk& desk)
     }
 }
 
-// As before the program starts.
+// Resets the settings as before the start of the program.
 void Forget(Desk& desk)
 {
     desk.global.settings = Settings{};
@@ -46,7 +46,7 @@ void Save(Desk& desk)
     desk.shown = Recent(desk.global.settings);
 }
 
-// The program starts, and a book is opened.
+// Starts the program and opens a book.
 void LoadAndSave(Desk& desk)
 {
     Load(desk);

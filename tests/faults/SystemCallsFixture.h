@@ -11,12 +11,12 @@
 
 namespace ls::test {
 
-/// Does something again and again, each time with another one of its system calls failing.
+/// Repeats an action, each time with another one of its system calls failing.
 class SystemCalls : public testing::TestWithParam<SystemFault>
 {
 protected:
-    /// Calls `prepare`, then `act` with the next call failing, then `check` with that call's name, until
-    /// `act` has no more calls.
+    /// Repeats until `act` has no further call: `prepare`, `act` with the next call failing, `check` with
+    /// that call's name.
     void ForEachCall(const std::function<void(const std::string& error)>& check,
                      const std::function<void()>& act, const std::function<void()>& prepare)
     {
@@ -36,12 +36,12 @@ protected:
                 break;
             }
         }
-        EXPECT_TRUE(calls.back().empty()) << "it never came to its end";
-        EXPECT_GT(calls.size(), 1U) << "it called nothing";
+        EXPECT_TRUE(calls.back().empty()) << "it does not end";
+        EXPECT_GT(calls.size(), 1U) << "it makes no system call";
     }
 
     ScratchFolder folder;
-    std::vector<std::string> calls; ///< the names of those that failed, in their order
+    std::vector<std::string> calls; ///< the names of the calls that failed, in their order
 };
 
 } // namespace ls::test

@@ -1,5 +1,5 @@
-// The same on real files, one floor below: every system call that the program's own code makes fails, each
-// one in turn, once and for good.
+// Saving and replacing on real files: every system call of the program's own code fails in turn, once and for
+// good.
 
 #include "SystemCallsFixture.h"
 #include "base/ReplaceFile.h"
@@ -26,7 +26,7 @@ TEST_P(SystemCalls, save_eachCallFailing_losesNothing)
     folder.Write("In.IDA", Unedited);
     ForEachCall(
         [&](const std::string&) {
-            ASSERT_FALSE(boxes.empty()) << "nobody is told";
+            ASSERT_FALSE(boxes.empty()) << "no message";
             const bool saved = boxes.front() == Saved;
             EXPECT_EQ(folder.Has("Out.IDA"), saved);
             if (!saved) {
@@ -34,9 +34,9 @@ TEST_P(SystemCalls, save_eachCallFailing_losesNothing)
                 EXPECT_TRUE(desk->book.BookChanged);
                 EXPECT_EQ(desk->book.TopicRecs(2).Text, "edited\r\n");
                 EXPECT_EQ(desk->SaveAs(folder / "Out.IDA").front(), Saved)
-                    << "the same name, when the disk is well";
+                    << "the same name, once the disk works again";
             }
-            desk.reset(); // a locked book can be read by nobody else
+            desk.reset(); // nobody else can read a locked book
             EXPECT_EQ(folder.Read("In.IDA"), Unedited);
             EXPECT_EQ(folder.Read("Out.IDA"), Edited);
         },

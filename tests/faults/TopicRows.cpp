@@ -69,7 +69,7 @@ void Print(Desk& desk)
     desk.shown = "prints " + std::to_string(count) + " rows: " + first;
 }
 
-// The first dialogue's answers are 1 and 1.
+// Answers 1 and 1 in the first dialogue.
 void Advise(Desk& desk)
 {
     AdvisorPlayer player;
@@ -111,7 +111,7 @@ void Check(Desk& desk)
     CheckItem_Click(desk.book, desk.seams, desk.view, desk.navigation);
 }
 
-// The logic editor's Done looks for what would surprise the author; the topic leads to another one.
+// The logic editor's Done looks for problems in the block; the topic leads to another one.
 void CheckText(Desk& desk)
 {
     const std::string text = "<IXML>\r\n<LOGIC>\r\nTARGET R\r\nDEFINE Y@More\r\nR(1)=Y(1)\r\n</LOGIC>\r\n"

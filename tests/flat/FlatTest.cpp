@@ -1,5 +1,4 @@
-// Descriptors and memory over a long day's work: they are as flat at its end as they were after its first
-// minutes.
+// File descriptors and memory over a long day's work: at its end they are as after the first minutes.
 
 #include "Held.h"
 #include "advisor/AdvisorRunner.h"
@@ -28,7 +27,7 @@ namespace {
 using test::Growth;
 using test::Held;
 
-// Says yes, and keeps nothing.
+// Answers yes and records nothing.
 class NoMessages : public Messages
 {
 public:
@@ -60,7 +59,7 @@ struct Flat : testing::Test
         commands.OpenItem_Click();
     }
 
-    // What grew while `work` was done so often, after a tenth of that to warm up.
+    // What grows while `work` runs `times` times, after a tenth of that to warm up.
     static std::string GrowthOver(int times, const std::function<void(int)>& work)
     {
         for (int i = 0; i < times / 10; ++i) {
@@ -172,7 +171,7 @@ TEST_F(Flat, checks_fifty_holdNoMore)
               "");
 }
 
-// The measure itself: what is planted is seen.
+// Tests the measure itself: it must find planted leaks.
 TEST_F(Flat, plantedLeaks_areSeen)
 {
     std::vector<std::unique_ptr<char[]>> kept;

@@ -11,7 +11,7 @@ namespace ls::test {
 
 namespace {
 
-// A sanitizer has an allocator of its own, which keeps what is freed; leaks are what it looks for itself.
+// A sanitizer has its own allocator, which holds back freed memory, and it looks for leaks itself.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool MemoryCounts = false;
 #else

@@ -7,7 +7,7 @@ namespace ls::fuzz {
 
 namespace {
 
-// Bytes as a C literal has them, so that blanks and line ends can be told apart.
+// Bytes as in a C literal, so that blanks and line ends are visible.
 std::string Shown(std::string_view text)
 {
     std::string shown;

@@ -8,9 +8,9 @@
 
 namespace ls::fuzz {
 
-/// What one run of a target is given: a text, and behind its last NUL the choices to be made on the way.
+/// The input of one run: a text, and after its last NUL the choices for the run.
 ///
-/// A file without a NUL is all text, and every choice is then 0: so a book, as it is, serves as an input.
+/// In a file without a NUL all is text and every choice is 0. So any book serves as an input.
 class Input
 {
 public:
@@ -21,7 +21,7 @@ public:
     /// The next choice, 0 to `below` - 1.
     std::size_t Choose(std::size_t below);
 
-    /// The text's lines, parted by LF.
+    /// The text's lines, separated by LF.
     [[nodiscard]] std::vector<std::string> Lines() const;
 
 private:
@@ -30,13 +30,13 @@ private:
     std::size_t m_next = 0;
 };
 
-/// What a target does with an input; each target defines it.
+/// What a target does with an input. Each target defines it.
 void TestInput(Input& input);
 
-/// Ends the run as a finding when a property does not hold.
+/// Ends the run as a finding if a property does not hold.
 void Require(bool holds, const char* property);
 
-/// The same for two texts that must be equal; both are shown.
+/// Like `Require`, for two texts that must be equal; prints both.
 void RequireEqual(std::string_view is, std::string_view shouldBe, const char* property);
 void RequireEqual(const std::vector<std::string>& is, const std::vector<std::string>& shouldBe,
                   const char* property);

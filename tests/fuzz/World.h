@@ -13,13 +13,13 @@
 
 namespace ls::fuzz {
 
-/// Answers every box by a choice of the input, and requires that what it says can be shown.
+/// Answers every box by a choice of the input, and requires that its text can be shown.
 class ChoosingMessages : public Messages
 {
 public:
     ChoosingMessages(const ProgramEnd& end, Input& input) : Messages(end), m_input(&input) {}
 
-    std::vector<std::string> texts; ///< of the boxes, in their order
+    std::vector<std::string> texts; ///< the texts of the boxes, in their order
 
 protected:
     Reply ShowBox(const std::string& text, Icon icon, Buttons buttons, const std::string& title) override;
@@ -30,7 +30,7 @@ private:
     Input* m_input;
 };
 
-/// Seams of a run's own: files in memory, chosen answers, nothing that is started.
+/// The seams of one run: files in memory, chosen answers, and no started programs.
 struct World
 {
     explicit World(Input& input) : messages(end, input) {}
@@ -43,7 +43,7 @@ struct World
 
     [[nodiscard]] Seams Get() { return {files, messages, processes, end, paths}; }
 
-    /// Puts the bytes into a file, opens it as a book and scans it. False when it cannot be, or is no book.
+    /// Writes the bytes to a file, opens it as a book and scans it. False if that fails or if it is no book.
     bool OpenBookOf(Book& book, const std::string& bytes, const std::string& path = "/work/Book.IDA");
 };
 
@@ -54,19 +54,19 @@ struct SourceLine
     std::string text;
 };
 
-/// The lines of a book's bytes: CR and CR LF end one.
+/// The lines of a book's bytes: CR and CR LF end a line.
 [[nodiscard]] std::vector<SourceLine> LinesOf(const std::string& bytes);
 
-/// Requires that a text is UTF-8 from end to end.
+/// Requires that a text is valid UTF-8.
 void RequireUtf8(std::string_view text);
 
-/// Where a text's words may be parted: everything but blanks.
+/// The text without its blanks, to compare texts whose lines break at different places.
 [[nodiscard]] std::string WithoutBlanks(std::string_view text);
 
-/// The header line of the books that targets make.
+/// The header line of books that targets make.
 inline constexpr char HeaderLine5[] = "LODESTAR BOOK V5.3\r\n";
 
-/// A text with a header line in front, unless it begins with one itself.
+/// Puts a header line before a text, unless the text begins with one.
 [[nodiscard]] std::string AsBook(const std::string& text);
 
 } // namespace ls::fuzz

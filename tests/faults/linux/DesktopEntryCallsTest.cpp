@@ -1,4 +1,4 @@
-// The browser of the desktop, with each call failing by which it is found.
+// The search for the desktop's browser, with each of its calls failing.
 
 #include "../SystemCallsFixture.h"
 #include "TwoBrowsers.h"
@@ -25,7 +25,7 @@ TEST_P(DesktopEntryCalls, desktopEntries_eachCallFailing_giveTheBrowserOrNone)
     ForEachCall(
         [&](const std::string&) {
             EXPECT_TRUE(id == "web.desktop" || id == "other.desktop" || id.empty()) << id;
-            EXPECT_EQ(id.empty(), !messages.Take().empty()) << "no browser is told of";
+            EXPECT_EQ(id.empty(), !messages.Take().empty()) << "a missing browser gives a message";
             EXPECT_FALSE(end.Ended());
         },
         [&] { id = RegGetString(seams, registry, "SOFTWARE\\Classes\\.HTM", ""); }, [] {});

@@ -1,5 +1,5 @@
-// Files of the system that the program reads without a seam: desktop entries and the table of mounts. Each
-// system call fails in turn; what comes of it stands in the table "faults/system.txt".
+// System files that the program reads directly: desktop entries and the table of mounts. Each system call
+// fails in turn; the table "faults/system.txt" gives the results.
 
 #include "../FailingCalls.h"
 #include "../FaultRow.h"
@@ -24,7 +24,7 @@ constexpr int MostCalls = 200;
 
 struct SystemFiles : testing::Test
 {
-    // What comes of each call failing, and of none, as the table has it.
+    // The results for each call failing, and for none, in the form of the table.
     [[nodiscard]] std::string TableOf(const std::function<Outcome()>& act, int errnoValue) const
     {
         std::vector<Outcome> outcomes;
@@ -38,7 +38,7 @@ struct SystemFiles : testing::Test
         return test::TableText(outcomes);
     }
 
-    // What the user sees does not depend on the reason.
+    // The result is the same for every error code.
     void ExpectTable(const std::string& row, const std::function<Outcome()>& act) const
     {
         for (const int errnoValue : {EIO, EMFILE, ENOMEM}) {
@@ -74,7 +74,8 @@ TEST_F(SystemFiles, browser_eachCallFailing_isAsIfTheFileWereNotThere)
     });
 }
 
-// A table of two blocks, in which a disk stands at the beginning, and one where they meet: "/media/la|st".
+// A table of mounts in two blocks. One disk is at its beginning, and one where the blocks meet:
+// "/media/la|st".
 std::string Mounts()
 {
     constexpr std::size_t block = 16 * 1024;

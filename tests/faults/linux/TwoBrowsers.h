@@ -5,8 +5,8 @@
 
 namespace ls::test {
 
-/// Lays a desktop with two browsers into a folder: "web.desktop", which the user chose, and "other.desktop",
-/// which the system offers.
+/// Writes a desktop with two browsers into a folder: "web.desktop", which the user chose, and
+/// "other.desktop", which the system offers.
 inline void WriteTwoBrowsers(const ScratchFolder& folder)
 {
     folder.WriteProgram("bin/web", "");
@@ -17,7 +17,7 @@ inline void WriteTwoBrowsers(const ScratchFolder& folder)
     folder.Write("share/applications/mimeinfo.cache", "[MIME Cache]\ntext/html=other.desktop\n");
 }
 
-/// Processes whose environment has that desktop, and nothing of the user's.
+/// Processes whose environment holds that desktop, and nothing of the user's.
 inline RecordingProcesses ProcessesOn(const ScratchFolder& folder)
 {
     RecordingProcesses processes;

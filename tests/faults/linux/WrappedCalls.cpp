@@ -1,4 +1,4 @@
-// What stands in the place of this system's calls.
+// The replacements of this system's calls.
 
 #include "../FailingCalls.h"
 
@@ -30,9 +30,9 @@ std::string CallOfRemoving()
 
 namespace {
 
-std::string opened; ///< the path that was opened last
+std::string opened; ///< the path opened last
 
-// Whether this call is to fail; `errno` is set then. One without a path is made on what was opened last.
+// Whether this call must fail; sets `errno` then. A call without a path uses the path opened last.
 bool Fails(const char* call, const char* path = nullptr)
 {
     const std::optional<int> code = CodeOfFailing(call, path == nullptr ? opened : path);
@@ -53,7 +53,7 @@ bool FailsToOpen(const char* call, const char* path)
 using ls::test::Fails;
 using ls::test::FailsToOpen;
 
-// The linker's names for a call and for the one that is asked instead.
+// The linker's names: __real_ is the system's call, __wrap_ its replacement.
 extern "C" {
 int __real_open(const char* path, int flags, ...);
 int __real_stat(const char* path, struct stat* status);
@@ -119,7 +119,7 @@ int __wrap_fsync(int descriptor)
 {
     return Fails("fsync") ? -1 : __real_fsync(descriptor);
 }
-// A close that fails has closed all the same.
+// A close that reports an error closes the file too.
 int __wrap_close(int descriptor)
 {
     const bool fails = Fails("close");

@@ -1,4 +1,4 @@
-// What the program makes of what the system says when a file cannot be opened, read, written or renamed.
+// How the program handles the system's errors when a file cannot be opened, read, written or renamed.
 
 #include "../FailingCalls.h"
 #include "platform/windows/WindowsFileSystem.h"
@@ -165,7 +165,7 @@ TEST_F(FileCallsOnce, finish_whereNothingCanBeFlushed_isWell)
     }
 }
 
-// Whoever has a file open keeps it from being renamed ("in use") or replaced ("denied").
+// A file that is open in another program cannot be renamed ("in use") or replaced ("denied").
 TEST_F(FileCallsOnce, rename_filesInUseForAMoment_isTriedAgain)
 {
     for (const DWORD code : {ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED}) {

@@ -1,4 +1,4 @@
-// The browser that the registry names, with each call failing by which it is found.
+// The search for the browser in the registry, with each of its calls failing.
 
 #include "../SystemCallsFixture.h"
 #include "browser/APISubs.h"
@@ -54,7 +54,7 @@ TEST_P(RegistryCalls, fileType_eachCallFailing_isFoundOrTold)
         [&] { Ask(); }, [] {});
     const bool denied = GetParam().code == ERROR_ACCESS_DENIED && !GetParam().forGood;
     EXPECT_EQ(std::count(told.begin(), told.end(), NoKey), denied ? 0 : 1)
-        << "refused rights are asked again";
+        << "after a refusal it asks again with fewer rights";
     EXPECT_GE(std::count(told.begin(), told.end(), NoValue), 1);
     EXPECT_GE(std::count(told.begin(), told.end(), NoText), 1);
 }
@@ -70,7 +70,7 @@ TEST_P(RegistryCalls, machinesKey_rightToWriteRefused_isRead)
     };
     const bool denied = GetParam().code == ERROR_ACCESS_DENIED && !GetParam().forGood;
     {
-        const test::FailingCalls second(2, GetParam()); // the first one asks for the user's key
+        const test::FailingCalls second(2, GetParam()); // the first call asks for the user's key
         EXPECT_EQ(ask(), denied ? "lstest.machine" : "");
         EXPECT_EQ(second.Error(), "RegOpenKeyExA");
     }

@@ -1,5 +1,5 @@
-// What stands in the place of this system's calls: a program finds each of them by a pointer, and these here
-// come before those of the system's own libraries.
+// The replacements of this system's calls. A program calls the system through pointers, and the linker takes
+// these pointers before those of the system's own libraries.
 
 #include "../FailingCalls.h"
 
@@ -34,7 +34,7 @@ std::string CallOfRemoving()
 
 namespace {
 
-// Whether this call is to fail; the system's code is set then.
+// Whether this call must fail; sets the system's error code then.
 bool Fails(const char* call)
 {
     const std::optional<int> code = CodeOfFailing(call);
@@ -90,7 +90,7 @@ BOOL WINAPI FlushOrFail(HANDLE file)
     return Fails("FlushFileBuffers") ? FALSE : real(file);
 }
 
-// A close that fails has closed all the same.
+// A close that reports an error closes the file too.
 BOOL WINAPI CloseOrFail(HANDLE handle)
 {
     static const auto real = Real(CloseOrFail, "CloseHandle");
@@ -154,7 +154,7 @@ LONG WINAPI QueryOrFail(HKEY key, LPCSTR name, LPDWORD reserved, LPDWORD type, L
     return code ? *code : real(key, name, reserved, type, bytes, size);
 }
 
-// Nobody waits for a disk that only seems to be in use.
+// The test must not wait for a disk that only seems to be in use.
 void WINAPI NoSleep(DWORD milliseconds)
 {
     static const auto real = Real(NoSleep, "Sleep");
@@ -167,7 +167,7 @@ void WINAPI NoSleep(DWORD milliseconds)
 
 } // namespace ls::test
 
-// The pointers by which the program's code calls the system, under the linker's names for them.
+// The pointers through which the program's code calls the system, under the linker's names for them.
 extern "C" {
 extern decltype(&::CreateFileW) __imp_CreateFileW;
 extern decltype(&::GetFileType) __imp_GetFileType;

@@ -1,4 +1,5 @@
-// Loading a topic's logic and whole dialogues with chosen answers, against a plain reading of the rules.
+// Loads a topic's logic and plays whole dialogues with chosen answers. Compares with a plain reading of the
+// rules.
 
 #include "PlayedDialogues.h"
 #include "World.h"
@@ -11,7 +12,7 @@ namespace ls::fuzz {
 
 namespace {
 
-// The model knows ASCII only, and looks a topic up by its number: names are to be whole, and told apart.
+// The model knows ASCII only and finds topics by number. So names must be complete and unique.
 bool ModelReads(const Book& book, const std::string& bytes)
 {
     const bool ascii = std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= 0; });

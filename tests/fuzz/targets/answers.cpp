@@ -1,4 +1,4 @@
-// The answers that are given to lsbook, as a list in JSON and in the short form, and JSON as it is written.
+// Answers for lsbook, as a list in JSON and in the short form, and JSON as lsbook writes it.
 
 #include "World.h"
 #include "base/CodePage.h"
@@ -28,7 +28,7 @@ std::string Written(const AnswerLists& lists)
     return stream.str();
 }
 
-// The short form, parted again: "-" alone is a list without answers.
+// The parts of the short form must join to the whole text. "-" alone is a list without answers.
 void TakeShortForm(const std::string& text, const AnswerLists& lists)
 {
     std::string joined;
@@ -58,7 +58,7 @@ void TestInput(Input& input)
                 static_cast<void>(MeantAnswer(answer, answers));
             }
         }
-        const std::string written = Written(*read); // what is no UTF-8 becomes so
+        const std::string written = Written(*read); // invalid UTF-8 has become valid
         const std::optional<AnswerLists> again = ReadAnswersJson(written);
         Require(again.has_value(), "answers that were read come back from JSON");
         RequireEqual(Written(*again), written, "answers that were read come back from JSON as they were");

@@ -10,7 +10,7 @@ namespace ls::fuzz {
 
 namespace {
 
-// Lines as an editor counts them: CR, CR LF and LF end one.
+// The number of lines as an editor counts them: CR, CR LF and LF end a line.
 int EditorLines(const std::string& text)
 {
     int lines = 1;

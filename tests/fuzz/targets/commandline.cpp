@@ -1,4 +1,4 @@
-// The command line, as one string and as separate arguments, and command lines to be started.
+// The command line, as one string and as separate arguments, and command lines that are started.
 
 #include "reader/settings/CommandLine.h"
 #include "World.h"
@@ -28,7 +28,7 @@ void TakeOneString(const std::string& line)
     }
 }
 
-// A text without what means something in a command line, and without blanks at its ends.
+// A text without the command line's special characters, and without blanks at its ends.
 std::string PlainPart(const std::string& text)
 {
     std::string plain;
@@ -47,7 +47,7 @@ void RequireRead(const CommandLine& read, const std::string& path, const std::st
     RequireEqual(read.startTopic, ToBook(topic).value_or(topic), "the topic reads back");
 }
 
-// A command line that is put together from its parts reads back, in the form of either system.
+// A command line that is built from its parts reads back as the same parts, in the form of either system.
 void TakeParts(Input& input, World& world)
 {
     const std::vector<std::string> lines = input.Lines();

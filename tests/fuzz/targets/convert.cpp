@@ -1,4 +1,4 @@
-// Texts that become book text: line ends, UTF-8, and the two code pages there and back.
+// Texts that become book text: line ends, UTF-8, and both code pages in both directions.
 
 #include "World.h"
 #include "base/CodePage.h"
@@ -58,7 +58,8 @@ void TestInput(Input& input)
     TakeCodePages(input.Text());
     std::string text = input.Text();
     if (input.Choose(256) == 255) {
-        while (text.size() > 1 && text.size() < 300 * 1024) { // past the blocks that a file is read in
+        // longer than the blocks in which a file is read
+        while (text.size() > 1 && text.size() < 300 * 1024) {
             text += std::string(text);
         }
     }

@@ -1,4 +1,4 @@
-// The files by which a Linux desktop tells what opens which document.
+// The files in which a Linux desktop says which program opens which document.
 
 #include "World.h"
 #include "base/SplitCommandLine.h"
@@ -21,7 +21,7 @@ void RequireListOf(const std::string& value)
     }
 }
 
-// The value of the last line "key=value" in a group of that name, looked for line by line.
+// The value of the last line "key=value" in a group of that name, found line by line.
 std::optional<std::string> PlainValue(const std::string& text, const std::string& group,
                                       const std::string& key)
 {

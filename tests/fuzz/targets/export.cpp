@@ -1,4 +1,4 @@
-// Exporting every topic of a book, against a plain reading of the rules and of what is shown of the topic.
+// Exports every topic of a book. Compares with a plain reading of the rules and with the shown topic.
 
 #include "World.h"
 #include "base/FileSystem.h"
@@ -23,7 +23,7 @@ bool EndsTopic(const std::string& line)
     return UpperCase(line).starts_with("<XREF") || UpperCase(Trim(line)) == "<IXML>" || line.starts_with('[');
 }
 
-// The lines of the body of the topic whose header line begins at `pos`, as far as they are exported.
+// The exported lines of the topic whose header line begins at `pos`.
 std::vector<std::string> BodyOf(const std::string& bytes, std::size_t pos)
 {
     std::vector<std::string> body;
@@ -103,7 +103,7 @@ private:
     }
 
     std::string m_html;
-    std::string m_close; ///< what ends the list that is open; empty when none is
+    std::string m_close; ///< the end tag of the open list; empty if none is open
 };
 
 std::string Without(std::string text, const std::string& part)
@@ -114,7 +114,8 @@ std::string Without(std::string text, const std::string& part)
     return text;
 }
 
-// Text without markup, lists and TABs is, but for blanks and paragraphs, what the reader sees.
+// A topic without markup, lists and TABs exports the text that the reader sees, apart from blanks and
+// paragraphs.
 void RequireShownText(World& world, const Book& book, int number, const std::vector<std::string>& body,
                       const std::string& html)
 {
@@ -132,7 +133,7 @@ void RequireShownText(World& world, const Book& book, int number, const std::vec
         text += shown.lines(i);
     }
     const std::string exported = Without(Without(Without(html, "<P>"), "</P>"), LineEnd);
-    if (text.find('<') == std::string::npos) { // behind the exported lines there may be markup
+    if (text.find('<') == std::string::npos) { // there may be markup after the exported lines
         Require(WithoutBlanks(text).starts_with(WithoutBlanks(exported)),
                 "the exported text is the text on show");
     }

@@ -1,4 +1,4 @@
-// A book's first line: what is read can be written, and what is written reads back.
+// A book's first line: a header that was read can be written, and reads back the same.
 
 #include "Fuzz.h"
 #include "book/BookHeader.h"
@@ -23,7 +23,7 @@ void TestInput(Input& input)
     Require(IsBook(again), "a written header is a book's");
     const std::string fields = header.BookAuthor + header.BookCopyright + header.BookUrl + header.BookPost;
     if (fields.find('"') != std::string::npos) {
-        return; // quotes are written as they are, and the properties form asks about them
+        return; // quotes are written without escapes, and the properties form asks about them
     }
     Require(writtenIsValid, "a written header is valid");
     RequireEqual(again.BookAuthor, header.BookAuthor, "the author reads back");

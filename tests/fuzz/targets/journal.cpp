@@ -1,5 +1,4 @@
-// Reading a recovery journal: any bytes give an answer, and what was read is used as one's own edits would
-// be.
+// Reading a recovery journal: any bytes give a result, and the edits in it are used like the user's own.
 
 #include "World.h"
 #include "book/BookLoader.h"
@@ -11,7 +10,7 @@ namespace ls::fuzz {
 
 namespace {
 
-// What was read and is written again is read the same: nothing is made up, and nothing gets lost on the way.
+// A journal that is read, written and read again stays the same.
 void RequireRoundTrip(const Journal& journal)
 {
     const std::string bytes = JournalText(journal);
@@ -23,7 +22,7 @@ void RequireRoundTrip(const Journal& journal)
     }
 }
 
-// A journal written whole, with one of its bytes changed: the answer is that it is damaged.
+// A whole journal with one changed byte must be reported as damaged.
 void RequireDamageSeen(Input& input, const Journal& journal)
 {
     std::string bytes = JournalText(journal);

@@ -1,4 +1,4 @@
-// Taking a logic block apart and building it again: it means the same, or the author is told.
+// Takes a logic block apart and builds it again. It must mean the same, or the author is told.
 
 #include "authoring/LogicBlock.h"
 #include "LogicMeaning.h"
@@ -13,7 +13,7 @@ namespace ls::fuzz {
 
 namespace {
 
-// The tables without what only tells about the block that they were read from.
+// The tables without the parts that only describe the block they come from.
 LogicBlock Bare(LogicBlock block)
 {
     block.lost.clear();
@@ -23,7 +23,7 @@ LogicBlock Bare(LogicBlock block)
     return block;
 }
 
-// The words of a text, in capitals, in the order of the alphabet, each once.
+// The words of a text, in capitals, sorted, each once.
 std::vector<std::string> WordsOf(const std::string& text)
 {
     std::vector<std::string> words(1);
@@ -50,8 +50,8 @@ void RequireEveryWord(const std::string& text, const std::string& built)
     RequireEqual(missing, {}, "no word vanishes unnamed");
 }
 
-// An entry that stands for itself is kept as it was written, with whatever it holds, and asked about each
-// time.
+// Whether an entry holds another entry or hides questions. Such an entry is stored as written, and the author
+// is asked about it each time.
 bool KeptAndAskedAbout(const std::vector<LostPart>& lost)
 {
     return std::any_of(lost.begin(), lost.end(), [](const LostPart& part) {

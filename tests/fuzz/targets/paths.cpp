@@ -1,4 +1,4 @@
-// Paths: made full, split and joined, by the rules of both kinds of system; and patterns of file names.
+// Paths, made full, split and joined by the rules of both kinds of system; and patterns of file names.
 
 #include "World.h"
 #include "base/FindSpelling.h"
@@ -10,7 +10,7 @@ namespace ls::fuzz {
 
 namespace {
 
-// Whether the name fits, by trying every length for each "*".
+// Whether the name matches, found by trying every length for each "*".
 bool Fits(std::string_view name, std::string_view pattern)
 {
     if (pattern.empty()) {

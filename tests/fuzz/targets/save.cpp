@@ -1,5 +1,5 @@
-// Saving a book: unedited it opens as what it was; with topics edited, added, removed and moved as what was
-// made of it.
+// Saving a book. Without edits it opens again as the same book. Otherwise it opens with the edited, added,
+// removed and moved topics.
 
 #include "World.h"
 #include "authoring/SpecialLines.h"
@@ -24,7 +24,7 @@ constexpr const char* SomeLogic =
 
 struct Opened
 {
-    Strings topics; ///< name, text and logic of each
+    Strings topics; ///< name, text and logic of each topic
     Strings xrefs;
 };
 
@@ -41,7 +41,7 @@ void Load(World& world, Book& book, int topic)
     LoadTopicRec(book, world.Get(), name, number);
 }
 
-// Brings every topic into memory, as the editors do.
+// Loads every topic into memory, as the editors do.
 Opened LoadAll(World& world, Book& book)
 {
     Opened opened;
@@ -67,7 +67,7 @@ bool HeaderReadsBack(const BookHeader& header)
     return again == written;
 }
 
-// A text as the editor stores it, made of some of the input's lines; nothing that its Done would ask about.
+// A text in the editor's form, made of some of the input's lines. It holds nothing that Done would ask about.
 std::string ChooseText(Input& input)
 {
     const Strings lines = input.Lines();
@@ -80,22 +80,23 @@ std::string ChooseText(Input& input)
     return FindSpecialLines(text).empty() ? text : "edited \r\n\r\n";
 }
 
-// What a saved text is when it is read again: blanks at the ends of lines are not kept.
+// A saved text as it is read again: without blanks at the ends of lines.
 std::string ReadBack(const std::string& text)
 {
     std::string trimmed;
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t end = std::min(text.find(LineEnd, at), text.size());
         const std::string_view line = std::string_view(text).substr(at, end - at);
-        const bool index = TrimRight(line) == "<INDEX>" && line.ends_with(' '); // the blank keeps it a text
+        // with this blank the line stays text
+        const bool index = TrimRight(line) == "<INDEX>" && line.ends_with(' ');
         trimmed.append(TrimRight(line)).append(index ? " " : "").append(LineEnd);
         at = end + LineEnd.size();
     }
     return trimmed;
 }
 
-// A note that begins in the text and goes on in the logic block may hide what looks like topics: without its
-// beginning these are topics again, and without its end it goes on through the topics behind.
+// A note that begins in the text and goes on in the logic block may hide lines that look like topics. If one
+// half is edited, these lines become topics, or the note goes on through the topics after it.
 bool HoldsTogether(const TopicRec& rec)
 {
     const auto hides = [](const SpecialLine& line) { return line.meaning != LineMeaning::BeginsLogic; };
@@ -108,11 +109,11 @@ void EditTopic(World& world, Book& book, Input& input, int topic)
 {
     TopicRec& rec = book.TopicRecs(topic);
     if (!book.TopicNames(topic).ends_with(']')) {
-        return; // a header line without its bracket: the topic is not found, so nobody can edit it
+        return; // the header line lacks its bracket: the topic is not found, so nobody can edit it
     }
     Load(world, book, topic);
     if (rec.Text.empty() && rec.Logic.empty()) {
-        rec.Text = LineEnd; // as of an author who emptied it
+        rec.Text = LineEnd; // as if the author emptied it
     }
     if (HoldsTogether(rec)) {
         return;
@@ -125,8 +126,8 @@ void EditTopic(World& world, Book& book, Input& input, int topic)
     }
 }
 
-// A cross reference that only the end of the file ends takes the topics into its note that are moved behind
-// it.
+// Whether a cross reference goes on to the end of the file. If topics are moved after it, they become part of
+// its note.
 bool HasEndlessNote(const Book& book, const std::string& bytes)
 {
     for (int i = 1; i <= book.TopicCount; ++i) {
@@ -169,7 +170,7 @@ void ArrangeTopics(Book& book, Input& input)
     }
 }
 
-// What the saved book should hold: edited topics gain a line end behind their text and their logic.
+// The expected contents of the saved book. Edited topics gain a line end after their text and their logic.
 Strings Expected(World& world, Book& book, const std::vector<TopicRec>& edits)
 {
     Strings topics;
@@ -191,7 +192,7 @@ Strings Expected(World& world, Book& book, const std::vector<TopicRec>& edits)
     return topics;
 }
 
-// An author's session on the book: all of its topics edited, or some, and others added, removed and moved.
+// An author's session: edits all or some topics, and adds, removes and moves others.
 void TakeSession(World& world, Input& input, const std::string& bytes)
 {
     Book book;

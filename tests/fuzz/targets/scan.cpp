@@ -1,4 +1,4 @@
-// Opening and scanning a book, against a plain reading of the whole file.
+// Opens and scans a book. Compares with a plain reading of the whole file.
 
 #include "World.h"
 #include "base/LineCursor.h"
@@ -11,7 +11,7 @@ namespace ls::fuzz {
 
 namespace {
 
-/// What a scan finds, a line for each topic and each reference.
+/// The result of a scan: a line for each topic and each reference.
 struct Found
 {
     std::vector<std::string> topics;
@@ -96,7 +96,7 @@ private:
     std::size_t m_at = 0;
 };
 
-// A book whose lines lie across the ends of the blocks that a file is read in.
+// A book whose lines cross the ends of the blocks in which a file is read.
 std::string Padded(const std::string& book, Input& input)
 {
     constexpr std::size_t Block = 64 * 1024;

@@ -1,4 +1,4 @@
-// Reading the settings file and writing it again.
+// Reads the settings file and writes it again.
 
 #include "reader/settings/Settings.h"
 #include "World.h"
@@ -44,7 +44,7 @@ std::string TextOf(const Marks& marks)
     return text;
 }
 
-// The lines behind the first one that are not empty, trimmed; CR, LF and CR LF end one.
+// The lines after the first one that are not empty, trimmed. CR, LF and CR LF end a line.
 std::vector<std::string> FilledLines(const std::string& file)
 {
     std::vector<std::string> lines(1);

@@ -1,5 +1,5 @@
-// Wrapping a line, in memory and while it is read, and drawing what comes of it, against plain readings of
-// both rules.
+// Wraps a line in memory and while it is read, and draws the rows. Compares with plain readings of both
+// rules.
 
 #include "World.h"
 #include "base/LineCursor.h"
@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::size_t AllRows = std::string::npos;
 
-// Its rows, or the first `most` of them.
+// The rows of the line, or its first `most` rows.
 std::vector<std::string> Wrapped(LineRemainder rest, int width, int indent, std::size_t most = AllRows)
 {
     std::vector<std::string> segments;
@@ -43,14 +43,14 @@ std::vector<std::string> PlainWrapped(std::string line, int width, int indent)
     return segments;
 }
 
-// The same line in a file of which a few bytes are read at a time, as a long line is wrapped on show;
-// sometimes it is left in the middle. `rows` is what it wraps to in memory.
+// Wraps the same line from a file that gives a few bytes at a time, as a long line is wrapped for the screen.
+// Sometimes it stops in the middle. `rows` are the rows when wrapped in memory.
 void RequireWrappedWhileRead(Input& input, const std::string& line, int width, int indent,
                              const std::vector<std::string>& rows)
 {
     constexpr std::array<std::string_view, 3> ends = {"\r\nnext", "\rnext", ""};
     const std::string_view end = ends[input.Choose(ends.size())];
-    // A line that does not break is walked again with each drop: the longer it is, the larger they are.
+    // A line that does not break is walked again with each piece, so longer lines come in larger pieces.
     test::DrippingFile file(line + std::string(end), 1 + input.Choose(60) + line.size() / 64);
     file.uneven = input.Choose(2) == 0;
     const std::size_t most = input.Choose(4) == 3 ? 1 + input.Choose(6) : AllRows;
@@ -75,7 +75,7 @@ void RequireWrappedWhileRead(Input& input, const std::string& line, int width, i
             "the next line follows");
 }
 
-// The text of a display line without its markup, looked for from the start each time.
+// The text of a display line without its markup. Each search begins at the start.
 std::string PlainMarkup(std::string line)
 {
     std::string text;
@@ -120,7 +120,7 @@ void RequireDrawnAsRead(const std::vector<std::string>& rows, float version)
     }
     if (!drawn.Runs().empty() && drawn.Runs().back().endRow &&
         drawn.Runs().back().displayLine < lines.Count) {
-        inRows += '\n'; // of tags only, in a row of their own
+        inRows += '\n'; // the last line holds only tags and has a row of its own
     }
     RequireEqual(text, expected, "what is drawn is the text without its markup");
     RequireEqual(TopicText(lines, version).Text(), inRows, "the topic's text is what is drawn, in its rows");
