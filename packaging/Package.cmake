@@ -11,7 +11,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-# Below 1, so that a package by the distribution itself is the newer one.
+# Below 1, so that a package by the distribution itself counts as newer.
 set(CPACK_DEBIAN_PACKAGE_RELEASE 0.1)
 set(CPACK_DEBIAN_PACKAGE_SECTION text)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
@@ -24,7 +24,7 @@ piece of advice.
 .
 The package holds the desktop program, its companion lsbook for the command
 line, and the user's guide, which is such a book itself.")
-# Libraries are found from the programs themselves. The typeface is the one that topics are laid out for.
+# The libraries are read from the programs. The typeface is the one that topics are laid out for.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation | ttf-mscorefonts-installer")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS xdg-utils)

@@ -1,9 +1,9 @@
-# The web browser under Wine: sourced by packaging/windows/try-under-wine behind Selector.bash, whose functions it uses too.
+# The web browser under Wine. packaging/windows/try-under-wine sources this after Selector.bash, as it uses functions of both.
 # shellcheck shell=bash disable=SC2034,SC2154 # names of that script
 
 browser_checks=(web_asked_writesThePageAndStartsTheBrowser help_noBrowserRegistered_isGivenToTheOneThatIsPicked)
 
-# page_shown: what the browser was asked for. The file that tells it is written anew for each check.
+# page_shown: the page that the browser was asked for. Each check removes the file first.
 page_shown() {
     wait_for test -s "$drive/page.txt" || true
     cat "$drive/page.txt" 2>&1
@@ -24,7 +24,7 @@ web_asked_writesThePageAndStartsTheBrowser() {
     rm -f -- "$page"
 }
 
-# The type of web pages belongs to a program that is gone.
+# Web pages are registered for a program that no longer exists.
 help_noBrowserRegistered_isGivenToTheOneThatIsPicked() {
     in_windows reg add 'HKCU\Software\Classes\.htm' /ve /d GonePage /f >/dev/null
     pick_browser_for_help

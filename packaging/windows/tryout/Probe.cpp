@@ -1,17 +1,17 @@
-// What packaging/windows/try-under-wine needs inside of Windows. Each command ends with status 0 when it did
-// what it should.
+// The helper of packaging/windows/try-under-wine that runs inside Windows. Each command ends with status 0 if
+// it succeeds.
 //
-//   probe execute SERVICE TOPIC COMMAND   a DDE client: sends an execute string, and prints what became of
-//                                         it: "taken", "busy", "refused" or "nobody"
+//   probe execute SERVICE TOPIC COMMAND   a DDE client: sends an execute string, and prints the reply:
+//                                         "taken", "busy", "refused", or "nobody" if there is no server
 //   probe run LINE FOLDER                 starts a program by exactly this command line in that folder
-//   probe windows                         the titles of all windows on show
+//   probe windows                         the titles of all visible windows
 //   probe clipboard                       the text on the clipboard
 //   probe copy TEXT                       puts a text there
-//   probe version FILE                    name and version of the product, as the file's resource tells them
+//   probe version FILE                    name and version of the product, from the file's resource
 //   probe icons FILE                      how many icons the file has
 //
-// Registered as the program for web pages, it writes what it is asked to show (its command line) into the
-// file that the environment variable PROBE_PAGE names.
+// If it is registered as the program for web pages, it writes its command line (the page to show) to the file
+// that the environment variable PROBE_PAGE names.
 
 #include <windows.h>
 
@@ -131,7 +131,7 @@ int Copy(const std::wstring& text)
     ::GlobalUnlock(memory);
     ::EmptyClipboard();
     const bool taken =
-        ::SetClipboardData(CF_UNICODETEXT, memory) != nullptr; // it is the system's from now on
+        ::SetClipboardData(CF_UNICODETEXT, memory) != nullptr; // the system owns it from now on
     ::CloseClipboard();
     return taken ? Done : Failed;
 }
@@ -163,7 +163,7 @@ int SayIcons(const std::wstring& file)
     return Done;
 }
 
-// The form in which the program starts a browser: one argument, the page.
+// The way in which the program starts a browser: one argument, the page.
 int ShowPage(const std::wstring& page)
 {
     wchar_t place[1000] = {};

@@ -1,16 +1,16 @@
-# The file selector and the command line under Wine: sourced by packaging/windows/try-under-wine, whose functions and names
-# it uses.
-# shellcheck shell=bash disable=SC2034,SC2154,SC1003 # names of that script, and paths that end on a backslash
+# The file selector and the command line under Wine. packaging/windows/try-under-wine sources this; it uses functions and names
+# of that script.
+# shellcheck shell=bash disable=SC2034,SC2154,SC1003 # names of that script, and paths that end with a backslash
 
 SELECTOR='^LSAdvisor File Selector$'
 selector_checks=(selector_pathOrPatternTyped_listsWhatIsThere selector_wrongPathTyped_saysWhyAndStays
     selector_drivesAndFoldersPicked_showTheirFiles selector_filePicked_isOpened selector_mouse_picksFolderAndFile
     selector_savingOverABook_asksFirst parameters_quotedAsAWhole_areTaken)
-# Where the lists have their rows, within the selector's window.
+# Places of rows of the lists, in the selector's window.
 second_folder=(60 161) first_file_at=(290 92)
 disk_of_books=$scratch/disk # drive D: of this Windows
 
-# A second disk with a name, and a drive E: for disks that has none.
+# Adds a second disk with a name, and a drive E: for removable disks that holds none.
 add_drives() {
     mkdir -p "$disk_of_books/Old Books" "$books/Part Two"
     cp -- "$root/samples/Advice.IDA" "$disk_of_books/Disk.IDA"
@@ -24,7 +24,7 @@ add_drives() {
     in_windows reg add 'HKLM\Software\Wine\Drives' /v e: /d floppy /f >/dev/null
 }
 
-# What a box holds that has the keys. Text from an earlier copy must not pass for it.
+# The text of the focused box. Text of an earlier copy must not count, so it is overwritten first.
 text_of_box() {
     in_windows 'C:\probe.exe' copy 'nothing was copied'
     key ctrl+a
@@ -35,7 +35,7 @@ path_in_selector() {
     key alt+p
     text_of_box
 }
-# enters TEXT: a path or a pattern in place of what the selector holds, with O.K.
+# enters TEXT: replaces the selector's text by a path or a pattern, and presses O.K.
 enters() {
     key alt+p
     key ctrl+a
@@ -43,20 +43,20 @@ enters() {
     key Return
     sleep 0.5
 }
-# first_file: picks the first of the list of files; the path tells which one it was.
+# first_file: picks the first row of the list of files, and prints the path.
 first_file() {
     key alt+f
     key End Home
     path_in_selector
 }
 
-# Boxes of messages hand their words to the clipboard, between lines of hyphens: title, text, buttons.
+# Message boxes copy their text to the clipboard, between lines of hyphens: title, text, buttons.
 message() {
     in_windows 'C:\probe.exe' copy 'nothing was copied'
     key ctrl+c
     in_windows 'C:\probe.exe' clipboard | awk '/^-+$/ { part++; next } part == 2 || !part'
 }
-# says_and_stays WHAT TEXT: a box with that text; the selector goes on behind it.
+# says_and_stays WHAT TEXT: expects a box with that text; the selector stays open below it.
 says_and_stays() {
     wait_for are_open 2 || return 0
     sleep 0.5
@@ -66,7 +66,7 @@ says_and_stays() {
     goes_on "$SELECTOR"
 }
 
-# The file form, and its selector.
+# Opens the file form, and its selector.
 browse() {
     run_program ''
     goes_on "$OPEN" || return 1
@@ -121,7 +121,7 @@ selector_wrongPathTyped_saysWhyAndStays() {
     leave_selector
 }
 
-# By the keys of the lists: drives with their current folders, and folders with a way back to the root.
+# With the keys of the lists: drives with their current folders, and folders from there back to the root.
 selector_drivesAndFoldersPicked_showTheirFiles() {
     browse || return 0
     key alt+d
@@ -144,7 +144,7 @@ selector_drivesAndFoldersPicked_showTheirFiles() {
     leave_selector
 }
 
-# name_in_form: what Browse brought into the file form.
+# name_in_form: the name that Browse put into the file form.
 name_in_form() {
     wait_for is_closed "$SELECTOR" || return 0
     goes_on "$OPEN" || return 0
@@ -167,7 +167,7 @@ selector_filePicked_isOpened() {
     close_program
 }
 
-# click TITLE X Y [BUTTONS]: within the window of that title.
+# click TITLE X Y [BUTTONS]: clicks in the window of that title.
 click() {
     xdotool mousemove --window "$(xdotool search --onlyvisible --name "$1" | head -n 1)" "$2" "$3" \
         click --repeat "${4:-1}" --delay 60 1
@@ -212,7 +212,7 @@ topic_on_show() {
     key ctrl+a
     text_of_box | sed -n '/[^ ]/{s/^ *//;s/ *$//;p;q}'
 }
-# opens_with LINE TOPIC BOOK: shows the topic, and keeps its settings in the folder that the line names.
+# opens_with LINE TOPIC BOOK: shows the topic, and stores its settings in the folder that the line names.
 opens_with() {
     rm -f -- "$drive/some folder"/*
     starts_with "$1"
@@ -231,7 +231,7 @@ parameters_quotedAsAWhole_areTaken() {
     close_program
     opens_with 'Advice.IDA "/INIDIR=C:\some folder" /TOPIC="A Sick Houseplant"' 'A Sick Houseplant' Advice.IDA
     close_program
-    # Without a book: the form offers the latest one of that folder's settings.
+    # Without a book the form offers the latest one in that folder's settings.
     starts_with '"/INIDIR=C:\some folder"'
     goes_on "$OPEN" || return 0
     same "the latest book" "$books_there\\Advice.IDA" "$(text_of_box)"
