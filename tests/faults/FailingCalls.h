@@ -42,7 +42,7 @@ public:
 /// The errors that the running system may give when a disk or a file fails.
 [[nodiscard]] std::vector<SystemFault> SystemFaults();
 
-/// The system calls that save a book.
+/// The system calls that save a book, and the one that removes a file.
 [[nodiscard]] std::vector<std::string> CallsOfSaving();
 [[nodiscard]] std::string CallOfRemoving();
 

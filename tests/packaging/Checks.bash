@@ -1,6 +1,6 @@
 # Shared by the scripts of this folder: source it, define checks as functions, and end with run_checks NAME...
 
-# Output of the tools is looked at, and no setting of the caller's is.
+# The checks read the output of tools, so no setting of the caller may change it.
 export LC_ALL=C.UTF-8
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_STATE_HOME XDG_CURRENT_DESKTOP LSADVISOR_WORKDIR DISPLAY WAYLAND_DISPLAY
 
@@ -14,7 +14,7 @@ fault() {
     faults=$((faults + 1))
 }
 
-# need TOOL...: ends here when one is missing.
+# need TOOL...: ends the script if one is missing.
 need() {
     local tool
     for tool; do
@@ -25,7 +25,7 @@ need() {
     done
 }
 
-# quiet COMMAND...: a checker that must end with status 0 and find nothing worth a word.
+# quiet COMMAND...: runs a checker that must end with status 0 and print nothing.
 quiet() {
     local output
     output=$("$@" 2>&1) || fault "'$*' ended with status $?"
@@ -40,7 +40,7 @@ same() {
     fi
 }
 
-# run_checks NAME...: runs functions of that name, each to its end; status 1 when one found a fault.
+# run_checks NAME...: runs each of these functions to its end; status 1 if one finds a fault.
 run_checks() {
     local name before
     for name; do

@@ -1,5 +1,6 @@
-// The whole way of a web referral: the desktop's lists name a browser, it is started on the page, its reader
-// presses Enter, and the author's site gets the form. Browser and site are real, on this machine only.
+// The whole path of a web referral: the desktop's lists name a browser, the program starts it on the page, a
+// reader presses Enter, and the author's site receives the form. Browser and site are real, and use this
+// machine only.
 
 #include "book/Book.h"
 #include "browser/HelpPages.h"
@@ -24,7 +25,7 @@ using test::Json;
 
 const std::string Tools = LS_WEB_TOOLS;
 
-// The system's programs, but a program folder of the test's own.
+// The system's programs, with a program folder of the test's own.
 class ScratchProcesses : public LinuxProcesses
 {
 public:
@@ -66,7 +67,7 @@ struct ReferralForReal : testing::Test, test::ScratchDesktop
         WriteList("share/applications/mimeinfo.cache", "MIME Cache", "web.desktop;");
     }
 
-    // Waits for a file, two minutes at most, and gives its bytes.
+    // Waits up to two minutes for a file, and returns its bytes.
     std::string Await(const std::string& name)
     {
         for (int i = 0; i < 12000 && !folder.Has(name); ++i) {

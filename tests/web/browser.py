@@ -15,7 +15,7 @@ ANSWER_SECONDS = 60
 
 
 class Browser:
-    """One browser with a profile of its own; to be used in a with statement."""
+    """One browser with a profile of its own, for a with statement."""
 
     def __init__(self):
         self._folder = tempfile.mkdtemp(prefix="lodestar-web.")
@@ -62,18 +62,18 @@ class Browser:
         self._call("POST", self._session + "/url", {"url": url})
 
     def run(self, script):
-        """The value of the body of a JavaScript function."""
+        """Runs the body of a JavaScript function and returns its value."""
         return self._call("POST", self._session + "/execute/sync", {"script": script, "args": []})
 
     def click(self, selector):
-        """Clicks the one element that a CSS selector finds, as a mouse does."""
+        """Clicks the first element that a CSS selector finds, as a mouse does."""
         element = self._call("POST", self._session + "/element", {"using": "css selector", "value": selector})
         self._call("POST", f"{self._session}/element/{next(iter(element.values()))}/click", {})
 
     def wait_until(self, condition, seconds=ANSWER_SECONDS):
-        """Whether a JavaScript condition holds on a page that has loaded, before the time is up.
+        """Waits until a page is loaded and a JavaScript condition holds on it. False if the time runs out first.
 
-        A click answers as soon as it was made; the page that it leads to comes later.
+        A click returns at once; the page that it leads to comes later.
         """
         end = time.monotonic() + seconds
         while True:
@@ -81,13 +81,13 @@ class Browser:
                 if self.run(f"return document.readyState === 'complete' && ({condition})"):
                     return True
             except urllib.error.HTTPError:
-                pass  # the pages change just now
+                pass  # the page is changing
             if time.monotonic() >= end:
                 return False
             time.sleep(0.05)
 
     def complaints(self):
-        """What the browser's console complained of since the last call."""
+        """The errors and warnings in the browser's console since the last call."""
         entries = self._call("POST", self._session + "/se/log", {"type": "browser"})
         return [entry["message"] for entry in entries if entry["level"] in ("SEVERE", "WARNING")]
 
