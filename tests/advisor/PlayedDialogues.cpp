@@ -91,7 +91,7 @@ Texts Modelled(const Book& book, const std::string& bytes, const std::vector<Dia
                bool& gaveUp)
 {
     std::vector<DialogueModel::Topic> topics;
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(static_cast<int>(book.TopicCount)); ++i) {
+    for (int i = 1; i <= book.TopicCount; ++i) {
         topics.push_back({book.TopicNames(i), static_cast<std::size_t>(book.TopicPos(i) - 1)});
     }
     DialogueModel model(bytes, topics);

@@ -233,7 +233,7 @@ private:
     void Compare()
     {
         ASSERT_EQ(static_cast<std::size_t>(m_book.TopicCount), m_model.topics.size());
-        std::size_t number = 0;
+        int number = 0;
         for (const ModelTopic& topic : m_model.topics) {
             ++number;
             ASSERT_EQ(m_book.TopicNames(number), "[" + topic.name + "]");

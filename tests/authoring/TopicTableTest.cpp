@@ -22,10 +22,10 @@ struct TopicTableTest : testing::Test
     {
         for (const std::string& name : names) {
             ASSERT_TRUE(book.TopicCount.Add());
-            const auto number = static_cast<std::size_t>(book.TopicCount);
+            const int number = book.TopicCount;
             GrowTopicTables(book, number);
             book.TopicNames(number) = "[" + name + "]";
-            book.TopicPos(number) = static_cast<FilePos>(10 * number);
+            book.TopicPos(number) = 10 * number;
             book.TopicRecs(number).Text = "text of " + name;
             book.TopicRecs(number).Logic = std::to_string(number);
         }
@@ -35,8 +35,7 @@ struct TopicTableTest : testing::Test
     [[nodiscard]] Strings Rows() const
     {
         Strings rows;
-        for (int i = 1; i <= book.TopicCount; ++i) {
-            const auto number = static_cast<std::size_t>(i);
+        for (int number = 1; number <= book.TopicCount; ++number) {
             const TopicRec& rec = book.TopicRecs(number);
             rows.push_back(book.TopicNames(number) + "@" + std::to_string(book.TopicPos(number)) + ":" +
                            rec.Text + ":" + rec.Logic + (rec.Deleted ? "-" : ""));

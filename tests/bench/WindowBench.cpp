@@ -109,7 +109,7 @@ public:
     void EditLast()
     {
         Book& book = m_global->book;
-        const auto last = static_cast<std::size_t>(m_topics);
+        const int last = m_topics;
         book.CurrentTopicName = book.TopicNames(last);
         book.CurrentTopicNo = m_topics;
         Count16 number = m_topics;

@@ -14,8 +14,8 @@ struct InputChanged : BookFixture
     bool Saves(const std::string& changed)
     {
         world.files["/work/Book.IDA"] = changed;
-        world.files.Remove("/work/Out.IDA.part");
-        world.files.Remove("/work/Out.IDA");
+        world.files.RemoveIfPossible("/work/Out.IDA.part");
+        world.files.RemoveIfPossible("/work/Out.IDA");
         const bool saved = SaveBook(book, world.Get(), "/work/Out.IDA") == WriteOutcome::Written;
         EXPECT_EQ(world.files.Has("/work/Out.IDA"), saved);
         boxes = world.messages.Take();

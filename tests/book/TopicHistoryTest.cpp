@@ -14,17 +14,15 @@ struct TopicHistoryTest : testing::Test
     {
         for (const char* name : {"[A]", "[B]", "[C]", "[D]"}) {
             static_cast<void>(book.TopicCount.Add());
-            book.TopicNames(Number(book.TopicCount)) = name;
+            book.TopicNames(book.TopicCount) = name;
         }
     }
-
-    static std::size_t Number(int number) { return static_cast<std::size_t>(number); }
 
     // What the main window does when it has shown a topic.
     void Show(int number)
     {
         book.CurrentTopicNo = number;
-        book.CurrentTopicName = number == 0 ? std::string() : book.TopicNames(Number(number));
+        book.CurrentTopicName = number == 0 ? std::string() : book.TopicNames(number);
         history.Visit(book);
     }
 
@@ -41,7 +39,7 @@ struct TopicHistoryTest : testing::Test
         std::string way;
         while (const int number = history.GoBack(book)) {
             Show(number);
-            way += book.TopicNames(Number(number))[1];
+            way += book.TopicNames(number)[1];
         }
         return way;
     }
@@ -51,7 +49,7 @@ struct TopicHistoryTest : testing::Test
         std::string way;
         while (const int number = history.GoForward(book)) {
             Show(number);
-            way += book.TopicNames(Number(number))[1];
+            way += book.TopicNames(number)[1];
         }
         return way;
     }
@@ -182,7 +180,7 @@ TEST_F(TopicHistoryTest, bookSavedWithoutARemovedTopic_keepsTheOthersByTheirTitl
     ResetBook(book); // the saved book is read anew: A C D
     for (const char* name : {"[A]", "[C]", "[D]"}) {
         static_cast<void>(book.TopicCount.Add());
-        book.TopicNames(Number(book.TopicCount)) = name;
+        book.TopicNames(book.TopicCount) = name;
     }
     Show(1);
     EXPECT_EQ(WayBack(), "DCA");

@@ -21,8 +21,8 @@ struct TopicListTest : testing::Test
     void Add(const std::string& header)
     {
         ASSERT_TRUE(book.TopicCount.Add());
-        GrowTopicTables(book, Last());
-        book.TopicNames(Last()) = header;
+        GrowTopicTables(book, book.TopicCount);
+        book.TopicNames(book.TopicCount) = header;
     }
 
     void Add(std::initializer_list<const char*> headers)
@@ -31,8 +31,6 @@ struct TopicListTest : testing::Test
             Add(std::string(header));
         }
     }
-
-    [[nodiscard]] std::size_t Last() const { return static_cast<std::size_t>(book.TopicCount); }
 
     void AddNumbered(int count)
     {

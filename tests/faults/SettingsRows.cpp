@@ -68,7 +68,7 @@ std::vector<FaultRow> SettingsRows()
         {"settingsSave", nullptr, Save, false, QuietSettings},
         {"settingsSaveFirst",
          [](Desk& desk) {
-             desk.files.Remove("/ini/LSAdvisor.INI");
+             desk.files.RemoveIfPossible("/ini/LSAdvisor.INI");
              desk.files.AddFolder("/ini");
          },
          Save},

@@ -38,8 +38,7 @@ void OpenPlain(Desk& desk)
 void EditText(Desk& desk)
 {
     desk.view.onTxEdForm = [&desk] {
-        const auto number = static_cast<std::size_t>(desk.book.CurrentTopicNo);
-        desk.book.TopicRecs(number).Text += "more\r\n";
+        desk.book.TopicRecs(desk.book.CurrentTopicNo).Text += "more\r\n";
         desk.book.BookChanged = true;
         return true;
     };

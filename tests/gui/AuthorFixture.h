@@ -117,8 +117,8 @@ struct AuthorFixture : MainFormFixture
         const Book& book = global.book;
         const std::string bytes = Read(book.OpenPath);
         Strings topics;
-        for (std::size_t i = 1; i <= static_cast<std::size_t>(book.TopicCount); ++i) {
-            const bool last = i == static_cast<std::size_t>(book.TopicCount);
+        for (int i = 1; i <= book.TopicCount; ++i) {
+            const bool last = i == book.TopicCount;
             const FilePos from = book.TopicPos(i);
             const FilePos end = last ? book.ScanEndPos : book.TopicPos(i + 1);
             topics.push_back(
@@ -128,7 +128,7 @@ struct AuthorFixture : MainFormFixture
     }
 
     /// The bytes that a topic in memory is to be saved as.
-    std::string EditedBytes(std::size_t number)
+    std::string EditedBytes(int number)
     {
         const TopicRec& rec = global.book.TopicRecs(number);
         return global.book.TopicNames(number) + "\r\n" + rec.Text + "\r\n" +

@@ -184,7 +184,7 @@ TEST_F(DelTopicFormTest, keyboard_spaceChecksTheEntryAndEnterIsOk)
 TEST_F(DelTopicFormTest, thirtyThousandTopics_lastOneIsRemoved)
 {
     GrowTopicTables(book, 30000);
-    for (std::size_t i = 1; i <= 30000; ++i) {
+    for (int i = 1; i <= 30000; ++i) {
         book.TopicNames(i) = "[Topic " + std::to_string(i) + "]";
     }
     book.TopicCount = 30000;

@@ -262,7 +262,7 @@ TEST_F(MoveTopicsFormTest, cancelAndEscape_inBothSteps_changeNothing)
 TEST_F(MoveTopicsFormTest, thirtyThousandTopics_everyOtherOneIsMoved)
 {
     GrowTopicTables(book, 30000);
-    for (std::size_t i = 1; i <= 30000; ++i) {
+    for (int i = 1; i <= 30000; ++i) {
         book.TopicNames(i) = "[" + std::to_string(i) + "]";
     }
     book.TopicCount = 30000;

@@ -44,7 +44,7 @@ void TakeCodePages(const std::string& text)
 std::string Converted(World& world, BookFile& from, TextFindings& findings, ConvertedLines& lines)
 {
     std::unique_ptr<OutputFile> to;
-    world.files.Remove("/work/out");
+    world.files.RemoveIfPossible("/work/out");
     Require(world.files.CreateNew("/work/out", to).Ok(), "a file can be made");
     Require(ConvertText(from, findings, *to, nullptr, lines).Ok(), "a text can be converted");
     return world.files["/work/out"];

@@ -141,8 +141,7 @@ void RequireShownText(World& world, const Book& book, int number, const std::vec
 
 void TakeTopic(World& world, const Book& book, const std::string& bytes, int number)
 {
-    const auto index = static_cast<std::size_t>(number);
-    const std::string& name = book.TopicNames(index);
+    const std::string& name = book.TopicNames(number);
     const std::string path = "/work/" + std::to_string(number) + ".htm";
     std::unique_ptr<OutputFile> file;
     Require(world.files.CreateNew(path, file).Ok(), "the export's file can be made");
@@ -156,7 +155,7 @@ void TakeTopic(World& world, const Book& book, const std::string& bytes, int num
     }
     RequireEqual(world.messages.texts, {"The export is complete."}, "an export says that it is complete");
     const std::string title = name.size() > 2 ? name.substr(1, name.size() - 2) : name;
-    const std::vector<std::string> body = BodyOf(bytes, static_cast<std::size_t>(book.TopicPos(index)));
+    const std::vector<std::string> body = BodyOf(bytes, static_cast<std::size_t>(book.TopicPos(number)));
     const std::string lines = PlainExport().Run(body);
     RequireEqual(html,
                  "<HTML>\r\n<HEAD>\r\n<TITLE>" + title + "</TITLE>\r\n</HEAD>\r\n<BODY>\r\n" + lines +

@@ -45,9 +45,8 @@ void Load(World& world, Book& book, int topic)
 Opened LoadAll(World& world, Book& book)
 {
     Opened opened;
-    for (int i = 1; i <= book.TopicCount; ++i) {
-        const auto number = static_cast<std::size_t>(i);
-        Load(world, book, i);
+    for (int number = 1; number <= book.TopicCount; ++number) {
+        Load(world, book, number);
         opened.topics.insert(opened.topics.end(), {book.TopicNames(number), book.TopicRecs(number).Text,
                                                    book.TopicRecs(number).Logic});
     }
@@ -174,15 +173,14 @@ void ArrangeTopics(Book& book, Input& input)
 Strings Expected(World& world, Book& book, const std::vector<TopicRec>& edits)
 {
     Strings topics;
-    for (int i = 1; i <= book.TopicCount; ++i) {
-        const auto number = static_cast<std::size_t>(i);
-        const TopicRec& edited = edits[number - 1];
+    for (int number = 1; number <= book.TopicCount; ++number) {
+        const TopicRec& edited = edits[static_cast<std::size_t>(number) - 1];
         if (edited.Deleted) {
             continue;
         }
         topics.push_back(book.TopicNames(number));
         if (edited.Text.empty() && edited.Logic.empty()) {
-            Load(world, book, i);
+            Load(world, book, number);
             topics.insert(topics.end(), {book.TopicRecs(number).Text, book.TopicRecs(number).Logic});
         } else {
             topics.push_back(edited.Text.empty() ? "" : ReadBack(edited.Text + "\r\n"));

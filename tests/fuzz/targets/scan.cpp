@@ -122,8 +122,7 @@ void TestInput(Input& input)
     }
     const Found found = PlainScan(bytes).Run();
     std::vector<std::string> topics;
-    for (int i = 1; i <= book.TopicCount; ++i) {
-        const auto number = static_cast<std::size_t>(i);
+    for (int number = 1; number <= book.TopicCount; ++number) {
         topics.push_back(std::to_string(book.TopicPos(number)) + " " + book.TopicNames(number));
     }
     RequireEqual(topics, found.topics, "the scan finds the topics of a plain reading");

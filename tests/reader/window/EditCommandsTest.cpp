@@ -35,7 +35,7 @@ struct EditCommandsTest : MainFixture
         edit.EdTextItem_Click();
     }
 
-    [[nodiscard]] const TopicRec& Rec(std::size_t number) const { return book.TopicRecs(number); }
+    [[nodiscard]] const TopicRec& Rec(int number) const { return book.TopicRecs(number); }
 
     /// The bytes of the book as it would be saved now.
     std::string Saved()
