@@ -119,32 +119,49 @@ long PeakMemory()
     return 0;
 }
 
+namespace {
+
+void PrintCells(const std::string& what, const std::string& value, const char* ratio, const char* aim)
+{
+    std::printf("| %-60s | %13s | %8s | %s |\n", what.c_str(), value.c_str(), ratio, aim);
+    std::fflush(stdout);
+}
+
+std::string Number(const char* format, double value)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, format, value);
+    return text;
+}
+
+} // namespace
+
 void PrintRow(const std::string& what, const std::string& value, double ratio, double limit)
 {
-    std::printf("%-58s %14s", what.c_str(), value.c_str());
-    if (ratio > 0) {
-        std::printf("  %7.2f", ratio);
-    }
-    if (limit > 0) {
-        std::printf("  at most %.2f%s", limit, ratio <= limit ? "" : "  MISSED");
-    }
-    std::printf("\n");
-    std::fflush(stdout);
+    const std::string aim =
+        limit > 0 ? Number("at most %.2f", limit) + (ratio <= limit ? "" : ": MISSED") : std::string();
+    PrintCells(what, value, ratio > 0 ? Number("%.2f", ratio).c_str() : "", aim.c_str());
 }
 
 void PrintFaster(const std::string& what, const std::string& value, double times, double atLeast)
 {
-    std::printf("%-58s %14s  %6.1fx", what.c_str(), value.c_str(), times);
-    if (atLeast > 0) {
-        std::printf("  at least %.0fx%s", atLeast, times >= atLeast ? "" : "  MISSED");
-    }
-    std::printf("\n");
-    std::fflush(stdout);
+    const std::string aim = atLeast > 0
+                                ? Number("at least %.0fx", atLeast) + (times >= atLeast ? "" : ": MISSED")
+                                : std::string();
+    PrintCells(what, value, Number("%.1fx", times).c_str(), aim.c_str());
 }
 
-void PrintHead(const std::string& text)
+void PrintHead(const std::string& title, const std::string& about)
 {
-    std::printf("\n%s\n", text.c_str());
+    constexpr std::size_t Width = 120;
+    std::string broken = about;
+    for (std::size_t start = 0; broken.size() - start > Width; ++start) {
+        start = broken.rfind(' ', start + Width);
+        broken[start] = '\n';
+    }
+    std::printf("\n### %s\n\n%s\n\n", title.c_str(), broken.c_str());
+    PrintCells("What", "Came out", "Ratio", "Aim");
+    std::printf("|---|--:|--:|---|\n");
 }
 
 std::string Milliseconds(double value)

@@ -40,14 +40,14 @@ void WriteFile(const std::string& path, const std::string& text);
 /// The most memory that this process has had resident since it was started, in KiB.
 [[nodiscard]] long PeakMemory();
 
-/// One line of the table. A limit of 0 means that there is none.
+/// One row of a table in Markdown: this program's time by a peer's. A limit of 0 sets no aim.
 void PrintRow(const std::string& what, const std::string& value, double ratio = 0, double limit = 0);
 
-/// The same for something that is to be at least so many times as fast as a peer; 0 asks for nothing.
+/// The same where the ratio is the peer's time by this program's. A limit of 0 sets no aim.
 void PrintFaster(const std::string& what, const std::string& value, double times, double atLeast);
 
-/// A line that begins a part of the table.
-void PrintHead(const std::string& text);
+/// Begins a table: its heading, a few sentences on what is compared, and the heads of its columns.
+void PrintHead(const std::string& title, const std::string& about);
 [[nodiscard]] std::string Milliseconds(double value);
 
 /// Ends the program when something that a measurement rests on is not so: a fast wrong result is none.

@@ -161,7 +161,11 @@ int main(int argc, char** argv)
         std::fputs("usage: bench_start FOLDER PROGRAM\n", stderr);
         return 2;
     }
-    ls::bench::PrintHead("start");
+    ls::bench::PrintHead("Starting a window",
+                         "From the start of the process until the heading of the first topic is on the "
+                         "screen, by the clock on the wall, in turns on one virtual display. All viewers "
+                         "show the same 200 topics. Memory is the most that was resident, added up over a "
+                         "viewer's processes, so that pages which they share count more than once.");
     const std::string folder = std::filesystem::absolute(argv[1]).string() + "/start";
     std::filesystem::create_directories(folder);
     ls::bench::Run(folder, std::filesystem::absolute(argv[2]));

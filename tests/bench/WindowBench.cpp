@@ -109,14 +109,13 @@ public:
     void EditLast()
     {
         Book& book = m_global->book;
-        const int last = m_topics;
-        book.CurrentTopicName = book.TopicNames(last);
+        book.CurrentTopicName = book.TopicNames(m_topics);
         book.CurrentTopicNo = m_topics;
         Count16 number = m_topics;
         std::string name = book.CurrentTopicName;
         Require(LoadTopicRec(book, m_world.Get(), name, number), "the last topic can be edited");
         ShowForm<TxEdForm>(m_world.Get());
-        book.TopicRecs(last) = {};
+        book.TopicRecs(m_topics) = {};
     }
 
 private:
@@ -179,7 +178,8 @@ int main(int argc, char** argv)
         std::fputs("usage: bench_window FOLDER\n", stderr);
         return 2;
     }
-    ls::bench::PrintHead("windows");
+    ls::bench::PrintHead("Ten times the work in a window",
+                         "Each row has ten times the topics or lines of the work that it is compared with.");
     const std::string folder = std::filesystem::absolute(argv[1]).string() + "/window";
     std::filesystem::create_directories(folder);
     ls::bench::Run(folder);

@@ -15,21 +15,51 @@ using namespace ls::bench;
 struct Benchmark
 {
     const char* name;
+    const char* title;
+    const char* about;
     void (*run)(const std::string& program, const std::string& folder);
 };
 
 constexpr Benchmark Benchmarks[] = {
-    {"scan", BenchScan},
-    {"check", [](const std::string&, const std::string& folder) { BenchCheck(folder); }},
-    {"show", [](const std::string&, const std::string& folder) { BenchShow(folder); }},
-    {"save", [](const std::string&, const std::string& folder) { BenchSave(folder); }},
-    {"resize", [](const std::string&, const std::string& folder) { BenchResize(folder); }},
-    {"wrap", [](const std::string&, const std::string& folder) { BenchWrap(folder); }},
-    {"lines", [](const std::string&, const std::string&) { BenchLines(); }},
-    {"export", [](const std::string&, const std::string& folder) { BenchExport(folder); }},
-    {"growth", [](const std::string&, const std::string& folder) { BenchGrowth(folder); }},
-    {"journal", [](const std::string&, const std::string& folder) { BenchJournal(folder); }},
-    {"advisor", [](const std::string&, const std::string& folder) { BenchAdvisor(folder); }},
+    {"scan", "Scanning a book",
+     "A book of 200 MiB with 30,000 topics, beside tools that only read it. Both memories are the most that "
+     "a process of its own had resident.",
+     BenchScan},
+    {"check", "Checking a book", "The ratio is scan and check together by the scan alone.",
+     [](const std::string&, const std::string& folder) { BenchCheck(folder); }},
+    {"show", "Showing a topic", "The ratio is the last topic of that book by its first one.",
+     [](const std::string&, const std::string& folder) { BenchShow(folder); }},
+    {"save", "Saving a book",
+     "By the clock on the wall, since both wait for the disk. Other work on the same disk changes the ratio.",
+     [](const std::string&, const std::string& folder) { BenchSave(folder); }},
+    {"resize", "Changing the width", "One step of a resize, beside a copy of the topic's lines in memory.",
+     [](const std::string&, const std::string& folder) { BenchResize(folder); }},
+    {"wrap", "Wrapping",
+     "Texts of 64 MiB, read and written, beside `fold -s -w 80` in the C locale. The two do the same work "
+     "where a text has no tags. `fold` takes tags for text; this program finds them and measures what is "
+     "between.",
+     [](const std::string&, const std::string& folder) { BenchWrap(folder); }},
+    {"lines", "Long lines",
+     "The ratio is the time of a MiB by that of a MiB of the shortest line of the same kind.",
+     [](const std::string&, const std::string&) { BenchLines(); }},
+    {"export", "Exporting",
+     "Every topic of a book as HTML, beside pandoc on the same text in one file. Pandoc runs once.",
+     [](const std::string&, const std::string& folder) { BenchExport(folder); }},
+    {"growth", "Ten times the work",
+     "Each row has ten times the topics, lines or rules of the work that it is compared with. Sorting then "
+     "takes 13 times as long, and what is quadratic takes 100 times as long.",
+     [](const std::string&, const std::string& folder) { BenchGrowth(folder); }},
+    {"journal", "The recovery journal",
+     "Processor time. Each journal is also flushed to the disk, and that wait comes on top.",
+     [](const std::string&, const std::string& folder) { BenchJournal(folder); }},
+    {"advisor", "The advisor",
+     "Made-up rules with 6 conditions each over 40 variables, and a reader who answers every question. Load "
+     "is reading the logic block, for the peers their program with the same rules. A question is the time "
+     "from an answer until the next question is on show. With 100 rules, half of it goes into reading the "
+     "question's text from the book, which no peer does. `CLIPS, rules` has a defrule for each rule. `CLIPS, "
+     "facts` has a fact for each rule and three defrules that reduce them as the advisor does. CLIPS chooses "
+     "no question.",
+     [](const std::string&, const std::string& folder) { BenchAdvisor(folder); }},
 };
 
 int Usage()
@@ -60,10 +90,9 @@ int main(int argc, char** argv)
     if (argc < 2 || !std::all_of(argv + 2, argv + argc, Known)) {
         return Usage();
     }
-    std::printf("%-58s %14s  %7s\n", "", "median", "ratio");
     for (const Benchmark& benchmark : Benchmarks) {
         if (argc == 2 || std::find(argv + 2, argv + argc, std::string(benchmark.name)) != argv + argc) {
-            PrintHead(benchmark.name);
+            PrintHead(benchmark.title, benchmark.about);
             benchmark.run(argv[0], first);
         }
     }

@@ -1,4 +1,4 @@
-// The page on quality lists every message that a failing file causes.
+// docs/failures.md names every message that a failing file causes.
 
 #include "FaultRow.h"
 
@@ -56,9 +56,9 @@ std::set<std::string> MessagesOf(const std::string& file)
     return found;
 }
 
-TEST(FaultDocs, qualityPage_tellsEveryMessage)
+TEST(FaultDocs, failuresPage_namesEveryMessage)
 {
-    const std::string page = ReadAll(LS_DOCS "/quality.md");
+    const std::string page = ReadAll(LS_DOCS "/failures.md");
     const std::pair<const char*, std::size_t> tables[] = {
         {"window.txt", 6}, {"lsbook.txt", 6}, {"system.txt", 1}};
     for (const auto& [file, atLeast] : tables) {
