@@ -6,6 +6,7 @@
 #include "base/Messages.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookWords.h"
 
 #include <algorithm>
 #include <set>
@@ -16,13 +17,6 @@
 namespace ls {
 
 namespace {
-
-constexpr std::string_view QuestionOpening = "<Q ID=";
-
-bool Contains(std::string_view text, std::string_view part)
-{
-    return text.find(part) != std::string_view::npos;
-}
 
 // One load of one topic's logic.
 class Loader
@@ -123,7 +117,7 @@ bool Loader::FindLogicSection()
         if (!error.Ok()) {
             return ReadFailed(error);
         }
-        if (EqualsUpper(Trim(line), "<LOGIC>")) {
+        if (EqualsUpper(Trim(line), LogicOpening)) {
             return true;
         }
         if ((StartsTopic(line) && !ownHeader) || m_cursor.AtEnd()) {
@@ -250,7 +244,7 @@ bool Loader::ReadDefinitions()
         if (trimmed.empty()) {
             continue;
         }
-        if (trimmed.front() == '[' || Contains(UpperCase(trimmed), "</DEFINITIONS>")) {
+        if (trimmed.front() == '[' || Contains(UpperCase(trimmed), DefinitionsClosing)) {
             break;
         }
         if (!TakeQuestion(trimmed)) {

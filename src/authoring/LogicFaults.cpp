@@ -20,11 +20,6 @@ using namespace logic;
 constexpr std::size_t None = std::string_view::npos;
 constexpr std::size_t NamedFaults = 5;
 
-bool Contains(std::string_view text, std::string_view part)
-{
-    return text.find(part) != None;
-}
-
 // Calls `take(line, number)` for each line.
 template <typename Take>
 void ForEachLine(std::string_view text, Take take)

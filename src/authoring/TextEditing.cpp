@@ -4,6 +4,7 @@
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
+#include "base/Text.h"
 #include "book/Book.h"
 
 #include <array>
@@ -14,8 +15,6 @@
 namespace ls {
 
 namespace {
-
-constexpr std::string_view LineEnd = "\r\n";
 
 // "U+2192"
 std::string CodeOf(char32_t character)

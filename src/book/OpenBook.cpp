@@ -5,12 +5,11 @@
 #include "base/Processes.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 
 namespace ls {
 
 namespace {
-
-constexpr std::string_view ProgramFolderPrefix = "LS:";
 
 bool ReportOpenError(const Seams& seams, const std::string& path, const FileError& error)
 {

@@ -3,6 +3,7 @@
 #include "base/ProgramEnd.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "book/XrefText.h"
 
 #include <utility>
@@ -11,9 +12,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view IndexLine = "<INDEX>";
-constexpr std::string_view EndLine = "[EOF]";
-constexpr std::string_view IndexEnd = "<END-INDEX>";
 constexpr FilePos ProgressStep = 8 * 1024 * 1024;
 
 enum class LineOutcome
@@ -73,7 +71,7 @@ private:
         if (m_line.starts_with(XrefOpening)) {
             return TakeXref(outcome);
         }
-        if (m_line == EndLine) {
+        if (m_line == BookEnd) {
             outcome = LineOutcome::Stop;
             m_endPos = m_linePos;
         } else if (m_line.size() > 2 && m_line.front() == '[') {

@@ -4,6 +4,7 @@
 #include "base/LineCursor.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookWords.h"
 #include "check/CheckedBlockReader.h"
 #include "render/text/TopicBody.h"
 
@@ -21,7 +22,7 @@ std::unique_ptr<CheckedBlock> ReadBlock(TopicBody& body, int topic)
     for (int number = 1; body.Next(line) && (line.empty() || line.front() != '['); ++number) {
         if (reader) {
             reader->Take(line, number);
-        } else if (EqualsUpper(Trim(line), "<IXML>")) {
+        } else if (EqualsUpper(Trim(line), BlockOpening)) {
             reader = std::make_unique<CheckedBlockReader>(topic, number);
         }
     }

@@ -2,6 +2,7 @@
 
 #include "advisor/Definitions.h"
 #include "base/Text.h"
+#include "book/BookWords.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -12,13 +13,6 @@ namespace ls {
 namespace {
 
 constexpr auto None = std::string_view::npos;
-constexpr std::string_view QuestionOpening = "<Q ID=";
-constexpr std::string_view AdviceOpening = "<AV ID=";
-
-bool Contains(std::string_view text, std::string_view part)
-{
-    return text.find(part) != None;
-}
 
 void Fault(BlockRule& rule, RuleFault fault)
 {
@@ -68,11 +62,11 @@ void CheckedBlockReader::Take(std::string_view line, int number)
 
 void CheckedBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
 {
-    if (EqualsUpper(trimmed, "<LOGIC>")) {
+    if (EqualsUpper(trimmed, LogicOpening)) {
         m_part = Part::Logic;
         m_block.logicLine = number;
         m_block.logicIsNext = m_first;
-    } else if (EqualsUpper(trimmed, "</IXML>")) {
+    } else if (EqualsUpper(trimmed, BlockClosing)) {
         m_block.blockEnd = number; // the loader reads on: a later "<LOGIC>" would still count
     }
 }
@@ -165,12 +159,12 @@ void CheckedBlockReader::TakeDefinitions(std::string_view line, int number)
     const std::string upper = UpperCase(line);
     const std::string_view upperTrimmed = Trim(upper);
     const bool opens = upperTrimmed.starts_with(QuestionOpening) || upperTrimmed.starts_with(AdviceOpening);
-    const bool ends = upperTrimmed == "</DEFINITIONS>" || upperTrimmed == "</IXML>";
+    const bool ends = upperTrimmed == DefinitionsClosing || upperTrimmed == BlockClosing;
     if (!trimmed.empty() && trimmed.front() == '[' && m_block.bracketLine == 0) {
         m_block.bracketLine = number;
         m_registers = false;
     }
-    if (upperTrimmed == "</DEFINITIONS>" && m_block.definitionsEnd == 0) {
+    if (upperTrimmed == DefinitionsClosing && m_block.definitionsEnd == 0) {
         m_block.definitionsEnd = number;
         m_searched = false;
     }
@@ -189,8 +183,8 @@ void CheckedBlockReader::TakeDefinitions(std::string_view line, int number)
             m_block.targetInDefinitions = number;
         }
     }
-    m_registers = m_registers && !Contains(upperTrimmed, "</DEFINITIONS>");
-    if (upperTrimmed == "</IXML>") {
+    m_registers = m_registers && !Contains(upperTrimmed, DefinitionsClosing);
+    if (upperTrimmed == BlockClosing) {
         m_block.blockEnd = number;
         m_part = Part::Behind;
     }
@@ -227,7 +221,7 @@ void CheckedBlockReader::OpenEntries(std::string_view line, const std::string& u
 std::size_t CheckedBlockReader::TakeText(std::string_view line, std::size_t from)
 {
     BlockEntry& entry = m_block.entries.back();
-    const std::string_view closing = entry.question ? "</Q>" : "</AV>";
+    const std::string_view closing = entry.question ? QuestionClosing : AdviceClosing;
     const std::size_t end = line.find(closing, from);
     std::string_view piece = line.substr(from, end == None ? None : end - from);
     entry.tooLong = entry.tooLong || m_length + piece.size() > MaxEntryText;

@@ -17,8 +17,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
-
 using Notes = std::vector<std::string>;
 
 // "U+2192"
@@ -90,7 +88,7 @@ void KeepText(Book& book, const RunningText& running, Notes& notes)
                         FromBook(WithoutBrackets(running.name)) + "\" " +
                         std::string(Consequence(special.meaning)) + " in the saved book.");
     }
-    book.TopicRecs(running.topic).Text = text.empty() ? LineEnd : text;
+    book.TopicRecs(running.topic).Text = text.empty() ? std::string(LineEnd) : text;
 }
 
 // What the editor's Done asks about is told here: comments of the old block that the editor cannot hold.

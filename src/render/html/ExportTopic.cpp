@@ -6,6 +6,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "render/html/HtmlExport.h"
 #include "render/html/HtmlOutput.h"
 #include "render/text/TopicBody.h"
@@ -23,7 +24,7 @@ std::string_view TitleOf(std::string_view topicName)
 // Unlike the display, which passes over references, an export stops at them.
 bool EndsTopic(std::string_view line)
 {
-    return BeginsUpper(line, "<XREF") || EqualsUpper(Trim(line), "<IXML>") || line.starts_with('[');
+    return BeginsUpper(line, XrefTag) || EqualsUpper(Trim(line), BlockOpening) || line.starts_with('[');
 }
 
 enum class Located

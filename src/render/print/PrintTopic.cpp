@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "render/print/PageSetup.h"
 #include "render/print/PrintSettings.h"
 #include "render/text/DrawLines.h"
@@ -104,7 +105,7 @@ private:
     [[nodiscard]] bool Ends(std::string_view line) const
     {
         return !m_book->IsPlainText() &&
-               (BeginsUpper(line, "<XREF") || EqualsUpper(Trim(line), "<IXML>") || line.starts_with('['));
+               (BeginsUpper(line, XrefTag) || EqualsUpper(Trim(line), BlockOpening) || line.starts_with('['));
     }
 
     // What remains of a line is not trimmed here: blanks at its end make one more row, an empty one.

@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "render/text/ListIndent.h"
 #include "render/text/TopicBody.h"
 #include "render/text/WrapSegment.h"
@@ -18,14 +19,11 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view XrefBeginning = "<XREF";
-constexpr std::string_view LogicOpening = "<IXML>";
-
 bool IsLogicOpening(std::string_view line)
 {
     // A long line is told apart by its first character, without a walk through its blanks.
     line = TrimLeft(line);
-    return !line.empty() && line.front() == '<' && EqualsUpper(TrimRight(line), LogicOpening);
+    return !line.empty() && line.front() == '<' && EqualsUpper(TrimRight(line), BlockOpening);
 }
 
 bool IsTopicHeader(std::string_view line)
@@ -50,7 +48,7 @@ public:
         while (body.NextPart(line, more)) {
             line = more == nullptr ? TrimRight(line) : line;
             if (!m_plainText) {
-                if (BeginsUpper(line, XrefBeginning)) {
+                if (BeginsUpper(line, XrefTag)) {
                     m_skip = true;
                     m_shown->xrefButton = true;
                 }
