@@ -7,24 +7,10 @@
 #include "base/Text.h"
 #include "book/Book.h"
 
-#include <array>
-#include <cstdio>
 #include <utility>
 #include <vector>
 
 namespace ls {
-
-namespace {
-
-// "U+2192"
-std::string CodeOf(char32_t character)
-{
-    std::array<char, 16> code{};
-    std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(character));
-    return code.data();
-}
-
-} // namespace
 
 std::string TextToEdit(const Book& book)
 {

@@ -16,7 +16,6 @@ inline constexpr std::string_view CopyrightKey = "COPYRIGHT";
 inline constexpr std::string_view UrlKey = "URL";
 inline constexpr std::string_view PostKey = "POST";
 
-inline constexpr char TopicBracket = '[';                   ///< begins a topic's header line
 inline constexpr std::string_view BookEnd = "[EOF]";        ///< a line that ends the book
 inline constexpr std::string_view IndexLine = "<INDEX>";    ///< a line that opens a legacy index
 inline constexpr std::string_view IndexEnd = "<END-INDEX>"; ///< the name in an index's last record
@@ -33,12 +32,9 @@ inline constexpr std::string_view LogicClosing = "</LOGIC>"; ///< a line that cl
 inline constexpr std::string_view DefinitionsOpening = "<DEFINITIONS>";  ///< opens the entries, within a line
 inline constexpr std::string_view DefinitionsClosing = "</DEFINITIONS>"; ///< closes them
 
-inline constexpr char CommentMark = '*';                 ///< begins a comment in a logic block
-inline constexpr char RuleMark = '=';                    ///< within a logic line: makes it a rule
 inline constexpr std::string_view AssumeWord = "ASSUME"; ///< begins a command, like the next two
 inline constexpr std::string_view TargetWord = "TARGET";
 inline constexpr std::string_view DefineWord = "DEFINE";
-inline constexpr char DefineMark = '@'; ///< within a DEFINE: before the topic's title
 
 inline constexpr std::string_view QuestionOpening = "<Q ID="; ///< opens a question entry, in any letter case
 inline constexpr std::string_view QuestionClosing = "</Q>";   ///< closes it, case as here

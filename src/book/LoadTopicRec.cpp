@@ -1,6 +1,5 @@
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
-#include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
 #include "book/BookWords.h"
@@ -105,7 +104,7 @@ bool LoadPlainText(Book& book, const Seams& seams, std::string* plainText)
         return false;
     }
     plainText->clear();
-    LineCursor cursor(*book.File);
+    LineCursor cursor = CursorOf(book);
     while (!cursor.AtEnd()) {
         const std::size_t start = plainText->size();
         if (const FileError error = cursor.AppendLine(*plainText); !error.Ok()) {
@@ -129,8 +128,7 @@ bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
         return LoadPlainText(book, seams, plainText);
     }
     name = WithBrackets(name);
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     LocateTopic(book, seams, cursor, name, number);
     if (name.empty()) {
         number = 0;
@@ -156,8 +154,7 @@ bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
 bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number, std::string& logic)
 {
     std::string name = book.TopicNames(number);
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     LocateTopic(book, seams, cursor, name, number);
     if (name.empty()) {
         return false;

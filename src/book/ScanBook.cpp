@@ -26,7 +26,7 @@ class Scanner
 {
 public:
     Scanner(Book& book, Progress* progress)
-        : m_book(book), m_cursor(*book.File), m_progress(progress),
+        : m_book(book), m_cursor(CursorOf(book)), m_progress(progress),
           m_nextReport(book.BookStartPos + ProgressStep)
     {
         m_cursor.Seek(book.BookStartPos);

@@ -4,6 +4,7 @@
 #include "base/LineCursor.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookLoader.h"
 #include "book/BookWords.h"
 #include "check/CheckedBlockReader.h"
 #include "render/text/TopicBody.h"
@@ -67,7 +68,7 @@ std::unique_ptr<CheckedBlock> BlockStore::ReadFile(int topic)
     if (!m_book.File || pos == 0) {
         return nullptr;
     }
-    LineCursor cursor(*m_book.File);
+    LineCursor cursor = CursorOf(m_book);
     cursor.Seek(pos);
     FileBody body(cursor);
     std::string_view header;

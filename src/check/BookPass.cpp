@@ -5,6 +5,7 @@
 #include "base/Progress.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookLoader.h"
 #include "book/BookWords.h"
 #include "book/XrefText.h"
 #include "check/BlockStore.h"
@@ -103,7 +104,7 @@ FileError BookPass::Run()
         return error;
     }
     m_nextTopic = m_book.TopicCount > 0 ? m_book.TopicPos(1) : 0;
-    LineCursor cursor(*m_book.File);
+    LineCursor cursor = CursorOf(m_book);
     std::string_view line;
     for (int number = 1; !cursor.AtEnd(); ++number) {
         const FilePos pos = cursor.Position();

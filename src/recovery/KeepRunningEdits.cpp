@@ -10,22 +10,12 @@
 #include "recovery/ApplyJournal.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 
 namespace ls {
 
 namespace {
 
 using Notes = std::vector<std::string>;
-
-// "U+2192"
-std::string CodeOf(char32_t character)
-{
-    std::array<char, 16> code{};
-    std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(character));
-    return code.data();
-}
 
 // The text as a book holds it. Each kind of character that it cannot hold is told once; `what` says where it
 // stands.

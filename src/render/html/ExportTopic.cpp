@@ -2,7 +2,6 @@
 
 #include "base/LineCursor.h"
 #include "base/Messages.h"
-#include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
@@ -84,8 +83,7 @@ bool ExportTopic(const Book& book, const Seams& seams, const std::string& topicN
         return FinishFile(seams, lines);
     }
     const std::string name = WithBrackets(topicName);
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     const Located located = Locate(book, seams, name, topicIndex, cursor);
     if (located != Located::Found) {
         return located == Located::Missing && FinishFile(seams, lines);

@@ -2,7 +2,6 @@
 
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
-#include "base/NoFile.h"
 #include "base/PrinterDevice.h"
 #include "base/Text.h"
 #include "book/Book.h"
@@ -28,14 +27,6 @@ constexpr double PicaPoints = 12;
 constexpr double ElitePoints = 10;
 constexpr std::size_t LongLine = 50; // only lines beyond this length hang their continuation lines
 constexpr int TitleLines = 2;        // of the title and the empty line below it
-
-void SetPlain(TextSurface& surface)
-{
-    surface.SetBold(false);
-    surface.SetItalic(false);
-    surface.SetUnderline(false);
-    surface.SetColour(Black);
-}
 
 void PrintMargin(TextSurface& surface, const PrintSettings& settings)
 {
@@ -180,8 +171,7 @@ Printed PrintTopic(const Book& book, const Seams& seams, PrinterDevice& printer,
     if (!error.Ok() || settings.LinesPerPage < 0 || settings.CharsPerLine < 0) {
         return {error};
     }
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     std::string name = topicName;
     if (!Locate(book, seams, cursor, name, topicIndex)) {
         printer.Surface().Print("Error on lookup of topic.", true);

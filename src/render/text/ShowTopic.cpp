@@ -3,7 +3,6 @@
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
 #include "base/Messages.h"
-#include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
@@ -103,7 +102,7 @@ FilePos FindLogic(const Book& book, int number)
     if (!book.File || book.TopicPos(number) == 0) {
         return 0;
     }
-    LineCursor cursor(*book.File);
+    LineCursor cursor = CursorOf(book);
     cursor.Seek(book.TopicPos(number));
     FileBody body(cursor);
     std::string_view line;
@@ -164,7 +163,7 @@ ShowResult ShowPlainText(const Book& book, const Seams& seams, int lineWidthChar
         return ShowResult::Nothing;
     }
     StartAnew(shown);
-    LineCursor cursor(*book.File);
+    LineCursor cursor = CursorOf(book);
     FileBody body(cursor);
     Preparation preparation(true, lineWidthChars, shown);
     preparation.Take(body);
@@ -209,8 +208,7 @@ ShowResult ShowTopic(const Book& book, const Seams& seams, std::string& topicNam
     }
     topicName = WithBrackets(topicName);
     const std::string* edited = EditedText(book, topicIndex);
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     if (edited == nullptr) {
         LocateTopic(book, seams, cursor, topicName, topicIndex);
         if (topicName.empty()) {
