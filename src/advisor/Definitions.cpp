@@ -9,6 +9,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookWords.h"
+#include "book/TopicEnd.h"
 
 #include <algorithm>
 

@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookWords.h"
+#include "book/TopicEnd.h"
 
 #include <algorithm>
 #include <set>

@@ -5,6 +5,7 @@
 #include "base/Quoted.h"
 #include "base/Text.h"
 #include "book/BookWords.h"
+#include "book/TopicEnd.h"
 #include "book/XrefText.h"
 
 #include <algorithm>
@@ -116,7 +117,7 @@ std::vector<SpecialLine> FindSpecialLines(std::string_view text)
             break;
         }
         std::optional<LineMeaning> meaning;
-        if (EqualsUpper(Trim(line), BlockOpening)) {
+        if (OpensBlock(line)) {
             meaning = LineMeaning::BeginsLogic;
         } else if (start >= noteEnd) {
             meaning = MeaningOf(line);

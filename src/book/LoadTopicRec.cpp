@@ -76,7 +76,7 @@ bool ReadText(TopicReader& reader, std::string& text)
         text.reserve(reader.Rest() + LineEnd.size()); // growing would need up to three times as much
     }
     for (std::size_t start = 0; reader.Append(text, start);) {
-        if (EqualsUpper(Trim(std::string_view(text).substr(start)), BlockOpening)) {
+        if (OpensBlock(std::string_view(text).substr(start))) {
             text.resize(start);
             return true;
         }

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookWords.h"
+#include "book/TopicEnd.h"
 
 #include <algorithm>
 #include <memory>
@@ -154,7 +155,7 @@ private:
         std::string_view line;
         bool found = false;
         while (!found && m_cursor->Position() < end && Read(line)) {
-            found = EqualsUpper(Trim(line), BlockOpening);
+            found = OpensBlock(line);
         }
         if (!found) {
             return;

@@ -5,7 +5,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
-#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 #include "check/CheckedBlockReader.h"
 #include "render/text/TopicBody.h"
 
@@ -20,10 +20,10 @@ std::unique_ptr<CheckedBlock> ReadBlock(TopicBody& body, int topic)
 {
     std::unique_ptr<CheckedBlockReader> reader;
     std::string_view line;
-    for (int number = 1; body.Next(line) && (line.empty() || line.front() != '['); ++number) {
+    for (int number = 1; body.Next(line) && !StartsTopic(line); ++number) {
         if (reader) {
             reader->Take(line, number);
-        } else if (EqualsUpper(Trim(line), BlockOpening)) {
+        } else if (OpensBlock(line)) {
             reader = std::make_unique<CheckedBlockReader>(topic, number);
         }
     }

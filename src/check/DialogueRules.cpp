@@ -5,7 +5,7 @@
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
 #include "base/Text.h"
-#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 
 #include <algorithm>
 
@@ -83,10 +83,10 @@ FilePos LogicPosition(BookFile& file, FilePos topic)
     std::string_view line;
     bool header = true;
     while (!cursor.AtEnd() && cursor.ReadLine(line).Ok()) {
-        if (EqualsUpper(Trim(line), BlockOpening)) {
+        if (OpensBlock(line)) {
             return cursor.Position();
         }
-        if (!header && !line.empty() && line.front() == '[') {
+        if (!header && StartsTopic(line)) {
             break;
         }
         header = false;

@@ -5,7 +5,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
-#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 #include "render/html/HtmlExport.h"
 #include "render/html/HtmlOutput.h"
 #include "render/text/TopicBody.h"
@@ -18,12 +18,6 @@ std::string_view TitleOf(std::string_view topicName)
 {
     const bool inBrackets = topicName.starts_with('[') && topicName.size() > 2;
     return inBrackets ? topicName.substr(1, topicName.size() - 2) : topicName;
-}
-
-// Unlike the display, which passes over references, an export stops at them.
-bool EndsTopic(std::string_view line)
-{
-    return BeginsUpper(line, XrefTag) || EqualsUpper(Trim(line), BlockOpening) || line.starts_with('[');
 }
 
 enum class Located
@@ -55,7 +49,7 @@ FileError WriteDocument(LineCursor& cursor, std::string_view title, HtmlOutput& 
     std::string_view line;
     while (output.Error().Ok() && body.Next(line)) {
         line = TrimRight(line);
-        if (EndsTopic(line)) {
+        if (EndsText(line)) {
             break;
         }
         html.AddLine(line);

@@ -6,7 +6,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
-#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 #include "render/print/PageSetup.h"
 #include "render/print/PrintSettings.h"
 #include "render/text/DrawLines.h"
@@ -82,7 +82,7 @@ public:
         std::string_view line;
         while (m_error.Ok() && body.Next(line)) {
             line = TrimRight(line);
-            if (Ends(line)) {
+            if (!m_book->IsPlainText() && EndsText(line)) {
                 break;
             }
             PrintSourceLine(line);
@@ -91,14 +91,6 @@ public:
     }
 
 private:
-    // Unlike the display, which passes over references and shows nothing behind them, a print stops there. In
-    // a plain text file all of this is text.
-    [[nodiscard]] bool Ends(std::string_view line) const
-    {
-        return !m_book->IsPlainText() &&
-               (BeginsUpper(line, XrefTag) || EqualsUpper(Trim(line), BlockOpening) || line.starts_with('['));
-    }
-
     // What remains of a line is not trimmed here: blanks at its end make one more row, an empty one.
     void PrintSourceLine(std::string_view line)
     {

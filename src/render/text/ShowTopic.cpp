@@ -6,7 +6,7 @@
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
-#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 #include "render/text/ListIndent.h"
 #include "render/text/TopicBody.h"
 #include "render/text/WrapSegment.h"
@@ -17,18 +17,6 @@
 namespace ls {
 
 namespace {
-
-bool IsLogicOpening(std::string_view line)
-{
-    // A long line is told apart by its first character, without a walk through its blanks.
-    line = TrimLeft(line);
-    return !line.empty() && line.front() == '<' && EqualsUpper(TrimRight(line), BlockOpening);
-}
-
-bool IsTopicHeader(std::string_view line)
-{
-    return !line.empty() && line.front() == '[';
-}
 
 // Turns the source lines of one topic into display lines.
 class Preparation
@@ -46,17 +34,13 @@ public:
         LineCursor* more = nullptr;
         while (body.NextPart(line, more)) {
             line = more == nullptr ? TrimRight(line) : line;
-            if (!m_plainText) {
-                if (BeginsUpper(line, XrefTag)) {
-                    m_skip = true;
-                    m_shown->xrefButton = true;
-                }
-                if (IsLogicOpening(line)) {
-                    return true;
-                }
-                if (IsTopicHeader(line)) {
-                    return false;
-                }
+            const TopicLine kind = m_plainText ? TopicLine::Text : ClassifyTopicLine(line);
+            if (kind == TopicLine::LogicBlock || kind == TopicLine::Header) {
+                return kind == TopicLine::LogicBlock;
+            }
+            if (kind == TopicLine::Reference) {
+                m_skip = true;
+                m_shown->xrefButton = true;
             }
             if (!m_skip) {
                 Wrap(line, more);
@@ -109,8 +93,8 @@ FilePos FindLogic(const Book& book, int number)
     if (!body.Next(line) || Trim(line) != book.TopicNames(number)) {
         return 0;
     }
-    while (body.Next(line) && !IsTopicHeader(line)) {
-        if (IsLogicOpening(line)) {
+    while (body.Next(line) && !StartsTopic(line)) {
+        if (OpensBlock(line)) {
             return cursor.Position();
         }
     }
