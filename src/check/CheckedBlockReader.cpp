@@ -1,6 +1,7 @@
 #include "check/CheckedBlockReader.h"
 
 #include "advisor/Definitions.h"
+#include "advisor/LogicLine.h"
 #include "base/Text.h"
 #include "book/BookWords.h"
 
@@ -13,6 +14,12 @@ namespace ls {
 namespace {
 
 constexpr auto None = std::string_view::npos;
+
+bool NamesTarget(std::string_view line)
+{
+    const LogicCommand command = SplitCommand(line);
+    return command.kind == LogicCommand::Kind::Target && !command.argument.empty();
+}
 
 void Fault(BlockRule& rule, RuleFault fault)
 {
@@ -74,25 +81,27 @@ void CheckedBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
 void CheckedBlockReader::TakeLogic(std::string_view trimmed, int number)
 {
     std::string line = UpperCase(trimmed);
-    const bool comment = !line.empty() && line.front() == '*';
-    const bool rule = !comment && Contains(line, "=");
-    std::string squeezed = line;
-    if (rule) {
-        squeezed.erase(std::remove(squeezed.begin(), squeezed.end(), ' '), squeezed.end());
-    }
-    if (Contains(squeezed, "<DEFINITIONS>")) {
+    switch (ClassifyLogicLine(line)) {
+    case LogicLine::Definitions:
         m_part = Part::Definitions;
         m_block.definitionsLine = number;
-        m_block.definitionsAlone = line == "<DEFINITIONS>";
+        m_block.definitionsAlone = line == DefinitionsOpening;
         m_block.definitionsTag = line.starts_with('<');
-    } else if (line == "</LOGIC>") {
+        break;
+    case LogicLine::LogicClosing:
         m_block.logicEnd = number;
-    } else if (line == "</IXML>") {
+        break;
+    case LogicLine::BlockClosing: // for the loader an unknown command
         m_block.blockEnd = number;
         m_part = Part::Behind;
-    } else if (rule) {
-        TakeRule(line, std::move(squeezed), number);
-    } else if (!comment && !line.empty()) {
+        break;
+    case LogicLine::Rule:
+        TakeRule(line, number);
+        break;
+    case LogicLine::Empty:
+    case LogicLine::Comment:
+        break;
+    default: // the other words of the format are no commands either
         TakeCommand(std::move(line), number);
     }
 }
@@ -101,12 +110,11 @@ void CheckedBlockReader::TakeCommand(std::string line, int number)
 {
     BlockCommand command;
     command.line = number;
-    const std::size_t blank = line.find(' ');
-    const std::string word = line.substr(0, blank);
-    command.argument = blank == None ? std::string() : line.substr(blank + 1);
+    const LogicCommand parts = SplitCommand(line);
+    command.kind = parts.kind;
+    command.argument = parts.argument;
     command.text = std::move(line);
-    if (word == "ASSUME") {
-        command.kind = BlockCommand::Kind::Assume;
+    if (command.kind == BlockCommand::Kind::Assume) {
         RuleFault fault = RuleFault::None;
         ReadTerms(command.argument, command.terms, fault, command.stray);
         if (fault == RuleFault::Brackets) {
@@ -116,10 +124,7 @@ void CheckedBlockReader::TakeCommand(std::string line, int number)
         }
         m_assumption = command.argument;
         m_assumedTerms = command.terms;
-    } else if (word == "TARGET") {
-        command.kind = BlockCommand::Kind::Target;
-    } else if (word == "DEFINE") {
-        command.kind = BlockCommand::Kind::Define;
+    } else if (command.kind == BlockCommand::Kind::Define) {
         const std::size_t at = command.argument.find('@');
         if (at != None) {
             command.var = command.argument.substr(0, at);
@@ -129,12 +134,13 @@ void CheckedBlockReader::TakeCommand(std::string line, int number)
     m_block.commands.push_back(std::move(command));
 }
 
-void CheckedBlockReader::TakeRule(const std::string& line, std::string squeezed, int number)
+void CheckedBlockReader::TakeRule(const std::string& line, int number)
 {
     BlockRule rule;
     rule.line = number;
-    squeezed.insert(squeezed.find('=') + 1, m_assumption);
-    rule.text = std::move(squeezed);
+    rule.text = line;
+    RemoveBlanks(rule.text);
+    rule.text.insert(rule.text.find('=') + 1, m_assumption);
     rule.conditions = m_assumedTerms;
     rule.assumed = m_assumedTerms.size();
     const std::size_t equals = line.find('=');
@@ -178,8 +184,7 @@ void CheckedBlockReader::TakeDefinitions(std::string_view line, int number)
     const bool comment = from == 0 && !upperTrimmed.empty() && upperTrimmed.front() == '*';
     if (from != None && !comment) {
         OpenEntries(line, upper, from, number);
-        if (from == 0 && !opens && !m_open && m_block.targetInDefinitions == 0 &&
-            upperTrimmed.starts_with("TARGET ")) {
+        if (from == 0 && !opens && !m_open && m_block.targetInDefinitions == 0 && NamesTarget(upperTrimmed)) {
             m_block.targetInDefinitions = number;
         }
     }
