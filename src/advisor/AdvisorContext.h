@@ -3,8 +3,6 @@
 #include "base/LineCursor.h"
 #include "base/Seams.h"
 
-#include <string_view>
-
 namespace ls {
 
 struct AdvisorTables;
@@ -19,11 +17,5 @@ struct AdvisorContext
     Seams seams;
     LineCursor& cursor;
 };
-
-/// Whether the line is the first of the next topic. It ends every scan of a logic block.
-[[nodiscard]] inline bool StartsTopic(std::string_view line)
-{
-    return !line.empty() && line.front() == '[';
-}
 
 } // namespace ls

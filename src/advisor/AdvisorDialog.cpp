@@ -6,6 +6,7 @@
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
 #include "book/Book.h"
+#include "book/BookWords.h"
 
 #include <cassert>
 #include <string_view>
@@ -170,7 +171,7 @@ AdvisorDialog::Round AdvisorDialog::TryVariable()
     if (values.Count < 2) {
         return AnswerForReader(values.Values.substr(0, values.Values.size() - 1), Round::Answered);
     }
-    const std::string text = m_definitions.ReadTaggedText("<Q ID=" + var + ">");
+    const std::string text = m_definitions.ReadTaggedText(std::string(QuestionOpening) + var + ">");
     if (!text.empty()) {
         DispQ(text, values);
         return Round::Stop;
@@ -214,7 +215,7 @@ void AdvisorDialog::DispA(const std::string& advice)
     if (m_seams.end.Ended()) {
         return;
     }
-    m_view.ShowAdvice(advice, m_definitions.ReadTaggedText("<AV ID=" + advice + ">"));
+    m_view.ShowAdvice(advice, m_definitions.ReadTaggedText(std::string(AdviceOpening) + advice + ">"));
     Close();
 }
 

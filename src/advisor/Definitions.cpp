@@ -8,6 +8,8 @@
 #include "base/ProgramEnd.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 
 #include <algorithm>
 
@@ -15,7 +17,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
 constexpr std::size_t None = std::string::npos;
 
 // Where `UpperCase(line)` holds the tag, which is in upper case and begins with "<": every line in front of
@@ -118,7 +119,8 @@ FileError Definitions::SkipToDefinitions()
         }
         ownHeader = false;
         line = UpperCase(Trim(line));
-        if (line.find("<DEFINITIONS>") != None || line.find("</DEFINITIONS>") != None || line == "</IXML>") {
+        if (Contains(line, DefinitionsOpening) || Contains(line, DefinitionsClosing) ||
+            line == BlockClosing) {
             break;
         }
     }
@@ -173,7 +175,7 @@ bool Definitions::FindTag(const std::string& openTag, std::string_view& piece)
     std::string_view line;
     while (ReadPiece(line)) {
         const std::string_view trimmed = Trim(line);
-        if (EqualsUpper(trimmed, "</DEFINITIONS>")) {
+        if (EqualsUpper(trimmed, DefinitionsClosing)) {
             return false;
         }
         const bool comment = !trimmed.empty() && trimmed.front() == '*';

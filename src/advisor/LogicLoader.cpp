@@ -2,12 +2,14 @@
 
 #include "advisor/AdvisorTables.h"
 #include "advisor/Inference.h"
+#include "advisor/LogicLine.h"
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 
-#include <algorithm>
 #include <set>
 #include <string_view>
 #include <unordered_map>
@@ -16,13 +18,6 @@
 namespace ls {
 
 namespace {
-
-constexpr std::string_view QuestionOpening = "<Q ID=";
-
-bool Contains(std::string_view text, std::string_view part)
-{
-    return text.find(part) != std::string_view::npos;
-}
 
 // One load of one topic's logic.
 class Loader
@@ -50,8 +45,9 @@ private:
     void StartOver();
     bool FindLogicSection();
     bool ReadLogicSection();
+    bool TakeLine(LogicLine kind, std::string line);
     bool TakeCommand(const std::string& line);
-    bool TakeDefine(const std::string& line, const std::string& argument);
+    bool TakeDefine(const std::string& line, std::string_view argument);
     bool TakeRule(std::string line);
     bool ReadDefinitions();
     bool TakeQuestion(std::string_view line);
@@ -123,7 +119,7 @@ bool Loader::FindLogicSection()
         if (!error.Ok()) {
             return ReadFailed(error);
         }
-        if (EqualsUpper(Trim(line), "<LOGIC>")) {
+        if (EqualsUpper(Trim(line), LogicOpening)) {
             return true;
         }
         if ((StartsTopic(line) && !ownHeader) || m_cursor.AtEnd()) {
@@ -148,29 +144,37 @@ bool Loader::ReadLogicSection()
             break;
         }
         line = UpperCase(Trim(line));
-        const bool comment = !line.empty() && line.front() == '*';
-        const bool rule = !comment && Contains(line, "=");
-        if (rule) {
-            line.erase(std::remove(line.begin(), line.end(), ' '), line.end());
-        }
-        if (Contains(line, "<DEFINITIONS>")) { // a comment that holds it opens the definitions too
+        const LogicLine kind = ClassifyLogicLine(line);
+        if (kind == LogicLine::Definitions) {
             if (!m_additional) {
                 m_tables.DefinitionsPos = m_cursor.Position();
             }
             return true;
         }
-        if (comment || line.empty() || line == "</LOGIC>") {
-            continue;
-        }
-        if (!(rule ? TakeRule(std::move(line)) : TakeCommand(line))) {
+        if (!TakeLine(kind, std::move(line))) {
             return false;
         }
     }
     return Fail("Can't find <DEFINITIONS> section for the current topic");
 }
 
+bool Loader::TakeLine(LogicLine kind, std::string line)
+{
+    switch (kind) {
+    case LogicLine::Empty:
+    case LogicLine::Comment:
+    case LogicLine::LogicClosing:
+        return true;
+    case LogicLine::Rule:
+        return TakeRule(std::move(line));
+    default: // the other words of the format are no commands either
+        return TakeCommand(line);
+    }
+}
+
 bool Loader::TakeRule(std::string line)
 {
+    RemoveBlanks(line);
     line.insert(line.find('=') + 1, m_assumption);
     m_ruleBytes += line.size();
     if (m_ruleBytes > MaxRuleBytes) {
@@ -182,37 +186,37 @@ bool Loader::TakeRule(std::string line)
 
 bool Loader::TakeCommand(const std::string& line)
 {
-    const std::size_t blank = line.find(' ');
-    const std::string command = line.substr(0, blank);
-    const std::string argument = blank == std::string::npos ? std::string() : line.substr(blank + 1);
-    if (command == "ASSUME") {
-        m_assumption = argument;
+    const LogicCommand command = SplitCommand(line);
+    switch (command.kind) {
+    case LogicCommand::Kind::Assume:
+        m_assumption = command.argument;
         return true;
-    }
-    if (command == "TARGET") {
+    case LogicCommand::Kind::Target:
         if (!m_additional) {
             m_tables.TargetCount = 0;
-            return Append(m_tables.Targets, m_tables.TargetCount, argument, TargetGrowthStep);
+            return Append(m_tables.Targets, m_tables.TargetCount, std::string(command.argument),
+                          TargetGrowthStep);
         }
         return true;
-    }
-    if (command == "DEFINE") {
-        return TakeDefine(line, argument);
+    case LogicCommand::Kind::Define:
+        return TakeDefine(line, command.argument);
+    case LogicCommand::Kind::Unknown:
+        break;
     }
     return Fail("Invalid command in <LOGIC> section for the current topic");
 }
 
-bool Loader::TakeDefine(const std::string& line, const std::string& argument)
+bool Loader::TakeDefine(const std::string& line, std::string_view argument)
 {
     if (m_book.TopicCount == 0) {
         return Fail("No topics are defined; can't load logic.");
     }
     const std::size_t at = argument.find('@');
-    if (at == std::string::npos || at + 1 == argument.size()) {
+    if (at == std::string_view::npos || at + 1 == argument.size()) {
         return Fail("Invalid command <<" + FromBook(line) + ">>; can't load logic.");
     }
-    const int topic = TopicNumber(std::string(Trim(std::string_view(argument).substr(at + 1))));
-    return topic == 0 || AddVariable(argument.substr(0, at), topic);
+    const int topic = TopicNumber(std::string(Trim(argument.substr(at + 1))));
+    return topic == 0 || AddVariable(std::string(argument.substr(0, at)), topic);
 }
 
 // The first topic of that title (upper case), or 0. The titles are folded once for all DEFINE lines.
@@ -250,7 +254,7 @@ bool Loader::ReadDefinitions()
         if (trimmed.empty()) {
             continue;
         }
-        if (trimmed.front() == '[' || Contains(UpperCase(trimmed), "</DEFINITIONS>")) {
+        if (trimmed.front() == '[' || Contains(UpperCase(trimmed), DefinitionsClosing)) {
             break;
         }
         if (!TakeQuestion(trimmed)) {

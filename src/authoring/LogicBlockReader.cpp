@@ -1,5 +1,6 @@
 #include "authoring/LogicBlockReader.h"
 
+#include "advisor/LogicLine.h"
 #include "authoring/LogicLines.h"
 #include "authoring/LogicTags.h"
 #include "base/Quoted.h"
@@ -112,20 +113,6 @@ bool Reader::FindLogic()
     return false;
 }
 
-// Whether the line opens the definitions: a rule's blanks do not count, so "A=< DEFINITIONS >" does.
-bool OpensDefinitions(std::string_view trimmedUpper)
-{
-    if (trimmedUpper.find('<') == None) {
-        return false;
-    }
-    if (trimmedUpper.starts_with('*') || trimmedUpper.find('=') == None) {
-        return trimmedUpper.find(DefinitionsOpening) != None;
-    }
-    std::string rule(trimmedUpper);
-    rule.erase(std::remove(rule.begin(), rule.end(), ' '), rule.end());
-    return rule.find(DefinitionsOpening) != None;
-}
-
 // The builder puts "</LOGIC>" right behind a logic text of one or two characters: it is taken off a comment.
 void CutRunInTag(std::vector<std::string_view>& lines)
 {
@@ -143,14 +130,15 @@ bool Reader::ReadLogic()
     std::size_t closed = None; // how many lines stood before "</LOGIC>"
     while (NextLine()) {
         const std::string_view trimmed = Trim(m_upper);
-        found = OpensDefinitions(trimmed);
+        const LogicLine kind = ClassifyLogicLine(trimmed);
+        found = kind == LogicLine::Definitions;
         if (found) {
             if (trimmed != DefinitionsOpening) {
                 Lose("The line " + Quoted(Trim(m_line)) + " would become \"<DEFINITIONS>\".");
             }
             break;
         }
-        if (trimmed == LogicClosing) {
+        if (kind == LogicLine::LogicClosing) {
             closed = std::min(closed, lines.size());
         } else {
             lines.push_back(TrimRight(m_line));

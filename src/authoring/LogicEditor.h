@@ -3,6 +3,7 @@
 #include "authoring/LogicBlock.h"
 #include "authoring/LogicView.h"
 #include "base/Seams.h"
+#include "book/BookWords.h"
 
 #include <array>
 #include <cstddef>
@@ -17,7 +18,8 @@ namespace ls {
 struct Book;
 
 /// What `KeywordCombo` lists.
-inline constexpr std::array<const char*, 3> LogicKeywords = {"ASSUME", "TARGET", "DEFINE"};
+inline constexpr std::array<const char*, 3> LogicKeywords = {AssumeWord.data(), TargetWord.data(),
+                                                             DefineWord.data()};
 
 /// The rules of the logic editor: it edits the logic block in memory of the topic on show, which the command
 /// has brought there. The form hands it its events, and shows what it says through the view.

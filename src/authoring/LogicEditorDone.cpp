@@ -4,6 +4,7 @@
 #include "authoring/TextEditing.h"
 #include "base/CodePage.h"
 #include "base/Messages.h"
+#include "base/Text.h"
 #include "book/Book.h"
 
 #include <utility>
@@ -76,7 +77,8 @@ std::string LogicEditor::RunningText()
 {
     StoreTexts();
     LogicBlock block;
-    block.logicText = m_logicText.empty() ? "\r\n" : m_logicText; // an empty one is refused with a box
+    block.logicText =
+        m_logicText.empty() ? std::string(LineEnd) : m_logicText; // an empty one is refused with a box
     for (const Variable& variable : m_variables) {
         block.variables.push_back({variable.name, variable.question});
         for (const Choice& choice : variable.choices) {

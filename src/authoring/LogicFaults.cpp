@@ -1,5 +1,6 @@
 #include "authoring/LogicFaults.h"
 
+#include "advisor/LogicLine.h"
 #include "authoring/LogicTags.h"
 #include "authoring/SpecialLines.h"
 #include "base/CodePage.h"
@@ -19,11 +20,6 @@ using namespace logic;
 
 constexpr std::size_t None = std::string_view::npos;
 constexpr std::size_t NamedFaults = 5;
-
-bool Contains(std::string_view text, std::string_view part)
-{
-    return text.find(part) != None;
-}
 
 // Calls `take(line, number)` for each line.
 template <typename Take>
@@ -102,16 +98,20 @@ private:
             if (!Contains(line, "<")) {
                 return;
             }
-            std::string upper = UpperCase(Trim(line));
-            if (!upper.starts_with('*') && Contains(upper, "=")) {
-                upper.erase(std::remove(upper.begin(), upper.end(), ' '), upper.end());
-            }
-            if (Contains(upper, DefinitionsOpening)) {
+            switch (ClassifyLogicLine(UpperCase(Trim(line)))) {
+            case LogicLine::Definitions:
                 AddLine(number, line, "would open the definitions");
-            } else if (upper == LogicClosing) {
+                break;
+            case LogicLine::LogicClosing:
                 AddLine(number, line, "would end the logic text and not be kept");
-            } else if (upper == LogicOpening || upper == BlockOpening || upper == BlockClosing) {
+                break;
+            case LogicLine::BlockOpening:
+            case LogicLine::LogicOpening:
+            case LogicLine::BlockClosing:
                 AddLine(number, line, "is no logic line, so the advisor would refuse the block");
+                break;
+            default:
+                break;
             }
         });
     }

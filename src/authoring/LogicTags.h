@@ -1,16 +1,11 @@
 #pragma once
 
+#include "base/Text.h"
+#include "book/BookWords.h"
+
 #include <string_view>
 
 namespace ls::logic {
-
-inline constexpr std::string_view LineEnd = "\r\n";
-inline constexpr std::string_view BlockOpening = "<IXML>";
-inline constexpr std::string_view BlockClosing = "</IXML>";
-inline constexpr std::string_view LogicOpening = "<LOGIC>";
-inline constexpr std::string_view LogicClosing = "</LOGIC>";
-inline constexpr std::string_view DefinitionsOpening = "<DEFINITIONS>";
-inline constexpr std::string_view DefinitionsClosing = "</DEFINITIONS>";
 
 /// How an entry of the definitions is tagged.
 struct EntryTags
@@ -19,8 +14,8 @@ struct EntryTags
     std::string_view closing; ///< as written: "</q>" closes nothing
 };
 
-inline constexpr EntryTags QuestionTags = {"<Q ID=", "</Q>"};
-inline constexpr EntryTags AdviceTags = {"<AV ID=", "</AV>"};
+inline constexpr EntryTags QuestionTags = {QuestionOpening, QuestionClosing};
+inline constexpr EntryTags AdviceTags = {AdviceOpening, AdviceClosing};
 
 /// A text of one line that is shorter than this stands on the line of its tags.
 inline constexpr std::size_t OwnLinesLength = 60;
@@ -31,14 +26,13 @@ inline constexpr std::size_t ShownLength = 32000;
 /// Whether an entry's text stands on lines of its own between its tags.
 [[nodiscard]] inline bool OnOwnLines(std::string_view text)
 {
-    return text.size() >= OwnLinesLength || text.find(LineEnd) != std::string_view::npos;
+    return text.size() >= OwnLinesLength || Contains(text, LineEnd);
 }
 
 /// Whether a line in upper case, or several, hold the beginning of an entry.
 [[nodiscard]] inline bool HoldsOpening(std::string_view upper)
 {
-    return upper.find(QuestionTags.opening) != std::string_view::npos ||
-           upper.find(AdviceTags.opening) != std::string_view::npos;
+    return Contains(upper, QuestionTags.opening) || Contains(upper, AdviceTags.opening);
 }
 
 } // namespace ls::logic

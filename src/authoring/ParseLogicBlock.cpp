@@ -31,9 +31,9 @@ bool IsWhole(std::string_view part)
 // Whether a line behind the entry's first one begins with "[" after its blanks.
 bool HidesQuestions(std::string_view raw)
 {
-    for (std::size_t end = raw.find(logic::LineEnd); end != std::string_view::npos;
-         end = raw.find(logic::LineEnd, end + 1)) {
-        if (TrimLeft(raw.substr(end + logic::LineEnd.size())).starts_with('[')) {
+    for (std::size_t end = raw.find(LineEnd); end != std::string_view::npos;
+         end = raw.find(LineEnd, end + 1)) {
+        if (TrimLeft(raw.substr(end + LineEnd.size())).starts_with('[')) {
             return true;
         }
     }

@@ -4,6 +4,8 @@
 #include "base/LineCursor.h"
 #include "base/Quoted.h"
 #include "base/Text.h"
+#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 #include "book/XrefText.h"
 
 #include <algorithm>
@@ -44,7 +46,7 @@ private:
 
 bool HoldsNoteEnd(std::string_view part)
 {
-    return part.find("</XREF>") != std::string_view::npos || part.find("<\\") != std::string_view::npos;
+    return Contains(part, XrefClosing) || Contains(part, XrefOtherClosing);
 }
 
 // Where the note ends whose opening line begins at `opening`; nothing when only the end of the text ends it.
@@ -69,10 +71,10 @@ std::optional<FilePos> EndOfNote(TextFile& file, FilePos opening)
 
 std::optional<LineMeaning> MeaningOf(std::string_view line)
 {
-    if (line == "<INDEX>") {
+    if (line == IndexLine) {
         return LineMeaning::OpensIndex;
     }
-    if (line == "[EOF]") {
+    if (line == BookEnd) {
         return LineMeaning::EndsBook;
     }
     if (!line.empty() && line.front() == '[') {
@@ -115,7 +117,7 @@ std::vector<SpecialLine> FindSpecialLines(std::string_view text)
             break;
         }
         std::optional<LineMeaning> meaning;
-        if (EqualsUpper(Trim(line), "<IXML>")) {
+        if (OpensBlock(line)) {
             meaning = LineMeaning::BeginsLogic;
         } else if (start >= noteEnd) {
             meaning = MeaningOf(line);

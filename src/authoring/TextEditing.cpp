@@ -4,28 +4,13 @@
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
+#include "base/Text.h"
 #include "book/Book.h"
 
-#include <array>
-#include <cstdio>
 #include <utility>
 #include <vector>
 
 namespace ls {
-
-namespace {
-
-constexpr std::string_view LineEnd = "\r\n";
-
-// "U+2192"
-std::string CodeOf(char32_t character)
-{
-    std::array<char, 16> code{};
-    std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(character));
-    return code.data();
-}
-
-} // namespace
 
 std::string TextToEdit(const Book& book)
 {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 
 namespace ls {
 
@@ -76,6 +77,13 @@ void AppendUtf8(std::string& text, char32_t c)
         text += static_cast<char>(0x80U | ((c >> 6U) & 0x3FU));
         text += static_cast<char>(0x80U | (c & 0x3FU));
     }
+}
+
+std::string CodeOf(char32_t character)
+{
+    std::array<char, 16> code{};
+    std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(character));
+    return code.data();
 }
 
 char32_t NextUtf8(std::string_view text, std::size_t& at)

@@ -28,6 +28,9 @@ struct Unmapped
 /// One character as UTF-8.
 void AppendUtf8(std::string& text, char32_t character);
 
+/// A character's number as text: "U+2192".
+[[nodiscard]] std::string CodeOf(char32_t character);
+
 /// The character at `at`; moves `at` past it. For bytes that are not UTF-8: U+FFFD, and `at` moves one byte.
 [[nodiscard]] char32_t NextUtf8(std::string_view text, std::size_t& at);
 

@@ -1,5 +1,7 @@
 #include "base/LineCursor.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -278,8 +280,8 @@ std::string_view LineCursor::ReadCrLfLines(FilePos end)
         good += size;
     }
     // The test included one byte after the good ones: it may be the LF of the last line.
-    const std::size_t lineEnd = bytes.substr(0, std::min(good + 1, bytes.size())).rfind("\r\n");
-    const std::size_t size = lineEnd == std::string_view::npos ? 0 : lineEnd + 2;
+    const std::size_t lineEnd = bytes.substr(0, std::min(good + 1, bytes.size())).rfind(LineEnd);
+    const std::size_t size = lineEnd == std::string_view::npos ? 0 : lineEnd + LineEnd.size();
     m_next += size;
     return bytes.substr(0, size);
 }

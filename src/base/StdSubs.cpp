@@ -10,7 +10,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view BookType = ".IDA";
 constexpr std::size_t NumberWidth = 3;
 constexpr double LargestNumber = 1e15; ///< up to here counting by ones is exact
 

@@ -5,6 +5,9 @@
 
 namespace ls {
 
+/// Ends each line that is written, to a book or beside it: CR LF.
+inline constexpr std::string_view LineEnd = "\r\n";
+
 /// Removes blanks at both ends. Only spaces count; a TAB is text.
 [[nodiscard]] std::string_view Trim(std::string_view text);
 [[nodiscard]] std::string_view TrimLeft(std::string_view text);
@@ -19,6 +22,12 @@ namespace ls {
 
 /// Whether `UpperCase(text)` begins with `upper`.
 [[nodiscard]] bool BeginsUpper(std::string_view text, std::string_view upper);
+
+/// Whether `part` occurs in `text`.
+[[nodiscard]] inline bool Contains(std::string_view text, std::string_view part)
+{
+    return text.find(part) != std::string_view::npos;
+}
 
 /// The number at the start of a text, after any blanks; 0 when there is none.
 [[nodiscard]] double LeadingNumber(std::string_view text);

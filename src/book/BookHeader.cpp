@@ -1,6 +1,7 @@
 #include "book/BookHeader.h"
 
 #include "base/Text.h"
+#include "book/BookWords.h"
 #include "book/ParameterList.h"
 
 #include <cmath>
@@ -10,7 +11,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view Magic = "LODESTAR BOOK";
 constexpr std::size_t VersionLetter = 14; ///< where the "V" stands, counted from 0
 constexpr float FirstBookVersion = 4.0F;
 
@@ -23,13 +23,13 @@ float VersionOf(std::string_view text)
 
 bool StoreField(BookHeader& header, const std::string& key, const std::string& value)
 {
-    if (key == "AUTHOR") {
+    if (key == AuthorKey) {
         header.BookAuthor = Unquote(value);
-    } else if (key == "COPYRIGHT") {
+    } else if (key == CopyrightKey) {
         header.BookCopyright = Unquote(value);
-    } else if (key == "URL") {
+    } else if (key == UrlKey) {
         header.BookUrl = Unquote(value);
-    } else if (key == "POST") {
+    } else if (key == PostKey) {
         header.BookPost = Unquote(UpperCase(value));
     } else {
         return false;
@@ -51,13 +51,13 @@ bool ParseBookHeader(std::string_view line, BookHeader& header)
     header = {};
     const std::size_t slash = line.find('/');
     const std::string_view magic = Trim(line.substr(0, slash));
-    if (!BeginsUpper(magic, Magic)) {
+    if (!BeginsUpper(magic, HeaderMagic)) {
         return true;
     }
     header.BookMagic = magic;
     if (magic.size() > VersionLetter + 1 && magic[VersionLetter] == 'V') {
         header.BookVersion = VersionOf(magic.substr(VersionLetter + 1));
-        header.BookMagic = Magic;
+        header.BookMagic = HeaderMagic;
     }
     if (slash == std::string_view::npos) {
         return true;
@@ -69,16 +69,17 @@ bool ParseBookHeader(std::string_view line, BookHeader& header)
 
 bool IsBook(const BookHeader& header)
 {
-    return EqualsUpper(header.BookMagic, Magic) && header.BookVersion >= FirstBookVersion;
+    return EqualsUpper(header.BookMagic, HeaderMagic) && header.BookVersion >= FirstBookVersion;
 }
 
 std::string HeaderLine(const BookHeader& header)
 {
-    std::string line = "LODESTAR BOOK V5.3";
-    AppendField(line, "AUTHOR", header.BookAuthor);
-    AppendField(line, "COPYRIGHT", header.BookCopyright);
-    AppendField(line, "URL", header.BookUrl);
-    AppendField(line, "POST", header.BookPost);
+    std::string line(HeaderMagic);
+    line.append(" ").append(HeaderVersion);
+    AppendField(line, AuthorKey, header.BookAuthor);
+    AppendField(line, CopyrightKey, header.BookCopyright);
+    AppendField(line, UrlKey, header.BookUrl);
+    AppendField(line, PostKey, header.BookPost);
     return line;
 }
 

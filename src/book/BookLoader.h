@@ -25,6 +25,9 @@ bool OpenBook(Book& book, const Seams& seams);
 /// Closes the book's file, if one is open.
 void CloseBook(Book& book);
 
+/// A cursor at the beginning of the book's file. A book that was never saved has none and reads as empty.
+[[nodiscard]] LineCursor CursorOf(const Book& book);
+
 /// Fills the topic table and the cross references from the open file, starting behind the header line.
 ///
 /// The caller has set `CurrentTopicNo` to 0. A read error shows its message and ends the program. A count

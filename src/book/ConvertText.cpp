@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "base/Progress.h"
+#include "base/Text.h"
 
 #include <algorithm>
 #include <map>
@@ -265,7 +266,7 @@ private:
     {
         const char c = character.front();
         if (c == '\r' || (c == '\n' && !afterCr)) {
-            text += "\r\n";
+            text += LineEnd;
         } else if (character.size() > 1) {
             const std::optional<std::string> byte = ToBook(character);
             text += byte.value_or(std::string());

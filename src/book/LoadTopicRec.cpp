@@ -1,8 +1,8 @@
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
-#include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "book/TopicEnd.h"
 
 #include <algorithm>
@@ -12,10 +12,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
-constexpr std::string_view LogicOpening = "<IXML>";
-constexpr std::string_view LogicTag = "<LOGIC>";
-constexpr std::string_view IndexLine = "<INDEX>";
 constexpr std::size_t LargeTopic = 16 * 1024 * 1024; // bytes
 
 // Reads the lines of one topic up to the place where it ends in the file.
@@ -80,7 +76,7 @@ bool ReadText(TopicReader& reader, std::string& text)
         text.reserve(reader.Rest() + LineEnd.size()); // growing would need up to three times as much
     }
     for (std::size_t start = 0; reader.Append(text, start);) {
-        if (EqualsUpper(Trim(std::string_view(text).substr(start)), LogicOpening)) {
+        if (OpensBlock(std::string_view(text).substr(start))) {
             text.resize(start);
             return true;
         }
@@ -93,11 +89,11 @@ std::string ReadLogic(TopicReader& reader)
 {
     std::string line;
     std::size_t start = 0;
-    if (!reader.Append(line, start) || !EqualsUpper(Trim(line), LogicTag)) {
+    if (!reader.Append(line, start) || !EqualsUpper(Trim(line), LogicOpening)) {
         return {};
     }
     std::string logic;
-    logic.append(LogicOpening).append(LineEnd).append(LogicTag).append(LineEnd);
+    logic.append(BlockOpening).append(LineEnd).append(LogicOpening).append(LineEnd);
     ReadRest(reader, logic);
     return logic;
 }
@@ -108,7 +104,7 @@ bool LoadPlainText(Book& book, const Seams& seams, std::string* plainText)
         return false;
     }
     plainText->clear();
-    LineCursor cursor(*book.File);
+    LineCursor cursor = CursorOf(book);
     while (!cursor.AtEnd()) {
         const std::size_t start = plainText->size();
         if (const FileError error = cursor.AppendLine(*plainText); !error.Ok()) {
@@ -132,8 +128,7 @@ bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
         return LoadPlainText(book, seams, plainText);
     }
     name = WithBrackets(name);
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     LocateTopic(book, seams, cursor, name, number);
     if (name.empty()) {
         number = 0;
@@ -159,8 +154,7 @@ bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
 bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number, std::string& logic)
 {
     std::string name = book.TopicNames(number);
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     LocateTopic(book, seams, cursor, name, number);
     if (name.empty()) {
         return false;
@@ -169,7 +163,7 @@ bool LoadLogicFromFile(const Book& book, const Seams& seams, Count16 number, std
     std::string text;
     std::string block;
     if (ReadText(reader, text)) {
-        block.append(LogicOpening).append(LineEnd);
+        block.append(BlockOpening).append(LineEnd);
         ReadRest(reader, block);
     }
     if (!reader.Error().Ok()) {

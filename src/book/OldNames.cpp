@@ -1,5 +1,6 @@
 #include "book/OldNames.h"
 
+#include "base/Text.h"
 #include "book/Book.h"
 
 #include <algorithm>
@@ -17,16 +18,16 @@ OldNames::OldNames() : BackHistory(BackHistoryBound) {}
 
 std::string NextTopicLine(const Book& book, int topicIndex, std::size_t& position, int& doneFlag)
 {
-    constexpr std::string_view lineEnd = "\r\n";
     const bool inTable = topicIndex >= 1 && topicIndex <= book.TopicRecs.UpperBound();
-    const std::string_view text = inTable ? std::string_view(book.TopicRecs(topicIndex).Text) : std::string_view();
+    const std::string_view text =
+        inTable ? std::string_view(book.TopicRecs(topicIndex).Text) : std::string_view();
     const std::size_t from = position > 0 ? position - 1 : 0;
     if (from >= text.size()) {
         doneFlag = -1;
         return {};
     }
-    const std::size_t end = std::min(text.find(lineEnd, from), text.size());
-    position = std::min(end + lineEnd.size(), text.size()) + 1;
+    const std::size_t end = std::min(text.find(LineEnd, from), text.size());
+    position = std::min(end + LineEnd.size(), text.size()) + 1;
     return std::string(text.substr(from, end - from));
 }
 

@@ -2,15 +2,15 @@
 #include "base/FindSpelling.h"
 #include "base/LineCursor.h"
 #include "base/Messages.h"
+#include "base/NoFile.h"
 #include "base/Processes.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 
 namespace ls {
 
 namespace {
-
-constexpr std::string_view ProgramFolderPrefix = "LS:";
 
 bool ReportOpenError(const Seams& seams, const std::string& path, const FileError& error)
 {
@@ -69,6 +69,12 @@ void CloseBook(Book& book)
     book.OpenPath.clear();
 }
 
+LineCursor CursorOf(const Book& book)
+{
+    static NoFile noFile; // it has no state
+    return LineCursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+}
+
 bool OpenBook(Book& book, const Seams& seams)
 {
     const std::string path = PathToOpen(book, seams);
@@ -79,7 +85,7 @@ bool OpenBook(Book& book, const Seams& seams)
         return ReportOpenError(seams, path, error);
     }
     book.OpenPath = realPath;
-    LineCursor cursor(*book.File);
+    LineCursor cursor = CursorOf(book);
     error = ReadHeader(book, seams, cursor);
     if (!error.Ok()) {
         CloseBook(book);

@@ -3,6 +3,7 @@
 #include "base/ProgramEnd.h"
 #include "base/Text.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "book/XrefText.h"
 
 #include <utility>
@@ -11,9 +12,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view IndexLine = "<INDEX>";
-constexpr std::string_view EndLine = "[EOF]";
-constexpr std::string_view IndexEnd = "<END-INDEX>";
 constexpr FilePos ProgressStep = 8 * 1024 * 1024;
 
 enum class LineOutcome
@@ -28,7 +26,7 @@ class Scanner
 {
 public:
     Scanner(Book& book, Progress* progress)
-        : m_book(book), m_cursor(*book.File), m_progress(progress),
+        : m_book(book), m_cursor(CursorOf(book)), m_progress(progress),
           m_nextReport(book.BookStartPos + ProgressStep)
     {
         m_cursor.Seek(book.BookStartPos);
@@ -73,7 +71,7 @@ private:
         if (m_line.starts_with(XrefOpening)) {
             return TakeXref(outcome);
         }
-        if (m_line == EndLine) {
+        if (m_line == BookEnd) {
             outcome = LineOutcome::Stop;
             m_endPos = m_linePos;
         } else if (m_line.size() > 2 && m_line.front() == '[') {

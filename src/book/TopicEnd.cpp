@@ -1,6 +1,8 @@
 #include "book/TopicEnd.h"
 
+#include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookWords.h"
 
 #include <algorithm>
 
@@ -17,6 +19,34 @@ FilePos EndOfTopic(const Book& book, int number)
         }
     }
     return end;
+}
+
+TopicLine ClassifyTopicLine(std::string_view line)
+{
+    if (StartsTopic(line)) {
+        return TopicLine::Header;
+    }
+    if (BeginsUpper(line, XrefTag)) {
+        return TopicLine::Reference;
+    }
+    return OpensBlock(line) ? TopicLine::LogicBlock : TopicLine::Text;
+}
+
+bool EndsText(std::string_view line)
+{
+    return ClassifyTopicLine(line) != TopicLine::Text;
+}
+
+bool StartsTopic(std::string_view line)
+{
+    return line.starts_with('[');
+}
+
+bool OpensBlock(std::string_view line)
+{
+    // The first character decides for most lines, so that a long one's last blanks are not passed.
+    line = TrimLeft(line);
+    return line.starts_with(BlockOpening.front()) && EqualsUpper(TrimRight(line), BlockOpening);
 }
 
 } // namespace ls

@@ -7,6 +7,8 @@
 #include "base/Progress.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookWords.h"
+#include "book/TopicEnd.h"
 
 #include <algorithm>
 #include <memory>
@@ -16,7 +18,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
 constexpr std::size_t BufferSize = 256 * 1024;
 
 // The header line of a topic that is written from memory. "[EOF]" would end the book for every later reader,
@@ -24,7 +25,7 @@ constexpr std::size_t BufferSize = 256 * 1024;
 // titles, which keeps them topics.
 std::string HeaderOf(const std::string& name)
 {
-    return name == "[EOF]" || name == "[]" ? name + ' ' : name;
+    return name == BookEnd || name == "[]" ? name + ' ' : name;
 }
 
 // Where every topic of the file ends, worked out once: asking for each would be quadratic.
@@ -154,7 +155,7 @@ private:
         std::string_view line;
         bool found = false;
         while (!found && m_cursor->Position() < end && Read(line)) {
-            found = EqualsUpper(Trim(line), "<IXML>");
+            found = OpensBlock(line);
         }
         if (!found) {
             return;
@@ -165,7 +166,7 @@ private:
         if (more && !Read(next)) {
             return;
         }
-        if (more && EqualsUpper(Trim(next), "<LOGIC>")) {
+        if (more && EqualsUpper(Trim(next), LogicOpening)) {
             return;
         }
         PutLine(opening);

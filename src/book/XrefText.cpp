@@ -2,14 +2,13 @@
 
 #include "base/LineCursor.h"
 #include "base/Text.h"
+#include "book/BookWords.h"
 
 namespace ls {
 
 namespace {
 
 constexpr std::size_t Limit = 32000;
-constexpr std::string_view EndTag = "</XREF>";
-constexpr std::string_view OtherEnd = "<\\";
 
 // Collects the pieces of a note. `Add` returns false when the note is cut.
 class NoteText
@@ -24,13 +23,12 @@ public:
             return true;
         }
         // The limit counts the length that the text would have, its joining line end included.
-        const std::size_t joint = m_text->empty() ? 0 : 2;
-        if (m_text->size() + joint + piece.size() > Limit) {
+        const std::string_view joint = m_text->empty() ? std::string_view() : LineEnd;
+        if (m_text->size() + joint.size() + piece.size() > Limit) {
             m_text->append("???");
             return false;
         }
-        m_text->append(joint, ' ').replace(m_text->size() - joint, joint, "\r\n", joint);
-        m_text->append(piece);
+        m_text->append(joint).append(piece);
         return true;
     }
 
@@ -68,11 +66,11 @@ FileError ReadXrefText(LineCursor& cursor, std::string_view openingLine, std::st
     const std::size_t opened = openingLine.find('>');
     std::string piece(opened == std::string_view::npos ? std::string_view() : openingLine.substr(opened + 1));
     for (;;) {
-        if (const std::size_t end = piece.find(EndTag); end != std::string::npos) {
+        if (const std::size_t end = piece.find(XrefClosing); end != std::string::npos) {
             note.AddLast(std::string_view(piece).substr(0, end));
             return {};
         }
-        if (piece.find(OtherEnd) != std::string::npos || !note.Add(piece) || cursor.AtEnd()) {
+        if (Contains(piece, XrefOtherClosing) || !note.Add(piece) || cursor.AtEnd()) {
             return {};
         }
         if (FileError error = cursor.ReadLine(piece); !error.Ok()) {

@@ -9,9 +9,6 @@ namespace ls {
 
 class LineCursor;
 
-/// How a line begins that opens a cross reference, case as shown.
-inline constexpr std::string_view XrefOpening = "<XREF TOPIC=";
-
 /// The target named by an opening line: what stands from character 13 up to the first ">", quotes removed.
 /// Empty when there is no ">".
 [[nodiscard]] std::string XrefTarget(std::string_view openingLine);

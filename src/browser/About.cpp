@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "base/Messages.h"
+#include "base/Text.h"
 #include "book/Book.h"
 #include "render/html/WebSite.h"
 
@@ -13,7 +14,8 @@ void ShowAbout(const Book& book, const Seams& seams)
                        ", version 5.3. Copyright (c) 2026 The Lodestar Advisor authors. It is available at " +
                        std::string(ProgramsWebSite);
     if (!book.BookAuthor.empty()) {
-        text += "\r\n\r\nThe book you are viewing was written by " + FromBook(book.BookAuthor);
+        text.append(LineEnd).append(LineEnd);
+        text += "The book you are viewing was written by " + FromBook(book.BookAuthor);
         if (!book.BookCopyright.empty()) {
             text += ", copyright " + FromBook(book.BookCopyright);
         }

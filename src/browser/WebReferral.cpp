@@ -3,6 +3,7 @@
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "base/ReplaceFile.h"
+#include "base/StdSubs.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "browser/APISubs.h"
@@ -16,8 +17,6 @@ namespace ls {
 namespace {
 
 constexpr const char* PageName = "Lodestar_Ideas_Temp.htm";
-constexpr std::string_view LineEnd = "\r\n";
-constexpr std::string_view BookType = ".IDA";
 
 class Lines
 {
@@ -87,7 +86,7 @@ std::string AskForSite(const Book& book, const Seams& seams)
         "To start your web browser and access the web site for the book you are viewing, click O.K. below.  "
         "The author of this book, " +
             FromBook(book.BookAuthor) +
-            ", or the author's publisher, have posted information at this web site: \r\n" +
+            ", or the author's publisher, have posted information at this web site: " + std::string(LineEnd) +
             FromBook(book.BookUrl),
         Icon::None, Buttons::OkCancel);
     return reply == Reply::Ok ? AddressToOpen(FromBook(book.BookUrl)) : std::string();

@@ -4,6 +4,8 @@
 #include "base/LineCursor.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookLoader.h"
+#include "book/TopicEnd.h"
 #include "check/CheckedBlockReader.h"
 #include "render/text/TopicBody.h"
 
@@ -18,10 +20,10 @@ std::unique_ptr<CheckedBlock> ReadBlock(TopicBody& body, int topic)
 {
     std::unique_ptr<CheckedBlockReader> reader;
     std::string_view line;
-    for (int number = 1; body.Next(line) && (line.empty() || line.front() != '['); ++number) {
+    for (int number = 1; body.Next(line) && !StartsTopic(line); ++number) {
         if (reader) {
             reader->Take(line, number);
-        } else if (EqualsUpper(Trim(line), "<IXML>")) {
+        } else if (OpensBlock(line)) {
             reader = std::make_unique<CheckedBlockReader>(topic, number);
         }
     }
@@ -66,7 +68,7 @@ std::unique_ptr<CheckedBlock> BlockStore::ReadFile(int topic)
     if (!m_book.File || pos == 0) {
         return nullptr;
     }
-    LineCursor cursor(*m_book.File);
+    LineCursor cursor = CursorOf(m_book);
     cursor.Seek(pos);
     FileBody body(cursor);
     std::string_view header;

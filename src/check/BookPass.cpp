@@ -5,6 +5,8 @@
 #include "base/Progress.h"
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "book/XrefText.h"
 #include "check/BlockStore.h"
 
@@ -102,7 +104,7 @@ FileError BookPass::Run()
         return error;
     }
     m_nextTopic = m_book.TopicCount > 0 ? m_book.TopicPos(1) : 0;
-    LineCursor cursor(*m_book.File);
+    LineCursor cursor = CursorOf(m_book);
     std::string_view line;
     for (int number = 1; !cursor.AtEnd(); ++number) {
         const FilePos pos = cursor.Position();
@@ -151,7 +153,7 @@ void BookPass::TakeLine(std::string_view line, FilePos pos, int number)
         if (m_references.TextBehind()) {
             TellNeverShown(number, "Text behind a cross reference");
         }
-        if (EqualsUpper(Trim(line), "<IXML>")) {
+        if (EqualsUpper(Trim(line), BlockOpening)) {
             TakeBody(line, number);
         }
     } else {
@@ -185,7 +187,7 @@ void BookPass::TakeBody(std::string_view line, int number)
     if (m_block) {
         m_block->Take(line, number);
     } else if (m_marks.tag && (line.front() == '<' || line.front() == ' ') &&
-               EqualsUpper(Trim(line), "<IXML>")) {
+               EqualsUpper(Trim(line), BlockOpening)) {
         m_text.EndShown();
         if (m_noteBracket != 0) {
             m_findings.Error(
@@ -218,7 +220,7 @@ void BookPass::TakeText(std::string_view line, int number)
     }
     const bool tag = m_marks.tag && (line.front() == '<' || line.front() == ' ');
     const bool told = tag && !m_rulesAsText && TakeTag(line, number);
-    if (tag && BeginsUpper(line, "<XREF")) {
+    if (tag && BeginsUpper(line, XrefTag)) {
         m_text.EndShown();
         m_hidden = true;
     } else if (m_hidden) {
@@ -248,10 +250,10 @@ bool BookPass::TakeTag(std::string_view line, int number)
     if (CheckCutBlock(trimmed)) {
         return true;
     }
-    if (BeginsUpper(trimmed, "<IXML>") || BeginsUpper(trimmed, "<LOGIC>")) {
+    if (BeginsUpper(trimmed, BlockOpening) || BeginsUpper(trimmed, LogicOpening)) {
         m_findings.Warning(
             "tag-place", number,
-            BeginsUpper(trimmed, "<IXML>")
+            BeginsUpper(trimmed, BlockOpening)
                 ? "\"<IXML>\" does not stand alone on its line, so it is text and the reader finds "
                   "no advisor: part the line behind it."
                 : "\"<LOGIC>\" stands without \"<IXML>\" before it, so the rules are text and the "
@@ -262,7 +264,7 @@ bool BookPass::TakeTag(std::string_view line, int number)
             "tag-place", number,
             "The cross reference does not begin its line, so the reader is not offered it: remove the "
             "blanks before it.");
-    } else if (BeginsUpper(trimmed, "<XREF") && !trimmed.starts_with(XrefOpening)) {
+    } else if (BeginsUpper(trimmed, XrefTag) && !trimmed.starts_with(XrefOpening)) {
         m_findings.Warning(
             "tag-case", number,
             "Only \"<XREF TOPIC=\" in capital letters opens a cross reference, so the reader is not "
@@ -279,7 +281,7 @@ bool BookPass::CheckCutBlock(std::string_view tag)
     if (m_cutLine == 0) {
         return false;
     }
-    for (const std::string_view end : {"</LOGIC>", "<DEFINITIONS>", "</DEFINITIONS>", "</IXML>"}) {
+    for (const std::string_view end : {LogicClosing, DefinitionsOpening, DefinitionsClosing, BlockClosing}) {
         if (EqualsUpper(TrimRight(tag), end)) {
             m_findings.Error(
                 "bracket-in-block", m_cutLine,
@@ -312,7 +314,7 @@ void BookPass::TakeBehindEnd(std::string_view line, FilePos pos, int number)
         m_topic = 0;
         m_findings.InTopic(std::string());
         m_endLine = number;
-        if (line == "<INDEX>") {
+        if (line == IndexLine) {
             m_findings.Error(
                 "index-section", number,
                 "An index section ends the book and empties its list of topics, so the reader finds "

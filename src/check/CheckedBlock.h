@@ -1,5 +1,7 @@
 #pragma once
 
+#include "advisor/LogicLine.h"
+
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -40,13 +42,7 @@ struct BlockRule
 /// Another line of the logic section. The parts are as the loader takes them: argument untrimmed.
 struct BlockCommand
 {
-    enum class Kind
-    {
-        Assume,
-        Target,
-        Define,
-        Unknown,
-    };
+    using Kind = LogicCommand::Kind;
 
     int line = 0;
     Kind kind = Kind::Unknown;

@@ -1,7 +1,9 @@
 #include "check/CheckedBlockReader.h"
 
 #include "advisor/Definitions.h"
+#include "advisor/LogicLine.h"
 #include "base/Text.h"
+#include "book/BookWords.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -12,12 +14,11 @@ namespace ls {
 namespace {
 
 constexpr auto None = std::string_view::npos;
-constexpr std::string_view QuestionOpening = "<Q ID=";
-constexpr std::string_view AdviceOpening = "<AV ID=";
 
-bool Contains(std::string_view text, std::string_view part)
+bool NamesTarget(std::string_view line)
 {
-    return text.find(part) != None;
+    const LogicCommand command = SplitCommand(line);
+    return command.kind == LogicCommand::Kind::Target && !command.argument.empty();
 }
 
 void Fault(BlockRule& rule, RuleFault fault)
@@ -68,11 +69,11 @@ void CheckedBlockReader::Take(std::string_view line, int number)
 
 void CheckedBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
 {
-    if (EqualsUpper(trimmed, "<LOGIC>")) {
+    if (EqualsUpper(trimmed, LogicOpening)) {
         m_part = Part::Logic;
         m_block.logicLine = number;
         m_block.logicIsNext = m_first;
-    } else if (EqualsUpper(trimmed, "</IXML>")) {
+    } else if (EqualsUpper(trimmed, BlockClosing)) {
         m_block.blockEnd = number; // the loader reads on: a later "<LOGIC>" would still count
     }
 }
@@ -80,25 +81,27 @@ void CheckedBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
 void CheckedBlockReader::TakeLogic(std::string_view trimmed, int number)
 {
     std::string line = UpperCase(trimmed);
-    const bool comment = !line.empty() && line.front() == '*';
-    const bool rule = !comment && Contains(line, "=");
-    std::string squeezed = line;
-    if (rule) {
-        squeezed.erase(std::remove(squeezed.begin(), squeezed.end(), ' '), squeezed.end());
-    }
-    if (Contains(squeezed, "<DEFINITIONS>")) {
+    switch (ClassifyLogicLine(line)) {
+    case LogicLine::Definitions:
         m_part = Part::Definitions;
         m_block.definitionsLine = number;
-        m_block.definitionsAlone = line == "<DEFINITIONS>";
+        m_block.definitionsAlone = line == DefinitionsOpening;
         m_block.definitionsTag = line.starts_with('<');
-    } else if (line == "</LOGIC>") {
+        break;
+    case LogicLine::LogicClosing:
         m_block.logicEnd = number;
-    } else if (line == "</IXML>") {
+        break;
+    case LogicLine::BlockClosing: // for the loader an unknown command
         m_block.blockEnd = number;
         m_part = Part::Behind;
-    } else if (rule) {
-        TakeRule(line, std::move(squeezed), number);
-    } else if (!comment && !line.empty()) {
+        break;
+    case LogicLine::Rule:
+        TakeRule(line, number);
+        break;
+    case LogicLine::Empty:
+    case LogicLine::Comment:
+        break;
+    default: // the other words of the format are no commands either
         TakeCommand(std::move(line), number);
     }
 }
@@ -107,12 +110,11 @@ void CheckedBlockReader::TakeCommand(std::string line, int number)
 {
     BlockCommand command;
     command.line = number;
-    const std::size_t blank = line.find(' ');
-    const std::string word = line.substr(0, blank);
-    command.argument = blank == None ? std::string() : line.substr(blank + 1);
+    const LogicCommand parts = SplitCommand(line);
+    command.kind = parts.kind;
+    command.argument = parts.argument;
     command.text = std::move(line);
-    if (word == "ASSUME") {
-        command.kind = BlockCommand::Kind::Assume;
+    if (command.kind == BlockCommand::Kind::Assume) {
         RuleFault fault = RuleFault::None;
         ReadTerms(command.argument, command.terms, fault, command.stray);
         if (fault == RuleFault::Brackets) {
@@ -122,10 +124,7 @@ void CheckedBlockReader::TakeCommand(std::string line, int number)
         }
         m_assumption = command.argument;
         m_assumedTerms = command.terms;
-    } else if (word == "TARGET") {
-        command.kind = BlockCommand::Kind::Target;
-    } else if (word == "DEFINE") {
-        command.kind = BlockCommand::Kind::Define;
+    } else if (command.kind == BlockCommand::Kind::Define) {
         const std::size_t at = command.argument.find('@');
         if (at != None) {
             command.var = command.argument.substr(0, at);
@@ -135,12 +134,13 @@ void CheckedBlockReader::TakeCommand(std::string line, int number)
     m_block.commands.push_back(std::move(command));
 }
 
-void CheckedBlockReader::TakeRule(const std::string& line, std::string squeezed, int number)
+void CheckedBlockReader::TakeRule(const std::string& line, int number)
 {
     BlockRule rule;
     rule.line = number;
-    squeezed.insert(squeezed.find('=') + 1, m_assumption);
-    rule.text = std::move(squeezed);
+    rule.text = line;
+    RemoveBlanks(rule.text);
+    rule.text.insert(rule.text.find('=') + 1, m_assumption);
     rule.conditions = m_assumedTerms;
     rule.assumed = m_assumedTerms.size();
     const std::size_t equals = line.find('=');
@@ -165,12 +165,12 @@ void CheckedBlockReader::TakeDefinitions(std::string_view line, int number)
     const std::string upper = UpperCase(line);
     const std::string_view upperTrimmed = Trim(upper);
     const bool opens = upperTrimmed.starts_with(QuestionOpening) || upperTrimmed.starts_with(AdviceOpening);
-    const bool ends = upperTrimmed == "</DEFINITIONS>" || upperTrimmed == "</IXML>";
+    const bool ends = upperTrimmed == DefinitionsClosing || upperTrimmed == BlockClosing;
     if (!trimmed.empty() && trimmed.front() == '[' && m_block.bracketLine == 0) {
         m_block.bracketLine = number;
         m_registers = false;
     }
-    if (upperTrimmed == "</DEFINITIONS>" && m_block.definitionsEnd == 0) {
+    if (upperTrimmed == DefinitionsClosing && m_block.definitionsEnd == 0) {
         m_block.definitionsEnd = number;
         m_searched = false;
     }
@@ -184,13 +184,12 @@ void CheckedBlockReader::TakeDefinitions(std::string_view line, int number)
     const bool comment = from == 0 && !upperTrimmed.empty() && upperTrimmed.front() == '*';
     if (from != None && !comment) {
         OpenEntries(line, upper, from, number);
-        if (from == 0 && !opens && !m_open && m_block.targetInDefinitions == 0 &&
-            upperTrimmed.starts_with("TARGET ")) {
+        if (from == 0 && !opens && !m_open && m_block.targetInDefinitions == 0 && NamesTarget(upperTrimmed)) {
             m_block.targetInDefinitions = number;
         }
     }
-    m_registers = m_registers && !Contains(upperTrimmed, "</DEFINITIONS>");
-    if (upperTrimmed == "</IXML>") {
+    m_registers = m_registers && !Contains(upperTrimmed, DefinitionsClosing);
+    if (upperTrimmed == BlockClosing) {
         m_block.blockEnd = number;
         m_part = Part::Behind;
     }
@@ -227,7 +226,7 @@ void CheckedBlockReader::OpenEntries(std::string_view line, const std::string& u
 std::size_t CheckedBlockReader::TakeText(std::string_view line, std::size_t from)
 {
     BlockEntry& entry = m_block.entries.back();
-    const std::string_view closing = entry.question ? "</Q>" : "</AV>";
+    const std::string_view closing = entry.question ? QuestionClosing : AdviceClosing;
     const std::size_t end = line.find(closing, from);
     std::string_view piece = line.substr(from, end == None ? None : end - from);
     entry.tooLong = entry.tooLong || m_length + piece.size() > MaxEntryText;

@@ -41,7 +41,7 @@ private:
     void TakeBeforeLogic(std::string_view trimmed, int number);
     void TakeLogic(std::string_view trimmed, int number);
     void TakeCommand(std::string line, int number);
-    void TakeRule(const std::string& line, std::string squeezed, int number);
+    void TakeRule(const std::string& line, int number);
     void TakeDefinitions(std::string_view line, int number);
     void OpenEntries(std::string_view line, const std::string& upper, std::size_t from, int number);
     std::size_t TakeText(std::string_view line, std::size_t from);

@@ -5,6 +5,7 @@
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
 #include "base/Text.h"
+#include "book/TopicEnd.h"
 
 #include <algorithm>
 
@@ -82,10 +83,10 @@ FilePos LogicPosition(BookFile& file, FilePos topic)
     std::string_view line;
     bool header = true;
     while (!cursor.AtEnd() && cursor.ReadLine(line).Ok()) {
-        if (EqualsUpper(Trim(line), "<IXML>")) {
+        if (OpensBlock(line)) {
             return cursor.Position();
         }
-        if (!header && !line.empty() && line.front() == '[') {
+        if (!header && StartsTopic(line)) {
             break;
         }
         header = false;
@@ -128,7 +129,7 @@ public:
     FilePos Append(const std::string& text)
     {
         const FilePos pos = m_tailPos + static_cast<FilePos>(m_tail.size());
-        m_tail += text + "\r\n[]\r\n"; // such a line ends a topic
+        m_tail.append(text).append(LineEnd).append("[]").append(LineEnd); // such a line ends a topic
         return pos;
     }
 
@@ -162,7 +163,7 @@ DialogueBook::DialogueBook(const Book& book)
 
 void DialogueBook::Replace(int topic, const std::string& block)
 {
-    m_book.TopicPos(topic) = m_overlay->Append(m_book.TopicNames(topic) + "\r\n" + block);
+    m_book.TopicPos(topic) = m_overlay->Append(m_book.TopicNames(topic) + std::string(LineEnd) + block);
 }
 
 const FileError& DialogueBook::Error() const

@@ -1,6 +1,7 @@
 #include "check/ReferenceRules.h"
 
 #include "base/Text.h"
+#include "book/BookWords.h"
 #include "book/XrefText.h"
 
 namespace ls {
@@ -8,7 +9,6 @@ namespace ls {
 namespace {
 
 constexpr std::size_t LongestNote = 32000;
-constexpr std::string_view EndTag = "</XREF>";
 
 } // namespace
 
@@ -69,7 +69,7 @@ void ReferenceRules::CheckSwallowed(std::string_view line, int number)
             "not-closed", m_line,
             "The cross reference is not closed, so the reader is not offered the next one, in line " +
                 std::to_string(number) + ": add \"</XREF>\".");
-    } else if (BeginsUpper(line, EndTag) && !line.starts_with(EndTag)) {
+    } else if (BeginsUpper(line, XrefClosing) && !line.starts_with(XrefClosing)) {
         m_told = true;
         m_findings.Warning(
             "tag-case", number,
@@ -89,15 +89,15 @@ void ReferenceRules::Take(std::string_view line, int number)
 void ReferenceRules::TakePiece(std::string_view piece)
 {
     m_textBehind = false;
-    const std::size_t end = piece.find(EndTag);
-    const bool otherEnd = end == std::string_view::npos && piece.find("<\\") != std::string_view::npos;
+    const std::size_t end = piece.find(XrefClosing);
+    const bool otherEnd = end == std::string_view::npos && Contains(piece, XrefOtherClosing);
     if (end != std::string_view::npos) {
-        m_textBehind = !Trim(piece.substr(end + EndTag.size())).empty();
+        m_textBehind = !Trim(piece.substr(end + XrefClosing.size())).empty();
         piece = piece.substr(0, end);
     }
     piece = Trim(piece);
     const bool adds = !otherEnd && !(piece.empty() && (m_length == 0 || end != std::string_view::npos));
-    const std::size_t joint = m_length == 0 ? 0 : 2;
+    const std::size_t joint = m_length == 0 ? 0 : LineEnd.size();
     const bool tooLong = adds && m_length + joint + piece.size() > LongestNote;
     if (tooLong) {
         m_findings.Error(

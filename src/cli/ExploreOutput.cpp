@@ -1,6 +1,7 @@
 #include "cli/ExploreOutput.h"
 
 #include "base/CodePage.h"
+#include "base/Text.h"
 #include "check/AdvisorCoverage.h"
 #include "cli/CommandContext.h"
 #include "cli/JsonWriter.h"
@@ -57,8 +58,8 @@ std::string Counted(std::int64_t count, const std::string& one, const std::strin
 std::string ShownText(const DialogueEnd& end)
 {
     std::string text = FromBook(end.text);
-    for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;) {
-        text.replace(at, 2, " ");
+    for (std::size_t at = 0; (at = text.find(LineEnd, at)) != std::string::npos;) {
+        text.replace(at, LineEnd.size(), " ");
     }
     return text;
 }

@@ -37,7 +37,7 @@ Status FindTopic(CommandContext& context, std::string& name, Count16& number)
     if (const Status status = context.ChooseTopic(name, number); status != Status::Done) {
         return status;
     }
-    LineCursor cursor(*context.TheBook().File);
+    LineCursor cursor = CursorOf(context.TheBook());
     LocateTopic(context.TheBook(), context.TheSeams(), cursor, name, number);
     return name.empty() ? Status::Fault : Status::Done;
 }

@@ -112,7 +112,7 @@ std::string ChosenTitle(CommandContext& context, Status& status)
         return {};
     }
     name = WithBrackets(name);
-    LineCursor cursor(*context.TheBook().File);
+    LineCursor cursor = CursorOf(context.TheBook());
     LocateTopic(context.TheBook(), context.TheSeams(), cursor, name, number);
     status = name.empty() ? Status::Fault : Status::Done;
     return name.empty() ? name : name.substr(1, name.size() - 2);

@@ -5,6 +5,7 @@
 #include "base/FindSpelling.h"
 #include "base/ItemAt.h"
 #include "base/Messages.h"
+#include "base/StdSubs.h"
 
 #include <algorithm>
 #include <utility>
@@ -97,7 +98,8 @@ void OpenFormRules::Load(const std::string& startPath)
     }
     if (path.find('*') == std::string::npos) {
         path += m_seams.paths.separator;
-        path += "*.IDA";
+        path += '*';
+        path += BookType;
     }
     m_text = path;
     Apply();

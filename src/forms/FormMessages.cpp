@@ -1,5 +1,6 @@
 #include "forms/FormMessages.h"
 
+#include "base/Text.h"
 #include "forms/Mnemonic.h"
 #include "forms/TitleWidth.h"
 
@@ -148,7 +149,7 @@ Reply FormMessages::ShowBox(const std::string& text, Icon icon, Buttons buttons,
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(QString::fromStdString(title));
-    box.setText(Shortened(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    box.setText(Shortened(text).replace(QLatin1String(LineEnd.data()), QStringLiteral("\n")));
     box.setIcon(PictureOf(icon));
     const std::vector<Reply> replies = RepliesOf(buttons);
     for (const Reply reply : replies) {

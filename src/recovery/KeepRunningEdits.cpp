@@ -10,24 +10,12 @@
 #include "recovery/ApplyJournal.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 
 namespace ls {
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
-
 using Notes = std::vector<std::string>;
-
-// Such as "U+2192".
-std::string CodeOf(char32_t character)
-{
-    std::array<char, 16> code{};
-    std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(character));
-    return code.data();
-}
 
 // The text as a book holds it. Each character that a book cannot hold is noted once; `what` names its place.
 std::string KeptText(std::string_view utf8, const std::string& what, Notes& notes)
@@ -89,7 +77,7 @@ void KeepText(Book& book, const RunningText& running, Notes& notes)
                         FromBook(WithoutBrackets(running.name)) + "\" " +
                         std::string(Consequence(special.meaning)) + " in the saved book.");
     }
-    book.TopicRecs(running.topic).Text = text.empty() ? LineEnd : text;
+    book.TopicRecs(running.topic).Text = text.empty() ? std::string(LineEnd) : text;
 }
 
 // Notes the comments of the old block that the editor cannot hold. The editor's Done asks about them.

@@ -1,4 +1,5 @@
 #include "base/Messages.h"
+#include "base/Text.h"
 #include "reader/settings/IniFile.h"
 #include "reader/settings/Settings.h"
 #include "reader/settings/StatementReader.h"
@@ -10,7 +11,6 @@ namespace ls {
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
 constexpr std::string_view NewType = ".new";
 constexpr std::string_view BackupType = ".bak";
 constexpr int MaxBackups = 99;

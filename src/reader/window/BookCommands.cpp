@@ -4,6 +4,7 @@
 #include "base/Messages.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "book/LineEnds.h"
 #include "files/FileDialog.h"
 #include "files/FileFormRules.h"
@@ -12,12 +13,6 @@
 #include "reader/window/Navigation.h"
 
 namespace ls {
-
-namespace {
-
-constexpr std::string_view ProgramFolderPrefix = "LS:";
-
-} // namespace
 
 std::string RecentFileName(const Book& book, const Settings& settings, const Seams& seams)
 {
@@ -56,7 +51,7 @@ void BookCommands::AskForFile()
     m_dialog.FileFormTitle = "Select a book to open:";
     m_dialog.ShowSharing = true;
     m_dialog.DefaultFolder = m_book.WorkDir.empty() ? m_seams.files.CurrentFolder() : m_book.WorkDir;
-    m_dialog.FilePattern = "*.IDA";
+    m_dialog.FilePattern = "*" + std::string(BookType);
     if (m_settings.RecentFileCount > 0) {
         m_dialog.InitialFileName = m_settings.RecentFiles[0];
     }

@@ -6,6 +6,7 @@
 #include "base/StdSubs.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/BookWords.h"
 #include "book/SaveBook.h"
 #include "files/FileDialog.h"
 #include "reader/settings/Settings.h"
@@ -17,13 +18,6 @@
 #include <vector>
 
 namespace ls {
-
-namespace {
-
-constexpr std::string_view ProgramFolderPrefix = "LS:";
-constexpr std::string_view BookType = ".IDA";
-
-} // namespace
 
 std::string ProposedName(const Book& book, const Seams& seams)
 {
@@ -79,7 +73,7 @@ bool SaveCommand::AskForName()
     m_dialog.FileFormTitle = "Save the book as:";
     m_dialog.ShowSharing = false;
     m_dialog.DefaultFolder = m_book.WorkDir.empty() ? m_seams.files.CurrentFolder() : m_book.WorkDir;
-    m_dialog.FilePattern = "*.IDA";
+    m_dialog.FilePattern = "*" + std::string(BookType);
     m_dialog.InitialFileName = ProposedName(m_book, m_seams);
     m_view.ShowFileForm();
     m_view.ShowExplainButton(!m_book.BookUrl.empty()); // "Save Info" may have changed the address

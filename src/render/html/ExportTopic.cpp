@@ -2,10 +2,10 @@
 
 #include "base/LineCursor.h"
 #include "base/Messages.h"
-#include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/TopicEnd.h"
 #include "render/html/HtmlExport.h"
 #include "render/html/HtmlOutput.h"
 #include "render/text/TopicBody.h"
@@ -18,12 +18,6 @@ std::string_view TitleOf(std::string_view topicName)
 {
     const bool inBrackets = topicName.starts_with('[') && topicName.size() > 2;
     return inBrackets ? topicName.substr(1, topicName.size() - 2) : topicName;
-}
-
-// An export ends at references. The display skips them.
-bool EndsTopic(std::string_view line)
-{
-    return BeginsUpper(line, "<XREF") || EqualsUpper(Trim(line), "<IXML>") || line.starts_with('[');
 }
 
 enum class Located
@@ -55,7 +49,7 @@ FileError WriteDocument(LineCursor& cursor, std::string_view title, HtmlOutput& 
     std::string_view line;
     while (output.Error().Ok() && body.Next(line)) {
         line = TrimRight(line);
-        if (EndsTopic(line)) {
+        if (EndsText(line)) {
             break;
         }
         html.AddLine(line);
@@ -83,8 +77,7 @@ bool ExportTopic(const Book& book, const Seams& seams, const std::string& topicN
         return FinishFile(seams, lines);
     }
     const std::string name = WithBrackets(topicName);
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     const Located located = Locate(book, seams, name, topicIndex, cursor);
     if (located != Located::Found) {
         return located == Located::Missing && FinishFile(seams, lines);

@@ -1,12 +1,12 @@
 #include "render/html/HtmlOutput.h"
 
 #include "base/FileSystem.h"
+#include "base/Text.h"
 
 namespace ls {
 
 namespace {
 
-constexpr std::string_view LineEnd = "\r\n";
 constexpr std::size_t BufferSize = 64 * 1024;
 
 } // namespace

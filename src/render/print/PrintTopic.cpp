@@ -2,11 +2,11 @@
 
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
-#include "base/NoFile.h"
 #include "base/PrinterDevice.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/TopicEnd.h"
 #include "render/print/PageSetup.h"
 #include "render/print/PrintSettings.h"
 #include "render/text/DrawLines.h"
@@ -27,14 +27,6 @@ constexpr double PicaPoints = 12;
 constexpr double ElitePoints = 10;
 constexpr std::size_t LongLine = 50; // only continuation lines of longer lines hang
 constexpr int TitleLines = 2;        // the title and the empty line below it
-
-void SetPlain(TextSurface& surface)
-{
-    surface.SetBold(false);
-    surface.SetItalic(false);
-    surface.SetUnderline(false);
-    surface.SetColour(Black);
-}
 
 void PrintMargin(TextSurface& surface, const PrintSettings& settings)
 {
@@ -90,7 +82,7 @@ public:
         std::string_view line;
         while (m_error.Ok() && body.Next(line)) {
             line = TrimRight(line);
-            if (Ends(line)) {
+            if (!m_book->IsPlainText() && EndsText(line)) {
                 break;
             }
             PrintSourceLine(line);
@@ -99,14 +91,6 @@ public:
     }
 
 private:
-    // A print ends at references. The display skips them and shows nothing after them. In a plain text file
-    // all lines are text.
-    [[nodiscard]] bool Ends(std::string_view line) const
-    {
-        return !m_book->IsPlainText() &&
-               (BeginsUpper(line, "<XREF") || EqualsUpper(Trim(line), "<IXML>") || line.starts_with('['));
-    }
-
     // Intended: the rest of a line is not trimmed, so blanks at its end make one more, empty row.
     void PrintSourceLine(std::string_view line)
     {
@@ -179,8 +163,7 @@ Printed PrintTopic(const Book& book, const Seams& seams, PrinterDevice& printer,
     if (!error.Ok() || settings.LinesPerPage < 0 || settings.CharsPerLine < 0) {
         return {error};
     }
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     std::string name = topicName;
     if (!Locate(book, seams, cursor, name, topicIndex)) {
         printer.Surface().Print("Error on lookup of topic.", true);

@@ -13,14 +13,6 @@ namespace {
 
 constexpr float MarkupVersion = 5.0F;
 
-void SetPlain(TextSurface& surface)
-{
-    surface.SetBold(false);
-    surface.SetItalic(false);
-    surface.SetUnderline(false);
-    surface.SetColour(Black);
-}
-
 void DrawMarkup(TextSurface& surface, std::string_view line, std::string& buffer, TagColours colours)
 {
     MarkupReader reader(line);
@@ -48,6 +40,14 @@ void DrawMarkup(TextSurface& surface, std::string_view line, std::string& buffer
 }
 
 } // namespace
+
+void SetPlain(TextSurface& surface)
+{
+    surface.SetBold(false);
+    surface.SetItalic(false);
+    surface.SetUnderline(false);
+    surface.SetColour(Black);
+}
 
 void DrawLines(TextSurface& surface, const DisplayLines& lines, int firstLine, float bookVersion)
 {

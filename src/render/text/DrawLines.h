@@ -10,6 +10,9 @@ namespace ls {
 struct DisplayLines;
 class TextSurface;
 
+/// Sets the styles of text without tags: none of them, and black.
+void SetPlain(TextSurface& surface);
+
 /// Draws as many display lines as the surface has rows, from `firstLine` (from 1) on. Tags set styles and
 /// entities become characters from version 5.0 on; below it lines are printed as they stand. Styles start
 /// plain at each call: one opened above `firstLine` is not in force, and a line of tags only ends no row,

@@ -3,10 +3,10 @@
 #include "base/CodePage.h"
 #include "base/LineCursor.h"
 #include "base/Messages.h"
-#include "base/NoFile.h"
 #include "base/Text.h"
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "book/TopicEnd.h"
 #include "render/text/ListIndent.h"
 #include "render/text/TopicBody.h"
 #include "render/text/WrapSegment.h"
@@ -17,21 +17,6 @@
 namespace ls {
 
 namespace {
-
-constexpr std::string_view XrefBeginning = "<XREF";
-constexpr std::string_view LogicOpening = "<IXML>";
-
-bool IsLogicOpening(std::string_view line)
-{
-    // A long line is told apart by its first character, without a walk through its blanks.
-    line = TrimLeft(line);
-    return !line.empty() && line.front() == '<' && EqualsUpper(TrimRight(line), LogicOpening);
-}
-
-bool IsTopicHeader(std::string_view line)
-{
-    return !line.empty() && line.front() == '[';
-}
 
 // Turns the source lines of one topic into display lines.
 class Preparation
@@ -49,17 +34,13 @@ public:
         LineCursor* more = nullptr;
         while (body.NextPart(line, more)) {
             line = more == nullptr ? TrimRight(line) : line;
-            if (!m_plainText) {
-                if (BeginsUpper(line, XrefBeginning)) {
-                    m_skip = true;
-                    m_shown->xrefButton = true;
-                }
-                if (IsLogicOpening(line)) {
-                    return true;
-                }
-                if (IsTopicHeader(line)) {
-                    return false;
-                }
+            const TopicLine kind = m_plainText ? TopicLine::Text : ClassifyTopicLine(line);
+            if (kind == TopicLine::LogicBlock || kind == TopicLine::Header) {
+                return kind == TopicLine::LogicBlock;
+            }
+            if (kind == TopicLine::Reference) {
+                m_skip = true;
+                m_shown->xrefButton = true;
             }
             if (!m_skip) {
                 Wrap(line, more);
@@ -105,15 +86,15 @@ FilePos FindLogic(const Book& book, int number)
     if (!book.File || book.TopicPos(number) == 0) {
         return 0;
     }
-    LineCursor cursor(*book.File);
+    LineCursor cursor = CursorOf(book);
     cursor.Seek(book.TopicPos(number));
     FileBody body(cursor);
     std::string_view line;
     if (!body.Next(line) || Trim(line) != book.TopicNames(number)) {
         return 0;
     }
-    while (body.Next(line) && !IsTopicHeader(line)) {
-        if (IsLogicOpening(line)) {
+    while (body.Next(line) && !StartsTopic(line)) {
+        if (OpensBlock(line)) {
             return cursor.Position();
         }
     }
@@ -166,7 +147,7 @@ ShowResult ShowPlainText(const Book& book, const Seams& seams, int lineWidthChar
         return ShowResult::Nothing;
     }
     StartAnew(shown);
-    LineCursor cursor(*book.File);
+    LineCursor cursor = CursorOf(book);
     FileBody body(cursor);
     Preparation preparation(true, lineWidthChars, shown);
     preparation.Take(body);
@@ -211,8 +192,7 @@ ShowResult ShowTopic(const Book& book, const Seams& seams, std::string& topicNam
     }
     topicName = WithBrackets(topicName);
     const std::string* edited = EditedText(book, topicIndex);
-    NoFile noFile;
-    LineCursor cursor(book.File ? *book.File : static_cast<BookFile&>(noFile));
+    LineCursor cursor = CursorOf(book);
     if (edited == nullptr) {
         LocateTopic(book, seams, cursor, topicName, topicIndex);
         if (topicName.empty()) {

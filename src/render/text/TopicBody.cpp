@@ -40,7 +40,6 @@ bool FileBody::NextPart(std::string_view& line, LineCursor*& rest)
 
 bool TextBody::Next(std::string_view& line)
 {
-    constexpr std::string_view LineEnd = "\r\n";
     if (m_at >= m_text.size()) {
         return false;
     }
