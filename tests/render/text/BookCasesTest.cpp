@@ -59,7 +59,7 @@ TEST_P(BookCase, header_readAsExpected)
 TEST_P(BookCase, topicTable_filledAsExpected)
 {
     Strings found;
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(m_book.TopicCount); ++i) {
+    for (int i = 1; i <= m_book.TopicCount; ++i) {
         found.push_back(std::to_string(i) + " " + FromBook(WithoutBrackets(m_book.TopicNames(i))) + " at " +
                         std::to_string(m_book.TopicPos(i)));
     }
@@ -74,7 +74,7 @@ TEST_P(BookCase, topicTable_filledAsExpected)
 TEST_P(BookCase, crossReferences_readAsExpected)
 {
     Strings found;
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(m_book.XrefCount); ++i) {
+    for (int i = 1; i <= m_book.XrefCount; ++i) {
         const XrefRec& xref = m_book.Xrefs(i);
         found.push_back(FromBook(xref.FromTopic + " > " + xref.ToTopic + ": " + xref.Text));
     }
