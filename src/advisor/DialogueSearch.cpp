@@ -16,6 +16,20 @@
 #include <unordered_set>
 #include <utility>
 
+// How all dialogues of a topic are gone through:
+//
+// 1. The search runs the real dialogue, with a view and boxes that only note what is shown.
+// 2. A question with the tables of that moment is a state; the states wait in a queue, so that an end is
+//    first found with the fewest answers.
+// 3. For each choice of a state the tables are put back and the choice is answered, which leads to a state
+//    or to an end.
+// 4. A state gets a key of what can still matter: rules, goals, the question, and answers while a topic is
+//    to be loaded. A key that is known is not followed again.
+// 5. Limits on states, on the texts held and on the texts gone through end a search that would take too
+//    long.
+//
+// ExploreAdvisor.everyWay_isTheOneThatReadersGo compares it with dialogues that are played one by one.
+
 namespace ls {
 
 namespace {

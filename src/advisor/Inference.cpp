@@ -12,6 +12,20 @@
 #include <utility>
 #include <vector>
 
+// How the advisor reasons:
+//
+// 1. The rules are texts, and an answer rewrites them: a met condition is cut out, and a contradicted rule
+//    is dropped.
+// 2. A rule fires when nothing is left after its "=".
+// 3. One pass over the rules finds the highest goal with a fired rule, and its value is asserted like an
+//    answer.
+// 4. The conditions of the rules for the goal pursued are counted, and the variable that occurs most is
+//    asked next.
+// 5. The index names the places in a rule, and only odd rules are searched.
+//
+// InferenceModel.randomRules_giveWhatThePlainReadingGives compares it with the plain rule, and
+// DialogueModel.randomBooks_playAsThePlainReadingDoes does so for whole dialogues.
+
 namespace ls {
 
 namespace {

@@ -4,6 +4,20 @@
 #include <functional>
 #include <limits>
 
+// How an answer finds the rules that it concerns:
+//
+// 1. Each rule is read once into terms: the number of a variable's name, and the places of its brackets in
+//    the text.
+// 2. The names are in a hash table of numbers, so that a name in many rules is stored and compared once.
+// 3. Each rule has a mask with a bit for each name, the number modulo 64, so that a look at one number
+//    passes over most rules.
+// 4. When a condition is cut out of a rule's text, the later terms move by its length and nothing is read
+//    again.
+// 5. A rule of another form, such as one with nested brackets, is odd: it has no terms, and the engine
+//    searches its text.
+//
+// InferenceModel.answerAfterAnswer_givesWhatThePlainReadingGives compares it with a search in the texts.
+
 namespace ls {
 
 namespace {

@@ -14,6 +14,17 @@
 #include <memory>
 #include <vector>
 
+// How a book is written:
+//
+// 1. The header is made anew, and the topics follow in the order of the table.
+// 2. An unedited topic is copied from the file, whole lines at a time; an edited one is written from
+//    memory.
+// 3. Topics are copied up to the next topic of the file, and the places of all of them are sorted once.
+// 4. Before a topic is copied its header line is compared with its title, and after it the place with its
+//    end: if one of them differs, the file was changed and the writing stops.
+// 5. The bytes go through one buffer, and after each full one the progress is reported and may cancel the
+//    writing.
+
 namespace ls {
 
 namespace {

@@ -11,9 +11,6 @@
 #include "check/BlockStore.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
-#include <cstring>
 
 namespace ls {
 
@@ -22,56 +19,9 @@ namespace {
 constexpr FilePos ProgressStep = 8 * 1024 * 1024;
 constexpr float MarkupVersion = 5.0F;
 
-// Sixteen bytes that are compared at once, on processors that can; the compiler sees to the others.
-using Bytes = std::uint8_t __attribute__((vector_size(16)));
-
-bool Any(const Bytes& bytes)
+bool IsHigh(char c)
 {
-    std::array<std::uint64_t, 2> words{};
-    static_assert(sizeof(words) == sizeof(bytes));
-    std::memcpy(words.data(), &bytes, sizeof(bytes));
-    return (words[0] | words[1]) != 0;
-}
-
-// Gathers what there is to be looked at in a line. Most have nothing of it, so it must be told fast.
-class MarkFinder
-{
-public:
-    void Take(const char* from, std::size_t size)
-    {
-        Bytes bytes{};
-        std::memcpy(&bytes, from, size);
-        m_high |= bytes;
-        m_tag |= static_cast<Bytes>(bytes == '<');
-        m_entity |= static_cast<Bytes>(bytes == '&');
-        m_lf |= static_cast<Bytes>(bytes == '\n');
-    }
-
-    [[nodiscard]] LineMarks Marks() const
-    {
-        return {Any(m_high & 0x80), Any(m_tag), Any(m_entity), Any(m_lf)};
-    }
-
-private:
-    Bytes m_high{};
-    Bytes m_tag{};
-    Bytes m_entity{};
-    Bytes m_lf{};
-};
-
-LineMarks MarksOf(std::string_view line)
-{
-    MarkFinder finder;
-    if (line.size() < sizeof(Bytes)) {
-        finder.Take(line.data(), line.size());
-        return finder.Marks();
-    }
-    const std::size_t last = line.size() - sizeof(Bytes);
-    for (std::size_t at = 0; at < last; at += sizeof(Bytes)) {
-        finder.Take(line.data() + at, sizeof(Bytes));
-    }
-    finder.Take(line.data() + last, sizeof(Bytes)); // some of them twice
-    return finder.Marks();
+    return static_cast<unsigned char>(c) > 0x7F;
 }
 
 bool IsBlank(std::string_view line)
@@ -111,11 +61,8 @@ FileError BookPass::Run()
         if (FileError error = cursor.ReadLine(line); !error.Ok()) {
             return error;
         }
-        m_marks = MarksOf(line);
         TakeLine(line, pos, number);
-        if (m_marks.high || m_marks.lf) {
-            CheckBytes(line, number);
-        }
+        CheckBytes(line, number);
         if (pos >= m_nextReport && !ReportProgress(pos)) {
             break;
         }
@@ -128,12 +75,13 @@ FileError BookPass::Run()
 // Steps over the lines that an editor sees in a line of the book.
 void BookPass::CheckBytes(std::string_view line, int& number)
 {
-    if (m_marks.high) {
+    if (std::any_of(line.begin(), line.end(), IsHigh)) {
         m_text.TakeHighBytes(line, number);
     }
-    if (m_marks.lf) {
+    const auto lineFeeds = static_cast<int>(std::count(line.begin(), line.end(), '\n'));
+    if (lineFeeds > 0) {
         m_text.TakeLoneLf(number);
-        number += static_cast<int>(std::count(line.begin(), line.end(), '\n'));
+        number += lineFeeds;
     }
 }
 
@@ -174,7 +122,7 @@ void BookPass::CheckHeader(std::string_view line)
 
 void BookPass::TakeBody(std::string_view line, int number)
 {
-    const bool reference = m_marks.tag && line.starts_with(XrefOpening);
+    const bool reference = line.starts_with(XrefOpening);
     if (m_topic == 0) {
         if (!IsBlank(line)) {
             TellNeverShown(number, "Text before the first topic");
@@ -186,8 +134,7 @@ void BookPass::TakeBody(std::string_view line, int number)
     }
     if (m_block) {
         m_block->Take(line, number);
-    } else if (m_marks.tag && (line.front() == '<' || line.front() == ' ') &&
-               EqualsUpper(Trim(line), BlockOpening)) {
+    } else if (EqualsUpper(Trim(line), BlockOpening)) {
         m_text.EndShown();
         if (m_noteBracket != 0) {
             m_findings.Error(
@@ -218,9 +165,8 @@ void BookPass::TakeText(std::string_view line, int number)
         m_hidden = m_toldHidden = true;
         return;
     }
-    const bool tag = m_marks.tag && (line.front() == '<' || line.front() == ' ');
-    const bool told = tag && !m_rulesAsText && TakeTag(line, number);
-    if (tag && BeginsUpper(line, XrefTag)) {
+    const bool told = !m_rulesAsText && TakeTag(line, number);
+    if (BeginsUpper(line, XrefTag)) {
         m_text.EndShown();
         m_hidden = true;
     } else if (m_hidden) {
@@ -228,8 +174,8 @@ void BookPass::TakeText(std::string_view line, int number)
             TellNeverShown(number, "Text behind a cross reference");
         }
     } else {
-        if ((m_marks.tag || m_marks.entity) && !told && !m_rulesAsText) {
-            m_text.TakeShown(line, number, m_marks.entity);
+        if (!told && !m_rulesAsText) {
+            m_text.TakeShown(line, number);
         }
         if (++m_lines == Count16::Max + 1) {
             m_findings.Error(

@@ -17,15 +17,6 @@ class BlockStore;
 class Findings;
 class Progress;
 
-/// What a line holds that is to be looked at.
-struct LineMarks
-{
-    bool high = false;   ///< a byte above 7F
-    bool tag = false;    ///< a "<"
-    bool entity = false; ///< a "&"
-    bool lf = false;     ///< a LF, which is no part of a line end here
-};
-
 /// One pass over a book's file: it checks what a line tells by itself, and gathers the logic blocks.
 ///
 /// Where topics begin, and where the book ends, is what the book's own scan says.
@@ -65,7 +56,6 @@ private:
     FilePos m_nextReport = 0;
     FilePos m_nextTopic = 0; ///< where the next topic begins; 0 when none follows
 
-    LineMarks m_marks; ///< of the line at hand
     int m_topic = 0;
     int m_lines = 0;            ///< of the topic's displayed text
     bool m_hidden = false;      ///< a cross reference hides what follows

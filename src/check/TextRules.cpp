@@ -29,19 +29,6 @@ bool ReadsAsUtf8(std::string_view line)
     return true;
 }
 
-// Whether each "&" begins an entity that is known. Such an entity has no finding and holds no bracket.
-bool HasKnownEntitiesOnly(std::string_view line)
-{
-    constexpr std::size_t none = std::string_view::npos;
-    for (std::size_t at = line.find('&'); at != none; at = line.find('&', at + 1)) {
-        const std::string_view rest = line.substr(at + 1);
-        if (!rest.starts_with("AMP;") && !rest.starts_with("LT;") && !rest.starts_with("GT;")) {
-            return false;
-        }
-    }
-    return true;
-}
-
 // The export takes a line for a heading by its first four characters.
 bool IsHeading(std::string_view line)
 {
@@ -56,15 +43,11 @@ void TextRules::BeginTopic()
     m_toldUtf8 = false;
 }
 
-void TextRules::CheckMarkup(std::string_view line, int number, bool ampersand)
+void TextRules::CheckMarkup(std::string_view line, int number)
 {
     line = TrimRight(line);
-    if (line.starts_with('<') && IsHeading(line)) {
+    if (IsHeading(line)) {
         CheckHeading(line, number);
-    }
-    if (!ampersand || HasKnownEntitiesOnly(line)) {
-        CheckTags(line, number);
-        return;
     }
     MarkupReader reader(line);
     while (!reader.AtEnd()) {
@@ -77,20 +60,6 @@ void TextRules::CheckMarkup(std::string_view line, int number, bool ampersand)
                                    Quoted("&" + std::string(piece.name) + ";") +
                                    ": only &LT; &GT; and &AMP; are known, in capital letters.");
         }
-    }
-}
-
-// What the reader of markup finds in a line whose entities, if any, take no part of a tag.
-void TextRules::CheckTags(std::string_view line, int number)
-{
-    constexpr std::size_t none = std::string_view::npos;
-    for (std::size_t open = line.find('<'); open != none; open = line.find('<', open)) {
-        const std::size_t close = line.find('>', open);
-        if (close == none) {
-            return;
-        }
-        TakeTag(line.substr(open + 1, close - open - 1), number);
-        open = close + 1;
     }
 }
 
@@ -114,18 +83,16 @@ void TextRules::TakeTag(std::string_view name, int number)
         return;
     }
     if (name.front() != '/') {
-        OpenTag& open = m_open.emplace_back();
-        open.length = name.copy(open.name.data(), open.name.size());
-        open.line = number;
+        m_open.push_back({std::string(name), number});
         return;
     }
     name.remove_prefix(1);
     const bool closesBold = name == "H1" || name == "H2";
     m_open.erase(std::remove_if(m_open.begin(), m_open.end(),
                                 [&](const OpenTag& open) {
-                                    return open.Name() == name || (closesBold && open.Name() == "B") ||
-                                           (name == "H1" && open.Name() == "U") ||
-                                           (name == "H3" && open.Name() == "I");
+                                    return open.name == name || (closesBold && open.name == "B") ||
+                                           (name == "H1" && open.name == "U") ||
+                                           (name == "H3" && open.name == "I");
                                 }),
                  m_open.end());
 }
@@ -148,9 +115,9 @@ void TextRules::EndShown()
     for (const OpenTag& open : m_open) {
         m_findings.Warning(
             "not-closed", open.line,
-            "The tag \"<" + std::string(open.Name()) +
-                ">\" is not closed, so the reader sees all that follows in this style: add \"</" +
-                std::string(open.Name()) + ">\".");
+            "The tag \"<" + open.name +
+                ">\" is not closed, so the reader sees all that follows in this style: add \"</" + open.name +
+                ">\".");
     }
     m_open.clear();
 }

@@ -2,7 +2,6 @@
 
 #include "check/Findings.h"
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,11 +15,11 @@ public:
     /// `markup`: tags and entities mean something in this book.
     TextRules(Findings& findings, bool markup) : m_findings(findings), m_markup(markup) {}
 
-    /// A line that is displayed and has a "<" or a "&".
-    void TakeShown(std::string_view line, int number, bool ampersand)
+    /// A line that is displayed.
+    void TakeShown(std::string_view line, int number)
     {
         if (m_markup) {
-            CheckMarkup(line, number, ampersand);
+            CheckMarkup(line, number);
         }
     }
 
@@ -38,15 +37,11 @@ public:
 private:
     struct OpenTag
     {
-        std::array<char, 2> name{}; ///< of the tags that can be left open
-        std::size_t length = 0;
+        std::string name;
         int line = 0;
-
-        [[nodiscard]] std::string_view Name() const { return {name.data(), length}; }
     };
 
-    void CheckMarkup(std::string_view line, int number, bool ampersand);
-    void CheckTags(std::string_view line, int number);
+    void CheckMarkup(std::string_view line, int number);
     void TakeTag(std::string_view name, int number);
     void CheckHeading(std::string_view line, int number);
     void CheckUnassigned(std::string_view line, int number);

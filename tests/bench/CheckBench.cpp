@@ -8,7 +8,7 @@ namespace ls::bench {
 namespace {
 
 constexpr std::size_t LargeBook = 200 * MiB;
-constexpr double CheckLimit = 5;
+constexpr double CheckLimit = 10;
 
 } // namespace
 

@@ -2,6 +2,20 @@
 
 #include <algorithm>
 
+// How a row that holds markup finds its end:
+//
+// 1. A walk counts the columns of a row until there is one too many.
+// 2. Plain characters are taken in runs: up to the next "<" or "&", the next mark or the width, whichever
+//    comes first.
+// 3. Hidden characters, in a tag or an entity, are taken one by one, as each of them may end what hides
+//    it.
+// 4. Every 256 characters a walk leaves a mark with its state and its column.
+// 5. A later walk that meets a mark in the same state leaps to the last mark within its width, so that the
+//    rows that end inside a megabyte of tags do not all walk through it.
+//
+// WrapSegment.wrap_randomLines_asTheRuleWrittenStepByStep and
+// Kinds/HiddenText.wrap_randomLines_asTheRuleWrittenStepByStep compare it with the plain rule.
+
 namespace ls {
 
 namespace {

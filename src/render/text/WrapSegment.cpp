@@ -4,9 +4,7 @@
 #include "render/text/EightBytes.h"
 
 #include <algorithm>
-#include <bit>
 #include <cassert>
-#include <cstdint>
 
 namespace ls {
 
@@ -14,28 +12,21 @@ namespace {
 
 constexpr std::size_t TabSpaces = 5;
 
-// The last blank, from 0. Words are short, so it is nearly always among the last eight characters, which are
-// looked at together: a loop over them would end somewhere else for each row.
-std::size_t FindLastBlank(std::string_view row)
-{
-    if (row.size() < 8) {
-        return row.rfind(' ');
-    }
-    constexpr std::uint64_t lowBits = InEachByte(0x7F);
-    const std::uint64_t other = EightBytes(row.data() + row.size() - 8) ^ InEachByte(' ');
-    const std::uint64_t found = ~(((other & lowBits) + lowBits) | other | lowBits); // 0x80 for each blank
-    return found == 0 ? row.rfind(' ')
-                      : row.size() - 1 - static_cast<std::size_t>(std::countl_zero(found)) / 8;
-}
-
 } // namespace
 
-LineRemainder::LineRemainder(std::string_view text, LineCursor* rest)
-    : m_rest(rest), m_read(text), m_text(rest == nullptr ? text : TrimRight(text)),
-      m_contentEnd(m_text.find_last_not_of(' ') + 1), // 0 when there is none
-      m_markup(m_text)
+LineRemainder::LineRemainder(std::string_view text, LineCursor* rest) : m_rest(rest), m_read(text)
 {
+    Begin(rest == nullptr ? text : TrimRight(text));
     NeedMoreThan(0);
+}
+
+void LineRemainder::Begin(std::string_view text)
+{
+    m_text = text;
+    m_contentEnd = text.find_last_not_of(' ') + 1; // 0 when there is none
+    m_at = 0;
+    m_tag = text.find('<');
+    m_entity = text.find('&');
 }
 
 // Lets the cursor drop what has been taken, and read more.
@@ -44,10 +35,7 @@ void LineRemainder::ReadOn()
     bool whole = true;
     (void)m_rest->ReadOn(m_read, m_at, whole); // an error stays in the cursor, and ends the line
     m_rest = whole ? nullptr : m_rest;
-    m_text = TrimRight(m_read);
-    m_contentEnd = m_text.size();
-    m_at = 0;
-    m_markup.Begin(m_text);
+    Begin(TrimRight(m_read));
     m_marks = {};
 }
 
@@ -83,24 +71,35 @@ bool LineRemainder::TakeRest(std::string& segment)
     return true;
 }
 
-// Most rows hold only simple markup, or none: they need no walk. Everything else is left to that, and nothing
-// is taken.
-bool LineRemainder::TakeSimpleRow(std::size_t columns, std::size_t hang, std::string& segment)
+// Whether a "<" or "&" follows before `end`. Each is searched for again only when it has been passed, so that
+// a line is searched once.
+bool LineRemainder::MarkupBefore(std::size_t end)
 {
-    const std::size_t end = m_spaces > 0 ? MarkupSpans::Unknown : m_markup.EndOfRow(m_at, columns - hang);
-    if (end == MarkupSpans::Unknown) {
+    if (m_tag < m_at) {
+        m_tag = m_text.find('<', m_at);
+    }
+    if (m_entity < m_at) {
+        m_entity = m_text.find('&', m_at);
+    }
+    return std::min(m_tag, m_entity) < end;
+}
+
+// A row without markup breaks at the last blank of its characters and the next one. False, and nothing is
+// taken, where a walk has to decide: at markup, at spaces of a TAB, at the end of what is known of the line,
+// and where the only blank comes first.
+bool LineRemainder::TakePlainRow(std::size_t columns, std::size_t hang, std::string& segment)
+{
+    const std::size_t end = m_at + columns - hang + 1;
+    if (m_spaces > 0 || end > m_text.size() || MarkupBefore(end)) {
         return false;
     }
-    if (end == MarkupSpans::NoBreak) {
-        return TakeRest(segment);
-    }
     const std::size_t blank = FindLastBlank(m_text.substr(m_at, end - m_at));
+    if (blank == 0) {
+        return false;
+    }
     if (blank == std::string_view::npos) {
         CutHard(columns, segment);
         return true;
-    }
-    if (blank == 0) {
-        return false;
     }
     segment.append(m_text.data() + m_at, blank);
     m_at += blank + 1;
@@ -145,7 +144,7 @@ bool LineRemainder::TakeRow(std::size_t columns, std::size_t hang, std::string& 
     if (hang >= columns || Size() + hang <= columns) {
         return TakeRest(segment);
     }
-    return TakeSimpleRow(columns, hang, segment) || TakeWalkedRow(columns, hang, segment);
+    return TakePlainRow(columns, hang, segment) || TakeWalkedRow(columns, hang, segment);
 }
 
 void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment)

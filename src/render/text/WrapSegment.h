@@ -2,7 +2,6 @@
 
 #include "base/LineCursor.h"
 #include "render/text/BreakFinder.h"
-#include "render/text/MarkupSpans.h"
 
 #include <cstddef>
 #include <string>
@@ -15,6 +14,9 @@ inline constexpr int LeastLineWidth = 11;
 
 /// What is left of a source line while it is being wrapped: a position in the text, never a copy of it, so
 /// that a line of any length wraps in linear time. The text must outlive it.
+///
+/// A row without markup is cut at its last blank, without a walk through its characters. `BreakFinder` walks
+/// through every other row.
 class LineRemainder
 {
 public:
@@ -34,6 +36,7 @@ public:
 private:
     friend void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment);
 
+    void Begin(std::string_view text);
     void ReadOn();
     void NeedMoreThan(std::size_t count)
     {
@@ -43,7 +46,8 @@ private:
     }
     bool TakeRow(std::size_t columns, std::size_t hang, std::string& segment);
     void OpenLeadingTab();
-    bool TakeSimpleRow(std::size_t columns, std::size_t hang, std::string& segment);
+    bool MarkupBefore(std::size_t end);
+    bool TakePlainRow(std::size_t columns, std::size_t hang, std::string& segment);
     bool TakeWalkedRow(std::size_t columns, std::size_t hang, std::string& segment);
     void CutHard(std::size_t columns, std::string& segment);
     void AppendFront(std::size_t count, std::string& segment) const;
@@ -54,10 +58,11 @@ private:
     std::string_view
         m_read; ///< as the cursor gave it: m_text with blanks that may yet turn out to be its last
     std::string_view m_text;
-    std::size_t m_contentEnd; ///< behind the last character of m_text that is no blank
-    std::size_t m_at = 0;     ///< the next character of m_text
-    std::size_t m_spaces = 0; ///< spaces of a TAB that stand before it
-    MarkupSpans m_markup;
+    std::size_t m_contentEnd = 0; ///< after the last character of m_text that is no blank
+    std::size_t m_at = 0;         ///< the next character of m_text
+    std::size_t m_spaces = 0;     ///< spaces of a TAB that stand before it
+    std::size_t m_tag = 0;        ///< the first "<" of m_text from m_at on, as far as looked for
+    std::size_t m_entity = 0;     ///< the same for "&"
     BreakMarks m_marks;
 };
 

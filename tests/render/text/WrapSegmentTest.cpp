@@ -221,8 +221,8 @@ TEST(WrapSegment, wrap_randomLines_asTheRuleWrittenStepByStep)
     }
 }
 
-// Text that rarely has markup, in rows of which most are plain: words of all lengths, longer than the part of
-// a row that is looked at first, in lines longer than what is searched for markup at once.
+// Text with little markup: most rows are plain. Words have all lengths, also more than the eight characters
+// in which the last blank of a row is looked for first.
 TEST(WrapSegment, wrap_randomLongLinesOfWords_asTheRuleWrittenStepByStep)
 {
     Strings pieces = {"<B>", "&AMP; ", "</B> ", "  ", "\t"};
@@ -278,8 +278,8 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair("everything", Strings{"<", ">", "&", ";", "a", "a", " ", ManyTags, "bcd"})),
     [](const auto& row) { return row.param.first; });
 
-// Rows of tags and entities that are looked up many at a time, among some that have to be walked through:
-// with attributes, of characters that are no letters, longer than what is looked at, without an end.
+// Rows full of tags and entities. Half of the lines hold simple ones only. The others also hold tags with
+// attributes, names of digits or signs, long names, and markup without an end.
 TEST(WrapSegment, wrap_randomLongLinesOfMarkup_asTheRuleWrittenStepByStep)
 {
     const Strings simple = {"<B>",  "</B>", "<H1>",       "</H3>",      "<>",     "&AMP;", "&LT;", "&;",
