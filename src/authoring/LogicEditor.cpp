@@ -14,7 +14,7 @@ namespace ls {
 
 namespace {
 
-constexpr auto Most = static_cast<std::size_t>(Count16::Max); // of variables, and of the choices of them all
+constexpr std::size_t Most = Count16::Max; // of variables, and of the choices of them all
 
 // A name as the advisor compares it. The names in the lists are book text already, so it always has one.
 std::string KeyOf(const std::string& utf8)

@@ -9,8 +9,7 @@ constexpr float NewBookVersion = 5.0F;
 
 } // namespace
 
-Book::Book()
-    : TopicNames(FirstBound), TopicPos(FirstBound), TopicRecs(FirstBound), Xrefs(FirstBound)
+Book::Book() : TopicNames(FirstBound), TopicPos(FirstBound), TopicRecs(FirstBound), Xrefs(FirstBound)
 {
     BookVersion = NewBookVersion;
 }

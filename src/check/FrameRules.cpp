@@ -89,7 +89,7 @@ void CheckTargetPlace(const CheckedBlock& block, Findings& findings)
 
 void CheckLimits(const CheckedBlock& block, Findings& findings)
 {
-    const auto limit = static_cast<std::size_t>(Count16::Max);
+    const std::size_t limit = Count16::Max;
     if (block.rules.size() > limit) {
         findings.Error(
             "too-many", block.rules[limit].line,
