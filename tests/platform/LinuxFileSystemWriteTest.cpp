@@ -108,7 +108,7 @@ TEST_F(LinuxFileSystemWriteTest, write_beyondTheUsersLimit_isDiskFullAndNotTheEn
                   ::setrlimit(RLIMIT_FSIZE, &limit);
                   std::signal(SIGXFSZ, SIG_DFL);
                   LinuxFileSystem own;
-                  own.CreateNew(folder / "a", file);
+                  static_cast<void>(own.CreateNew(folder / "a", file));
                   const bool first = file->Write(std::string(600, 'x')).Ok();
                   const FileError second = file->Write(std::string(600, 'y'));
                   return first && second == DiskFull && file->Finish() == DiskFull ? 0 : 1;
@@ -126,7 +126,7 @@ TEST_F(LinuxFileSystemWriteTest, write_diskThatFillsUp_isDiskFull)
             ::mount("none", disk.c_str(), "tmpfs", 0, "size=64k") != 0) {
             return CannotMount;
         }
-        std::ignore = files.CreateNew(disk + "/a", file); // a file that is missing ends the test below
+        static_cast<void>(files.CreateNew(disk + "/a", file));
         const FileError written = file->Write(std::string(200'000, 'x'));
         return written == DiskFull && file->Finish() == DiskFull ? 0 : 1;
     });

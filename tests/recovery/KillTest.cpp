@@ -88,7 +88,7 @@ TEST_F(KillTest, folderRemovedMeanwhile_isMadeAgain)
     book.TopicRecs(1).Text = "edited\r\n";
     EXPECT_EQ(own.Update(book, {}, 2), FileError{});
     EXPECT_TRUE(own.InPlace());
-    own.Remove();
+    EXPECT_TRUE(own.Remove().Ok());
 }
 
 TEST_F(KillTest, journalAndItsFolder_areForThisUserOnly)
