@@ -7,7 +7,7 @@
 #include "book/Book.h"
 #include "book/BookLoader.h"
 #include "book/BookWords.h"
-#include "book/XrefText.h"
+#include "book/TopicEnd.h"
 #include "check/BlockStore.h"
 
 #include <algorithm>
@@ -101,7 +101,7 @@ void BookPass::TakeLine(std::string_view line, FilePos pos, int number)
         if (m_references.TextBehind()) {
             TellNeverShown(number, "Text behind a cross reference");
         }
-        if (EqualsUpper(Trim(line), BlockOpening)) {
+        if (OpensBlock(line)) {
             TakeBody(line, number);
         }
     } else {
@@ -134,7 +134,7 @@ void BookPass::TakeBody(std::string_view line, int number)
     }
     if (m_block) {
         m_block->Take(line, number);
-    } else if (EqualsUpper(Trim(line), BlockOpening)) {
+    } else if (OpensBlock(line)) {
         m_text.EndShown();
         if (m_noteBracket != 0) {
             m_findings.Error(

@@ -131,5 +131,12 @@ TEST(CodePage, utf8_borderCharacters_comeBack)
     }
 }
 
+TEST(CodePage, codeOf_character_hasFourDigitsOrMore)
+{
+    EXPECT_EQ(CodeOf(U'\x2192'), "U+2192");
+    EXPECT_EQ(CodeOf(U'A'), "U+0041");
+    EXPECT_EQ(CodeOf(U'\x1F600'), "U+1F600");
+}
+
 } // namespace
 } // namespace ls

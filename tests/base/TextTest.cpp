@@ -104,6 +104,14 @@ TEST(Text, leadingNumber_tooManyDigits_isNone)
     EXPECT_EQ(LeadingNumber(std::string(400, '9')), 0);
 }
 
+TEST(Text, contains_part_isFoundAnywhere)
+{
+    EXPECT_TRUE(Contains("A=B", "="));
+    EXPECT_TRUE(Contains("A", ""));
+    EXPECT_FALSE(Contains("A=B", "b"));
+    EXPECT_FALSE(Contains("", "A"));
+}
+
 TEST(Text, brackets_areAddedWhereTheyLack)
 {
     EXPECT_EQ(WithBrackets("A"), "[A]");

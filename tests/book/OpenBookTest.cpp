@@ -1,3 +1,4 @@
+#include "base/LineCursor.h"
 #include "book/BookFixture.h"
 
 namespace ls {
@@ -24,6 +25,23 @@ TEST_F(OpenBookTest, open_book_readsHeaderAndStandsBehindIt)
     EXPECT_EQ(book.BookStartPos, 33);
     EXPECT_EQ(book.OpenPath, "/work/Book.IDA");
     EXPECT_TRUE(world.messages.boxes.empty());
+}
+
+TEST_F(OpenBookTest, cursorOf_openBook_beginsAtTheFilesStart)
+{
+    ASSERT_TRUE(Open(Header));
+    LineCursor cursor = CursorOf(book);
+    std::string line;
+    EXPECT_TRUE(cursor.ReadLine(line).Ok());
+    EXPECT_EQ(line, "LODESTAR BOOK V5.3");
+}
+
+TEST_F(OpenBookTest, cursorOf_bookWithoutFile_readsNothing)
+{
+    LineCursor cursor = CursorOf(book);
+    EXPECT_TRUE(cursor.AtEnd());
+    std::string line;
+    EXPECT_EQ(cursor.ReadLine(line).number, error::InputPastEnd);
 }
 
 TEST_F(OpenBookTest, open_lsPrefix_namesTheProgramsFolder)

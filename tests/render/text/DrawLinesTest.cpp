@@ -191,6 +191,18 @@ TEST(DrawLines, drawLines_partOfARow_isDrawnWhenItIsMoreThanHalf)
     }
 }
 
+TEST(DrawLines, setPlain_stylesThatAreSet_endsThemAll)
+{
+    RunList surface;
+    surface.SetBold(true);
+    surface.SetItalic(true);
+    surface.SetUnderline(true);
+    surface.SetColour(DarkRed);
+    SetPlain(surface);
+    surface.Print("a", false);
+    EXPECT_EQ(surface.Runs(), (std::vector<ls::Run>{{0, 1, 1, "a", false, false, false, Black, false}}));
+}
+
 TEST(RunList, metrics_areCharactersAndRows)
 {
     const RunList surface(60, 20);
