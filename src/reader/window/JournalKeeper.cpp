@@ -14,7 +14,7 @@ namespace ls {
 
 namespace {
 
-// All visible forms, also those below boxes and other forms.
+// The visible forms that edit the book, also those below boxes and other forms.
 JournalWatch::Forms OpenForms()
 {
     JournalWatch::Forms forms;
