@@ -1,4 +1,4 @@
-// Rules whose texts would fill the memory: what comes before them takes more than 256 MiB by itself.
+// Rules that would fill the memory: with the text put before each they take more than 256 MiB.
 
 #include "AdvisorWorld.h"
 
