@@ -35,7 +35,7 @@ AdvForm::AdvForm(QWidget* parent, Book& book, AdvisorTables& tables, const Seams
 
 AdvForm::~AdvForm() = default;
 
-// Gives the text room for that many lines, as far as the screen is high enough; all else keeps its height.
+// Gives the text room for that many lines, or as many as the screen has room for. All else keeps its height.
 void AdvForm::SetHeightForLines(int lines)
 {
     ensurePolished();

@@ -121,10 +121,9 @@ bool AdvisorDialog::Stopped()
 void AdvisorDialog::AskNext()
 {
     Round round = Round::MadeGoal;
-    // The loop ends. Each round that does not stop it stores an answer or pushes a goal, and both tables hold
-    // at most 32,767 elements. Rounds never remove answers, and remove goals only by an answer that fired
-    // them.
-    // So the loop ends even if a load fails in each round and adds rules again.
+    // The loop ends: each round that does not stop it stores an answer or pushes a goal, and both tables hold
+    // at most 32,767 elements. Rounds never remove answers, and they remove a goal only when an answer
+    // settles it. So it ends even if a load fails in each round and adds rules again.
     while (round != Round::Stop) {
         m_tables.CurrentVar = m_inference.PickNextVariable();
         if (Stopped()) {

@@ -33,7 +33,7 @@ public:
     /// Takes the selected choice, as book text. If the dialogue is over, closes the window.
     void NextButton_Click(const std::string& answer);
 
-    /// Whether the dialogue is over, so that its button reads "Close".
+    /// Whether the dialogue is over and its button reads "Close".
     [[nodiscard]] bool Over() const { return m_over; }
 
     /// Where the last read left the file. This and a copy of the tables are the whole state of the dialogue.

@@ -6,7 +6,7 @@ namespace ls {
 
 struct RunningEdits;
 
-/// A form that edits the book, whose pending edits go into the journal.
+/// A form that edits the book. Its pending edits go into the journal.
 class EditSource
 {
 public:

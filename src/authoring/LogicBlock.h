@@ -41,7 +41,7 @@ struct BareEntry
 /// A part of a block that its tables cannot hold, or that would mean something else when written from them.
 struct LostPart
 {
-    int line = 0;     ///< of the block, from 1: its "<IXML>" line
+    int line = 0;     ///< in the block; 1 is its "<IXML>" line
     std::string what; ///< a whole sentence, as UTF-8: "The comment \"* old\" would be dropped."
 
     friend bool operator==(const LostPart&, const LostPart&) = default;

@@ -21,8 +21,8 @@ struct Book;
 inline constexpr std::array<const char*, 3> LogicKeywords = {AssumeWord.data(), TargetWord.data(),
                                                              DefineWord.data()};
 
-/// The rules of the logic editor. It edits the logic block of the topic on show, which must be in memory. The
-/// form passes it its events; it shows texts and lists through the view.
+/// The rules of the logic editor. It edits the logic block of the topic on show, which must be in memory. It
+/// gets the events of the form and shows texts and lists through the view.
 ///
 /// The texts in the boxes belong to the selected variable and choice. They are stored before anything is
 /// selected, added, removed, shown or saved, so no order of events can lose one.

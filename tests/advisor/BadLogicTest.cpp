@@ -118,7 +118,7 @@ TEST(BadLogic, valuesOfCommasOnly_areRead)
     const std::string commas(100000, ',');
     world.OpenTopic({("AV(1)=A(" + commas + ")").c_str(), "AV(2)=A(X)"}, {"<Q ID=A>a?</Q>"});
     world.Advise();
-    // The part before the first comma counts as an empty value; the rest is one value that no rule has.
+    // The first comma is dropped, as after an empty value. The rest counts as one value, which no rule has.
     EXPECT_EQ(world.view.Take(), Texts{});
     EXPECT_EQ(world.tables.RuleCount, 0);
     EXPECT_EQ(world.seams.end.Reason(), "no next variable after an automatic one-value answer");

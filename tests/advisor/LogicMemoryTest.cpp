@@ -1,4 +1,4 @@
-// Rules that would fill the memory: with the text put before each they take more than 256 MiB.
+// Rules that would fill the memory: the text that ASSUME puts before them takes more than 256 MiB in all.
 
 #include "AdvisorWorld.h"
 

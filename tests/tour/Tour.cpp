@@ -264,8 +264,8 @@ Tour::Fault Tour::WidenWindow()
     const int lines = m_bar->maximum();
     m_window.resize(m_window.width() + WidenBy, m_window.height() + WidenBy / 4);
     QTest::qWait(SettleMs);
-    // When the pane first grows, 2 of the pixels gained go to the gap beside the scroll bar. At scales such
-    // as 150 % the window's size is rounded to whole pixels, so the check allows 4.
+    // When the pane first grows, 2 units of the gain go to the gap beside the scroll bar. At scales such as
+    // 150 % the window's size is rounded to whole pixels, so the check allows 4.
     if (m_pane->width() < before + WidenBy - 4)
         return QStringLiteral("the pane is %1 wide after %2").arg(m_pane->width()).arg(before);
     if (m_bar->maximum() > lines)

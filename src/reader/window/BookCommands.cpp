@@ -155,8 +155,7 @@ void BookCommands::ShowScannedBook()
         return;
     }
     m_book.CurrentTopicName = m_book.StartTopic.empty() ? m_book.TopicNames(1) : m_book.StartTopic;
-    // The scan used the number to count. Left there, it would select the last of several topics with one
-    // name.
+    // The scan leaves its count here. With it the last of several topics with one name would be selected.
     m_book.CurrentTopicNo = 0;
     m_navigation.FillTopicList();
     m_navigation.GoToCurrentTopic();

@@ -35,7 +35,7 @@ public:
     /// unchanged, with its first topic shown. The file is in the recent files already.
     void OpenSaved();
 
-    /// Shows the first topic that is not removed of the book in memory, after its edits were recovered.
+    /// Shows the book in memory after its edits were recovered: the first topic that is not removed.
     void ShowRecovered();
 
     /// Forgets the open book, after asking.
