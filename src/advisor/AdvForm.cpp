@@ -112,9 +112,8 @@ void AdvForm::Unload()
 void AdvForm::NextButton_Click()
 {
     const std::string* const chosen = ItemAt(m_choices, m_ui->AnswerCombo->currentIndex());
-    const std::string answer =
-        // A copy, because the dialog may clear the choices.
-        chosen == nullptr ? std::string() : *chosen;
+    // A copy, because the dialog may clear the choices.
+    const std::string answer = chosen == nullptr ? std::string() : *chosen;
     RunGuarded([&] { m_dialog.NextButton_Click(answer); }, m_seams);
     if (m_seams.end.Ended()) {
         accept();

@@ -53,9 +53,8 @@ TEST_F(LogicLoaderTest, load_wholeBlock_fillsTables)
     world.Show("Guide");
     AdvisorReader reader(world);
     ASSERT_TRUE(reader.Load());
-    const std::size_t definitions =
-        // 13 characters of the tag and 2 of the line end; positions count from 1.
-        world.seams.files[world.path].find("<DEFINITIONS>") + 15 + 1;
+    // 13 characters of the tag and 2 of the line end; positions count from 1.
+    const std::size_t definitions = world.seams.files[world.path].find("<DEFINITIONS>") + 15 + 1;
     EXPECT_EQ(Serialize(tables), "rules:\n  RISK(HIGH)=AGE(OLD)\ntargets:\n  RISK\nvariables:\n  AGE@2\n"
                                  "  SMOKER@1\nloaded:\n  1\ncandidates:\nanswers:\ndefinitions at " +
                                      std::to_string(definitions) + "\ncurrent @0\n");
