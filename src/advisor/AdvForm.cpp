@@ -18,8 +18,8 @@ namespace ls {
 
 namespace {
 
-constexpr int LinesShownWhole = 15;   // of a question, without scrolling
-constexpr int WindowTitleHeight = 40; // with the borders, on any desktop
+constexpr int LinesShownWhole = 15;   // of a question that fits without scrolling
+constexpr int WindowTitleHeight = 40; // with the borders; enough for any desktop
 
 } // namespace
 
@@ -35,7 +35,7 @@ AdvForm::AdvForm(QWidget* parent, Book& book, AdvisorTables& tables, const Seams
 
 AdvForm::~AdvForm() = default;
 
-// Everything but the text keeps its height; a display that is too low for the whole gets what it can hold.
+// Gives the text room for that many lines, or as many as the screen has room for. All else keeps its height.
 void AdvForm::SetHeightForLines(int lines)
 {
     ensurePolished();
@@ -73,12 +73,13 @@ void AdvForm::ShowQuestion(const Question& question)
 void AdvForm::ShowAdvice(const std::string& /*identifier*/, const std::string& text)
 {
     ShowText(text);
-    FocusNext(); // before the list with the focus goes
+    FocusNext(); // before the list, which has the focus, is hidden
     m_ui->AnswerCombo->hide();
     m_ui->AnswerLabel->hide();
 }
 
-// A screen reader reads the description of what gets the focus: the text is heard when it comes.
+// The text is also the description of the controls that get the focus, so that a screen reader reads it
+// aloud.
 void AdvForm::ShowText(const std::string& text)
 {
     m_ui->MessageBox->setPlainText(ShownBookText(text));
@@ -91,7 +92,8 @@ void AdvForm::SetButtonCaption(const std::string& caption)
 {
     m_ui->NextButton->setText(u'&' + ShownBookText(caption)); // "Next", "Close"
     if (m_dialog.Over()) {
-        m_ui->AnswerCombo->setEnabled(false); // the only action left is the button
+        // The button is the only action left.
+        m_ui->AnswerCombo->setEnabled(false);
         FocusNext();
     }
 }
@@ -106,12 +108,12 @@ void AdvForm::Unload()
     accept();
 }
 
-// The event loop of the window cannot pass an exception on, so none may reach it from here.
+// The window's event loop cannot pass an exception on, so none may leave this function.
 void AdvForm::NextButton_Click()
 {
     const std::string* const chosen = ItemAt(m_choices, m_ui->AnswerCombo->currentIndex());
-    const std::string answer =
-        chosen == nullptr ? std::string() : *chosen; // the dialog may clear the choices
+    // A copy, because the dialog may clear the choices.
+    const std::string answer = chosen == nullptr ? std::string() : *chosen;
     RunGuarded([&] { m_dialog.NextButton_Click(answer); }, m_seams);
     if (m_seams.end.Ended()) {
         accept();

@@ -18,18 +18,18 @@ namespace ls {
 struct AdvisorTables;
 struct Book;
 
-/// The advisor's window: one question at a time with its choices, and in the end the advice.
+/// The advisor's window: shows one question at a time with its choices, and at the end the advice.
 class AdvForm : public QDialog, private AdvisorView
 {
     Q_OBJECT
 
 public:
-    /// For the topic on show, which must have a logic block.
+    /// The topic on show must have a logic block.
     AdvForm(QWidget* parent, Book& book, AdvisorTables& tables, const Seams& seams);
     ~AdvForm() override;
 
-    /// Loads the logic, with the boxes that this may bring, and shows the window until it is closed. A fault
-    /// that ends the program meanwhile keeps it from coming up.
+    /// Loads the logic, which may show boxes, then shows the window until it is closed. If a fault ends the
+    /// program during loading, the window is not shown.
     void Run();
 
 private:
@@ -45,7 +45,7 @@ private:
 
     std::unique_ptr<Ui::AdvForm> m_ui;
     Seams m_seams;
-    std::vector<std::string> m_choices; ///< of the list, as book text
+    std::vector<std::string> m_choices; ///< those in the list, as book text
     AdvisorDialog m_dialog;
 };
 

@@ -8,8 +8,8 @@ namespace ls {
 struct AdvisorTables;
 struct Book;
 
-/// What the reading half of the advisor works on. One dialogue has one cursor: where its last read left it
-/// decides where the next text is searched. The referents outlive it.
+/// What the parts of the advisor that read the book work on. A dialogue has one cursor, and the next text is
+/// searched from where the last read left it. The referents must outlive the context.
 struct AdvisorContext
 {
     const Book& book;

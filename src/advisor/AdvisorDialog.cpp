@@ -21,7 +21,7 @@ BookFile& OpenFile(const Book& book)
     return *book.File;
 }
 
-// The items of the list: the empty one, "? - unsure" when offered, then the values between the commas.
+// The items of the list: an empty one, "? - unsure" if offered, then the values between the commas.
 std::vector<std::string> Choices(const CollectedValues& values, const std::string& unsure)
 {
     std::vector<std::string> choices{std::string()};
@@ -105,7 +105,7 @@ void AdvisorDialog::Close()
     m_view.SetButtonCaption("Close");
 }
 
-// Whether the program has ended or a table is full: the dialogue cannot go on.
+// Whether the dialogue cannot go on, because the program has ended or a table is full.
 bool AdvisorDialog::Stopped()
 {
     if (m_seams.end.Ended()) {
@@ -121,9 +121,9 @@ bool AdvisorDialog::Stopped()
 void AdvisorDialog::AskNext()
 {
     Round round = Round::MadeGoal;
-    // Every round that goes on has stored an answer or pushed a goal. Both tables end at 32,767, where the
-    // round stops; answers are never taken back here, and goals only by an answer that fired them. So even a
-    // book whose rules grow by a load that fails time and again comes to an end.
+    // The loop ends: each round that does not stop it stores an answer or pushes a goal, and both tables hold
+    // at most 32,767 elements. Rounds never remove answers, and they remove a goal only when an answer
+    // settles it. So it ends even if a load fails in each round and adds rules again.
     while (round != Round::Stop) {
         m_tables.CurrentVar = m_inference.PickNextVariable();
         if (Stopped()) {
@@ -145,8 +145,8 @@ void AdvisorDialog::AskNext()
     }
 }
 
-// Asks the current variable, or settles it without the reader: a single value needs no question, and what
-// has rules but no question becomes a goal.
+// Asks the current variable, or settles it without asking: a single value becomes the answer, and a variable
+// with rules but without a question becomes a goal.
 AdvisorDialog::Round AdvisorDialog::TryVariable()
 {
     const std::string& var = m_tables.CurrentVar;
@@ -203,14 +203,14 @@ void AdvisorDialog::DispQ(const std::string& text, const CollectedValues& values
         {m_tables.CurrentVar, text, Choices(values, m_tables.UnsureAnswer), values.IsDerived});
 }
 
-// The advice of the default goal "AV" is a bare value, which names no variable. The topic's name stands in
-// its place; it is rarely registered, so the reader sees a message that it cannot be found, and the advice is
-// searched from where the last read left the file. Kept so: books are written for it.
+// Intended: the advice of the default goal "AV" is a bare value without a variable, so the topic's name is
+// used as the variable. It is rarely registered. The user then sees a message that it cannot be found, and
+// the advice is searched from where the last read left the file. Books rely on this.
 void AdvisorDialog::DispA(const std::string& advice)
 {
     const std::size_t open = advice.find('(');
     const std::string var = open == std::string::npos ? m_book.CurrentTopicName : advice.substr(0, open);
-    std::string ignored; // the advice on show stands
+    std::string ignored; // the advice on show stays
     m_definitions.GotoTopicForVar(var, ignored);
     if (m_seams.end.Ended()) {
         return;

@@ -14,41 +14,40 @@ struct AdvisorTables;
 struct Book;
 struct Question;
 
-/// One question-and-answer dialogue for the topic on show.
+/// A question-and-answer dialogue for the topic on show.
 ///
-/// It is made when the window opens (the rule table is cleared then) and lives as long as the window does.
-/// When a fault of the rules has ended the program (`seams.end`), nothing is shown any more, and every event
-/// returns at once.
+/// It is made when the window opens, which clears the rule table, and lives as long as the window. After a
+/// fault of the rules has ended the program (`seams.end`) it shows nothing, and every event returns at once.
 class AdvisorDialog
 {
 public:
-    /// The book's file must be open, and the book's current topic have a logic block (`LogicPos`). All
-    /// referents outlive the dialogue.
+    /// The book's file must be open, and its current topic must have a logic block (`LogicPos`). All
+    /// referents must outlive the dialogue.
     AdvisorDialog(const Book& book, AdvisorTables& tables, const Seams& seams, AdvisorView& view);
     AdvisorDialog(const AdvisorDialog&) = delete;
     AdvisorDialog& operator=(const AdvisorDialog&) = delete;
 
-    /// Loads the topic's logic and shows the first question, the advice, or why there is neither.
+    /// Loads the topic's logic and shows the first question, or the advice, or why there is neither.
     void Form_Load();
 
-    /// Takes the selected choice, as book text, or closes the window when the dialogue is over.
+    /// Takes the selected choice, as book text. If the dialogue is over, closes the window.
     void NextButton_Click(const std::string& answer);
 
     /// Whether the dialogue is over and its button reads "Close".
     [[nodiscard]] bool Over() const { return m_over; }
 
-    /// Where the dialogue's last read left the file. With a copy of the tables that is all of its state.
+    /// Where the last read left the file. This and a copy of the tables are the whole state of the dialogue.
     [[nodiscard]] FilePos Position() const { return m_cursor.Position(); }
 
-    /// Goes on from a state in which a question was on show: the tables have been put back to what they were
-    /// then, and this is the position of that moment. To be called before the program has ended only.
+    /// Goes back to a state in which a question was on show. The caller has restored the tables of that
+    /// state; `position` belongs to it. Call only while the program has not ended.
     void Resume(FilePos position);
 
 private:
-    /// What a round of AskNext came to.
+    /// The result of a round of AskNext.
     enum class Round
     {
-        Stop,     ///< a question, advice or a text is on show, or a fault ended the dialogue
+        Stop,     ///< a question, advice or another text is on show, or a fault ended the dialogue
         Answered, ///< the variable's only value was asserted
         MadeGoal, ///< the variable is to be derived
     };

@@ -23,7 +23,7 @@ AdvisorEvent MakeEvent(Kind kind, std::string name, std::string text = {})
     return event;
 }
 
-// Boxes as events.
+// Reports boxes as events.
 class PlayerMessages : public Messages
 {
 public:
@@ -42,14 +42,14 @@ protected:
     std::optional<std::string> ShowInputBox(const std::string&, const std::string&,
                                             const std::string&) override
     {
-        return std::nullopt; // the advisor has none
+        return std::nullopt; // the advisor never asks for a text
     }
 
 private:
     AdvisorPlayer& m_player;
 };
 
-// What the window would show, as events; it keeps the question on show.
+// Reports as events what the window would show, and keeps the current question.
 class PlayerView : public AdvisorView
 {
 public:
@@ -100,7 +100,7 @@ public:
 
     [[nodiscard]] const AdvisorEvent& Shown() const { return m_question; }
 
-    // The choice of that text as it stands in the book; empty selects the empty item.
+    // The choice with that text, as in the book; an empty text selects the empty item.
     [[nodiscard]] std::optional<std::string> Choose(const std::string& answer) const
     {
         if (answer.empty()) {
@@ -118,10 +118,10 @@ private:
     AdvisorPlayer& m_player;
     const AdvisorTables& m_tables;
     AdvisorEvent m_question;
-    std::vector<std::string> m_bookChoices; ///< as in m_question, in the book's bytes
+    std::vector<std::string> m_bookChoices; ///< those of m_question, as book text
 };
 
-// Answers until the dialogue is over or has no valid answer.
+// Answers until the dialogue is over, or has no more or no valid answer.
 void Play(AdvisorDialog& dialog, const PlayerView& view, AdvisorPlayer& player, const ProgramEnd& end)
 {
     while (!dialog.Over() && !end.Ended()) {
@@ -147,11 +147,11 @@ void Play(AdvisorDialog& dialog, const PlayerView& view, AdvisorPlayer& player, 
 
 bool ShowForAdvisor(Book& book, const Seams& seams, const std::string& title)
 {
-    constexpr int anyWidth = 80; // the lines are not used
+    constexpr int anyWidth = 80; // any, since the lines are not used
     const std::optional<std::string> bookTitle = ToBook(title);
     book.LogicPos = 0;
     if (!bookTitle && !book.IsPlainText()) {
-        // No topic can have a character in its name that no book can hold.
+        // A name with characters that books cannot hold belongs to no topic.
         seams.messages.MsgBox("Topic [" + FromPath(title) + "] was not found.", Icon::Warning);
         return false;
     }

@@ -14,7 +14,7 @@ namespace ls {
 struct AdvisorTables;
 struct Book;
 
-/// Something that happened in a dialogue. Texts are UTF-8.
+/// An event in a dialogue. Texts are UTF-8.
 struct AdvisorEvent
 {
     enum class Kind
@@ -22,12 +22,12 @@ struct AdvisorEvent
         Run,           ///< a dialogue begins: `run`, `name` is the topic's title
         NoAdvisor,     ///< the topic `name` has no logic block
         Question,      ///< `name` is the variable; `text`, `choices`, `derived`
-        Answer,        ///< `name` is what the reader chose
-        InvalidAnswer, ///< `name` is not offered; `choices`. The dialogue ends
-        Waiting,       ///< the answers ran out at the question for `name`. The dialogue ends
+        Answer,        ///< `name` is the reader's choice
+        InvalidAnswer, ///< `name` is not offered; `choices`; ends the dialogue
+        Waiting,       ///< no answer is left for the question about `name`; ends the dialogue
         Trace,         ///< after an answer: `rules` and `targets`
         Box,           ///< `name` is its text; `icon`, `reply`
-        Text,          ///< `text` stands in the text box
+        Text,          ///< `text` is in the text box
         Advice,        ///< `name` is the identifier; `text`
         Button,        ///< the button reads `name`
         ProgramEnds,   ///< `name` is the reason
@@ -47,30 +47,31 @@ struct AdvisorEvent
     friend bool operator==(const AdvisorEvent&, const AdvisorEvent&) = default;
 };
 
-/// Who takes part in dialogues without a window: a script, or a person at a terminal.
+/// The other side of a dialogue without a window: a script, or a person at a terminal.
 struct AdvisorPlayer
 {
-    /// Told everything, in order.
+    /// Receives all events in order.
     std::function<void(const AdvisorEvent&)> event;
 
-    /// The reader's answer (UTF-8) to a question; nothing when there are no more answers.
+    /// The reader's answer (UTF-8) to a question; nothing if there are no more answers.
     std::function<std::optional<std::string>(const AdvisorEvent& question)> answer;
 
-    /// The reply to a box that asks.
+    /// The reply to a box with a question.
     std::function<Reply(const std::string& text, Buttons buttons)> reply;
 
     bool trace = false;
 };
 
-/// Makes the topic of that title (UTF-8) the one on show, as the main window's Go does; false when it has no
+/// Makes the topic with that title (UTF-8) the one on show, as Go in the main window does. False if it has no
 /// logic block, or after a message.
 [[nodiscard]] bool ShowForAdvisor(Book& book, const Seams& seams, const std::string& title);
 
-/// Runs one dialogue on the topic of that title (UTF-8), as the main window's Go and Advisor buttons do,
-/// until it is over, an answer is not offered, or there are no more answers. `run` numbers it in the events.
+/// Runs a dialogue on the topic with that title (UTF-8), as Go and Advisor in the main window do. It runs
+/// until the dialogue is over, an answer is not offered, or no answers are left. `run` is its number in the
+/// events.
 ///
-/// Boxes go to the player, not to `seams.messages`. When the fault of a rule ends the program, that is the
-/// last event, and `seams.end` tells.
+/// Boxes go to the player instead of `seams.messages`. If a fault of the rules ends the program, the last
+/// event is `ProgramEnds`, and `seams.end` has ended.
 void RunAdvisor(Book& book, AdvisorTables& tables, const Seams& seams, AdvisorPlayer& player, int run,
                 const std::string& title);
 

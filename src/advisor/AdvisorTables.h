@@ -10,7 +10,7 @@
 
 namespace ls {
 
-/// Where the question for a variable is found.
+/// The topic in which the question for a variable is found.
 struct VarTopic
 {
     std::string Name; ///< upper case
@@ -21,32 +21,33 @@ struct VarTopic
 struct Candidate
 {
     std::string Name;
-    Count16 Level; ///< how often it occurs in the conditions of the rules for the goal
+    Count16 Level; ///< how many conditions of the goal's rules name it
 };
 
-/// A known fact. Answers outlive the dialogue in which they were given.
+/// A known fact. Answers remain after the dialogue in which they were given.
 struct Answer
 {
     std::string Var;
     std::string Value;
     Count16 Topic;        ///< where the variable's question is defined
-    bool Derived = false; ///< concluded by a rule; otherwise given by the reader
+    bool Derived = false; ///< concluded by a rule; otherwise given by the user
 };
 
-/// What the choices of a derived variable offer besides its values. Lower case: no value of a rule equals it.
+/// What a derived variable offers besides its values. It has lower case letters, so no rule's value equals
+/// it.
 inline constexpr char UnsureText[] = "? - unsure";
 
-/// The advisor's state: rules, goals, and where questions are found. Everything but the answers is built anew
-/// for each dialogue.
+/// The advisor's state: rules, goals, and the topics of questions. Each dialogue builds everything but the
+/// answers anew.
 ///
-/// Elements behind a table's count are leftovers and mean nothing.
+/// Elements past a table's count are meaningless leftovers.
 struct AdvisorTables
 {
-    Array1<std::string> LogicRules; ///< `VAR(VALUE)=A(X)B(Y)`, rewritten as answers come in
+    Array1<std::string> LogicRules; ///< `VAR(VALUE)=A(X)B(Y)`, rewritten by each answer
     Count16 RuleCount;
-    RuleIndex Index; ///< follows the rules; see ClearRules
+    RuleIndex Index; ///< of `LogicRules`; see ClearRules
 
-    Array1<std::string> Targets; ///< 1 is the dialogue's goal, the last one the goal being pursued
+    Array1<std::string> Targets; ///< 1 is the dialogue's goal; the last is the current one
     Count16 TargetCount;
 
     Array1<VarTopic> VarTopics;
@@ -60,29 +61,29 @@ struct AdvisorTables
 
     Array1<Answer> Answers;
     Count16 AnswerCount;
-    std::uint32_t AnswersOrder = 0; ///< the book's `TopicOrder` to which the answers' topic numbers belong
+    std::uint32_t AnswersOrder = 0; ///< the book's `TopicOrder` for which the answers' topic numbers hold
 
-    FilePos DefinitionsPos = 0; ///< behind the "<DEFINITIONS>" line of the topic that was loaded first
-    Count16 FirstTopic;         ///< the topic on which the advisor was opened
+    FilePos DefinitionsPos = 0; ///< after the "<DEFINITIONS>" line of the topic loaded first
+    Count16 FirstTopic;         ///< the topic for which the advisor was opened
 
-    std::string CurrentVar;  ///< whose question is on show
-    Count16 CurrentVarTopic; ///< where that question is defined
+    std::string CurrentVar;  ///< its question is on show
+    Count16 CurrentVarTopic; ///< the topic with that question
     std::string UnsureAnswer;
 };
 
-/// Forgets the answers of earlier dialogues. It happens by itself when the book or the order of its topics
-/// changed since they were given: their topic numbers would mean other topics.
+/// Forgets the answers of earlier dialogues. This happens automatically when the book or the order of its
+/// topics has changed, because the answers refer to topics by number.
 void ForgetAnswers(AdvisorTables& tables);
 
-/// Empties the rule table. Rules that were changed by anybody but the inference need it too, or a cleared
-/// `Index`, since the inference trusts its index.
+/// Empties the rule table. Code other than the inference that changes rules must call this or clear `Index`,
+/// because the inference trusts that index.
 void ClearRules(AdvisorTables& tables);
 
-/// The whole state as text, a line for each element, for tests and traces.
+/// The whole state as text for tests and traces, one line for each element.
 [[nodiscard]] std::string Serialize(const AdvisorTables& tables);
 
-/// Adds an element to a table behind its count; false, and nothing changed, when the count is at its limit. A
-/// full table becomes `step` elements larger.
+/// Appends an element to a table. A full table grows by `step` elements. False, with nothing changed, if the
+/// count is at its limit.
 template <typename T>
 [[nodiscard]] bool Append(Array1<T>& table, Count16& count, T element, int step)
 {
@@ -94,12 +95,12 @@ template <typename T>
     return true;
 }
 
-/// By how much the tables grow past their bounds.
+/// The number of elements by which a full table grows.
 inline constexpr int RuleGrowthStep = 50;
 inline constexpr int TargetGrowthStep = 10;
 inline constexpr int AdvisorGrowthStep = 20;
 
-/// The elements that a table's count covers, as a range.
+/// The counted elements of a table, as a range.
 template <typename Table>
 class Counted
 {

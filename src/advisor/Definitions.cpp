@@ -19,8 +19,8 @@ namespace {
 
 constexpr std::size_t None = std::string::npos;
 
-// Where `UpperCase(line)` holds the tag, which is in upper case and begins with "<": every line in front of
-// an entry is searched for it, so none is copied.
+// Finds `tag` in `line`, ignoring the line's letter case; the tag is in upper case and begins with "<". It
+// makes no upper-case copy, because every line before an entry is searched.
 std::size_t FindUpper(std::string_view line, std::string_view tag)
 {
     std::size_t at = line.find(tag.front());
@@ -30,7 +30,7 @@ std::size_t FindUpper(std::string_view line, std::string_view tag)
     return at;
 }
 
-// The text of one entry as it grows line by line.
+// Collects the text of one entry line by line.
 class EntryText
 {
 public:
@@ -39,18 +39,18 @@ public:
     {
     }
 
-    // Takes the next piece; true when the entry is complete.
+    // Adds the next piece. True if the entry is complete.
     bool Take(std::string_view piece)
     {
-        const std::size_t closing = piece.find(m_closing); // as written: "</q>" does not close an entry
+        // Case matters: "</q>" does not close an entry.
+        const std::size_t closing = piece.find(m_closing);
         const bool last = closing != None;
         piece = piece.substr(0, closing);
         if (m_text.size() + piece.size() > MaxEntryText) {
             m_text += "???";
             return true;
         }
-        // An empty line inside the entry is kept as a bare line end; one before its text or at its end is
-        // not.
+        // An empty line adds a line end, unless it comes before the text or is the last one.
         piece = Trim(piece);
         if (!m_text.empty() && !(last && piece.empty())) {
             m_text += LineEnd;
@@ -76,7 +76,7 @@ void Definitions::ReadFailed(const FileError& error, std::string_view action)
         Icon::Critical);
 }
 
-// A topic that was added and never saved has no place in the file.
+// A topic that was added but not saved has no place in the file.
 FileError Definitions::SeekTopic(Count16 topic)
 {
     const bool inTable = topic > 0 && topic <= m_context.book.TopicPos.UpperBound();
@@ -104,7 +104,7 @@ void Definitions::LoadTopicIfNeeded(Count16 topic, std::string& advice)
     LoadLogic(m_context, m_inference, topic, true, advice);
 }
 
-// The scan also stops at the end of the definitions or of the block, in a topic that has none.
+// If the topic has no definitions, the scan stops at "</DEFINITIONS>" or the end of the block.
 FileError Definitions::SkipToDefinitions()
 {
     bool ownHeader = true;
@@ -138,7 +138,7 @@ Count16 Definitions::GotoTopicForVar(const std::string& var, std::string& advice
                                         Icon::Exclamation);
         return 0;
     }
-    const Count16 topic = found->Topic; // loading below may move the table
+    const Count16 topic = found->Topic; // a copy, because loading may reallocate the table
     if (topic == tables.FirstTopic) {
         m_context.cursor.Seek(tables.DefinitionsPos);
         return topic;
@@ -154,8 +154,8 @@ Count16 Definitions::GotoTopicForVar(const std::string& var, std::string& advice
     return topic;
 }
 
-// Reads one line of an entry, valid until the next one; false at the end of the topic or the file, and after
-// a read error's message.
+// Reads one line of an entry; it is valid until the next call. False at the end of the topic or the file, and
+// after the message about a read error.
 bool Definitions::ReadPiece(std::string_view& line)
 {
     if (m_context.cursor.AtEnd()) {
@@ -169,7 +169,7 @@ bool Definitions::ReadPiece(std::string_view& line)
     return !StartsTopic(line);
 }
 
-// Passes over lines up to the one that holds the opening tag; `piece` gets what follows the tag.
+// Skips lines up to the one with the opening tag; `piece` gets the text after the tag.
 bool Definitions::FindTag(const std::string& openTag, std::string_view& piece)
 {
     std::string_view line;

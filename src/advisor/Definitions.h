@@ -11,27 +11,29 @@ namespace ls {
 
 class Inference;
 
-/// The text of an entry is cut at the last whole line within this many characters, and "???" added.
+/// A longer text of an entry is cut after the last whole line within this many characters, and "???" is
+/// added.
 inline constexpr std::size_t MaxEntryText = 32000;
 
-/// Finds the questions and the advice texts in the definitions of the topics.
+/// Finds questions and advice texts in the definitions of topics.
 class Definitions
 {
 public:
     Definitions(AdvisorContext& context, Inference& inference) : m_context(context), m_inference(inference) {}
 
-    /// Positions the cursor at the start of the definitions that hold the question for `var`, and returns
-    /// their topic. A topic that was not loaded yet is loaded first, and answers from earlier dialogues may
-    /// then settle the goal: `advice` tells. Returns 0 after a message when no question is registered for the
-    /// variable; the cursor stays where it is.
+    /// Moves the cursor to the start of the definitions with the question for `var`, and returns their topic.
+    /// If that topic is not loaded yet, loads it first; answers of earlier dialogues may then settle the
+    /// goal, which sets `advice`.
+    ///
+    /// Returns 0, after a message, if no question is registered for the variable. The cursor then does not
+    /// move.
     Count16 GotoTopicForVar(const std::string& var, std::string& advice);
 
-    /// Loads a further topic's logic, once in a dialogue. A load that failed is tried again the next time.
+    /// Loads another topic's logic, once in a dialogue. A load that failed is tried again at the next call.
     void LoadTopicIfNeeded(Count16 topic, std::string& advice);
 
-    /// Reads the text of the entry that `openTag` opens, e.g. `<Q ID=AGE>` (in upper case), searching from
-    /// the cursor's position on. Its lines are trimmed and joined by CR LF. Empty when there is no such
-    /// entry.
+    /// Reads the text of the first entry after the cursor that begins with `openTag`, for example `<Q
+    /// ID=AGE>` (in upper case). Its lines are trimmed and joined by CR LF. Empty if there is no such entry.
     std::string ReadTaggedText(const std::string& openTag);
 
 private:

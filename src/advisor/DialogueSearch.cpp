@@ -16,17 +16,17 @@
 #include <unordered_set>
 #include <utility>
 
-// How all dialogues of a topic are gone through:
+// How the search visits all dialogues of a topic:
 //
-// 1. The search runs the real dialogue, with a view and boxes that only note what is shown.
-// 2. A question with the tables of that moment is a state; the states wait in a queue, so that an end is
-//    first found with the fewest answers.
-// 3. For each choice of a state the tables are put back and the choice is answered, which leads to a state
-//    or to an end.
-// 4. A state gets a key of what can still matter: rules, goals, the question, and answers while a topic is
-//    to be loaded. A key that is known is not followed again.
-// 5. Limits on states, on the texts held and on the texts gone through end a search that would take too
-//    long.
+// 1. It runs the real dialogue, with a view and message boxes that only record what is shown.
+// 2. A question with the tables of that moment is a state. States wait in a queue, so the first way found to
+//    an end has the fewest answers.
+// 3. For each choice of a state the tables are restored and the choice is answered, which leads to a state or
+//    to an end.
+// 4. A key of each state has all that can still matter: rules, goals, the question, and the answers while a
+//    topic is still to be loaded. A state with a known key is not visited again.
+// 5. Limits on the number of states, on the texts held and on the texts processed stop a search that would
+//    take too long.
 //
 // ExploreAdvisor.everyWay_isTheOneThatReadersGo compares it with dialogues that are played one by one.
 
@@ -36,7 +36,7 @@ namespace {
 
 using Kind = DialogueEnd::Kind;
 
-// Boxes are kept for the end to which they belong.
+// Records boxes, for the end that they lead to.
 class KeptMessages : public Messages
 {
 public:
@@ -84,7 +84,7 @@ std::size_t RuleBytes(const AdvisorTables& tables)
     return bytes;
 }
 
-// Two hashes side by side: among a few thousand states nobody will ever see both agree by chance.
+// Two hashes. For a few thousand states it is practically impossible that both agree by chance.
 class StateKey
 {
 public:
@@ -93,8 +93,9 @@ public:
         for (const char c : text) {
             Byte(static_cast<unsigned char>(c));
         }
-        Byte(
-            0xFF); // parts the texts; a text with this byte would have to be one of a pair that differs there
+        // Separates the texts: "A", "BC" must differ from "AB", "C". Only texts with this byte could be
+        // confused.
+        Byte(0xFF);
     }
     void Add(int number) { Add(std::to_string(number)); }
 
@@ -112,8 +113,7 @@ private:
     std::uint64_t m_second = 0x2545F4914F6CDD1DU;
 };
 
-// Whether a topic is still to be loaded: only then do earlier answers matter, which are asserted in its
-// rules.
+// Whether a topic is still to be loaded. Only then do earlier answers matter, because loading asserts them.
 bool MoreToLoad(const AdvisorTables& tables)
 {
     const Counted loaded(tables.LogicTopics, tables.LogicTopicCount);
@@ -148,7 +148,7 @@ std::pair<std::uint64_t, std::uint64_t> KeyOf(const AdvisorTables& tables)
     return key.Value();
 }
 
-// A question on show, with what is needed to answer it again and again.
+// A question on show, with all that is needed to answer it repeatedly.
 struct State
 {
     AdvisorTables tables;
@@ -205,7 +205,7 @@ private:
         }
     }
 
-    // What the last step came to: another question, or an end.
+    // Handles the result of the last step: another question or an end.
     void TakeOutcome(std::vector<GivenAnswer> answers)
     {
         DialogueEnd end;
@@ -228,7 +228,7 @@ private:
         m_view = KeptView();
     }
 
-    // The dialogue is over without advice.
+    // Handles the end of a dialogue without advice.
     void TakeFailure(DialogueEnd end)
     {
         const auto begins = [this](std::string_view text) { return m_view.text.starts_with(text); };
@@ -239,7 +239,8 @@ private:
             end.kind = Kind::NoText;
             end.name = m_tables.CurrentVar;
         } else if (!end.boxes.empty() && end.boxes.back() == "Overflow") {
-            m_map.cut = m_stopped = true; // the dialogue keeps a full table in mind and cannot go back
+            // The dialogue remembers that a table was full and cannot go back.
+            m_map.cut = m_stopped = true;
             return;
         } else {
             end.kind = begins("Failure loading") ? Kind::LoadFailed : Kind::NoQuestion;
@@ -257,7 +258,7 @@ private:
         }
     }
 
-    // Where readers are depends on the way: the same advice may come up with its text, or without.
+    // The same advice may have its text or none, depending on the answers before it.
     void AddAdvice(DialogueEnd end)
     {
         if (m_known.emplace(end.kind, end.name + '\n' + end.text).second) {

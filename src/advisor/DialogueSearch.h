@@ -11,7 +11,7 @@ namespace ls {
 struct Book;
 class Progress;
 
-/// An answer of a reader, as book text.
+/// A user's answer, as book text.
 struct GivenAnswer
 {
     std::string var;
@@ -20,16 +20,16 @@ struct GivenAnswer
     friend bool operator==(const GivenAnswer&, const GivenAnswer&) = default;
 };
 
-/// A way in which dialogues of a topic end.
+/// An end of a topic's dialogues.
 struct DialogueEnd
 {
     enum class Kind
     {
-        Advice,      ///< `name` is its identifier (book text), `text` what the reader sees
-        DeadEnd,     ///< no rule is left that could lead to advice; `text` is what the reader sees
-        NoText,      ///< the question for a variable has no text; `text` is what the reader sees
-        NoQuestion,  ///< a variable is registered nowhere; `name` is the box that tells so (UTF-8)
-        LoadFailed,  ///< the logic cannot be loaded; `name` is the box that tells why (UTF-8)
+        Advice,      ///< `name` is its identifier (book text), `text` is shown
+        DeadEnd,     ///< no rule can lead to advice any more; `text` is shown
+        NoText,      ///< the question for a variable has no text; `text` is shown
+        NoQuestion,  ///< a variable is not registered; `name` is the box that says so (UTF-8)
+        LoadFailed,  ///< the logic cannot be loaded; `name` is the box that says why (UTF-8)
         ProgramEnds, ///< `name` is the reason
     };
 
@@ -37,33 +37,33 @@ struct DialogueEnd
     std::string name;
     std::string text;
     std::vector<GivenAnswer> answers; ///< a shortest list that leads here
-    std::vector<std::string> boxes;   ///< what boxes said on the way from the last answer to here, UTF-8
+    std::vector<std::string> boxes;   ///< boxes shown between the last answer and the end, UTF-8
 
     friend bool operator==(const DialogueEnd&, const DialogueEnd&) = default;
 };
 
-/// How far a search goes.
+/// The limits of a search.
 struct SearchLimits
 {
-    int states = 1000;                         ///< questions with the rules that are left behind them
-    std::size_t ruleBytes = 256 * 1024 * 1024; ///< of rule texts gone through, for rule bases of any size
+    int states = 1000;                         ///< different states: a question and the rules left
+    std::size_t ruleBytes = 256 * 1024 * 1024; ///< of rule texts processed, which bounds the time
     std::size_t heldBytes = 64 * 1024 * 1024;  ///< of rule texts held at once
     bool everyWay = false;                     ///< see `DialogueMap::ends`
 };
 
-/// Every way in which the dialogues of a topic can end.
+/// All ends of a topic's dialogues.
 struct DialogueMap
 {
-    /// Those with the fewest answers first; each kind and name once. When every way is asked for, advice is
-    /// kept once for each text that comes up with it, and each other end by itself.
+    /// The ends with the fewest answers come first. Each kind and name is listed once. If `everyWay` is set,
+    /// an advice is listed once for each text that it has, and every other end each time.
     std::vector<DialogueEnd> ends;
-    int states = 0;   ///< how many different questions, by what is left to ask, were looked at
-    bool cut = false; ///< a limit was met, a table was full, or it was cancelled: there may be more
+    int states = 0;   ///< the number of different states visited
+    bool cut = false; ///< stopped by a limit, a full table or the user: there may be more ends
 };
 
-/// Holds all dialogues on the current topic of the book (`CurrentTopicNo`, `CurrentTopicName`, `LogicPos`),
-/// breadth first, by the very rules by which readers are asked. States in which the same is left to be asked
-/// are gone through once. Nobody sees a box, and no fault ends the program.
+/// Searches all dialogues on the current topic of the book (`CurrentTopicNo`, `CurrentTopicName`,
+/// `LogicPos`), breadth first, by the same rules as a dialogue with a user. States with the same questions
+/// left are visited once. It shows no box, and no fault ends the program.
 [[nodiscard]] DialogueMap SearchDialogues(const Book& book, const Seams& seams, const SearchLimits& limits,
                                           Progress* progress);
 

@@ -14,14 +14,14 @@
 
 // How the advisor reasons:
 //
-// 1. The rules are texts, and an answer rewrites them: a met condition is cut out, and a contradicted rule
-//    is dropped.
+// 1. The rules are texts, and an answer rewrites them: a met condition is cut out, and a contradicted rule is
+//    dropped.
 // 2. A rule fires when nothing is left after its "=".
 // 3. One pass over the rules finds the highest goal with a fired rule, and its value is asserted like an
 //    answer.
-// 4. The conditions of the rules for the goal pursued are counted, and the variable that occurs most is
-//    asked next.
-// 5. The index names the places in a rule, and only odd rules are searched.
+// 4. The variable that occurs most often in the conditions of the rules for the current goal is asked next.
+// 5. An index knows the places of the variables in each rule, so only rules of an odd form are searched as
+//    text.
 //
 // InferenceModel.randomRules_giveWhatThePlainReadingGives compares it with the plain rule, and
 // DialogueModel.randomBooks_playAsThePlainReadingDoes does so for whole dialogues.
@@ -32,7 +32,7 @@ namespace {
 
 constexpr std::string_view AdviceGoal = "AV";
 
-// The value of the first place where the rule's text holds the head "VAR(".
+// The value after the first "VAR(" (`head`) in the rule's text.
 std::optional<std::string_view> ValueIn(std::string_view rule, std::string_view head)
 {
     const std::size_t at = rule.find(head);
@@ -41,7 +41,7 @@ std::optional<std::string_view> ValueIn(std::string_view rule, std::string_view 
     return close == std::string_view::npos ? std::nullopt : std::optional(rule.substr(from, close - from));
 }
 
-// The same without a search in the text.
+// The same by the rule's terms, without searching its text.
 std::optional<std::string_view> ValueByTerms(const RuleIndex::Terms& terms, const RuleIndex::Matches& matches,
                                              std::string_view rule)
 {
@@ -56,7 +56,7 @@ std::string Fact(std::string_view var, std::string_view value)
 
 } // namespace
 
-// A goal for which a rule has fired, and the value that it got.
+// A goal with a fired rule, and its value.
 struct Inference::Conclusion
 {
     int target = 0;
@@ -70,14 +70,14 @@ void Inference::Overflow()
     ShowOverflow(m_seams.messages);
 }
 
-// The index, with all rules in it.
+// The index, brought up to date.
 RuleIndex& Inference::Index() const
 {
     m_tables.Index.Follow(m_tables.LogicRules, m_tables.RuleCount);
     return m_tables.Index;
 }
 
-// ReduceRule without a search in the text: a place where it finds "VAR(" is a term whose name ends in VAR.
+// The same as ReduceRule without searching the text: each place of "VAR(" is a term whose name ends in VAR.
 void Inference::ReduceByTerms(int number, const RuleIndex::Matches& matches, std::string_view var,
                               std::string_view value)
 {
@@ -100,7 +100,7 @@ void Inference::ReduceByTerms(int number, const RuleIndex::Matches& matches, std
     rule.erase(at, first->close + 1 - at);
     if (index.Name(first->name).size() == var.size()) {
         index.Cut(number, *first);
-    } else { // the rest of the longer name joins what follows
+    } else { // the rest of the longer name now belongs to the next term
         index.Update(number, rule);
     }
 }
@@ -143,9 +143,10 @@ void Inference::ReportMalformed(const std::string& rule)
                             Icon::Exclamation);
 }
 
-// What goal by goal, each with a look through the rules, would find: the highest goal that a rule fired for,
-// by the first of its rules. A malformed rule stops a look that has not found its rule before it. One pass
-// notes the fired rules in front of the first malformed one; only those can be found by any look.
+// The highest goal with a fired rule, and the value of the first such rule.
+//
+// Same result as scanning all rules once per goal, in one pass. A malformed rule stops a scan that has not
+// found its rule before it, so only fired rules before the first malformed one are noted.
 std::optional<Inference::Conclusion> Inference::FirstConclusion(int highestTarget)
 {
     std::unordered_map<std::string_view, std::string_view> fired;
@@ -176,7 +177,7 @@ std::optional<Inference::Conclusion> Inference::FirstConclusion(int highestTarge
     return std::nullopt;
 }
 
-// Keeps a concluded fact among the answers, once for a variable and topic; false when there is no room.
+// Adds a concluded fact to the answers, once for each variable and topic. False if there is no room.
 bool Inference::NoteConclusion(const std::string& var, const std::string& value, Count16 topic)
 {
     const Counted answers(std::as_const(m_tables.Answers), m_tables.AnswerCount);
@@ -198,18 +199,18 @@ std::string Inference::AssertFact(const std::string& var, Count16 topic, const s
     }
     ReduceRules(var, value);
     int t = m_tables.TargetCount;
-    // Ends because each round looks at fewer goals than the last one.
+    // This ends, because each round looks at fewer goals than the one before.
     while (const std::optional<Conclusion> found = FirstConclusion(t)) {
         if (!NoteConclusion(found->var, found->value, topic)) {
             return {};
         }
         if (found->target == 1) {
-            // The dialogue's own goal. Sub-goals may still be pending when answers settle it past them: the
-            // advice counts all the same, or the reader would be told that there is nothing to ask.
+            // The dialogue's own goal. Answers may settle it while sub-goals are pending. The advice counts
+            // all the same; otherwise the user would read that there is no question to ask.
             return found->var == AdviceGoal ? found->value : Fact(found->var, found->value);
         }
         ReduceRules(found->var, found->value);
-        // The top of the stack goes, also when the goal that fired lies deeper.
+        // The top of the stack is removed, even if the fired goal is deeper.
         m_tables.TargetCount = m_tables.TargetCount - 1;
         t = found->target - 1;
     }
@@ -243,13 +244,13 @@ std::string Inference::RecordAnswer(const std::string& var, const std::string& v
     return {};
 }
 
-// False when a count passed its limit.
+// False if a count passed its limit.
 bool Inference::CountCandidates(std::string_view goal)
 {
     RuleIndex& index = Index();
     const std::uint32_t goalName = index.NumberOf(goal);
     std::vector<int> levels(index.NameCount()); // by the number of the name
-    std::vector<std::uint32_t> met;             // the names in the order in which they come
+    std::vector<std::uint32_t> met;             // in order of appearance
     const auto take = [&levels, &met](std::uint32_t name) {
         if (levels[name]++ == 0) {
             met.push_back(name);
@@ -345,7 +346,7 @@ CollectedValues Inference::CollectValues(std::string_view var) const
     }
     collected.Values = values.Text();
     if (!collected.Values.empty() && collected.Values.front() == ',') {
-        collected.Values.erase(0, 1); // an empty value came first
+        collected.Values.erase(0, 1); // the comma after an empty first value
         --collected.Count;
     }
     return collected;

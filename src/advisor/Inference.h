@@ -9,7 +9,7 @@
 
 namespace ls {
 
-/// The choices of a variable, from the rules.
+/// The values of a variable in the rules.
 struct CollectedValues
 {
     std::string Values; ///< each value followed by ","
@@ -17,7 +17,7 @@ struct CollectedValues
     bool IsDerived = false; ///< a rule concludes the variable
 };
 
-/// The reasons for which the advisor ends the program: faults of a book's rules that leave nothing to do.
+/// Why the advisor ends the program: faults of a book's rules with no way to go on.
 namespace fault {
 inline constexpr std::string_view Circular = "circular definition";
 inline constexpr std::string_view NoValue = "variable with no value in any rule";
@@ -26,33 +26,35 @@ inline constexpr std::string_view NoRules = "answer given while the rule table i
 inline constexpr std::string_view UnsureWithoutRule = "unsure for a variable that no rule concludes";
 } // namespace fault
 
-/// Reasons over the rules by rewriting their texts: each answer cuts out the conditions that it satisfies and
-/// empties the rules that it contradicts, and a rule fires when nothing is left behind its "=".
+/// Reasons by rewriting the texts of the rules. Each answer cuts out the conditions that it meets and empties
+/// the rules that it contradicts. A rule fires when nothing is left after its "=".
 ///
-/// Every operation is a pass over the rules, in which the rules' index tells what there is to do; texts are
-/// searched only in rules of an odd form. An advice identifier is the value of the goal "AV",
-/// and `GOAL(VALUE)` for any other goal; empty stands for no advice.
+/// Each operation is one pass over the rules, guided by their index; only rules of an odd form are searched
+/// as text.
+///
+/// An advice identifier is the value of the goal "AV", and `GOAL(VALUE)` for any other goal; an empty one
+/// means no advice.
 class Inference
 {
 public:
     Inference(AdvisorTables& tables, const Seams& seams) : m_tables(tables), m_seams(seams) {}
 
-    /// Applies the fact to every rule and drops the rules that it emptied. `UnsureAnswer` is no value: it
-    /// changes nothing.
+    /// Applies the fact to every rule and drops the rules that become empty. `UnsureAnswer` is not a value
+    /// and changes nothing.
     void ReduceRules(std::string_view var, std::string_view value);
 
-    /// Makes the fact known and draws the conclusions, from the goal pursued down to the dialogue's own.
-    /// Returns the advice when that one has fired.
+    /// Applies a fact and draws all conclusions, from the current goal down to the dialogue's own goal.
+    /// Returns the advice if that one has fired.
     std::string AssertFact(const std::string& var, Count16 topic, const std::string& value);
 
-    /// Stores the reader's answer and asserts it; `UnsureAnswer` makes the variable a goal instead.
+    /// Stores the user's answer and asserts it. `UnsureAnswer` makes the variable a goal instead.
     std::string RecordAnswer(const std::string& var, const std::string& value, Count16 topic);
 
-    /// Counts the condition variables of the rules for the goal being pursued.
+    /// Counts the variables in the conditions of the rules for the current goal.
     void BuildCandidates();
 
-    /// The variable that most conditions wait for, the first of equals; empty when there is none. One that is
-    /// a goal already is a circular definition, which ends the program.
+    /// The variable that occurs most often in those conditions, or the first such; empty if there is none. If
+    /// it is a goal already, the definition is circular, which ends the program.
     std::string PickNextVariable();
 
     [[nodiscard]] CollectedValues CollectValues(std::string_view var) const;

@@ -9,7 +9,7 @@ namespace ls {
 
 namespace {
 
-// A rule's blanks do not count: "A=< DEFINITIONS >" opens the definitions too.
+// Blanks in a rule do not count: "A=< DEFINITIONS >" opens the definitions too.
 bool OpensDefinitions(std::string_view line, bool rule)
 {
     if (!Contains(line, "<")) {

@@ -5,15 +5,15 @@
 
 namespace ls {
 
-/// What a line of a logic block is, between "<LOGIC>" and the definitions. The loader, the check and the
-/// logic editor decide for themselves what follows from it.
+/// The kind of a line between "<LOGIC>" and the definitions. The loader, the check and the logic editor each
+/// decide what to do with it.
 enum class LogicLine
 {
     Empty,
     Comment,     ///< begins with "*"
-    Rule,        ///< holds "="
+    Rule,        ///< contains "="
     Command,     ///< any other line, known to the loader or not
-    Definitions, ///< holds "<DEFINITIONS>", be it in a comment or, between blanks, in a rule
+    Definitions, ///< contains "<DEFINITIONS>", even in a comment or, with blanks, in a rule
     BlockOpening,
     LogicOpening,
     LogicClosing,
@@ -23,10 +23,10 @@ enum class LogicLine
 /// Classifies a line that is trimmed and in upper case.
 [[nodiscard]] LogicLine ClassifyLogicLine(std::string_view line);
 
-/// Brings a rule into the form of the rule table, which has no blanks.
+/// Removes the blanks from a rule, as the rule table requires.
 void RemoveBlanks(std::string& rule);
 
-/// A command taken apart at its first blank. The argument is not trimmed; it refers to the line.
+/// A command, split at its first blank. The argument is not trimmed and refers to the line.
 struct LogicCommand
 {
     enum class Kind
@@ -41,7 +41,7 @@ struct LogicCommand
     std::string_view argument;
 };
 
-/// Takes a command apart that is trimmed and in upper case.
+/// Splits a command that is trimmed and in upper case.
 [[nodiscard]] LogicCommand SplitCommand(std::string_view line);
 
 } // namespace ls

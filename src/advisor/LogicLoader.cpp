@@ -19,7 +19,7 @@ namespace ls {
 
 namespace {
 
-// One load of one topic's logic.
+// Loads one topic's logic.
 class Loader
 {
 public:
@@ -112,7 +112,8 @@ void Loader::StartOver()
 
 bool Loader::FindLogicSection()
 {
-    bool ownHeader = m_additional; // the cursor stands at the topic's own "[Title]" line, which ends nothing
+    // The cursor is at the topic's own "[Title]" line, which must not end the search.
+    bool ownHeader = m_additional;
     std::string line;
     for (;;) {
         const FileError error = m_cursor.ReadLine(line);
@@ -167,7 +168,8 @@ bool Loader::TakeLine(LogicLine kind, std::string line)
         return true;
     case LogicLine::Rule:
         return TakeRule(std::move(line));
-    default: // the other words of the format are no commands either
+    // A command, or another word of the book format, which fails as an unknown command.
+    default:
         return TakeCommand(line);
     }
 }
@@ -219,7 +221,8 @@ bool Loader::TakeDefine(const std::string& line, std::string_view argument)
     return topic == 0 || AddVariable(std::string(argument.substr(0, at)), topic);
 }
 
-// The first topic of that title (upper case), or 0. The titles are folded once for all DEFINE lines.
+// The first topic with that title (upper case), or 0. The upper-case titles are made once for all DEFINE
+// lines.
 int Loader::TopicNumber(const std::string& title)
 {
     if (m_topicNumbers.empty()) {
@@ -276,7 +279,8 @@ bool Loader::TakeQuestion(std::string_view line)
 
 bool Loader::NoteLoaded()
 {
-    m_tables.Index.Follow(m_tables.LogicRules, m_tables.RuleCount); // rather now than at the first answer
+    // Indexed here, so that the first answer is not slower.
+    m_tables.Index.Follow(m_tables.LogicRules, m_tables.RuleCount);
     if (m_tables.TargetCount == 0 &&
         !Append(m_tables.Targets, m_tables.TargetCount, std::string("AV"), TargetGrowthStep)) {
         return OverflowFails();
@@ -294,7 +298,7 @@ bool Loader::ReplayAnswers(std::string& firstAdvice)
     for (const VarTopic& entry : Counted(m_tables.VarTopics, m_tables.VarTopicCount)) {
         registered.emplace(entry.Name, entry.Topic);
     }
-    // What the rules conclude on the way is appended to the answers; it is asserted already.
+    // Only the earlier answers are asserted: conclusions that this appends are asserted already.
     const int earlier = m_tables.AnswerCount;
     for (int i = 1; i <= earlier; ++i) {
         const Answer answer = m_tables.Answers(i);

@@ -4,13 +4,13 @@
 #include <functional>
 #include <limits>
 
-// How an answer finds the rules that it concerns:
+// How an answer finds the rules that it affects:
 //
-// 1. Each rule is read once into terms: the number of a variable's name, and the places of its brackets in
+// 1. Each rule is read once into terms: the number of a variable's name, and the positions of its brackets in
 //    the text.
-// 2. The names are in a hash table of numbers, so that a name in many rules is stored and compared once.
-// 3. Each rule has a mask with a bit for each name, the number modulo 64, so that a look at one number
-//    passes over most rules.
+// 2. A hash table gives the number of each name, so a name in many rules is stored and compared once.
+// 3. Each rule has a mask with a bit for each name (its number modulo 64), so one comparison skips most
+//    rules.
 // 4. When a condition is cut out of a rule's text, the later terms move by its length and nothing is read
 //    again.
 // 5. A rule of another form, such as one with nested brackets, is odd: it has no terms, and the engine
@@ -27,7 +27,7 @@ bool IsMark(char c)
     return c == '(' || c == ')' || c == '=';
 }
 
-// The first bracket or "=" at or behind `from`, or the end of the text.
+// The position of the first bracket or "=" from `from` on, or the end of the text.
 std::size_t NextMark(std::string_view text, std::size_t from)
 {
     while (from < text.size() && !IsMark(text[from])) {
@@ -63,7 +63,7 @@ void RuleIndex::Follow(const Array1<std::string>& rules, int count)
     }
 }
 
-// Where the name is noted, or is to be.
+// The slot of the name, or the free slot for it.
 std::uint32_t& RuleIndex::SlotOf(std::string_view name)
 {
     std::size_t at = std::hash<std::string_view>()(name) % m_slots.size();
@@ -113,7 +113,7 @@ RuleIndex::Matches RuleIndex::NamesEndingIn(std::string_view var) const
     return matches;
 }
 
-// False when the rule is odd.
+// False if the rule is odd.
 bool RuleIndex::ReadTerms(std::string_view rule, bool& trailing)
 {
     m_read.clear();
@@ -143,7 +143,7 @@ bool RuleIndex::ReadTerms(std::string_view rule, bool& trailing)
     }
 }
 
-// A rule never gets longer, so its terms find room where they were; a new rule's go to the end.
+// A rule never gets longer, so its new terms fit in the old place; those of a new rule are appended.
 void RuleIndex::Read(std::string_view rule, Row& row)
 {
     row.odd = !ReadTerms(rule, row.trailing);

@@ -10,20 +10,21 @@
 
 namespace ls {
 
-/// Where the rules name their variables, so that an answer need not search the text of every rule.
+/// Knows which variables each rule names and where, so that an answer need not search the text of every rule.
 ///
-/// The texts of the rules are what counts; the index only follows them. It holds rules of the usual form,
-/// `VAR(VALUE)=A(X)B(Y)` with no other bracket or "=" and perhaps a text behind the last ")". All others,
-/// e.g. with nested brackets, are marked as odd, and the engine works on their texts alone.
+/// The texts of the rules decide; the index only follows them. It has terms for rules of the usual form,
+/// `VAR(VALUE)=A(X)B(Y)` with no other bracket or "=", perhaps with a text after the last ")". All other
+/// rules, such as those with nested brackets, are odd: the engine works on their texts alone.
 ///
-/// Rules are numbered as in their table. Who changes that other than at its end tells the index.
+/// Rules have their numbers in the rule table. Code that changes that table in any way but appending must
+/// call the index.
 class RuleIndex
 {
 public:
-    /// One `NAME(VALUE)` of a rule: positions in its text.
+    /// One `NAME(VALUE)` of a rule, as positions in its text.
     struct Term
     {
-        std::uint32_t name;  ///< number of the text between the last bracket or "=" and the "("
+        std::uint32_t name;  ///< number of the text from the last bracket or "=" to the "("
         std::uint16_t open;  ///< of the "("
         std::uint16_t close; ///< of the ")"
 
@@ -46,11 +47,11 @@ public:
         std::size_t m_count;
     };
 
-    /// The names that end in a variable's name: those are where a search for "VAR(" finds something.
+    /// The names that end in a variable's name, so that a search for "VAR(" would find them.
     class Matches
     {
     public:
-        /// The first matching term of a rule at or behind `from`, or its end.
+        /// A rule's first matching term from `from` on, or its end.
         [[nodiscard]] const Term* Find(const Terms& terms, const Term* from) const
         {
             while (from != terms.end() && !m_byName[from->name]) {
@@ -66,66 +67,66 @@ public:
         bool m_anywhere = false;
     };
 
-    /// Takes in the rules that were added since the last call. Fewer rules than it knows are another rule
-    /// base.
+    /// Adds the rules that were appended since the last call. If there are fewer rules than before, reads
+    /// them all as another rule base.
     void Follow(const Array1<std::string>& rules, int count);
 
-    /// Forgets everything, for another rule base.
+    /// Forgets everything; for another rule base.
     void Clear();
 
-    /// Whether the text holds a bracket or a "=". As a variable or a value it may then be found across terms,
-    /// and only the rule's text tells.
+    /// Whether the text contains a bracket or a "=". Such a variable or value may be found across terms, so
+    /// the rule's text must be searched.
     [[nodiscard]] static bool HasMark(std::string_view text);
 
     [[nodiscard]] Matches NamesEndingIn(std::string_view var) const;
 
-    /// False when "VAR(" is not found in the rule's text.
+    /// False if the rule's text cannot contain "VAR(".
     [[nodiscard]] bool MayName(int rule, const Matches& matches) const
     {
         const Row& row = At(rule);
         return matches.m_anywhere || row.odd || (row.mask & matches.m_mask) != 0;
     }
 
-    /// Whether the rule's terms tell all about it and the variable of `matches` can be found by them.
+    /// Whether the terms are enough to find the variable of `matches` in the rule.
     [[nodiscard]] bool HasTerms(int rule, const Matches& matches) const
     {
         return !matches.m_anywhere && !At(rule).odd;
     }
 
-    /// Whether the rule is not of the usual form. It has no terms then.
+    /// Whether the rule has not the usual form, so that it has no terms.
     [[nodiscard]] bool Odd(int rule) const { return At(rule).odd; }
 
     /// The terms of a rule that is not odd.
     [[nodiscard]] Terms TermsOf(int rule) const { return {m_terms.data() + At(rule).first, At(rule).count}; }
 
-    /// Whether nothing stands behind the "=" of a rule that is not odd.
+    /// Whether nothing is left after the "=". The rule must not be odd.
     [[nodiscard]] bool Fired(int rule) const { return At(rule).count == 1 && !At(rule).trailing; }
 
-    /// The number of a name; it gets one when it is new.
+    /// The number of a name; a new name gets a new number.
     std::uint32_t NumberOf(std::string_view name);
     [[nodiscard]] const std::string& Name(std::uint32_t number) const { return m_names[number]; }
     [[nodiscard]] std::size_t NameCount() const { return m_names.size(); }
 
-    /// A rule's text has changed.
+    /// Call after a rule's text has changed.
     void Update(int rule, std::string_view text) { Read(text, m_rows(rule)); }
 
-    /// A term with its whole name was cut out of the rule's text.
+    /// Call after a term with its whole name was cut out of the rule's text.
     void Cut(int rule, const Term& term);
 
-    /// A rule has moved in front of its place, and the one that was there is gone.
+    /// Call after a rule has moved to an earlier place, whose old rule is gone.
     void Move(int rule, int place) { m_rows(place) = At(rule); }
 
-    /// Only so many rules are left.
+    /// Call after the rule table was cut to that many rules.
     void Truncate(int count) { m_rows.Redim(count); }
 
 private:
     struct Row
     {
         std::uint64_t mask = 0;  ///< a bit for each name, the number modulo 64
-        std::uint32_t first = 0; ///< of its terms
+        std::uint32_t first = 0; ///< place of its first term in m_terms
         std::uint16_t count = 0;
         bool odd = false;
-        bool trailing = false; ///< there is a text behind the last ")"
+        bool trailing = false; ///< there is text after the last ")"
     };
 
     [[nodiscard]] const Row& At(int rule) const { return m_rows(rule); }
@@ -139,7 +140,7 @@ private:
     std::vector<Term> m_terms;
     std::vector<Term> m_read; ///< of the rule being read
     std::vector<std::string> m_names;
-    std::vector<std::uint32_t> m_slots; ///< a hash table: the number of a name plus 1; 0 is free
+    std::vector<std::uint32_t> m_slots; ///< a hash table: a name's number plus 1; 0 is free
 };
 
 } // namespace ls

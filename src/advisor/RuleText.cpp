@@ -20,7 +20,7 @@ std::optional<LeftHandSide> ParseLeftHandSide(std::string_view rule)
 
 bool Concludes(std::string_view rule, std::string_view var)
 {
-    // A variable with "(" in its name could pass the first two tests and is no left-hand side.
+    // A variable with "(" in its name could pass the first two tests, but is not what the rule concludes.
     return rule.size() > var.size() && rule[var.size()] == '(' && rule.substr(0, var.size()) == var &&
            var.find('(') == None;
 }
@@ -36,7 +36,7 @@ void ReduceRule(std::string& rule, std::string_view head, std::string_view fact)
     if (at == None) {
         return;
     }
-    // The fact begins with the head, so it cannot stand before the head's first place.
+    // The fact begins with the head, so it cannot come before the first occurrence of the head.
     if (at < rule.find('=') || rule.find(fact, at) == None) {
         rule.clear();
         return;

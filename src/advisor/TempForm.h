@@ -12,15 +12,15 @@ class TempForm;
 
 namespace ls {
 
-/// A row of the results window's list. Texts are UTF-8.
+/// A row in the list of the results window. Texts are UTF-8.
 struct TempFormRow
 {
-    int line = 0; ///< of the text, from 1; shown when the row is chosen
+    int line = 0; ///< of the text, from 1; selected when the row is chosen
     std::string text;
 };
 
-/// The results window: the text of a logic block to read and copy, and below it what the book check finds in
-/// it. Choosing a row shows its line.
+/// The results window: shows the text of a logic block to read and copy, and below it the findings of the
+/// book check. Choosing a finding shows its line.
 class TempForm : public QDialog
 {
     Q_OBJECT

@@ -41,7 +41,7 @@ bool ValueList::FromTheEnd::operator()(std::size_t a, std::string_view b) const
     return LessFromTheEnd(Tail(Before(*text, a)), b);
 }
 
-// The text holds the value and its comma where what stands before one of its commas ends in the value.
+// The text holds "value," if the text before some comma ends with the value.
 bool ValueList::Holds(std::string_view value) const
 {
     const std::string_view tail = Tail(value);
@@ -50,7 +50,7 @@ bool ValueList::Holds(std::string_view value) const
         if (!EndsWith(before, tail)) {
             return false;
         }
-        if (EndsWith(before, value)) { // at once, unless the value is longer than what the order counts
+        if (EndsWith(before, value)) { // the first one matches, unless the value is longer than `Counted`
             return true;
         }
     }

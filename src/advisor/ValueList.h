@@ -9,11 +9,11 @@
 
 namespace ls {
 
-/// The values of a variable as one text, each followed by ",": "YES,NO,".
+/// The values of a variable in one text, each followed by ",": "YES,NO,".
 ///
-/// A value is left out when the text already holds it and its comma anywhere, so also when it ends an earlier
-/// value: behind "BA" no "A" is taken. That test, asked for each of thousands of rules, must not search the
-/// whole text each time; the list keeps an index that gives the same answer.
+/// A value is left out if the text contains it with its comma anywhere, so also as the end of another value:
+/// after "BA" no "A" is added. With thousands of rules it would be slow to search the whole text for each
+/// one, so an index gives the same answer.
 class ValueList
 {
 public:
@@ -21,15 +21,15 @@ public:
     ValueList(const ValueList&) = delete;
     ValueList& operator=(const ValueList&) = delete;
 
-    /// Appends the value unless the text holds it; true when it was appended.
+    /// Appends the value unless the text contains it. True if it was appended.
     bool Add(std::string_view value);
 
     [[nodiscard]] const std::string& Text() const { return m_text; }
 
 private:
-    // Orders the places of commas by the characters in front of them, the nearest first: all places behind
-    // the same characters stand together. Only so many characters count, or a value of commas alone would
-    // make every comparison as long as itself.
+    // Orders commas by the text before them, compared backwards, so that commas after equal ends are
+    // adjacent. Only the last 64 characters count; otherwise values of many commas would make comparisons
+    // slow.
     struct FromTheEnd
     {
         using is_transparent = void;
@@ -42,9 +42,9 @@ private:
     [[nodiscard]] bool Holds(std::string_view value) const;
 
     std::string m_text;
-    std::multiset<std::size_t, FromTheEnd> m_ends; ///< where the commas of the text stand
-    std::vector<std::string> m_first;       ///< the first values asked for; most variables have no more
-    std::unordered_set<std::string> m_seen; ///< the others: the text holds each since then
+    std::multiset<std::size_t, FromTheEnd> m_ends; ///< the positions of the commas in the text
+    std::vector<std::string> m_first;              ///< the first values asked for; enough for most variables
+    std::unordered_set<std::string> m_seen;        ///< the other values asked for; the text contains them all
 };
 
 } // namespace ls

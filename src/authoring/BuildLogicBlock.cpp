@@ -14,7 +14,8 @@ namespace {
 using namespace logic;
 
 constexpr std::size_t NamedParts = 5;
-constexpr std::size_t ShortestEnded = 3; // a logic text of one or two characters gets no line end; kept
+// Intended: a logic text of one or two characters gets no line end.
+constexpr std::size_t ShortestEnded = 3;
 
 void AppendEntry(std::string& out, const EntryTags& tags, std::string_view identifier, std::string_view text)
 {
@@ -27,7 +28,7 @@ void AppendEntry(std::string& out, const EntryTags& tags, std::string_view ident
     out.append(tags.closing).append(LineEnd).append(LineEnd);
 }
 
-// The choices of each variable in the order of their list, by the variable's name in upper case.
+// The choices of each variable, in list order. The key is the variable's name in upper case.
 using ChoicesOf = std::unordered_map<std::string, std::vector<const LogicChoice*>>;
 
 ChoicesOf GroupChoices(const LogicBlock& block)

@@ -24,8 +24,8 @@ DelTopicForm::DelTopicForm(QWidget* parent, Book& book, TopicFlags& flags, bool 
 
 DelTopicForm::~DelTopicForm() = default;
 
-// The list stands at the current topic, which the author is most likely to be after. Items are made before
-// they are in the list: one made in it is searched for there, through the whole list.
+// Selects the current topic, the most likely one to be removed. An item created inside its list is searched
+// for there, which is slow for thousands, so each one is added after it is made.
 void DelTopicForm::Form_Load(bool alphabetic)
 {
     QListWidget& list = *m_ui->TopicListBox;
@@ -38,7 +38,7 @@ void DelTopicForm::Form_Load(bool alphabetic)
         if (entry.itemData == m_book.CurrentTopicNo) {
             current = list.count();
         }
-        list.addItem(item.release()); // the list's own from here on
+        list.addItem(item.release()); // owned by the list from here on
     }
     list.setCurrentRow(current);
 }

@@ -17,13 +17,13 @@ namespace ls {
 struct Book;
 struct TopicFlags;
 
-/// Removes and restores topics: every topic of the book with a box, checked when it is removed.
+/// Removes and restores topics. Each topic of the book has a box, which is checked if the topic is removed.
 class DelTopicForm : public QDialog, public EditSource
 {
     Q_OBJECT
 
 public:
-    /// With the topics in the order of the main window's list. O.K. does what the boxes say and sets
+    /// Lists the topics in the order of the main window's list. O.K. does what the boxes say and sets
     /// `TopicListStale`; Cancel changes nothing.
     DelTopicForm(QWidget* parent, Book& book, TopicFlags& flags, bool alphabetic);
     ~DelTopicForm() override;

@@ -6,21 +6,21 @@ namespace ls {
 
 struct RunningEdits;
 
-/// A form in which a book is edited.
+/// A form that edits the book. Its pending edits go into the journal.
 class EditSource
 {
 public:
     virtual ~EditSource() = default;
 
-    /// Adds what was typed into the form and is not accepted yet; nothing where nothing was changed. May be
-    /// asked whenever the form handles no event of its own, also while a box stands over it.
+    /// Adds what was typed into the form and not accepted yet; adds nothing if nothing was changed. May be
+    /// called while a box is open over the form, but not while the form handles an event of its own.
     virtual void AddRunningEdits(RunningEdits& edits) = 0;
 
-    /// The number of the last edit in the form; every edit in any form has a greater one than those before.
+    /// The number of the form's last edit. Numbers grow from edit to edit, across all forms.
     [[nodiscard]] std::uint64_t LastEdit() const { return m_lastEdit; }
 
 protected:
-    /// To be called whenever something in the form may have been edited.
+    /// Call whenever something in the form may have been edited.
     void Edited()
     {
         static std::uint64_t count = 0;

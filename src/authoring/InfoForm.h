@@ -16,7 +16,7 @@ namespace ls {
 
 struct Book;
 
-/// The properties form: the fields of the book's header line, which reach the file when the book is saved.
+/// The properties form: edits the fields of the book's header line. Saving the book writes them to the file.
 class InfoForm : public QDialog, public EditSource
 {
     Q_OBJECT

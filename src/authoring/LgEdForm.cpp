@@ -25,7 +25,7 @@ namespace ls {
 
 namespace {
 
-// The list shows what the rules say: it chooses nothing itself.
+// Fills the list without selecting an entry and without an event.
 void Fill(QComboBox& list, const std::vector<std::string>& entries)
 {
     const QSignalBlocker silent(list);
@@ -44,7 +44,8 @@ void Append(QComboBox& list, const std::string& entry)
     const QSignalBlocker silent(list);
     const int selected = list.currentIndex();
     list.addItem(Shown(entry));
-    list.setCurrentIndex(selected); // the first entry of an empty list would be chosen
+    // Otherwise an empty list would select its first entry.
+    list.setCurrentIndex(selected);
 }
 
 void Remove(QComboBox& list, int index)
@@ -80,7 +81,8 @@ void LgEdForm::SetUpLists()
     Fill(*m_ui->KeywordCombo, {LogicKeywords.begin(), LogicKeywords.end()});
     for (QComboBox* list : {m_ui->KeywordCombo, m_ui->VarCombo, m_ui->AnswerCombo}) {
         auto* view = new QListView(list);
-        view->setUniformItemSizes(true); // else a popup of a thousand entries measures each of them
+        // Otherwise a popup of a thousand entries measures each of them.
+        view->setUniformItemSizes(true);
         list->setView(view);
         list->installEventFilter(this);
     }
@@ -92,7 +94,7 @@ void LgEdForm::SetUpBoxes()
 {
     SetFixedPitch(*m_ui->LogicTextbox);
     for (QPlainTextEdit* box : {m_ui->VQuestionBox, m_ui->VCAnswerBox}) {
-        constexpr int shownLines = 6; // with its frame a little less
+        constexpr int shownLines = 6; // slightly fewer fit, because of the frame
         box->setFixedHeight(std::max(box->minimumHeight(), shownLines * box->fontMetrics().lineSpacing()));
     }
     m_ui->VQuestionBox->installEventFilter(this);
@@ -141,8 +143,8 @@ void LgEdForm::Do(Command command)
     RunCommand([this, command] { (m_editor.*command)(); });
 }
 
-// Every command goes through here, since the event loop of the window cannot pass an exception on. The focus
-// that moves while one runs, to a box that it shows, is no event of its own.
+// Runs a command; every command goes through here, because the window's event loop cannot pass an exception
+// on. A command does nothing while another one is running, for example when a box takes the focus.
 void LgEdForm::RunCommand(const std::function<void()>& command)
 {
     if (m_running) {
@@ -228,7 +230,7 @@ bool LgEdForm::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
-// Enter in a list inserts what is chosen there, as the button beside it does, instead of pressing Done.
+// Enter in a list inserts the chosen entry, like the button beside it, instead of pressing Done.
 bool LgEdForm::PressEnter(const QObject* list)
 {
     if (list == m_ui->KeywordCombo) {

@@ -23,8 +23,8 @@ namespace ls {
 class TextBoxCommands;
 struct Book;
 
-/// The editor of the logic block of the topic on show, which the book holds in memory already: its logic
-/// lines as free text, and in lists its variables and their choices. Done stores the block there.
+/// The editor for the logic block of the topic on show, which must be in memory: its logic lines as free
+/// text, its variables and their choices in lists. Done stores the block in memory.
 class LgEdForm : public QDialog, public EditSource, private LogicView
 {
     Q_OBJECT
@@ -33,14 +33,14 @@ public:
     LgEdForm(QWidget* parent, Book& book, const Seams& seams);
     ~LgEdForm() override;
 
-    /// Takes the block apart and shows it. False after the message for a block that the editor cannot hold:
-    /// the window is not to be shown then.
+    /// Parses the block and shows it. False, after a message, if the editor cannot hold the block; the window
+    /// must not be shown then.
     [[nodiscard]] bool Form_Load();
 
     void AddRunningEdits(RunningEdits& edits) override;
 
 public Q_SLOTS:
-    /// Escape and the close button: what was changed is not dropped without asking.
+    /// For Escape and the close button: asks before it drops changes.
     void reject() override;
 
 protected:
@@ -86,7 +86,7 @@ private:
     Seams m_seams;
     LogicEditor m_editor;
     std::unique_ptr<TextBoxCommands> m_boxCommands;
-    bool m_running = false; // while a command runs, with the boxes that it shows
+    bool m_running = false; // while a command runs, including its boxes
 };
 
 } // namespace ls

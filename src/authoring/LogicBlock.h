@@ -9,20 +9,20 @@
 
 namespace ls {
 
-/// A variable with the question that the advisor asks for it; without a question it is a placeholder.
+/// A variable and the question that the advisor asks for it. Without a question it is a placeholder.
 struct LogicVariable
 {
-    std::string name; ///< as written; the advisor takes it in upper case
+    std::string name; ///< as written; the advisor uses it in upper case
     std::string question;
-    bool inBlock = true; ///< false: the block has choices for it but no entry of its own
+    bool inBlock = true; ///< false: the block has choices for it, but no entry
 
     friend bool operator==(const LogicVariable&, const LogicVariable&) = default;
 };
 
-/// One choice of a variable, with the advice that is shown when the advisor ends on it.
+/// A choice of a variable, with the advice that is shown if the advisor ends on it.
 struct LogicChoice
 {
-    std::string variable; ///< spelled as in the list of variables
+    std::string variable; ///< spelled as in `variables`
     std::string choice;
     std::string advice;
 
@@ -33,49 +33,48 @@ struct LogicChoice
 struct BareEntry
 {
     std::string identifier;
-    std::string text; ///< the whole entry as read, from its opening tag to its closing one
+    std::string text; ///< the whole entry as read, from opening tag to closing tag
 
     friend bool operator==(const BareEntry&, const BareEntry&) = default;
 };
 
-/// Something of a block that its tables cannot hold, or that would mean something else once it is written
-/// from them.
+/// A part of a block that its tables cannot hold, or that would mean something else when written from them.
 struct LostPart
 {
-    int line = 0;     ///< in the block, from 1: its "<IXML>" line
+    int line = 0;     ///< in the block; 1 is its "<IXML>" line
     std::string what; ///< a whole sentence, as UTF-8: "The comment \"* old\" would be dropped."
 
     friend bool operator==(const LostPart&, const LostPart&) = default;
 };
 
-/// A topic's logic block taken apart. Texts are book text, lines within them are parted by CR LF.
+/// The parts of a topic's logic block. Texts are book text with CR LF between lines.
 struct LogicBlock
 {
-    std::string logicText; ///< the logic lines, each with its line end when it was read
+    std::string logicText; ///< the logic lines; as read, each has its line end
     std::vector<LogicVariable> variables;
-    std::vector<LogicChoice> choices; ///< those of one variable together when they were read
+    std::vector<LogicChoice> choices; ///< as read, those of one variable are adjacent
     std::vector<BareEntry> bareEntries;
     std::vector<LostPart> lost;
 };
 
-/// Takes a block apart, from its "<IXML>" line on, the way the advisor reads it: entries end at their closing
-/// tag, the first of equal entries counts, an entry's lines are trimmed, tags and names match in any case.
+/// Parses a block from its "<IXML>" line on, as the advisor reads it. An entry ends at its closing tag, and
+/// its lines are trimmed. The first of equal entries counts. Tags and names match in any case.
 ///
-/// Every variable that a choice names is listed. What has no place in the tables is described in `lost`, in
-/// the order of its lines, so that nothing goes silently.
+/// `variables` has every variable that a choice names. `lost` describes, in line order, what the tables have
+/// no place for, so that nothing is dropped silently.
 [[nodiscard]] LogicBlock ParseLogicBlock(std::string_view text);
 
-/// What is said where there are no logic lines to build a block from.
+/// The message when there are no logic lines to build a block from.
 inline constexpr char NoLogicMessage[] = "There is no logic information to save.";
 
-/// The block's text: the logic lines as they stand, then each variable with its choices, then the bare
-/// entries. A text of 60 characters and more, or of several lines, stands on lines of its own between its
-/// tags. Choices whose variable is not listed are left out.
+/// The block's text: the logic lines unchanged, each variable with its choices, then the bare entries. A text
+/// of 60 characters or more, or of several lines, is put on lines of its own between its tags. Choices of
+/// unlisted variables are left out.
 ///
-/// Empty logic lines are refused with `NoLogicMessage`; nothing is returned then.
+/// Returns nothing, after `NoLogicMessage`, if the logic lines are empty.
 [[nodiscard]] std::optional<std::string> BuildLogicBlock(const LogicBlock& block, const Seams& seams);
 
-/// What the author is asked before such parts are dropped, as UTF-8; it names the first five of them.
+/// The question before such parts are dropped, UTF-8. It names the first five of them.
 [[nodiscard]] std::string LostPartsQuestion(const std::vector<LostPart>& lost);
 
 } // namespace ls

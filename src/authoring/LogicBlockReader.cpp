@@ -38,7 +38,7 @@ public:
     }
 
 private:
-    // A tag that opens an entry in the line at hand.
+    // A tag in the current line that opens an entry.
     struct Opening
     {
         bool question = false;
@@ -75,14 +75,14 @@ private:
     std::vector<LostPart>& m_lost;
     std::vector<LogicEntry> m_entries;
 
-    std::string_view m_line; ///< the line at hand
+    std::string_view m_line; ///< the current line
     std::string m_upper;     ///< the same in upper case
     std::size_t m_at = 0;    ///< how far it is read
     bool m_ended = false;    ///< the definitions, or the whole block, are over
-    bool m_stopped = false;  ///< a line begins with "[": it is not read
+    bool m_stopped = false;  ///< the line begins with "[" and is not read
 };
 
-// The next line; false at the end of the block, which a line beginning with "[" is too.
+// Reads the next line. False at the end of the block, or at a line beginning with "[", which ends it too.
 bool Reader::NextLine()
 {
     if (m_ended || !m_lines.Next(m_line)) {
@@ -113,7 +113,7 @@ bool Reader::FindLogic()
     return false;
 }
 
-// The builder puts "</LOGIC>" right behind a logic text of one or two characters: it is taken off a comment.
+// A comment of one or two characters is written with "</LOGIC>" on its line. Removes that tag.
 void CutRunInTag(std::vector<std::string_view>& lines)
 {
     if (lines.size() == 1 && lines[0].starts_with('*') && lines[0].ends_with(LogicClosing) &&
@@ -122,12 +122,12 @@ void CutRunInTag(std::vector<std::string_view>& lines)
     }
 }
 
-// What stands between "</LOGIC>" and the definitions counts for the advisor as logic.
+// The advisor reads lines between "</LOGIC>" and the definitions as logic too.
 bool Reader::ReadLogic()
 {
     std::vector<std::string_view> lines;
     bool found = false;
-    std::size_t closed = None; // how many lines stood before "</LOGIC>"
+    std::size_t closed = None; // the number of lines before "</LOGIC>"
     while (NextLine()) {
         const std::string_view trimmed = Trim(m_upper);
         const LogicLine kind = ClassifyLogicLine(trimmed);
@@ -176,8 +176,8 @@ void Reader::ReadDefinitions()
     }
 }
 
-// The advisor stops registering questions at any line that holds "</DEFINITIONS>", but goes on to find texts
-// up to the line that is nothing else.
+// The advisor registers no questions after any line that contains "</DEFINITIONS>", but finds texts up to the
+// line that is only this tag.
 void Reader::TakeLine()
 {
     const std::string_view trimmed = Trim(m_upper);
@@ -207,12 +207,12 @@ void Reader::LoseHiding()
          ", which hides the questions behind it from the advisor, would not be kept as it is.");
 }
 
-// All entries that begin in the line at hand, or in the line in which one of them ends.
+// Reads all entries that begin in the current line, or in the line where one of them ends.
 void Reader::TakeEntries()
 {
     int begun = m_lines.Number();
     while (!m_ended) {
-        const bool comment = TrimLeft(m_upper).starts_with('*'); // an entry's last line can look like one
+        const bool comment = TrimLeft(m_upper).starts_with('*'); // an entry's last line can begin so too
         const Opening opening = comment ? Opening() : FindOpening();
         const std::size_t end = std::min(opening.at, m_line.size());
         if (Trim(std::string_view(m_upper).substr(m_at, end - m_at)) != DefinitionsClosing) {
@@ -244,7 +244,7 @@ Reader::Opening Reader::FindOpening() const
     return {};
 }
 
-// An identifier ends at the first ">", save one inside parentheses: `INCOME(>1000)`.
+// An identifier ends at the first ">" that is not inside parentheses, as in `INCOME(>1000)`.
 Reader::Opening Reader::OpeningAt(std::size_t at, const EntryTags& tags) const
 {
     Opening opening;
@@ -282,8 +282,8 @@ void Reader::ReadEntry(const Opening& opening)
     m_entries.push_back(std::move(entry));
 }
 
-// Reads up to the closing tag and stands behind it; false when the definitions end before it. An entry's own
-// lines may begin with "*".
+// Reads an entry through its closing tag. False if the definitions end before that. Lines inside an entry may
+// begin with "*".
 bool Reader::ReadEntryText(LogicEntry& entry, const EntryTags& tags)
 {
     EntryText text;
@@ -311,14 +311,14 @@ bool Reader::ReadEntryText(LogicEntry& entry, const EntryTags& tags)
     return true;
 }
 
-// The next line of an entry that is still open; false when the definitions end there.
+// Reads the next line of an open entry. False if the definitions end there.
 bool Reader::NextEntryLine()
 {
     m_ended = !NextLine() || Trim(m_upper) == DefinitionsClosing;
     return !m_ended;
 }
 
-// Nothing behind the definitions belongs to the block but its closing tag.
+// After the definitions only the closing tag belongs to the block; reports all other text as lost.
 void Reader::LoseRest()
 {
     if (m_stopped) {

@@ -8,18 +8,18 @@
 
 namespace ls::logic {
 
-/// One entry of the definitions as it was read.
+/// An entry of the definitions, as read.
 struct LogicEntry
 {
     bool question = false; ///< else advice
     std::string identifier;
     std::string text; ///< its lines trimmed and joined by CR LF
-    std::string raw;  ///< from the opening tag to the closing one, as written
+    std::string raw;  ///< as written, from opening tag to closing tag
     int line = 0;     ///< of its opening tag
 };
 
-/// Reads a block line by line: gives its entries in their order, the logic lines into `logicText`, and adds
-/// to `lost` what is none of both.
+/// Reads a block line by line. Returns its entries in order, puts the logic lines into `logicText`, and
+/// reports in `lost` whatever is neither.
 [[nodiscard]] std::vector<LogicEntry> ReadLogicBlock(std::string_view text, std::string& logicText,
                                                      std::vector<LostPart>& lost);
 

@@ -14,9 +14,9 @@ namespace ls {
 
 namespace {
 
-constexpr std::size_t Most = Count16::Max; // of variables, and of the choices of them all
+constexpr std::size_t Most = Count16::Max; // of variables, and of choices of all variables together
 
-// A name as the advisor compares it. The names in the lists are book text already, so it always has one.
+// A name as the advisor compares it. Names in the lists are book text already, so `ToBook` cannot fail.
 std::string KeyOf(const std::string& utf8)
 {
     return UpperCase(ToBook(utf8).value_or(utf8));
@@ -28,7 +28,7 @@ void Erase(std::vector<Item>& items, int index)
     items.erase(items.begin() + index);
 }
 
-// The entry to select after one was deleted: the one behind it, else the last.
+// The entry to select after one was deleted: the next one, or else the last.
 int After(int deleted, std::size_t left)
 {
     return deleted < static_cast<int>(left) ? deleted : static_cast<int>(left) - 1;
@@ -39,7 +39,7 @@ void Refuse(const Seams& seams, const char* text)
     seams.messages.MsgBox(text, Icon::Exclamation);
 }
 
-// Takes what is in a box, unless only its line ends were put another way. True when it was something new.
+// Stores the text of a box unless it differs in line ends only. True if it was stored.
 bool Store(std::string& stored, const std::string& inBox)
 {
     std::string text = WithCrLf(inBox);
@@ -79,7 +79,8 @@ void LogicEditor::Fill(const LogicBlock& block)
     m_variables.clear();
     m_keys.clear();
     m_changed = false;
-    auto choice = block.choices.begin(); // those of one variable lie together, in the variables' order
+    // Choices of one variable are adjacent, in the order of the variables.
+    auto choice = block.choices.begin();
     for (const LogicVariable& read : block.variables) {
         Variable variable;
         variable.name = FromBook(read.name);
@@ -134,7 +135,7 @@ void LogicEditor::VCAnswerBox_LostFocus()
     }
 }
 
-// Selects a variable and one of its choices (0: the first, if there is any) and shows what belongs to them.
+// Selects a variable and one of its choices (0: the first, if any), and shows their texts.
 void LogicEditor::Show(int variable, int choice)
 {
     m_variable = variable;
@@ -179,8 +180,8 @@ void LogicEditor::AnswerCombo_Click(int index)
     }
 }
 
-// A trimmed name; nothing when the author cancels or leaves it empty, and after the warning about a character
-// that books cannot hold.
+// Asks for a name and trims it. Nothing if the author cancels or enters none, or after the warning about a
+// character that books cannot hold.
 std::optional<std::string> LogicEditor::AskName(const std::string& prompt)
 {
     const std::optional<std::string> typed = m_seams.messages.InputBox(prompt, std::string(AppTitle), {});

@@ -21,11 +21,11 @@ struct Book;
 inline constexpr std::array<const char*, 3> LogicKeywords = {AssumeWord.data(), TargetWord.data(),
                                                              DefineWord.data()};
 
-/// The rules of the logic editor: it edits the logic block in memory of the topic on show, which the command
-/// has brought there. The form hands it its events, and shows what it says through the view.
+/// The rules of the logic editor. It edits the logic block of the topic on show, which must be in memory. It
+/// gets the events of the form and shows texts and lists through the view.
 ///
-/// The texts in the boxes belong to the selected variable and the selected choice. They are stored before
-/// anything else is selected, added, removed, shown or saved, so no event order can lose one.
+/// The texts in the boxes belong to the selected variable and choice. They are stored before anything is
+/// selected, added, removed, shown or saved, so no order of events can lose one.
 class LogicEditor
 {
 public:
@@ -33,11 +33,11 @@ public:
     {
     }
 
-    /// Takes the block apart and fills the boxes and lists; nothing is selected. False after the "Overflow"
-    /// box for a block with more than 32,767 variables or choices: the form must not open then.
+    /// Parses the block and fills boxes and lists; nothing is selected. False, after the "Overflow" box, for
+    /// a block with more than 32,767 variables or choices; the form must not open then.
     [[nodiscard]] bool Form_Load();
 
-    /// The author chose an entry of a list.
+    /// The author selected an entry of a list.
     void VarCombo_Click(int index);
     void AnswerCombo_Click(int index);
 
@@ -56,21 +56,22 @@ public:
 
     void ShowSpecItem_Click();
 
-    /// Done: true when the block was stored and the form is to close.
+    /// Done: true if the block was stored and the form is to close.
     ///
-    /// A character that books cannot hold is named in a warning. What was read and cannot be kept, and what
-    /// was typed and would not be read back, is named in one question each; declined, the editor stays open.
+    /// A warning names the first character that books cannot hold. One question names what the block had and
+    /// cannot keep, another one what was typed and would not be read back. After a warning or Cancel the
+    /// editor stays open.
     [[nodiscard]] bool SaveButton_Click();
 
-    /// Whether anything differs from what was loaded; for `MayDropText` when the window is closed otherwise.
+    /// Whether anything differs from what was loaded; for `MayDropText` when the window closes without Done.
     [[nodiscard]] bool Changed();
 
-    /// The block as it would be written now, as book text; nothing when a text holds a character that books
-    /// cannot hold. No message is shown.
+    /// The block as Done would write it, as book text. Nothing if a text has a character that books cannot
+    /// hold. Shows no message.
     [[nodiscard]] std::optional<LogicBlock> Block();
 
-    /// The block's text as it would be written now, in UTF-8 and with whatever books cannot hold. No message
-    /// is shown.
+    /// The text of the block as Done would write it, in UTF-8, including characters that books cannot hold.
+    /// Shows no message.
     [[nodiscard]] std::string RunningText();
 
 private:

@@ -11,8 +11,8 @@
 
 namespace ls {
 
-// Turns the texts of the editor into book text. It stops at the first character that books cannot hold, and
-// tells where that stands.
+// Turns the editor's texts into book text. Stops at the first character that books cannot hold and reports
+// its place.
 class LogicEditor::BookTexts
 {
 public:
@@ -77,8 +77,8 @@ std::string LogicEditor::RunningText()
 {
     StoreTexts();
     LogicBlock block;
-    block.logicText =
-        m_logicText.empty() ? std::string(LineEnd) : m_logicText; // an empty one is refused with a box
+    // `BuildLogicBlock` refuses an empty text with a box.
+    block.logicText = m_logicText.empty() ? std::string(LineEnd) : m_logicText;
     for (const Variable& variable : m_variables) {
         block.variables.push_back({variable.name, variable.question});
         for (const Choice& choice : variable.choices) {
@@ -117,8 +117,8 @@ void LogicEditor::GoTo(const Place& place, int line)
     m_view.GoTo(place.box, line);
 }
 
-// The block as book text; without logic lines the refusal, and else the warning about the first character
-// that books cannot hold, with the caret there.
+// The block as book text. Nothing after a message: there are no logic lines, or a text has a character that
+// books cannot hold; then the caret is put there.
 std::optional<LogicBlock> LogicEditor::WritableBlock()
 {
     if (m_logicText.empty()) {

@@ -41,7 +41,8 @@ public:
     std::vector<LogicFault> Run()
     {
         CheckLogicText();
-        std::size_t choice = 0; // those of one variable lie together, in the variables' order
+        // Choices of one variable are adjacent, in the order of the variables.
+        std::size_t choice = 0;
         for (std::size_t v = 0; v < m_block.variables.size(); ++v) {
             const LogicVariable& variable = m_block.variables[v];
             m_place = {LogicBox::Question, static_cast<int>(v), -1, 0, {}};
@@ -74,7 +75,7 @@ private:
                       std::string(consequence) + ".");
     }
 
-    // Lines that mean something to whoever scans the book, whatever they stand in.
+    // Finds lines that have a meaning when the book is scanned, whatever part of the block they are in.
     void CheckScan(std::string_view text)
     {
         if (!Contains(text, "[") && !Contains(text, "<")) {
@@ -143,7 +144,7 @@ private:
         });
     }
 
-    // A question's name ends at the first ">"; a choice's may hold one as long as its parenthesis is open.
+    // The name of a question ends at the first ">". That of a choice may contain ">" inside its parentheses.
     void CheckIdentifier(std::string_view identifier)
     {
         const std::size_t close = identifier.find('>');

@@ -10,7 +10,7 @@
 
 namespace ls::logic {
 
-/// The lines of a text as a book's file has them: a lone LF is an ordinary character.
+/// The lines of a text, divided as in the file of a book: LF without CR is an ordinary character.
 class Lines
 {
 public:
@@ -36,7 +36,7 @@ private:
     int m_number = 0;
 };
 
-/// The text of an entry as it is collected piece by piece.
+/// Collects the text of an entry piece by piece.
 class EntryText
 {
 public:
@@ -50,10 +50,11 @@ public:
         m_text += piece;
     }
 
-    /// Whether the advisor shows less of it than what would be left after blanks around its lines are gone.
+    /// Whether the advisor cuts the text only because of blanks around its lines.
     [[nodiscard]] bool CutByBlanks() const { return m_cut && m_text.size() <= ShownLength; }
 
-    /// On lines of its own, one that begins with "[" would start a topic. A blank in front keeps it text.
+    /// Returns the text. A line beginning with "[" would start a topic, so it gets a leading blank if the
+    /// text is to be on lines of its own.
     [[nodiscard]] std::string Take()
     {
         if (!OnOwnLines(m_text) || m_text.find('[') == std::string::npos) {

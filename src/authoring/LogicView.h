@@ -13,11 +13,11 @@ enum class LogicBox
     Advice,   ///< VCAnswerBox
 };
 
-/// The logic editor's window as its rules see it: they decide, it only shows. Texts are UTF-8; a box gives
-/// its lines parted by any line end, and gets them parted by CR LF.
+/// The logic editor's window, as `LogicEditor` sees it. Texts are UTF-8. Lines end with CR LF in texts that
+/// the view gets, and with any line end in texts that it returns.
 ///
-/// What it is told here it shows without answering by an event: `VarCombo_Click` and `AnswerCombo_Click` are
-/// for the author's own choices. Indices of the lists count from 0; -1 is none.
+/// Its calls cause no events: `VarCombo_Click` and `AnswerCombo_Click` are only for choices of the author.
+/// List indices count from 0; -1 is none.
 class LogicView
 {
 public:
@@ -26,17 +26,17 @@ public:
     [[nodiscard]] virtual std::string Text(LogicBox box) const = 0;
     virtual void SetText(LogicBox box, const std::string& text) = 0;
 
-    /// A box for something that is not selected takes no text: it would belong to nothing.
+    /// A box without a selected variable or choice is disabled: its text would belong to nothing.
     virtual void Enable(LogicBox box, bool enabled) = 0;
 
-    /// Replaces what is selected in the logic text, or inserts at the caret.
+    /// Replaces the selection in the logic text, or inserts at the caret.
     virtual void InsertIntoLogic(const std::string& text) = 0;
 
-    /// Fills `VarCombo` or `AnswerCombo` anew, nothing selected.
+    /// Refills `VarCombo` or `AnswerCombo`; nothing is selected.
     virtual void SetVariables(const std::vector<std::string>& names) = 0;
     virtual void SetChoices(const std::vector<std::string>& choices) = 0;
 
-    /// Adds behind the last entry; the selection stays.
+    /// Appends an entry; the selection does not change.
     virtual void AppendVariable(const std::string& name) = 0;
     virtual void AppendChoice(const std::string& choice) = 0;
 
@@ -46,10 +46,10 @@ public:
     virtual void SelectVariable(int index) = 0;
     virtual void SelectChoice(int index) = 0;
 
-    /// Puts the caret into a box, at a line (from 1; 0 leaves it where it is).
+    /// Puts the caret into a box, at the beginning of a line (from 1; 0 does not move it).
     virtual void GoTo(LogicBox box, int line) = 0;
 
-    /// Shows the block's text, read-only, and returns when that window is closed.
+    /// Shows the block's text, read-only. Returns when that window is closed.
     virtual void ShowSpecification(const std::string& text) = 0;
 };
 

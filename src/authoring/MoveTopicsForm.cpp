@@ -17,18 +17,19 @@ namespace ls {
 
 namespace {
 
-// Items are made before they are in the list: one made in it is searched for there, through the whole list.
+// An item created inside its list is searched for there, which is slow for thousands, so each one is added
+// after it is made.
 void Fill(QListWidget& list, const std::vector<TopicListItem>& topics)
 {
     for (const TopicListItem& topic : topics) {
         auto item = std::make_unique<QListWidgetItem>(ShownBookText(topic.text));
         item->setData(Qt::UserRole, topic.itemData);
-        list.addItem(item.release()); // the list's own from here on
+        list.addItem(item.release()); // owned by the list from here on
     }
 }
 
-// The numbers of the selected entries. Asking each entry whether it is selected, or in which row it stands,
-// would take a walk through the list for each of thousands.
+// The numbers of the selected entries. To ask each entry whether it is selected, or for its row, would search
+// the list each time, which is slow for thousands.
 std::vector<int> SelectedTopics(const QListWidget& list)
 {
     std::vector<int> numbers;

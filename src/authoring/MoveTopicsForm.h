@@ -18,13 +18,14 @@ namespace ls {
 struct Book;
 struct TopicFlags;
 
-/// Moves topics to another place of the book, in two steps: which ones, and behind which.
+/// Moves topics to another place in the book. The author first selects the topics, then the one to put them
+/// after.
 class MoveTopicsForm : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `TopicsRearranged` tells afterwards whether a move was done; Cancel changes nothing in either step.
+    /// Afterwards `TopicsRearranged` says whether topics were moved. Cancel in either step changes nothing.
     MoveTopicsForm(QWidget* parent, Book& book, TopicFlags& flags, const Seams& seams);
     ~MoveTopicsForm() override;
 
@@ -40,7 +41,7 @@ private:
     TopicFlags& m_flags;
     Seams m_seams;
     std::vector<TopicListItem> m_movable;
-    std::vector<int> m_selected; ///< the topics of step 1; empty in that step
+    std::vector<int> m_selected; ///< the topics selected in step 1; empty during that step
 };
 
 } // namespace ls

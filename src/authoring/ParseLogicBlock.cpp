@@ -28,7 +28,7 @@ bool IsWhole(std::string_view part)
     return !part.empty() && Trim(part) == part;
 }
 
-// Whether a line behind the entry's first one begins with "[" after its blanks.
+// Whether any line of the entry but the first begins with "[", after blanks.
 bool HidesQuestions(std::string_view raw)
 {
     for (std::size_t end = raw.find(LineEnd); end != std::string_view::npos;
@@ -108,8 +108,8 @@ private:
         m_choices.push_back({&place, {{}, std::string(identifier.choice), std::move(entry.text)}});
     }
 
-    // Which of two equal entries is shown depends on the question asked last, as long as one stands between
-    // them. Behind all questions the first is shown always.
+    // If questions come between two equal entries, the advisor shows one or the other, depending on the
+    // question asked last. After all questions it always shows the first.
     void TakeBare(LogicEntry& entry)
     {
         const auto [earlier, first] = m_bare.emplace(UpperCase(entry.identifier), entry.line);
@@ -144,7 +144,7 @@ private:
 
     static constexpr std::size_t Unlisted = static_cast<std::size_t>(-1);
 
-    // A choice, and the place of its variable, which is known only when all entries are taken.
+    // A choice and the place of its variable, which is known only after all entries are taken.
     struct Placed
     {
         const std::size_t* variable;
@@ -154,11 +154,11 @@ private:
     LogicBlock& m_block;
     std::vector<Placed> m_choices;
     std::unordered_set<std::string> m_asked;               ///< variables that have a question entry
-    std::unordered_map<std::string, std::size_t> m_places; ///< of the variables in their list
+    std::unordered_map<std::string, std::size_t> m_places; ///< of each variable in the list
     std::unordered_set<std::string> m_identifiers;         ///< of the choices
-    std::unordered_map<std::string, int> m_bare;           ///< the line of each first one
-    int m_finalQuestion = 0;                               ///< the line of the last question of all
-    int m_questionBefore = 0;                              ///< the line of the last one that was taken
+    std::unordered_map<std::string, int> m_bare;           ///< the line of the first of equal entries
+    int m_finalQuestion = 0;                               ///< the line of the last question in the block
+    int m_questionBefore = 0;                              ///< the line of the last question taken so far
 };
 
 } // namespace

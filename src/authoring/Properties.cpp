@@ -17,7 +17,7 @@ constexpr std::string_view AcceptsComments = "YES";
 
 struct Field
 {
-    const char* name; ///< as the form calls it
+    const char* name; ///< its label in the form
     std::string BookHeader::*value;
 };
 
@@ -26,7 +26,7 @@ constexpr std::array<Field, 4> Fields = {{{"Book Author(s)", &BookHeader::BookAu
                                           {"Web site URL", &BookHeader::BookUrl},
                                           {"Web site accepts comments", &BookHeader::BookPost}}};
 
-// False after the warning about a character that books cannot hold.
+// False, after the warning, if the text has a character that books cannot hold.
 bool Take(const Seams& seams, const char* name, const std::string& utf8, std::string& value)
 {
     Unmapped unmapped;

@@ -10,7 +10,7 @@ namespace ls {
 struct Book;
 struct BookHeader;
 
-/// The header fields of a book as the properties form shows them; texts are UTF-8.
+/// The header fields of a book, as the properties form shows them. Texts are UTF-8.
 struct Properties
 {
     std::string author;
@@ -21,18 +21,16 @@ struct Properties
     friend bool operator==(const Properties&, const Properties&) = default;
 };
 
-/// The fields to show. Comments count as accepted only when `BookPost` is "YES" in capitals.
+/// The fields to show. Comments are accepted only if `BookPost` is "YES", in capitals.
 [[nodiscard]] Properties LoadProperties(const Book& book);
 
-/// The fields that the header line would not give back as they stand, a whole sentence in UTF-8 for each;
-/// none when all is well.
+/// The fields that would be read back differently from the header line: a whole sentence in UTF-8 for each.
 [[nodiscard]] std::vector<std::string> MisreadProperties(const BookHeader& header);
 
-/// O.K.: the fields take the texts as they stand, `BookPost` becomes "YES" or empty, and `BookChanged` is
-/// set.
+/// O.K.: stores the texts unchanged, sets `BookPost` to "YES" or empties it, and sets `BookChanged`.
 ///
-/// False, with nothing changed, after the warning about a character that books cannot hold, and when the
-/// author declines to keep values that the header line would not give back the same.
+/// False, with nothing changed, after the warning about a character that books cannot hold, or if the author
+/// does not accept values that would be read back differently from the header line.
 [[nodiscard]] bool SaveProperties(Book& book, const Seams& seams, const Properties& properties);
 
 } // namespace ls

@@ -8,8 +8,8 @@
 
 namespace ls {
 
-/// What stands in an editor that is still open, for one topic of the table. It is UTF-8: what a book cannot
-/// hold was typed all the same.
+/// The text of one topic in an editor that is still open. UTF-8, because it may have characters that books
+/// cannot hold.
 struct RunningText
 {
     int topic = 0;    ///< its number in the table, from 1
@@ -19,7 +19,7 @@ struct RunningText
     friend bool operator==(const RunningText&, const RunningText&) = default;
 };
 
-/// A topic whose box in the open deletion form says something else than the book does.
+/// A topic whose box in the open deletion form differs from the book.
 struct RunningRemoval
 {
     int topic = 0; ///< its number in the table, from 1
@@ -29,11 +29,11 @@ struct RunningRemoval
     friend bool operator==(const RunningRemoval&, const RunningRemoval&) = default;
 };
 
-/// What stands in the forms that are still open: typed, but not accepted yet by Done or O.K.
+/// What was typed into open forms and not accepted yet by Done or O.K.
 struct RunningEdits
 {
     std::optional<RunningText> text;
-    std::optional<RunningText> logic; ///< the whole block, from its "<IXML>" line on, as it would be written
+    std::optional<RunningText> logic; ///< the whole block as Done would write it
     std::optional<Properties> properties;
     std::vector<RunningRemoval> removals;
 

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t NamedLines = 5;
 
-// A text in memory that reads like a book's file, so that the book's own reader of notes can judge it.
+// Lets a text in memory be read as a book's file, so that the book's own reader of notes can be used.
 class TextFile : public BookFile
 {
 public:
@@ -49,7 +49,7 @@ bool HoldsNoteEnd(std::string_view part)
     return Contains(part, XrefClosing) || Contains(part, XrefOtherClosing);
 }
 
-// Where the note ends whose opening line begins at `opening`; nothing when only the end of the text ends it.
+// Where the note with the opening line at `opening` ends; nothing if only the end of the text ends it.
 std::optional<FilePos> EndOfNote(TextFile& file, FilePos opening)
 {
     LineCursor cursor(file);

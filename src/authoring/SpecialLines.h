@@ -6,15 +6,15 @@
 
 namespace ls {
 
-/// What a line of a topic's text would do when the saved book is opened again.
+/// What a line in a topic's text would do when the saved book is opened again.
 enum class LineMeaning
 {
     StartsTopic,  ///< "[Name]"
-    HidesRest,    ///< "[]": no topic, but the display stops there
+    HidesRest,    ///< "[]": begins no topic, but ends the display
     EndsBook,     ///< "[EOF]"
     OpensIndex,   ///< "<INDEX>"
     BeginsLogic,  ///< "<IXML>" in any letter case
-    OpensEndless, ///< a cross reference without its end: it would take the topics behind it into its note
+    OpensEndless, ///< a cross reference without an end: its note would include the next topics
 };
 
 struct SpecialLine
@@ -24,14 +24,15 @@ struct SpecialLine
     LineMeaning meaning = LineMeaning::StartsTopic;
 };
 
-/// The lines of a topic's text, parted by CR LF, that would not be read back as text, in their order.
-/// Inside a cross reference's note only "<IXML>" counts: the scan takes every other line as note.
+/// The lines of a topic's text (separated by CR LF) that would not be read back as text, in order.
+/// Inside the note of a cross reference only "<IXML>" counts, because the scan reads all other lines as part
+/// of the note.
 [[nodiscard]] std::vector<SpecialLine> FindSpecialLines(std::string_view text);
 
-/// What becomes of such a line: "would start a new topic".
+/// The effect of such a line, for example "would start a new topic".
 [[nodiscard]] std::string_view Consequence(LineMeaning meaning);
 
-/// What the author is asked before such lines are kept, as UTF-8; it names the first five of them.
+/// The question before such lines are stored, UTF-8. It names the first five of them.
 [[nodiscard]] std::string SpecialLinesQuestion(const std::vector<SpecialLine>& lines);
 
 } // namespace ls

@@ -58,7 +58,7 @@ void TextBoxCommands::FindItem_Click()
     }
 }
 
-// From the caret on, and from the start again behind the end.
+// Searches from the caret to the end, then from the start.
 void TextBoxCommands::FindNextItem_Click()
 {
     if (m_sought.empty()) {

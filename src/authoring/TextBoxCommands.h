@@ -13,9 +13,9 @@ class QPlainTextEdit;
 
 namespace ls {
 
-/// The commands that every text box of an editor knows: undo, redo, select all, find and find next. They act
-/// on the box that had the focus last, at first on the first one; undo and redo are enabled while that box
-/// has a step for them.
+/// The commands that all text boxes of an editor have: undo, redo, select all, find and find next. They act
+/// on the box that last had the focus, initially the first one. Undo and redo are enabled if that box has a
+/// step for them.
 class TextBoxCommands : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private:
 
     Items m_items;
     Seams m_seams;
-    QPointer<QPlainTextEdit> m_box; ///< that had the focus last
+    QPointer<QPlainTextEdit> m_box; ///< the last one with the focus
     std::string m_sought;           ///< what Find Next looks for
 };
 

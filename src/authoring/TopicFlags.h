@@ -2,11 +2,11 @@
 
 namespace ls {
 
-/// What the forms on topics tell the main window when they close.
+/// What the topic forms report to the main window when they close.
 struct TopicFlags
 {
-    bool TopicsRearranged = false; ///< a move was done
-    bool TopicListStale = false;   ///< topics were removed or restored: the list is to be refilled
+    bool TopicsRearranged = false; ///< topics were moved
+    bool TopicListStale = false;   ///< topics were removed or restored: refill the list
 };
 
 } // namespace ls

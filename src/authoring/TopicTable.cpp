@@ -10,10 +10,10 @@ namespace ls {
 
 namespace {
 
-// The name that would make a header line the end of the book.
+// A header line with this name would end the book.
 constexpr std::string_view EndName = "EOF";
 
-// Past their bound, the tables grow by ten when a topic is added.
+// A full table grows by ten elements when a topic is added.
 constexpr int AddGrowthStep = 9;
 
 bool IsTaken(const Book& book, const std::string& name)
@@ -23,7 +23,7 @@ bool IsTaken(const Book& book, const std::string& name)
                        [&name](const std::string& taken) { return WithoutBrackets(taken) == name; });
 }
 
-// The numbers of all topics in their new order.
+// The numbers of all topics, in the new order.
 std::vector<int> NewOrder(const Book& book, const std::vector<int>& selected, int after)
 {
     const int count = book.TopicCount;
@@ -100,7 +100,7 @@ bool AddTopic(Book& book, const std::string& name)
     book.TopicRecs(book.TopicCount).Text = NewTopicText;
     book.CurrentTopicName = name;
     book.CurrentTopicNo = book.TopicCount;
-    // Also when the text editor is then cancelled, the topic stays in the list: leaving must ask about it.
+    // Set here because the topic stays even if the text editor is cancelled; leaving must then ask to save.
     book.BookChanged = true;
     return true;
 }

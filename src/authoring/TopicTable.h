@@ -8,35 +8,36 @@ namespace ls {
 
 struct Book;
 
-/// The body of a topic that was just added.
+/// The text of a new topic.
 inline constexpr std::string_view NewTopicText = "Insert text here.";
 
-/// The name that a typed text means: trimmed, and on one line, as a name that was pasted with its line end
-/// would otherwise cut the topic's header line in two.
+/// The topic name for a typed text: trimmed and on one line. A line end in a pasted name would break the
+/// topic's header line in two.
 [[nodiscard]] std::string TopicNameFromText(std::string_view text);
 
-/// Why a topic of that name (without brackets, not empty, book text) may not be added: the message for the
-/// user, empty when it may. A removed topic keeps its name until the book is saved.
+/// The message why no topic of that name may be added; empty if it may. `name` is book text without brackets,
+/// not empty. A removed topic keeps its name until the book is saved.
 [[nodiscard]] std::string NameRefusal(const Book& book, const std::string& name);
 
-/// Adds a topic at the end of the book, with `NewTopicText` for its text, makes it the current one and marks
-/// the book as changed. False, and nothing is done, when the book holds as many topics as can be counted.
+/// Adds a topic with `NewTopicText` at the end of the book, makes it the current one and marks the book as
+/// changed. False, with nothing changed, if the book has as many topics as it can count.
 [[nodiscard]] bool AddTopic(Book& book, const std::string& name);
 
 /// Whether one topic is to be removed.
 struct RemovalChoice
 {
-    int number = 0; ///< the topic's, in the table
+    int number = 0; ///< the topic's number in the table
     bool removed = false;
 };
 
 /// Removes and restores topics, and marks the book as changed.
 void SetRemoved(Book& book, const std::vector<RemovalChoice>& choices);
 
-/// Moves the topics of those numbers (in any order, each once) behind the topic `after`, which is none of
-/// them; 0 puts them first. They keep their order among themselves, and so do all others, removed ones
-/// included. Names, places in the file and edits move together, the current topic keeps being the current
-/// one, and the advisor's answers, which name topics by numbers, are forgotten.
+/// Moves the topics `selected` (in any order, each once) to the place after the topic `after`, which is not
+/// one of them; 0 puts them first. They keep their order, and so do all others, removed ones included.
+///
+/// Names, file positions and edits move along, and the current topic stays current. The advisor's answers are
+/// forgotten, because they refer to topics by number.
 void MoveTopics(Book& book, const std::vector<int>& selected, int after);
 
 } // namespace ls

@@ -120,8 +120,8 @@ void TxEdForm::SymCombo_Click()
     }
 }
 
-// One step to undo. A selection stays selected, so that a second pair can be put around it; without one the
-// caret stands behind `before`, where the next character is to be typed.
+// Inserts in one undo step. A selection stays selected, so that a second pair can be put around it. Without a
+// selection the caret is put between `before` and `after`.
 void TxEdForm::InsertAround(const QString& before, const QString& after)
 {
     QTextCursor cursor = m_ui->MainTxBox->textCursor();
@@ -140,8 +140,8 @@ void TxEdForm::InsertAround(const QString& before, const QString& after)
     m_ui->MainTxBox->setFocus();
 }
 
-// Every choice in the list inserts. So the wheel must not choose, the arrow keys open the list instead of
-// running through it, and Enter inserts the chosen symbol again instead of pressing Done.
+// Choosing from the list inserts the symbol. So the wheel is ignored, the arrow keys open the list instead of
+// choosing, and Enter inserts the chosen symbol again instead of pressing Done.
 bool TxEdForm::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != m_ui->SymCombo) {

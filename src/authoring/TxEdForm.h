@@ -17,7 +17,7 @@ namespace ls {
 class TextBoxCommands;
 struct Book;
 
-/// The text editor for the topic on show, which the book holds in memory already. Done stores the text there.
+/// The text editor for the topic on show, which must be in memory. Done stores the text there.
 class TxEdForm : public QDialog, public EditSource
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     void AddRunningEdits(RunningEdits& edits) override;
 
 public Q_SLOTS:
-    /// Escape and the close button: a text that was changed is not dropped without asking.
+    /// For Escape and the close button: asks before it drops changes.
     void reject() override;
 
 protected:

@@ -19,20 +19,20 @@ namespace {
 using Kind = AdvisorEvent::Kind;
 using Texts = std::vector<std::string>;
 
-// One dialogue: the topic, and the answers given in it. It may be abandoned before its end.
+// A dialogue: its topic and the answers given. It may stop before its end.
 struct Dialogue
 {
     std::string topic;
     Texts answers;
 };
 
-// How the last of some dialogues came out.
+// The result of the last dialogue.
 struct Outcome
 {
-    Texts choices; // of the question that is left open; empty when there is none
+    Texts choices; // of the question without an answer; empty if there is none
     std::string advice;
     std::string adviceText;
-    Texts boxes; // without the one that asks about earlier answers
+    Texts boxes; // all but the one about earlier answers
     Texts faults;
 };
 
@@ -79,7 +79,7 @@ void Note(const AdvisorEvent& event, Outcome& outcome)
     }
 }
 
-/// The sample book, whose advisors are walked through every answer that they offer.
+/// The sample book. The tests give every answer that its advisors offer.
 class AdviceBookTest : public testing::Test
 {
 protected:
@@ -91,7 +91,7 @@ protected:
         ASSERT_TRUE(ScanBook(book, world.Get()));
     }
 
-    // Plays the dialogues one after another, with the earlier answers used again, and tells of the last one.
+    // Plays dialogues one after another, reusing earlier answers. Returns the result of the last one.
     Outcome Play(const std::vector<Dialogue>& dialogues)
     {
         AdvisorTables tables;
@@ -113,8 +113,8 @@ protected:
         return outcome;
     }
 
-    // Every dialogue of the topic that can follow the earlier ones, breadth first, the abandoned ones too.
-    // Each one that is over must have ended on an advice that has a text.
+    // Plays every dialogue on the topic that can follow the earlier ones, breadth first, and also stops each
+    // after every answer. Each complete one must end with an advice that has a text.
     std::vector<Dialogue> Walk(const std::vector<Dialogue>& earlier, const std::string& topic)
     {
         std::vector<Dialogue> walked;
@@ -153,7 +153,7 @@ protected:
             << what;
     }
 
-    // The identifiers of the advice that stands in the file.
+    // The identifiers of all advice texts in the file.
     [[nodiscard]] std::set<std::string> WrittenAdvice()
     {
         const std::string& bytes = world.files["/Advice.IDA"];
@@ -194,7 +194,7 @@ TEST_F(AdviceBookTest, everyAnswer_givenAgainInTheSameTopic_stillLeadsToAdvice)
     }
 }
 
-// The four topics that share their questions, in every order of two, the first one perhaps abandoned.
+// Every pair of the four topics with common questions, in both orders. The first dialogue may stop early.
 TEST_F(AdviceBookTest, everyAnswer_usedAgainInAnotherTopic_stillLeadsToAdvice)
 {
     const Texts sharing{"A Day in the Hills", "The Weather Today", "Who Comes Along", "What to Pack"};

@@ -150,7 +150,7 @@ TEST_F(AdvisorDialogTest, noCandidates_isToldForTheTopGoal)
                    {"<Q ID=MOOD>mood?</Q>", "<Q ID=SUN>sun?</Q>"}),
               (Texts{"question MOOD derived [] [? - unsure] [GOOD] [BAD]: mood?"}));
     EXPECT_EQ(world.Next("? - unsure"), (Texts{"question SUN [] [YES] [NO]: sun?"}));
-    world.tables.LogicRules(5) = "AV(3)=SUN(NO)LATE(YES)"; // so that the answer does not settle the goal
+    world.tables.LogicRules(5) = "AV(3)=SUN(NO)LATE(YES)"; // so that the answer leaves the goal open
     world.tables.Index.Clear();
     EXPECT_EQ(world.Next("NO"),
               (Texts{"button Close", "text I can't find a question to ask for target MOOD."}));
@@ -257,7 +257,7 @@ TEST_F(AdvisorDialogTest, reusedAnswersOfOtherTopic_settleGoalWhenItIsLoaded)
     ASSERT_TRUE(Append(world.tables.Answers, world.tables.AnswerCount, Answer{"MOOD", "GOOD", 3, false}, 20));
     world.seams.messages.replies = {Reply::Yes};
     world.Advise();
-    // SUN=YES belongs to the loaded topic; its rules conclude MOOD, but MOOD is no goal yet.
+    // SUN=YES belongs to the loaded topic. Its rules conclude MOOD, but MOOD is not a goal yet.
     EXPECT_EQ(world.view.Take(), (Texts{"question MOOD derived [] [? - unsure] [GOOD] [BAD]: mood?"}));
     Boxes();
     world.tables.Answers(2).Topic = 2;
@@ -276,7 +276,7 @@ TEST_F(AdvisorDialogTest, malformedRule_stopsAssertionsOnly)
     EXPECT_EQ(world.Next("X"), (Texts{"question B [] [X] [Y]: b?"}));
     EXPECT_EQ(Boxes(), (Texts{box}));
     EXPECT_EQ(world.Next("X"), (Texts{"button Close", "text I can't find a question to ask for target AV."}));
-    EXPECT_EQ(Boxes(), (Texts{box})); // AV(1) has fired behind the malformed rule and is not seen
+    EXPECT_EQ(Boxes(), (Texts{box})); // AV(1) has fired after the malformed rule and is not seen
 }
 
 TEST_F(AdvisorDialogTest, overflow_endsTheDialogueWithOneBox)

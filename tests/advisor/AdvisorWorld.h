@@ -22,7 +22,7 @@
 
 namespace ls::test {
 
-/// Records what the dialogue shows, a line for each event.
+/// Records what the dialogue shows, one line for each event.
 class RecordingView : public AdvisorView
 {
 public:
@@ -47,11 +47,11 @@ public:
     std::vector<std::string> log;
 };
 
-/// An open book in memory, with what works on it.
+/// An open book in memory, with all that the advisor needs.
 class AdvisorWorld
 {
 public:
-    /// Opens a book of these lines; the header line is put in front.
+    /// Opens a book of these lines, after a header line.
     void Open(const std::string& body)
     {
         seams.files[path] = "LODESTAR BOOK V5.3\r\n" + body;
@@ -60,7 +60,7 @@ public:
         ASSERT_TRUE(ScanBook(book, seams.Get()));
     }
 
-    /// Opens a book of one topic, "[Topic]", with this logic section and these definitions.
+    /// Opens a book with one topic, "[Topic]", that has this logic section and these definitions.
     void OpenTopic(std::initializer_list<const char*> logic, std::initializer_list<const char*> definitions)
     {
         Open("[Topic]\r\n<IXML>\r\n<LOGIC>\r\n" + CrLf(logic) + "<DEFINITIONS>\r\n" + CrLf(definitions) +
@@ -79,7 +79,7 @@ public:
         book.LogicPos = shown.logicPos;
     }
 
-    /// Opens the advisor on the topic on show.
+    /// Opens the advisor for the topic on show.
     AdvisorDialog& Advise()
     {
         dialog = std::make_unique<AdvisorDialog>(book, tables, seams.Get(), view);
@@ -87,7 +87,7 @@ public:
         return *dialog;
     }
 
-    /// What the dialogue showed since the last call, and its boxes; an answer leads to it when given.
+    /// Presses the button with that answer. Returns what the dialogue shows then.
     std::vector<std::string> Next(const std::string& answer)
     {
         view.log.clear();
@@ -103,7 +103,7 @@ public:
     std::unique_ptr<AdvisorDialog> dialog;
 };
 
-/// The reading half of the advisor on a world, without a dialogue.
+/// The parts of the advisor that read the book, without a dialogue.
 class AdvisorReader
 {
 public:
@@ -139,7 +139,7 @@ inline std::vector<std::string> Targets(const AdvisorTables& tables)
     return {targets.begin(), targets.end()};
 }
 
-/// Tables that hold these rules and goals.
+/// Tables with these rules and goals.
 inline AdvisorTables TablesOf(const std::vector<std::string>& rules, const std::vector<std::string>& targets)
 {
     AdvisorTables tables;

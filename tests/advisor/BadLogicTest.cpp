@@ -21,8 +21,8 @@ const std::string Sample =
     "[Other]\r\n<IXML>\r\n<LOGIC>\r\nMOOD(BAD)=SUN(NO)\r\nMOOD(GOOD)=SUN(YES)\r\n<DEFINITIONS>\r\n"
     "<Q ID=MOOD>mood?</Q>\r\n<Q ID=SUN>sun?</Q>\r\n</DEFINITIONS>\r\n</IXML>\r\n";
 
-// Plays a book's "[Topic]" by always taking the choice of that number. Returns the last event's kind; a
-// dialogue of this size that has not ended after a hundred answers never will.
+// Plays the book's "[Topic]" and always takes the choice with that number. Returns the kind of the last
+// event. A dialogue of this size must end within a hundred answers.
 AdvisorEvent::Kind PlayTopic(const std::string& bytes, std::size_t choice,
                              const std::function<void(std::string& file)>& meddle = {})
 {
@@ -48,7 +48,8 @@ AdvisorEvent::Kind PlayTopic(const std::string& bytes, std::size_t choice,
         if (answers > 100 || question.choices.empty()) {
             return std::nullopt;
         }
-        // A value that ends in a comma leaves an empty choice, which only gives the reminder.
+        // A value that ends in a comma leaves an empty choice. It cannot be an answer, so the first choice is
+        // used.
         const std::string& wanted = question.choices[std::min(choice, question.choices.size() - 1)];
         return wanted.empty() ? question.choices.front() : wanted;
     };
@@ -117,7 +118,7 @@ TEST(BadLogic, valuesOfCommasOnly_areRead)
     const std::string commas(100000, ',');
     world.OpenTopic({("AV(1)=A(" + commas + ")").c_str(), "AV(2)=A(X)"}, {"<Q ID=A>a?</Q>"});
     world.Advise();
-    // The first comma goes as an empty value does; what is left counts as one value, which no rule holds.
+    // The first comma is dropped, as after an empty value. The rest counts as one value, which no rule has.
     EXPECT_EQ(world.view.Take(), Texts{});
     EXPECT_EQ(world.tables.RuleCount, 0);
     EXPECT_EQ(world.seams.end.Reason(), "no next variable after an automatic one-value answer");
@@ -125,13 +126,14 @@ TEST(BadLogic, valuesOfCommasOnly_areRead)
 
 TEST(BadLogic, loadThatFailsEachTime_growsTheRulesButEnds)
 {
-    // Each look for a question of "[Other]" reads that topic's rules again before its bad line fails it.
+    // Each search for a question of "[Other]" reads that topic's rules again, until its bad line fails the
+    // load.
     AdvisorWorld world;
     world.Open("[Topic]\r\n<IXML>\r\n<LOGIC>\r\nDEFINE X@Other\r\nDEFINE Y@Other\r\nAV(1)=X(A)Y(B),\r\n"
                "<DEFINITIONS>\r\n</DEFINITIONS>\r\n"
                "[Other]\r\n<IXML>\r\n<LOGIC>\r\nAV(1)=X(A)Y(B),\r\nBAD\r\n<DEFINITIONS>\r\n");
     world.Show("Topic");
-    // Near the limit, so that the test is quick; a reader would meet the same after more boxes.
+    // Begins near the limit to be quick. A user would reach the same after more boxes.
     while (world.tables.AnswerCount < Count16::Max - 200) {
         ASSERT_TRUE(Append(world.tables.Answers, world.tables.AnswerCount, Answer{"Q", "", 9, false}, 40000));
     }

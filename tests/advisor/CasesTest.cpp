@@ -14,7 +14,7 @@ namespace {
 
 using Kind = AdvisorEvent::Kind;
 
-// One line for an event, the same for what happened and for what the case expects.
+// One line for an event, in the same form for actual and expected events.
 std::string Line(const AdvisorEvent& event)
 {
     switch (event.kind) {

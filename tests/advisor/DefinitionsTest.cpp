@@ -11,8 +11,8 @@ using test::Rules;
 struct TextRow
 {
     const char* name;
-    const char* lines; ///< the definitions; "|" stands for a line end
-    const char* text;  ///< of <Q ID=AGE>, in the same way
+    const char* lines; ///< the definitions; "|" means a line end
+    const char* text;  ///< of <Q ID=AGE>; "|" as above
 };
 
 std::string Lines(std::string text)

@@ -80,7 +80,7 @@ void DialogueModel::Close()
     log.emplace_back("button Close");
 }
 
-// The topic's text is passed over up to its block.
+// Skips the topic's text up to its block.
 bool DialogueModel::FindBlock(int topic)
 {
     m_pos = m_topics[static_cast<std::size_t>(topic - 1)].pos;
@@ -273,7 +273,8 @@ void DialogueModel::ReadQuestions(int topic)
 
 std::string DialogueModel::Replay(int topic, std::string advice)
 {
-    const std::vector<Fact> earlier = m_answers; // those that the rules add on the way are not replayed
+    // A copy: answers that the rules add meanwhile are not replayed.
+    const std::vector<Fact> earlier = m_answers;
     for (const Fact& answer : earlier) {
         const bool applies =
             answer.topic == topic || std::any_of(m_vars.begin(), m_vars.end(), [&](const Fact& entry) {

@@ -6,17 +6,17 @@
 
 namespace ls::test {
 
-/// A plain reading of the advisor's rules: whole dialogues on a book's bytes, step for step as the rules are
-/// told, without an index, a cache or a line of the program's own code. Slow, and meant to be.
+/// A simple model of the advisor: runs whole dialogues on a book's bytes, step by step, without an index, a
+/// cache or any of the program's code. Slow on purpose.
 ///
-/// It keeps a log, a line for each thing that a reader would see.
+/// Its log has one line for each thing that a user would see.
 class DialogueModel
 {
 public:
     struct Topic
     {
         std::string name; ///< the header line, with its brackets
-        std::size_t pos;  ///< of its first byte, from 0
+        std::size_t pos;  ///< of the first byte, from 0
     };
 
     DialogueModel(std::string bytes, std::vector<Topic> topics)
@@ -24,13 +24,13 @@ public:
     {
     }
 
-    /// One dialogue on the topic of that number (from 1). Each pick stands for an answer: `picks[i]` counts
-    /// through the choices; 0 stands for the empty item.
+    /// Runs a dialogue on the topic with that number, from 1. Each pick is an answer, as the number of a
+    /// choice; 0 is the empty item.
     void Run(int topic, const std::vector<std::size_t>& picks, bool reuse);
 
     [[nodiscard]] bool Ended() const { return m_ended; }
 
-    /// Whether the dialogue went on for so many rounds without the reader that the model lost patience.
+    /// Whether the model gave up, after too many rounds without a question.
     [[nodiscard]] bool GaveUp() const { return m_gaveUp; }
 
     std::vector<std::string> log;

@@ -17,8 +17,8 @@ using test::Modelled;
 using test::Played;
 using test::Texts;
 
-// Books of one to three topics whose logic hangs together well enough for dialogues, with slips here and
-// there: one in `oddity` pieces is odd.
+// Makes books of one to three topics with logic that is good enough for dialogues, except that one of
+// `oddity` pieces is odd.
 class BookMaker
 {
 public:
@@ -92,7 +92,7 @@ private:
         return Vars[var] + "(" + value + (Odd() ? OneOf({"", "))", " ) "}) : ")");
     }
 
-    // Conditions come behind the conclusion in the list of variables, so that a circle is an oddity.
+    // Conditions come after the conclusion in the list of variables, so circles are rare.
     std::string Rule()
     {
         const std::size_t left = Roll(5) < 3 ? Roll(2) : 2 + Roll(2);
@@ -138,7 +138,7 @@ private:
     std::size_t m_homes[7] = {};
 };
 
-// A stray "[" may stand for a topic between those of the maker.
+// Looked up by name, because a stray "[" may have added a topic.
 int NumberOf(const Book& book, const std::string& name)
 {
     const auto found = std::find(book.TopicNames.begin(), book.TopicNames.end(), name);
@@ -146,7 +146,7 @@ int NumberOf(const Book& book, const std::string& name)
     return static_cast<int>(found - book.TopicNames.begin()) + 1;
 }
 
-// What a line of the log is about, for counting.
+// The kind of a log line, for counting.
 std::string KindOf(const std::string& line)
 {
     const auto begins = [&line](std::string_view with) { return line.rfind(with, 0) == 0; };
@@ -170,8 +170,8 @@ std::string KindOf(const std::string& line)
     return line;
 }
 
-// What the random books must have come to, and how often at least: a test of dialogues that all fail to load
-// would compare little.
+// The kinds of lines that the random books must cause, and how many at least. If all dialogues failed to
+// load, the test would compare little.
 const std::map<std::string, int> Wanted{
     {"question", 1000},
     {"question derived", 200},

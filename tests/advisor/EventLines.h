@@ -9,7 +9,7 @@
 
 namespace ls::test {
 
-/// Texts in brackets, one behind the other.
+/// The texts, each in brackets.
 inline std::string JoinedTexts(const std::vector<std::string>& texts)
 {
     std::string joined;
@@ -19,7 +19,7 @@ inline std::string JoinedTexts(const std::vector<std::string>& texts)
     return joined;
 }
 
-/// One line for an event of a dialogue that stands in JSON.
+/// One line for a dialogue's event in JSON.
 inline std::string EventLine(const Json& event)
 {
     if (event.Has("run")) {

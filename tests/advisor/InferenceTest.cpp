@@ -355,7 +355,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ValuesRow{"nested", {"AV(1)=X(A(B))"}, "A(B, 1"}),
     [](const auto& row) { return row.param.name; });
 
-// The plain reading of the rules, written as directly as they are told; the engine must agree with it.
+// A simple model of the rules, without an index; the engine must agree with it.
 class PlainModel
 {
 public:
@@ -528,7 +528,7 @@ std::string RandomRules(std::mt19937& random, Texts& rules)
     return seen;
 }
 
-// The engine keeps an index of the rules from one answer to the next; their texts must never differ from it.
+// The engine keeps an index of the rules from answer to answer, which must always match their texts.
 TEST(InferenceModel, answerAfterAnswer_givesWhatThePlainReadingGives)
 {
     std::mt19937 random(20240711);
@@ -550,7 +550,7 @@ TEST(InferenceModel, answerAfterAnswer_givesWhatThePlainReadingGives)
                 candidates.push_back(entry.Name + " x" + std::to_string(entry.Level));
             }
             ASSERT_EQ(candidates, plain.Candidates());
-            tables.CandidateCount = 0; // the plain reading keeps none
+            tables.CandidateCount = 0; // the model keeps none
             const std::string& var = vars[random() % vars.size()];
             const std::string& value = values[random() % values.size()];
             const std::string all = plain.Values(var);

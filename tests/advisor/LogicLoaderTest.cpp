@@ -17,7 +17,7 @@ constexpr const char* ReuseBox =
 class LogicLoaderTest : public testing::Test
 {
 protected:
-    // Loads the logic of a one-topic book; true when that went well.
+    // Loads the logic of a book with one topic. True if that succeeds.
     bool Load(std::initializer_list<const char*> logic,
               std::initializer_list<const char*> definitions = {"<Q ID=A>a?</Q>"})
     {
@@ -53,8 +53,8 @@ TEST_F(LogicLoaderTest, load_wholeBlock_fillsTables)
     world.Show("Guide");
     AdvisorReader reader(world);
     ASSERT_TRUE(reader.Load());
-    const std::size_t definitions =
-        world.seams.files[world.path].find("<DEFINITIONS>") + 15 + 1; // its line end, and 1-based
+    // 13 characters of the tag and 2 of the line end; positions count from 1.
+    const std::size_t definitions = world.seams.files[world.path].find("<DEFINITIONS>") + 15 + 1;
     EXPECT_EQ(Serialize(tables), "rules:\n  RISK(HIGH)=AGE(OLD)\ntargets:\n  RISK\nvariables:\n  AGE@2\n"
                                  "  SMOKER@1\nloaded:\n  1\ncandidates:\nanswers:\ndefinitions at " +
                                      std::to_string(definitions) + "\ncurrent @0\n");
@@ -162,7 +162,7 @@ TEST_P(FailingLines, line_failsTheLoadWithBox)
     EXPECT_FALSE(AdvisorReader(world).Load());
     EXPECT_EQ(world.seams.messages.Take(),
               (Texts{std::string("critical|Lodestar Advisor|") + GetParam().box}));
-    EXPECT_EQ(Rules(world.tables), (Texts{"AV(1)=A(B)"})); // kept as far as they were read
+    EXPECT_EQ(Rules(world.tables), (Texts{"AV(1)=A(B)"})); // the rules read before the bad line stay
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -273,7 +273,7 @@ TEST_F(LogicLoaderTest, firstLoad_clearsAllButRules)
     ASSERT_TRUE(Load({"TARGET X", "AV(1)=A(B)"}));
     tables.CandidateCount = 3;
     ASSERT_TRUE(AdvisorReader(world).Load());
-    EXPECT_EQ(Rules(tables).size(), 2U); // the advisor's button clears the rules
+    EXPECT_EQ(Rules(tables).size(), 2U); // only the advisor's button clears the rules
     EXPECT_EQ(tables.VarTopicCount, 1);
     EXPECT_EQ(tables.LogicTopicCount, 1);
     EXPECT_EQ(tables.CandidateCount, 0);
@@ -313,10 +313,10 @@ TEST_F(LogicLoaderTest, earlierAnswers_yes_assertsThoseThatApply)
     world.Open("[A]\r\n<IXML>\r\n<LOGIC>\r\nDEFINE FAR@B\r\nAV(1)=OWN(x)FAR(y)ELSE(z)\r\nAV(2)=NOT(n)\r\n"
                "<DEFINITIONS>\r\n[B]\r\n[C]\r\n");
     world.Show("A");
-    AddAnswer("OWN", "x", 1);  // of this topic, though no question for it is registered
-    AddAnswer("FAR", "y", 2);  // registered there
+    AddAnswer("OWN", "x", 1);  // of this topic, although no question for it is registered
+    AddAnswer("FAR", "y", 2);  // registered in topic 2
     AddAnswer("ELSE", "z", 3); // registered nowhere
-    AddAnswer("FAR", "n", 3);  // registered elsewhere
+    AddAnswer("FAR", "n", 3);  // registered in another topic
     world.seams.messages.replies = {Reply::Yes};
     AdvisorReader reader(world);
     ASSERT_TRUE(reader.Load());
@@ -335,7 +335,7 @@ TEST_F(LogicLoaderTest, earlierAnswers_firstAdviceIsKept)
     ASSERT_TRUE(reader.Load());
     world.seams.messages.boxes.clear();
     EXPECT_EQ(reader.advice, "1");
-    EXPECT_EQ(tables.AnswerCount, 3); // with the first conclusion
+    EXPECT_EQ(tables.AnswerCount, 3); // and the first conclusion
 }
 
 TEST_F(LogicLoaderTest, earlierAnswers_ofAnotherBookOrOrder_areForgottenUnasked)

@@ -1,4 +1,4 @@
-// Rules whose texts would fill the memory: what comes before them takes more than 256 MiB by itself.
+// Rules that would fill the memory: the text that ASSUME puts before them takes more than 256 MiB in all.
 
 #include "AdvisorWorld.h"
 

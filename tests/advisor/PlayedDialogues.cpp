@@ -19,7 +19,7 @@ std::string Joined(const Texts& texts, const char* before, const char* behind)
     return joined;
 }
 
-// An event as the model logs it.
+// An event in the form of the model's log.
 std::string LogLine(const AdvisorEvent& event)
 {
     using Kind = AdvisorEvent::Kind;

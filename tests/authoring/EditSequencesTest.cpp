@@ -1,5 +1,5 @@
-// Thousands of random editing sessions against a model of the book that is as simple as can be: whatever an
-// author does, the saved file and the book that is opened from it are what the model says.
+// Thousands of random editing sessions, compared with a very simple model of a book. After each save the
+// file, and the book opened from it, must match the model.
 
 #include "authoring/TopicChoices.h"
 #include "authoring/TopicTable.h"
@@ -29,7 +29,7 @@ struct ModelTopic
     bool removed = false;
 };
 
-// The book as a list of topics that are moved by unhooking and hooking them in again.
+// The book as a list of topics. A move takes list nodes out and puts them back in.
 struct Model
 {
     std::list<ModelTopic> topics;
@@ -55,7 +55,7 @@ struct Model
         }
     }
 
-    // What a save makes of it: an edited text gains a line end, and so does its logic.
+    // The changes that saving makes: an edited text gets a line end, and so does its logic.
     void Save()
     {
         topics.remove_if([](const ModelTopic& topic) { return topic.removed; });
@@ -158,7 +158,7 @@ private:
 
     void Add()
     {
-        // Sometimes a name that is there already, or was until the last save.
+        // Sometimes takes a name that is in use, or was until the last save.
         const std::string name = Pick(0, 2) > 0 ? NewName() : "Topic " + std::to_string(Pick(1, m_names + 1));
         const bool taken = std::any_of(m_model.topics.begin(), m_model.topics.end(),
                                        [&](const ModelTopic& topic) { return topic.name == name; });
@@ -204,7 +204,7 @@ private:
         MoveTopics(m_book, selected, after);
     }
 
-    // As the text editor does it: the topic is loaded when it is unedited, and its text replaced.
+    // Does what the text editor does: loads the topic if it is unedited and replaces its text.
     void SetText()
     {
         const int number = Pick(1, m_book.TopicCount);

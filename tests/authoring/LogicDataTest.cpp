@@ -18,12 +18,11 @@ constexpr std::string_view TablesMark = "=== tables\n";
 constexpr std::string_view BuiltMark = "=== built\n";
 constexpr std::string_view BlockMark = "=== block\n";
 
-/// A block, the tables that it is read into, and what is built from them. Line ends are LF in the file, and
-/// characters UTF-8.
+/// A block, the tables read from it, and the block built from them. Files have LF line ends and UTF-8.
 struct Case
 {
     std::string block;
-    std::string tables; ///< as `Describe` tells them, and what Done would ask about the lines
+    std::string tables; ///< in the form of `Describe`, then the questions of Done about lines
     std::string built;
 };
 
@@ -55,7 +54,7 @@ std::string Tables(const LogicBlock& block)
     return text;
 }
 
-/// The built text as the files show it; the message where nothing is built.
+/// The built text in the form of the files; the message if nothing is built.
 std::string Built(const LogicBlock& block)
 {
     test::TestSeams world;

@@ -1,4 +1,4 @@
-// What the logic editor shows as its block, asks about, and stores.
+// What the logic editor shows as its block, asks about and stores.
 
 #include "LogicEditorFixture.h"
 #include "base/CodePage.h"
@@ -90,7 +90,7 @@ TEST_F(LogicEditorDone, lineFeedOfTheBook_staysUnlessItsTextIsChanged)
 {
     Load("<IXML>\r\n<LOGIC>\r\n* a\nb\r\n<DEFINITIONS>\r\n<Q ID=A>one\ntwo</Q>\r\n");
     editor.VarCombo_Click(0);
-    view[LogicBox::Logic] = "* a\nb\n"; // as a box gives it
+    view[LogicBox::Logic] = "* a\nb\n"; // a box returns LF line ends
     view[LogicBox::Question] = "one\ntwo";
     EXPECT_FALSE(editor.Changed());
     EXPECT_TRUE(editor.SaveButton_Click());
@@ -141,7 +141,7 @@ struct UnmappedRow
     const char* text;
     const char* where;
     int line;
-    int variable; ///< selected afterwards
+    int variable; ///< the variable selected afterwards
     int choice;
 };
 

@@ -94,7 +94,7 @@ TEST_F(LogicEditorLists, varDel_movesTheSelectionToTheNextOrTheLast)
     EXPECT_EQ(view.variables, (Strings{"RISK", "PLACE"}));
     EXPECT_EQ(view.variable, 0);
     EXPECT_EQ(view[LogicBox::Question], "");
-    EXPECT_EQ(view.choices, Strings{"HIGH"}) << "those of the variable that is selected now";
+    EXPECT_EQ(view.choices, Strings{"HIGH"}) << "the choices of the selected variable";
     EXPECT_EQ(view.choice, 0);
     EXPECT_EQ(view[LogicBox::Advice], "Stop.");
     editor.VarCombo_Click(1);

@@ -1,4 +1,4 @@
-// What the logic editor loads, shows, keeps and inserts.
+// What the logic editor loads, shows, stores and inserts.
 
 #include "LogicEditorFixture.h"
 

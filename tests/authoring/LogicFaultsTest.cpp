@@ -39,7 +39,7 @@ struct FaultRow
     const char* logic;
     const char* question;
     const char* advice;
-    const char* sentence; ///< nullptr: nothing is found
+    const char* sentence; ///< nullptr: no fault is found
 };
 
 struct FaultRows : testing::TestWithParam<FaultRow>
@@ -53,7 +53,7 @@ TEST_P(FaultRows, line_isNamedWithItsConsequence)
               row.sentence == nullptr ? Strings() : Strings{row.sentence});
 }
 
-const char* const Longest = "0123456789012345678901234567890123456789012345678901234567"; // 58
+const char* const Longest = "0123456789012345678901234567890123456789012345678901234567"; // 58 characters
 
 const FaultRow Faults[] = {
     {"plain", "TARGET AGE\n* x\nAV(1) = AGE(OLD)\n", "How old?", "Rest.", nullptr},
@@ -208,7 +208,7 @@ TEST(LogicFaults, question_namesTheFirstFive)
     EXPECT_EQ(LogicFaultsQuestion(faults), five + "\n(3 more)\n\nKeep the logic as it is?");
 }
 
-/// What reading does to an entry's text: lines trimmed, empty ones before the first dropped.
+/// The change that reading makes to an entry's text: trims its lines and drops empty ones before the first.
 std::string AsRead(const std::string& text)
 {
     std::string read;
@@ -221,8 +221,9 @@ std::string AsRead(const std::string& text)
     return read;
 }
 
-/// What reading does to the logic lines: each ends in a line end, and loses the blanks before it. A text of
-/// one or two characters gets no line end, so "</LOGIC>" runs into it; of a comment it is taken off again.
+/// The change that reading makes to logic lines: each gets a line end and loses its leading blanks. A text of
+/// one or two characters gets no line end, so "</LOGIC>" is part of its line; from a comment it is removed
+/// again.
 std::string LogicAsRead(const std::string& text)
 {
     if (text.size() < 3 && text != "\r\n" && text.front() != '*') {
@@ -237,7 +238,7 @@ std::string LogicAsRead(const std::string& text)
     return read;
 }
 
-/// Texts that an author could type, out of pieces that mean something somewhere.
+/// Random texts of an author, made of pieces that have a meaning in some place.
 class Typist
 {
 public:

@@ -17,7 +17,7 @@ using test::GeneratedBlock;
 using test::Meaning;
 using test::MeaningOf;
 
-/// How the blocks of a run came out, so that a run cannot pass by asking always.
+/// How many blocks of a run were refused, asked about or stored. A run that always asks must not pass.
 struct Tally
 {
     int refused = 0;
@@ -26,7 +26,7 @@ struct Tally
     int keptWithEntries = 0;
 };
 
-// The tables without what only tells about the block that they were read from.
+// The tables without the parts that only describe the block they were read from.
 LogicBlock Bare(LogicBlock block)
 {
     block.lost.clear();
@@ -42,7 +42,7 @@ bool Names(const std::vector<LostPart>& lost, const std::string& what)
                        [&what](const LostPart& part) { return part.what.find(what) != std::string::npos; });
 }
 
-// The beginning of the line that the word stands in, as messages show it: they cut long lines.
+// The beginning of the line with the word, in the shape of the messages, which cut long lines.
 std::string LineOf(const std::string& text, const std::string& word)
 {
     const std::size_t from = text.find_last_of("\r\n", text.find(word)) + 1;
@@ -53,7 +53,8 @@ std::string LineOf(const std::string& text, const std::string& word)
 void ExpectEveryWord(const GeneratedBlock& generated, const LogicBlock& read, const std::string& built)
 {
     if (Names(read.lost, "second ")) {
-        return; // the text of a second entry is not told, its identifier is
+        // The message for a second entry gives its identifier, not its text.
+        return;
     }
     for (const std::string& word : generated.words) {
         EXPECT_TRUE(built.find(word) != std::string::npos || Names(read.lost, word) ||
@@ -92,7 +93,8 @@ void CheckBlock(const GeneratedBlock& generated, Tally& tally)
     if (!faults) {
         const LogicBlock again = ParseLogicBlock(*built);
         EXPECT_EQ(Describe(Bare(read)), Describe(Bare(again)));
-        if (!Names(read.lost, "holds another entry")) { // which is kept, and asked about each time
+        // Such an entry is written again, so reading asks about it again.
+        if (!Names(read.lost, "holds another entry")) {
             EXPECT_EQ(again.lost, std::vector<LostPart>());
         }
     }

@@ -114,7 +114,7 @@ void LogicGenerator::LogicLine()
         Line("ASSUME " + Name() + "(" + Word() + ")");
         break;
     case 7:
-        Line(Word()); // no command: the load fails
+        Line(Word()); // no command, so the load fails
         break;
     case 8:
         Line(Number(4) == 0 ? "[" + Word() : "\t" + Word());
@@ -179,7 +179,7 @@ void LogicGenerator::Entry()
     }
 }
 
-// What stands between the tags, with the closing one.
+// The text between the tags, with the closing tag.
 std::string LogicGenerator::EntryText(const char* closing)
 {
     std::string text;

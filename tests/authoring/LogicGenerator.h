@@ -7,11 +7,11 @@
 
 namespace ls::test {
 
-/// A logic block made at random, with the mistakes and liberties that authors take.
+/// A random logic block, with mistakes and unusual forms that authors write.
 struct GeneratedBlock
 {
     std::string text;
-    std::vector<std::string> words; ///< each stands once in the block: none may vanish silently
+    std::vector<std::string> words; ///< each is in the block once; none may be dropped silently
 };
 
 class LogicGenerator
@@ -23,7 +23,7 @@ public:
 
 private:
     [[nodiscard]] int Number(int below);
-    [[nodiscard]] bool Odd(int percent); ///< true now and then, never in a tidy block
+    [[nodiscard]] bool Odd(int percent); ///< true sometimes, but never in a tidy block
     [[nodiscard]] std::string Word();
     [[nodiscard]] std::string Name();
     [[nodiscard]] std::string AnyCase(std::string text);

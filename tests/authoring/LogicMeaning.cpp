@@ -78,7 +78,8 @@ Meaning MeaningOfTopic(AdvisorWorld& world, int topic, const std::vector<std::st
 Meaning WithoutPlaceholders(Meaning meaning, const LogicBlock& read)
 {
     for (const LogicVariable& variable : read.variables) {
-        if (variable.inBlock || !meaning.loads) { // a load that fails does not come as far as the entries
+        // A load that fails does not reach the entries.
+        if (variable.inBlock || !meaning.loads) {
             continue;
         }
         const auto last =

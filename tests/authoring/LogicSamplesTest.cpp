@@ -22,7 +22,7 @@ std::string Bytes(const std::filesystem::path& path)
     return bytes.str();
 }
 
-/// Opens a book that stands in memory.
+/// Opens a book from memory.
 void OpenBytes(AdvisorWorld& world, const std::string& bytes)
 {
     world.seams.files[world.path] = bytes;
@@ -40,7 +40,7 @@ std::string SavedBytes(AdvisorWorld& world)
     return world.seams.files["/out.IDA"];
 }
 
-/// Brings a topic's block into memory; empty when it has none.
+/// Loads a topic's block into memory and returns it; empty if the topic has none.
 std::string LoadLogicOf(AdvisorWorld& world, int topic)
 {
     std::string name = world.book.TopicNames(topic);
@@ -55,7 +55,7 @@ struct Seen
     int clean = 0;
 };
 
-/// Takes each block of a book apart, puts the built one in its place, saves, and compares what the advisor
+/// Parses each block of a book, replaces it by the one built again, saves, and compares what the advisor
 /// loads from both files.
 void CheckBook(const std::string& bytes, Seen& seen)
 {
@@ -101,7 +101,7 @@ TEST(BooksThroughTheLogicEditor, samples_meanTheSame)
         }
     }
     EXPECT_GT(seen.blocks, 3);
-    // One topic has comments between its definitions, on which its way to its advice depends.
+    // In one topic the advice depends on comments between the definitions, which are lost.
     EXPECT_EQ(seen.clean, seen.blocks - 1);
 }
 

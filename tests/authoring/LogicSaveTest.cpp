@@ -18,7 +18,7 @@ const std::string Before =
           "<AV ID=RISK(HIGH)>Take care.</AV>", "<AV ID=RISK(LOW)>Enjoy.</AV>", "</DEFINITIONS>", "</IXML>",
           "[Other]", "x"});
 
-/// The editor on the topic "Guide" of a book that is open.
+/// The editor for the topic "Guide" of an open book.
 struct LogicSaveTest : testing::Test
 {
     AdvisorWorld world;
@@ -41,7 +41,7 @@ struct LogicSaveTest : testing::Test
         return world.seams.files["/out.IDA"];
     }
 
-    /// What the advisor of a saved book says to an answer.
+    /// What the advisor shows after an answer in a saved book.
     static Strings Ask(const std::string& bytes, const std::string& answer)
     {
         AdvisorWorld reader;

@@ -44,7 +44,7 @@ Strings Names(const std::vector<Item>& items)
     return names;
 }
 
-/// An author at work, and what the lists and boxes must hold after each step.
+/// Does random steps of an author and checks the lists and boxes after each one.
 class Author
 {
 public:

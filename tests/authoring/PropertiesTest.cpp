@@ -89,7 +89,7 @@ struct MisreadCase
 {
     const char* name;
     Properties entered;
-    const char* told; ///< between the question's first and last line; empty when nothing is asked
+    const char* told; ///< the middle lines of the question; empty if nothing is asked
 };
 
 struct Misread : PropertiesTest, testing::WithParamInterface<MisreadCase>

@@ -9,7 +9,7 @@
 
 namespace ls::test {
 
-/// A logic editor without a window: its boxes and lists as plain values.
+/// A `LogicView` without a window: keeps its boxes and lists as plain values.
 class RecordingLogicView : public LogicView
 {
 public:

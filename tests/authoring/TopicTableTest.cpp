@@ -17,7 +17,7 @@ struct TopicTableTest : testing::Test
 {
     Book book;
 
-    // Topics of those names; topic n stands at position 10 * n, with n as its logic.
+    // Topics of those names; topic n is at position 10 * n and has n as its logic.
     void Fill(const Strings& names)
     {
         for (const std::string& name : names) {
@@ -31,7 +31,7 @@ struct TopicTableTest : testing::Test
         }
     }
 
-    // "name@position:text:logic" of every topic, with "-" behind a removed one.
+    // "name@position:text:logic" of every topic; a removed one ends in "-".
     [[nodiscard]] Strings Rows() const
     {
         Strings rows;
@@ -94,7 +94,8 @@ TEST_F(TopicTableTest, refusal_namesThatMayNotBeAdded)
 
 TEST_F(TopicTableTest, refusal_nameBehindTheCount_isFree)
 {
-    book.TopicNames(1) = "[Old]"; // a table keeps its bound, and the count tells what is in use
+    // A table keeps its size; the count says how much of it is used.
+    book.TopicNames(1) = "[Old]";
     EXPECT_EQ(NameRefusal(book, "Old"), "");
 }
 
@@ -107,7 +108,7 @@ TEST_F(TopicTableTest, add_appendsAnEntryInMemoryAndMakesItCurrent)
     EXPECT_EQ(Rows(), (Strings{"[A]@10:text of A:1", "[Intro]@0:Insert text here.:"}));
     EXPECT_EQ(book.CurrentTopicName, "Intro");
     EXPECT_EQ(book.CurrentTopicNo, 2);
-    EXPECT_TRUE(book.BookChanged) << "it would be lost without a question";
+    EXPECT_TRUE(book.BookChanged) << "leaving must ask about the topic";
 }
 
 TEST_F(TopicTableTest, add_pastTheBound_growsAllTablesByTen)
@@ -199,7 +200,7 @@ TEST_F(TopicTableTest, move_currentTopic_isFollowed)
     MoveTopics(book, {1}, 3);
     EXPECT_EQ(book.CurrentTopicNo, 3);
     MoveTopics(book, {1, 2}, 3);
-    EXPECT_EQ(book.CurrentTopicNo, 1) << "it moved up as others moved behind it";
+    EXPECT_EQ(book.CurrentTopicNo, 1) << "others moved after it";
     book.CurrentTopicNo = 0;
     MoveTopics(book, {1}, 3);
     EXPECT_EQ(book.CurrentTopicNo, 0);

@@ -25,7 +25,7 @@ class GuideAdviceTest : public GuideFixture, public ::testing::WithParamInterfac
 {
 };
 
-// Every advice of the guide is reached, by the answers that its questions offer, and no box appears.
+// The answers of each case lead to its advice, without any box. The cases cover every advice of the guide.
 TEST_P(GuideAdviceTest, run_answersOfATask_endsOnItsAdvice)
 {
     AdvisorTables tables;

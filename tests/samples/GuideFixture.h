@@ -11,7 +11,7 @@
 
 namespace ls::test {
 
-/// The user's guide, opened and scanned as the program does.
+/// The user's guide, opened and scanned as in the program.
 class GuideFixture : public ::testing::Test
 {
 protected:

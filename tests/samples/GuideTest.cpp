@@ -78,7 +78,8 @@ TEST_F(GuideTest, topics_every_isShownWithoutAMessageAndWithItsReferences)
     EXPECT_TRUE(world.messages.boxes.empty());
 }
 
-// A line of text behind a reference would never be shown: it must belong to a note or to the rules.
+// Text after the first reference of a topic would never be shown, so every such line must belong to a note or
+// to the rules.
 TEST_F(GuideTest, topics_linesBehindTheFirstReference_areNotesOrRules)
 {
     bool behind = false;

@@ -1,4 +1,4 @@
-// The steps in the advisor's window.
+// Steps in the advisor's window.
 
 #include "Tour.h"
 
@@ -16,7 +16,7 @@ namespace ls {
 
 namespace {
 
-constexpr int MostQuestions = 30; // a dialogue that asks more does not come to an end
+constexpr int MostQuestions = 30; // a dialogue with more questions counts as endless
 constexpr int SettleMs = 250;
 
 template <typename Control>
@@ -97,7 +97,7 @@ Tour::Fault Tour::OpenAnswers()
     return QApplication::activePopupWidget() != nullptr ? Fault() : QStringLiteral("the list does not open");
 }
 
-/// The entry below the empty one is "? - unsure" where that is offered.
+/// Picks the entry after the empty one: "? - unsure" if it is offered.
 Tour::Fault Tour::PickAnswer()
 {
     auto* answers = In<QComboBox>(m_form, "AnswerCombo");
@@ -109,7 +109,7 @@ Tour::Fault Tour::PickAnswer()
     return answers->currentIndex() == 1 ? Fault() : QStringLiteral("the answer was not taken");
 }
 
-/// By Enter; the text must be another one afterwards.
+/// Presses Enter; the text must change.
 Tour::Fault Tour::PressNext()
 {
     const QString before = TextIn(m_form);

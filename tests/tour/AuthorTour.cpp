@@ -1,5 +1,4 @@
-// The steps of an author, in the forms that edit a book. Nothing is saved: the file of the book stays as it
-// is.
+// Steps of an author, in the forms that edit a book. Nothing is saved, so the book's file does not change.
 
 #include "Tour.h"
 
@@ -75,7 +74,7 @@ Tour::Fault Tour::LookAtText()
     return {};
 }
 
-/// A line of its own above the text, typed, selected by keys and marked by the button.
+/// Types a line above the text, selects it by keys and makes it bold by the button.
 Tour::Fault Tour::MakeBold()
 {
     auto* text = In<QPlainTextEdit>(m_form, "MainTxBox");
@@ -163,7 +162,7 @@ bool Tour::WalkReferences()
            Report(QStringLiteral("Close"), PressInForm("CloseButton"));
 }
 
-// Of the book's file, while the topics in memory were changed by the steps before.
+// Checks the book's file, after the steps above have changed topics in memory.
 bool Tour::TakeCheck()
 {
     return Report(QStringLiteral("Action"), OpenMenu("ActionMenu")) &&
@@ -178,7 +177,7 @@ bool Tour::WalkCheck()
            Report(QStringLiteral("Close"), PressInForm("CloseButton"));
 }
 
-// What the next start asks when the program is killed now.
+// The question at the next start if the program were killed now.
 bool Tour::TakeRecovery()
 {
     return WalkForm(

@@ -1,4 +1,4 @@
-// The steps to other books: starting over, the forms that ask for a file, and a box that asks for a text.
+// Steps to other books: a new book, the forms that ask for a file, and a box that asks for a text.
 
 #include "Tour.h"
 

@@ -1,4 +1,4 @@
-// Finding in the topic on show, and larger type.
+// Steps that find text in the topic on show and enlarge the type.
 
 #include "Tour.h"
 
@@ -14,7 +14,7 @@ namespace ls {
 
 namespace {
 
-/// The one of four letters or more that is there most often.
+/// The most frequent word of at least four letters.
 QString CommonWord(const QString& text)
 {
     QMap<QString, int> counts;
@@ -41,7 +41,7 @@ Tour::Fault Tour::Pick(const char* menu, const char* item) const
     return fault.isEmpty() ? ClickItem(m_window, menu, item) : fault;
 }
 
-/// A word that the topic has several times.
+/// Finds a word that occurs several times in the topic.
 Tour::Fault Tour::FindText()
 {
     const QString word = CommonWord(QString::fromStdString(m_pane->Topic().Text()));
@@ -59,7 +59,7 @@ Tour::Fault Tour::FindText()
     return {};
 }
 
-/// Three sizes larger every row still fits.
+/// Enlarges the type three times; every row must still fit.
 Tour::Fault Tour::EnlargeType()
 {
     const double before = m_pane->CharWidth();

@@ -1,4 +1,4 @@
-// The steps in the editor of a topic's logic.
+// Steps in the editor of a topic's logic.
 
 #include "Tour.h"
 
@@ -62,7 +62,7 @@ Tour::Fault Tour::LookAtEditor()
     return {};
 }
 
-/// By keys: the first variable that has a question.
+/// Picks by keys the first variable that has a question.
 Tour::Fault Tour::PickVariable()
 {
     auto* variables = m_form->findChild<QComboBox*>(QStringLiteral("VarCombo"));
@@ -76,7 +76,7 @@ Tour::Fault Tour::PickVariable()
     return TextIn(m_form, "VQuestionBox").isEmpty() ? QStringLiteral("no question is shown") : Fault();
 }
 
-/// The first variable is the goal: its first choice comes up with its advice; the second is picked by keys.
+/// The first variable is the goal. Its first choice is shown with its advice; the second is picked by keys.
 Tour::Fault Tour::PickChoice()
 {
     auto* variables = m_form->findChild<QComboBox*>(QStringLiteral("VarCombo"));

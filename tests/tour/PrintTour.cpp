@@ -1,4 +1,4 @@
-// The print dialog. Nothing is printed: the dialog is cancelled.
+// Steps in the print dialog. It is cancelled, so nothing is printed.
 
 #include "Tour.h"
 
@@ -23,7 +23,7 @@ bool Tour::WalkPrint()
            Report(QStringLiteral("Cancel"), PressInForm("CancelButton"));
 }
 
-/// Elite type in colour, on the paper that lies in the printer.
+/// Chooses Elite type in colour; the paper is not changed.
 Tour::Fault Tour::ChoosePrintMode()
 {
     const auto find = [this](const char* name) { return m_form->findChild<QComboBox*>(QLatin1String(name)); };

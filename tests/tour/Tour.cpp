@@ -27,7 +27,7 @@ namespace ls {
 
 namespace {
 
-/// Long enough for the window manager to have placed, drawn and decorated what a step opened.
+/// Enough for the window manager to place, draw and decorate what a step opened.
 constexpr int SettleMs = 250;
 constexpr int WidenBy = 260;
 
@@ -43,7 +43,7 @@ QString TextOf(const QWidget& dialog)
     return dialog.windowTitle();
 }
 
-/// Everything of the program that is on the screen: the window with its frame, and an open menu.
+/// The area of the screen that the program covers: the window with its frame, and an open menu.
 QRect VisibleArea(const QWidget& window)
 {
     QRect area = window.frameGeometry();
@@ -57,7 +57,7 @@ QRect VisibleArea(const QWidget& window)
 
 Tour::Tour(QWidget& window, const QDir& pictures) : m_window(window), m_pictures(pictures)
 {
-    // No step expects a message. A box would wait for an answer for ever; so it ends the tour.
+    // No step expects a message box. A box would wait for an answer forever, so it ends the tour.
     QObject::connect(&m_boxWatch, &QTimer::timeout, &m_window, [this] { LookForBox(); });
     m_boxWatch.start(100);
 }
@@ -120,7 +120,7 @@ void Tour::LookForBox() const
     Say(QStringLiteral("FAILED  an unexpected box: %1").arg(TextOf(*box)));
     if (!SavePicture(QStringLiteral("99-unexpected-box")))
         Say(QStringLiteral("the picture of the box cannot be saved"));
-    // The box has an event loop of its own, which nobody will answer.
+    // The box waits in an event loop of its own, so the program can only exit.
     std::_Exit(EXIT_FAILURE);
 }
 
@@ -149,7 +149,7 @@ Tour::Fault Tour::LookAtOpenBook()
     return {};
 }
 
-/// By keys: the list takes the focus, and Down goes from entry to entry, to the one in the middle.
+/// By keys: gives the list the focus and presses Down until the middle entry is reached.
 Tour::Fault Tour::PickTopic()
 {
     const int wanted = std::max(1, (m_list->count() - 1) / 2);
@@ -264,8 +264,8 @@ Tour::Fault Tour::WidenWindow()
     const int lines = m_bar->maximum();
     m_window.resize(m_window.width() + WidenBy, m_window.height() + WidenBy / 4);
     QTest::qWait(SettleMs);
-    // The first time that the pane grows, two units of the gain go to the gap beside the scroll bar. At a
-    // scale like 150 % the window is as large as whole pixels allow.
+    // When the pane first grows, 2 units of the gain go to the gap beside the scroll bar. At scales such as
+    // 150 % the window's size is rounded to whole pixels, so the check allows 4.
     if (m_pane->width() < before + WidenBy - 4)
         return QStringLiteral("the pane is %1 wide after %2").arg(m_pane->width()).arg(before);
     if (m_bar->maximum() > lines)
@@ -275,7 +275,7 @@ Tour::Fault Tour::WidenWindow()
     return {};
 }
 
-/// Opening a form returns when the form has closed; the steps in it come from a timer.
+/// `open` returns only when the form has closed, so a timer starts the steps in the form.
 bool Tour::WalkForm(const char* name, const std::function<Fault()>& open, bool (Tour::*walk)())
 {
     const QPointer<QWidget> outer = m_form;
@@ -285,7 +285,8 @@ bool Tour::WalkForm(const char* name, const std::function<Fault()>& open, bool (
     QObject::connect(&start, &QTimer::timeout, &m_window, [this, name, walk, &walked] {
         m_form = QApplication::activeModalWidget();
         if (m_form != nullptr && m_form->objectName() != QLatin1String(name))
-            m_form = nullptr; // whatever it is instead ends the tour as an unexpected box
+            // Another window ends the tour as an unexpected box.
+            m_form = nullptr;
         m_boxWatch.start();
         walked = (this->*walk)();
         if (m_form != nullptr)

@@ -17,29 +17,28 @@ namespace ls {
 
 class ReadingPane;
 
-/// A walk through the main window on a real display: each step works the controls as a user does, by mouse
-/// and keys, looks whether the window shows what it should, and takes a picture of it.
+/// A tour through the main window on a real display. Each step uses the controls by mouse and keys, as a user
+/// does, checks what the window shows, and takes a picture of it.
 class Tour
 {
 public:
-    /// The window is on show; pictures go into the folder, which exists.
+    /// The window must be visible and the folder for the pictures must exist.
     Tour(QWidget& window, const QDir& pictures);
 
-    /// Takes all steps. Each is reported in a line on standard output; the first that fails ends the tour.
+    /// Takes all steps and prints a line for each. The first failure ends the tour.
     [[nodiscard]] bool Take();
 
-    /// The same for a book that opened on a topic with an advisor: answers its questions, "? - unsure" where
-    /// that is offered and the first value elsewhere, until there is an advice; then looks at the editor of
-    /// its logic.
+    /// The same for a book that opened on a topic with an advisor. Answers its questions, by "? - unsure" or
+    /// else by the first value, until there is an advice; then visits the editor of its logic.
     [[nodiscard]] bool TakeAdvisor();
 
 private:
-    /// What a step found wrong; empty when all is well.
+    /// What is wrong; empty if the step succeeded.
     using Fault = QString;
 
     struct Step
     {
-        const char* name; ///< as in the picture's file name
+        const char* name; ///< part of the picture's file name
         Fault (Tour::*take)();
     };
 
@@ -132,8 +131,8 @@ private:
     QPointer<QComboBox> m_list;
     QPointer<QScrollBar> m_bar;
     QPointer<ReadingPane> m_pane;
-    QPointer<QWidget> m_form; ///< the topmost form over the window, while one is open
-    int m_taken = 0;          ///< steps so far
+    QPointer<QWidget> m_form; ///< the topmost open form over the window
+    int m_taken = 0;          ///< the number of steps so far
 };
 
 } // namespace ls

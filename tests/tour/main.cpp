@@ -1,4 +1,5 @@
-// lstour: a walk through the real main window. lstour [--dark] PICTURE_FOLDER BOOK [/NAME=VALUE...]
+// lstour: a tour through the real main window.
+// lstour [--dark] PICTURE_FOLDER BOOK [/NAME=VALUE...]
 
 #include "Tour.h"
 #include "forms/FormFont.h"
@@ -25,12 +26,12 @@ namespace {
 
 constexpr int WrongUsage = 2;
 
-// A desktop in the dark, as many users have theirs.
+// A dark desktop, as many users have.
 void DarkenDesktop()
 {
     const QColor window(49, 54, 59);
     const QColor text(239, 240, 241);
-    QPalette dark(window); // with its shades for edges and shadows
+    QPalette dark(window); // derives the shades for edges and shadows
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
         dark.setColor(role, text);
@@ -45,7 +46,7 @@ void DarkenDesktop()
     QApplication::setPalette(dark);
 }
 
-// The window as the program makes it, but worked by the tour instead of a user.
+// Makes the window as the program does and takes the tour in it.
 bool TakeTour(const QDir& pictures, const std::vector<std::string>& arguments)
 {
     ls::Global global;

@@ -6,8 +6,9 @@ class QWidget;
 
 namespace ls {
 
-/// Asks in a box over `window` what is to become of edits that were not saved: "Recover", "Discard" or
-/// "Later". Enter recovers; Escape and the close button leave it for later.
+/// Asks in a box over `window` what to do with unsaved edits of an earlier run: "Recover", "Discard" or
+/// "Later".
+/// Enter means Recover; Escape and the close button mean Later.
 [[nodiscard]] RecoveryChoice AskRecoveryBox(QWidget* window, const std::string& question);
 
 } // namespace ls

@@ -37,7 +37,7 @@ void BookCommands::OpenItem_Click()
     }
 }
 
-// Opening drops the book in memory, edits and all: a user who has not saved them is asked first.
+// Opening drops the book in memory with its edits, so the user is asked first if there are unsaved ones.
 bool BookCommands::MayDropChanges()
 {
     return !m_book.BookChanged || m_seams.messages.MsgBox("Open another book without saving changes?",
@@ -77,8 +77,8 @@ void BookCommands::OpenAtStart()
     }
 }
 
-// False with an empty `BookPath` when nothing is open. A header that was read before the user declined the
-// file must not stay behind as if it were a new book's.
+// False, with an empty `BookPath`, if no book is open afterwards. If the user declines the file after its
+// header was read, the header is dropped too: it must not pass for that of a new book.
 bool BookCommands::OpenBookPath()
 {
     m_book.BookPath = OfferConvertedCopy(m_book, m_seams);
@@ -155,7 +155,8 @@ void BookCommands::ShowScannedBook()
         return;
     }
     m_book.CurrentTopicName = m_book.StartTopic.empty() ? m_book.TopicNames(1) : m_book.StartTopic;
-    m_book.CurrentTopicNo = 0; // the scan counted in it: of topics with one name the last would be selected
+    // The scan leaves its count here. With it the last of several topics with one name would be selected.
+    m_book.CurrentTopicNo = 0;
     m_navigation.FillTopicList();
     m_navigation.GoToCurrentTopic();
 }
@@ -183,7 +184,7 @@ bool BookCommands::MayLeave()
                Reply::Ok;
 }
 
-// Nothing of the book is left: neither its file nor its name nor its edits.
+// Forgets the book: its file, its name and its edits.
 void BookCommands::ForgetBook()
 {
     CloseBook(m_book);
@@ -192,7 +193,7 @@ void BookCommands::ForgetBook()
     m_book.BookChanged = false;
 }
 
-// The window without a book. The controls that a plain text file hid come back.
+// Shows the window without a book. Brings back the controls that a plain text file hides.
 void BookCommands::ClearView()
 {
     m_navigation.ClearDisplay();

@@ -12,9 +12,9 @@ struct Settings;
 class MainView;
 class Navigation;
 
-/// The commands of the main window that open a book, start over and leave.
+/// The commands of the main window that open a book, begin a new one and leave.
 ///
-/// Each returns at once when a fault has ended the program; the window then closes without asking.
+/// When a fault ends the program, each command returns at once; the window then closes without asking.
 class BookCommands
 {
 public:
@@ -25,23 +25,23 @@ public:
     {
     }
 
-    /// Lets the user choose a file and opens it. Unsaved changes are asked about before anything is lost.
+    /// Lets the user choose a file and opens it. If there are unsaved changes, asks first.
     void OpenItem_Click();
 
-    /// Opens the book that the command line named in `BookPath`, at `StartTopic` when one was given.
+    /// Opens the book `BookPath` from the command line, at `StartTopic` if one was given.
     void OpenAtStart();
 
-    /// Opens the file that the book in memory was just saved into, which `BookPath` names, in its place:
-    /// locked for editing, nothing changed, the first topic on show. It is in the recent files already.
+    /// Opens the file that the book in memory was just saved into (`BookPath`): locked for editing,
+    /// unchanged, with its first topic shown. The file is in the recent files already.
     void OpenSaved();
 
-    /// Shows the book in memory, with edits that an earlier run left: its first topic that is not removed.
+    /// Shows the book in memory after its edits were recovered: the first topic that is not removed.
     void ShowRecovered();
 
     /// Forgets the open book, after asking.
     void NewItem_Click();
 
-    /// Whether the program may end: asks when there are unsaved changes.
+    /// Whether the program may end. Asks if there are unsaved changes.
     [[nodiscard]] bool MayLeave();
 
 private:
@@ -64,9 +64,10 @@ private:
     Navigation& m_navigation;
 };
 
-/// The name under which the open book enters the recent files: `BookPath` as it was given. But where the
-/// settings file has a folder of its own, it serves runs from every current folder, so a relative name would
-/// lead astray: then it is the full path of the opened file.
+/// The name that the recent files get for the open book: `BookPath`, unchanged.
+///
+/// If the settings file has a folder of its own, the program may run from any current folder, where a
+/// relative name would not be found. The name is then the full path of the opened file.
 [[nodiscard]] std::string RecentFileName(const Book& book, const Settings& settings, const Seams& seams);
 
 } // namespace ls

@@ -16,7 +16,7 @@ CheckForm::CheckForm(QWidget* parent, const CheckedBook& checked)
     setFont(FormFont());
     m_ui->setupUi(this);
     connect(m_ui->FindingList, &QTreeWidget::currentItemChanged, this, &CheckForm::FindingList_Change);
-    // A double click, and Enter, go at once.
+    // A double click or Enter goes at once.
     connect(m_ui->FindingList, &QTreeWidget::itemActivated, this, &CheckForm::GoButton_Click);
     connect(m_ui->GoButton, &QPushButton::clicked, this, &CheckForm::GoButton_Click);
     connect(m_ui->CloseButton, &QPushButton::clicked, this, &CheckForm::reject);

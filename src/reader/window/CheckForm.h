@@ -13,8 +13,8 @@ namespace ls {
 
 struct CheckedBook;
 
-/// What the check of a book found: a line for each finding, and below the list the whole sentence of the one
-/// that is selected.
+/// The findings of a book check: one line for each, and below the list the whole sentence of the selected
+/// one.
 class CheckForm : public QDialog
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     CheckForm(QWidget* parent, const CheckedBook& checked);
     ~CheckForm() override;
 
-    /// The finding to whose topic the user wants to go; nothing when the form was just closed.
+    /// The finding whose topic the user wants to see; nothing if the form was just closed.
     [[nodiscard]] std::optional<std::size_t> Chosen() const { return m_chosen; }
 
 private:

@@ -19,7 +19,7 @@ namespace ls {
 
 namespace {
 
-// Hands the steps on and remembers whether the user cancelled.
+// Passes the steps on and remembers whether the user cancelled.
 class CancelWatch : public Progress
 {
 public:
@@ -37,7 +37,8 @@ private:
     bool m_cancelled = false;
 };
 
-// The open file once more: whoever reads it brings a position. The first error goes into `error`.
+// A second reader of the open file. Each read names its position, so both can share the file. The first error
+// goes into `error`.
 class SameBookFile : public BookFile
 {
 public:
@@ -62,8 +63,8 @@ private:
     FileError* m_error;
 };
 
-// The book as its file has it, whatever was done to its topics in memory since. Errors of its file go into
-// `error` from now on.
+// The book as it is in its file, without the changes made to its topics in memory. From now on errors of that
+// file go into `error`.
 void ScanAgain(const Book& book, const Seams& seams, Progress* progress, Book& fresh, FileError& error)
 {
     ProgramEnd end; // a read error must not end the program here
@@ -93,7 +94,7 @@ std::string Summary(const std::vector<Finding>& findings, const std::string& nam
     return CountText(errors, "error") + " and " + CountText(warnings, "warning") + " in " + name + ".";
 }
 
-// False after a message when there is no book's file to check.
+// False, after a message, if there is no file to check.
 bool IsCheckable(const Book& book, const Seams& seams)
 {
     if (book.File != nullptr && !book.IsPlainText()) {
@@ -117,7 +118,8 @@ CheckedBook CheckOpenBook(const Book& book, const Seams& seams, Progress* progre
         ScanAgain(book, seams, &watch, fresh, error);
     }
     CheckedBook checked;
-    if (error.Ok()) { // half a table would give findings that are none
+    // Half a table would give false findings.
+    if (error.Ok()) {
         checked.findings = CheckBook(book.BookChanged ? fresh : book, seams, &watch, error);
     }
     if (!error.Ok()) {

@@ -13,20 +13,19 @@ class MainView;
 class Navigation;
 class Progress;
 
-/// What a check of the open book came to, as the window shows it.
+/// The result of checking the open book, for the window.
 struct CheckedBook
 {
     std::vector<Finding> findings;
-    std::string summary; ///< how many there are, or that there are none, UTF-8
-    std::string notes;   ///< what the list leaves out, each sentence a line; empty when nothing, UTF-8
+    std::string summary; ///< how many findings there are, UTF-8
+    std::string notes;   ///< what the list leaves out, one sentence a line; may be empty; UTF-8
 };
 
-/// Checks the file of the open book as it stands: the list is the one that `lsbook check` gives of that file,
-/// also while topics in memory were edited, moved or removed. A read error is told in a box.
+/// Checks the file of the open book. The findings are those of `lsbook check` for that file: topics that were
+/// edited, moved or removed in memory change nothing. A read error is reported in a box.
 [[nodiscard]] CheckedBook CheckOpenBook(const Book& book, const Seams& seams, Progress* progress);
 
-/// The main window's Check Book: shows what the check finds, and goes to the topic of a finding that was
-/// chosen there.
+/// Check Book of the main window: shows the findings and goes to the topic of the one that the user chooses.
 void CheckItem_Click(Book& book, const Seams& seams, MainView& view, Navigation& navigation);
 
 } // namespace ls

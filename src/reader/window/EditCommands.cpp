@@ -56,7 +56,7 @@ void EditCommands::AdviceEdItem_Click()
     }
 }
 
-// False after a message when no topic is displayed.
+// False, after a message, if no topic is shown.
 bool EditCommands::IsTopicOnShow(Icon icon)
 {
     const bool shown = !m_book.CurrentTopicName.empty() && m_book.CurrentTopicNo != 0;
@@ -66,8 +66,9 @@ bool EditCommands::IsTopicOnShow(Icon icon)
     return shown;
 }
 
-// A block of the file that does not begin with "<IXML>" and "<LOGIC>" is not in the topic's record. Done
-// would put the editor's block in its place, so the editor must come up with it. False after a message.
+// Loads a logic block of the file that does not begin with "<IXML>" and "<LOGIC>"; the topic's record lacks
+// it. Done replaces the file's block by the editor's, so the editor must begin with it. False after a
+// message.
 bool EditCommands::LoadUntakenLogic()
 {
     const int index = m_book.CurrentTopicNo;
@@ -77,8 +78,8 @@ bool EditCommands::LoadUntakenLogic()
     return LoadLogicFromFile(m_book, m_seams, m_book.CurrentTopicNo, m_book.TopicRecs(index).Logic);
 }
 
-// Brings the topic into memory when it is not there yet. False after the message of one that cannot be read:
-// it stays on show, unedited.
+// Reads the topic into memory if it is not there yet. False, after a message, if it cannot be read: the topic
+// stays on show, unedited.
 bool EditCommands::LoadTopicOnShow()
 {
     const int index = m_book.CurrentTopicNo;
@@ -91,7 +92,7 @@ bool EditCommands::LoadTopicOnShow()
     return LoadTopicRec(m_book, m_seams, name, number) && !m_seams.end.Ended();
 }
 
-// A plain text file has no header, and is never saved: whatever were entered would only be lost.
+// A plain text file has no header and is never saved, so anything entered would be lost.
 void EditCommands::EditPropertiesOption_Click()
 {
     if (m_book.IsPlainText()) {

@@ -18,15 +18,14 @@ public:
     {
     }
 
-    /// Lets the author edit the text of the topic on show, and shows the topic again. Cancel leaves the topic
-    /// as it was before the command, unedited if it was.
+    /// Lets the author edit the text of the topic on show, then shows the topic again. Cancel restores the
+    /// topic, and whether it counts as edited.
     void EdTextItem_Click();
 
-    /// Lets the author edit the logic block of the topic on show. Cancel leaves the topic as it was before
-    /// the command, as above.
+    /// Lets the author edit the logic block of the topic on show. Cancel restores the topic as above.
     void AdviceEdItem_Click();
 
-    /// Lets the author edit the header fields, also before a new book has its first topic.
+    /// Lets the author edit the header fields. Works for a new book without topics too.
     void EditPropertiesOption_Click();
 
 private:

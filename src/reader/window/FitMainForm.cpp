@@ -22,7 +22,7 @@ void WidenToCaption(QPushButton& button, int height)
     button.resize(std::max(button.width(), needed), height);
 }
 
-// The list gives way to the buttons right of it. What it cannot give makes the form wider.
+// The list shrinks to make room for the buttons to its right. If that is not enough, the form gets wider.
 int FitTopRow(Ui::MainForm& ui, int width)
 {
     constexpr int leastListWidth = 240;

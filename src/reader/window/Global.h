@@ -10,8 +10,8 @@
 
 namespace ls {
 
-/// The state that the rooms share. One instance lives in the program; whoever needs a part is handed it by
-/// reference.
+/// The state that the rooms share. The program has one instance; code that needs a part gets a reference to
+/// it.
 struct Global
 {
     ProgramEnd end;

@@ -14,7 +14,7 @@ namespace ls {
 
 namespace {
 
-// Boxes and other forms may stand over them.
+// The visible forms that edit the book, also those below boxes and other forms.
 JournalWatch::Forms OpenForms()
 {
     JournalWatch::Forms forms;

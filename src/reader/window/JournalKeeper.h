@@ -20,14 +20,15 @@ class JournalKeeper : public QObject
     Q_OBJECT
 
 public:
-    /// `busy` tells whether a command of the main window is running; `tell` tells the user without waiting.
+    /// `busy` returns whether a command of the main window is running. `tell` informs the user without
+    /// waiting.
     JournalKeeper(const Book& book, const Seams& seams, OwnJournal& journal, std::function<bool()> busy,
                   JournalWatch::Tell tell);
     ~JournalKeeper() override;
 
     void Start() { m_timer.start(); }
 
-    /// The program is about to end: see `JournalWatch::Finish`.
+    /// Call before the program ends; see `JournalWatch::Finish`.
     void Finish();
 
 public Q_SLOTS:

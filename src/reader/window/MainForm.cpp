@@ -29,7 +29,7 @@ namespace ls {
 namespace {
 
 constexpr const char* HelpPage = "Lodestar_Reader.htm";
-constexpr int AfterResizeMilliseconds = 60; // how long a window that is being dragged must rest
+constexpr int AfterResizeMilliseconds = 60; // after the last resize, until the topic is wrapped again
 
 } // namespace
 
@@ -57,7 +57,7 @@ MainForm::MainForm(Global& global, const Seams& seams, const FormSeams& forms)
 
 MainForm::~MainForm() = default;
 
-// The form is designed by the size of its inner area; the menus come on top of that.
+// The form is designed by the size of its inner area; the menus are added on top.
 QSize MainForm::SetUpUi()
 {
     setFont(FormFont());
@@ -119,9 +119,9 @@ void MainForm::OnClick(QAction* item, const std::function<void()>& command)
     connect(item, &QAction::triggered, this, [this, command] { Run(command); });
 }
 
-// Every command goes through here. One that is still running, with a box or form of its own open, is never
-// interrupted by another; a resize that came meanwhile is caught up with; and when a fault has ended the
-// program, the window closes.
+// Runs a command; every command goes through here. A command does nothing while another one is running, for
+// example with its box open. Afterwards a resize that came meanwhile is handled, and if a fault ended the
+// program the window closes.
 void MainForm::Run(const std::function<void()>& command)
 {
     if (m_running) {
@@ -164,7 +164,8 @@ void MainForm::showEvent(QShowEvent* event)
 void MainForm::Form_Activate()
 {
     const Book& book = m_global.book;
-    if (!book.IsOpen() && !book.BookChanged) { // recovered edits may be those of a new book
+    // Recovered edits may belong to a new book, which is not open.
+    if (!book.IsOpen() && !book.BookChanged) {
         Run([this] { m_commands.OpenItem_Click(); });
     }
 }
@@ -190,13 +191,14 @@ void MainForm::FindBar_Change()
     Run([this] { m_view->PaneHeight_Change(); });
 }
 
-// The reader stays where the text was read, and with the keys where they were.
+// Keeps the place in the text and the focus.
 void MainForm::TypeSize_Change()
 {
     Run([this] { m_view->KeepPlace([this] { m_navigation.ShowAgain(); }); });
 }
 
-// At the end of a burst of resizes. While a box, a form or a list is open the topic waits until that closes.
+// Runs at the end of a burst of resizes. While a box, a form or a list is open, it waits until that is
+// closed.
 void MainForm::ShowAgain()
 {
     if (m_running) {
@@ -253,7 +255,7 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event)
     return FilterList(watched, event);
 }
 
-// The wheel over the closed list would choose another topic and so wipe the pane: it needs the focus first.
+// Without the focus the list ignores the wheel, which would choose another topic and so empty the pane.
 bool MainForm::FilterList(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonDblClick) {
@@ -263,8 +265,8 @@ bool MainForm::FilterList(QObject* watched, QEvent* event)
     return event->type() == QEvent::Wheel && watched == m_ui->TopicList && !m_ui->TopicList->hasFocus();
 }
 
-// Enter presses the default button unless the button with the focus took it; the page keys scroll the topic
-// and Escape closes the find bar wherever the focus is.
+// Enter presses the default button, unless a button has the focus and takes the key. From any control the
+// page keys scroll the topic and Escape closes the find bar.
 void MainForm::keyPressEvent(QKeyEvent* event)
 {
     QPushButton* const byDefault = m_ui->GoToButton->isDefault() ? m_ui->GoToButton : m_ui->DoneButton;

@@ -37,17 +37,17 @@ public:
     MainForm(Global& global, const Seams& seams, const FormSeams& forms);
     ~MainForm() override;
 
-    /// Start-up, before the window is first shown. Afterwards the program may have ended.
+    /// Starts up, before the window is first shown. The program may have ended when this returns.
     ///
-    /// `recover` is what `StartUp` offers first.
+    /// `recover` is passed to `StartUp`.
     void Form_Load(
         const CommandLine& commandLine, const std::function<bool()>& recover = [] { return false; });
 
-    /// Whether a command is running, with the boxes and forms that it shows.
+    /// Whether a command is running, including the boxes and forms that it shows.
     [[nodiscard]] bool Busy() const { return m_running; }
 
 Q_SIGNALS:
-    /// A command has come to its end.
+    /// A command has finished.
     void CommandDone();
 
 protected:
@@ -95,7 +95,7 @@ private:
     QTimer m_afterResize;
     bool m_activated = false;
     bool m_resizedMeanwhile = false;
-    bool m_running = false; // while a command runs, with the boxes and forms that it shows
+    bool m_running = false; // while a command runs, including its boxes and forms
 };
 
 } // namespace ls

@@ -10,15 +10,14 @@ class MainForm;
 
 namespace ls {
 
-/// The main window's controls, moved and stretched as its size asks. The find bar takes its room from the
-/// pane above it.
+/// Moves and stretches the main window's controls to fit its size. The find bar takes its room from the pane.
 class MainFormLayout
 {
 public:
-    /// The controls stand where they were designed, in a form of that inner size.
+    /// `designed` is the inner size of the form in which the controls have their designed places.
     MainFormLayout(Ui::MainForm& ui, const QSize& designed);
 
-    /// Lays out at the size that the form has now, with or without the find bar.
+    /// Lays out for the form's current size, with or without the find bar.
     void Form_Resize();
 
 private:

@@ -34,7 +34,8 @@ MainFormView::MainFormView(QMainWindow& form, Ui::MainForm& ui, Global& global, 
 void MainFormView::SetUpList()
 {
     auto* view = new QListView(m_ui.TopicList);
-    view->setUniformItemSizes(true); // else a popup of 30,000 entries measures each of them
+    // Otherwise a popup of 30,000 entries measures each of them.
+    view->setUniformItemSizes(true);
     m_ui.TopicList->setView(view);
     m_ui.TopicList->setModel(&m_items);
 }

@@ -18,23 +18,23 @@ namespace ls {
 
 struct Global;
 
-/// The controls of the main window as its rules see them.
+/// Gives the rules of the main window access to its controls.
 class MainFormView : public MainView
 {
 public:
     MainFormView(QMainWindow& form, Ui::MainForm& ui, Global& global, const Seams& seams,
                  const FormSeams& forms);
 
-    /// True while the program itself chooses the list's entry: its change event is to do nothing then.
+    /// True while the program itself selects a list entry; the list's change event must then do nothing.
     [[nodiscard]] bool SettingList() const { return m_settingList; }
 
     void VScroll1_Change() { m_display.VScroll1_Change(); }
     void PaneHeight_Change() { m_display.PaneHeight_Change(); }
 
-    /// Runs what shows the topic again, and selects again what was selected.
+    /// Runs `showAgain`, which shows the topic again, and restores the selection.
     void KeepSelection(const std::function<void()>& showAgain) { m_display.KeepSelection(showAgain); }
 
-    /// The same, and scrolls back to the text that stood at the top.
+    /// Like `KeepSelection`, and scrolls back to the text that was at the top.
     void KeepPlace(const std::function<void()>& showAgain) { m_display.KeepPlace(showAgain); }
 
     void SetTopicList(const TopicListModel& model) override;

@@ -2,7 +2,7 @@
 
 namespace ls {
 
-/// Where the main window's controls stand, in its own units. Only what resizing reads is listed.
+/// The places of the main window's controls, in its own units; only those that resizing reads.
 struct MainGeometry
 {
     double innerWidth = 0; ///< of the form, without frame and menus
@@ -20,7 +20,7 @@ struct MainGeometry
     double doneTop = 0;
 };
 
-/// Where the controls go.
+/// The places that resizing gives to the controls.
 struct MainPositions
 {
     double picWidth = 0;
@@ -36,15 +36,15 @@ struct MainPositions
     friend bool operator==(const MainPositions&, const MainPositions&) = default;
 };
 
-/// How the main window lays its controls out at a size. It remembers the designed positions, each rounded to
-/// a whole number, and never lays out smaller than designed: a smaller window cuts controls off.
+/// Lays out the main window's controls for a size. Remembers the designed places, each rounded to a whole
+/// number. A window smaller than designed gets the designed layout and cuts controls off.
 class MainLayout
 {
 public:
     explicit MainLayout(const MainGeometry& designed);
 
-    /// The positions in a form of that inner size. The pane's left and top, the scroll bar's width and the
-    /// list's left stay as designed, but unrounded.
+    /// The places in a form of that inner size. Four values stay as designed and unrounded: the pane's left
+    /// and top, the scroll bar's width and the list's left.
     [[nodiscard]] MainPositions Form_Resize(double innerWidth, double innerHeight) const;
 
 private:

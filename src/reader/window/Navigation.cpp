@@ -13,8 +13,8 @@ namespace ls {
 
 namespace {
 
-// Whether a name that the list lacks is a removed topic's. A look-up would find that one, since its text
-// still stands in the file, but it is not to be shown.
+// Whether a name that is missing from the list belongs to a removed topic. A look-up would find that topic,
+// whose text is still in the file, but it must not be shown.
 bool IsRemoved(const Book& book, const std::string& name)
 {
     const std::string title = WithoutBrackets(name);
@@ -122,7 +122,8 @@ void Navigation::GoToItem(int index)
     GoToButton_Click();
 }
 
-// One that cannot be shown is told of by its message, and does not stand in the way of those behind it.
+// If the topic cannot be shown, a message says so and the history drops it, so that the topics beyond it stay
+// reachable.
 void Navigation::ShowFromHistory(int number)
 {
     if (number == 0) {

@@ -26,14 +26,14 @@ void PaneCommands::ConnectText()
     connect(m_ui.FindItem, &QAction::triggered, m_ui.FindBar, &FindBar::Open);
     connect(m_ui.FindNextItem, &QAction::triggered, m_ui.FindBar, &FindBar::FindNext);
     connect(m_ui.FindPreviousItem, &QAction::triggered, m_ui.FindBar, &FindBar::FindPrevious);
-    // The right button shows the same items as the menu.
+    // The context menu has the same items as the menu.
     m_ui.MsgPic->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_ui.MsgPic->addActions({m_ui.CopyItem, m_ui.SelectAllItem, m_ui.FindItem});
 }
 
 void PaneCommands::ConnectTypeSize()
 {
-    // Of most keyboards the plus key is the one of "=", with Shift.
+    // On most keyboards plus is Shift and the key of "=".
     m_ui.LargerItem->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
     connect(m_ui.LargerItem, &QAction::triggered, this,

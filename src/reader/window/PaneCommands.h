@@ -16,7 +16,7 @@ class PaneCommands : public QObject
     Q_OBJECT
 
 public:
-    /// `typeSizeChanged` has the topic wrapped anew; `barShownOrHidden` lays the window out.
+    /// `typeSizeChanged` wraps the topic again; `barShownOrHidden` lays out the window.
     PaneCommands(Ui::MainForm& ui, std::function<void()> typeSizeChanged,
                  const std::function<void()>& barShownOrHidden);
 

@@ -12,7 +12,7 @@ namespace ls {
 
 namespace {
 
-// A plain text file has no topics and is printed all the same.
+// A plain text file can be printed too, although it has no topics.
 bool HasSomethingToPrint(const Book& book, const Seams& seams)
 {
     if (book.IsPlainText() && book.File) {

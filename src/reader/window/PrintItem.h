@@ -10,9 +10,9 @@ class PrinterDevice;
 struct Book;
 struct PrintSettings;
 
-/// Prints the topic on show, or the plain text file: shows the print dialog by `showPrtForm`, which sets
-/// `PrintConfirmed` and returns when it is closed, and prints when that is set then. A printer's error is
-/// told; nothing has been printed then.
+/// Prints the topic on show, or the plain text file. `showPrtForm` shows the print dialog, which sets
+/// `PrintConfirmed` for printing, and returns when it is closed. A printer's error is reported in a box; then
+/// nothing was printed.
 void PrintItem_Click(const Book& book, PrintSettings& settings, PrinterDevice& printer, const Seams& seams,
                      const std::function<void()>& showPrtForm);
 

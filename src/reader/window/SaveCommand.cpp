@@ -26,8 +26,8 @@ std::string ProposedName(const Book& book, const Seams& seams)
     if (book.OpenPath.empty() || (!inProgramFolder && !hasFolder)) {
         return NumberedName(seams.paths, book.BookPath);
     }
-    // The path that was opened has the real spelling of its folders. A relative one was taken in the current
-    // folder, but what is typed into the form is taken in `WorkDir`.
+    // `OpenPath` has the real spelling of its folders. If relative, it refers to the current folder, but a
+    // name typed into the form refers to `WorkDir`.
     if (!book.WorkDir.empty() && !IsAbsolute(seams.paths, book.OpenPath)) {
         return NumberedName(seams.paths, JoinPath(seams.paths, seams.files.CurrentFolder(), book.OpenPath));
     }
@@ -52,7 +52,7 @@ void SaveCommand::SaveItem_Click()
     m_commands.OpenSaved();
 }
 
-// Others may have changed a file that was opened shared, and what they wrote would not be in the copy.
+// Others may have changed a file that was opened shared; their changes would be missing from the copy.
 bool SaveCommand::MaySave()
 {
     if (m_book.TopicCount == 0) {
@@ -94,7 +94,7 @@ void SaveCommand::OfferType()
     }
 }
 
-// A file that is there is not opened: that takes a lock for a moment, which might refuse it to somebody else.
+// A file that exists is not opened, because opening locks it for a moment and could keep others out.
 bool SaveCommand::IsFree(const std::string& path)
 {
     FileError error;

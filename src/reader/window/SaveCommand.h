@@ -12,10 +12,10 @@ struct Settings;
 class BookCommands;
 class MainView;
 
-/// The Save command of the main window: the book in memory goes into a new file, which then is the open book.
+/// The Save command of the main window: saves the book in memory into a new file and opens that file.
 ///
-/// No file is ever written over. Whatever fails, or is cancelled, before the new file stands under its name,
-/// the open file, the edits, `BookPath` and `BookChanged` stay as they were.
+/// It never overwrites a file. If it fails or is cancelled before the new file has its name, the open file,
+/// the edits, `BookPath` and `BookChanged` do not change.
 class SaveCommand
 {
 public:
@@ -43,8 +43,8 @@ private:
     BookCommands& m_commands;
 };
 
-/// The name that Save offers, as it stands in the file form: "Guide (001).IDA" for "Guide.IDA", and with its
-/// folder where the book lies in another one than the form's default folder.
+/// The name that Save offers in the file form: "Guide (001).IDA" for "Guide.IDA". It includes the folder if
+/// that is not the form's default folder.
 [[nodiscard]] std::string ProposedName(const Book& book, const Seams& seams);
 
 } // namespace ls

@@ -29,13 +29,14 @@ void TopicCommands::AddTopicItem_Click()
     }
     m_navigation.FillTopicList();
     m_navigation.GoToCurrentTopic();
-    static_cast<void>(m_view.ShowTxEdForm()); // after Cancel too the topic stays, with its first text
+    // After Cancel the topic stays too, with its first text.
+    static_cast<void>(m_view.ShowTxEdForm());
     if (!m_seams.end.Ended()) {
         m_navigation.GoToCurrentTopic();
     }
 }
 
-// Nothing when the user gave none, or one that a message refused.
+// Nothing if the user gave no name, or one that a message refused.
 std::optional<std::string> TopicCommands::AskForName()
 {
     const std::string typed =
@@ -78,7 +79,7 @@ void TopicCommands::DelTopicItem_Click()
     m_navigation.FillTopicList();
 }
 
-// Before the list is refilled: it would select another topic of the same name.
+// Must run before the list is refilled, which would select another topic of the same name.
 void TopicCommands::DropRemovedTopic()
 {
     const int current = m_book.CurrentTopicNo;

@@ -12,8 +12,8 @@ struct TopicFlags;
 class MainView;
 class Navigation;
 
-/// The commands of the main window that change which topics a book has, and their order. All is done in
-/// memory, and becomes permanent when the book is saved.
+/// The commands of the main window that change which topics a book has, and their order. They change the book
+/// in memory; saving it makes the changes permanent.
 class TopicCommands
 {
 public:
@@ -25,12 +25,11 @@ public:
     /// Asks for a name, adds a topic at the end of the book, and opens the text editor on it.
     void AddTopicItem_Click();
 
-    /// Lets the user remove topics and restore removed ones. A topic on show that was removed leaves the
-    /// display.
+    /// Lets the user remove and restore topics. If the topic on show was removed, the pane is emptied.
     void DelTopicItem_Click();
 
-    /// Lets the user move topics. After a move the list is refilled in either order: its entries stand for
-    /// other numbers.
+    /// Lets the user move topics. After a move the list is refilled even in alphabetic order, because its
+    /// entries refer to topics by number.
     void ReorderItem_Click();
 
 private:

@@ -10,7 +10,7 @@ namespace ls {
 
 namespace {
 
-// A header line may be as long as its file. The list shows more than a line of any screen holds, no more.
+// A header line may be as long as its file. The list shows only what fits on any screen.
 std::string_view ShownPart(std::string_view text)
 {
     constexpr std::size_t longest = 500;

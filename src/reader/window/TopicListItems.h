@@ -6,9 +6,8 @@
 
 namespace ls {
 
-/// The entries of `TopicList`: the first 500 characters of their texts, and each topic's number as its item
-/// data. The whole list is set
-/// at once, so that a book of 30,000 topics fills it without delay.
+/// The entries of `TopicList`: the first 500 characters of each text, and the topic's number as item data.
+/// All entries are set in one step, so that a book of 30,000 topics appears without delay.
 class TopicListItems : public QAbstractListModel
 {
     Q_OBJECT

@@ -17,21 +17,21 @@ namespace ls {
 
 namespace {
 
-// Fills a list; one without entries goes, with its label and its button. An item that is made in its list is
-// searched for there as it is made, which takes a walk through the list for each of thousands.
+// Fills a list; hides it, with its label and button, if it has no entries. An item created inside its list is
+// searched for there, which is slow for thousands, so each one is added after it is made.
 void Fill(QListWidget& list, QWidget& label, QWidget& button, const std::vector<XrefEntry>& entries)
 {
     for (const XrefEntry& entry : entries) {
         auto item = std::make_unique<QListWidgetItem>(ShownBookText(entry.topic));
         item->setData(Qt::UserRole, entry.itemData);
-        list.addItem(item.release()); // the list's own from here on
+        list.addItem(item.release()); // owned by the list from here on
     }
     for (QWidget* widget : {static_cast<QWidget*>(&list), &label, &button}) {
         widget->setVisible(!entries.empty());
     }
 }
 
-// The row of the selected entry; -1 for none, also where the list has put its focus on an entry.
+// The row of the selected entry; -1 for none. An entry can have the list's focus without being selected.
 int SelectedRow(const QListWidget& list)
 {
     const QListWidgetItem* item = list.currentItem();
@@ -57,10 +57,10 @@ void XrefForm::ConnectControls()
 {
     connect(m_ui->ToList, &QListWidget::itemSelectionChanged, this, [this] { ShowNote(*m_ui->ToList); });
     connect(m_ui->InList, &QListWidget::itemSelectionChanged, this, [this] { ShowNote(*m_ui->InList); });
-    // A click on the entry that is selected already brings its note back from the other list's.
+    // Clicking the selected entry shows its note again after one of the other list was shown.
     connect(m_ui->ToList, &QListWidget::itemClicked, this, [this] { ShowNote(*m_ui->ToList); });
     connect(m_ui->InList, &QListWidget::itemClicked, this, [this] { ShowNote(*m_ui->InList); });
-    // A double click, and Enter, go at once.
+    // A double click or Enter goes at once.
     connect(m_ui->ToList, &QListWidget::itemActivated, this, &XrefForm::ToGoButton_Click);
     connect(m_ui->InList, &QListWidget::itemActivated, this, &XrefForm::InGoButton_Click);
     connect(m_ui->ToGoButton, &QPushButton::clicked, this, &XrefForm::ToGoButton_Click);

@@ -19,14 +19,14 @@ namespace ls {
 struct Book;
 struct XrefEntry;
 
-/// The cross-reference view: the topics that the one on show refers to, those that refer to it, and the note
-/// of the reference that is selected.
+/// The cross-reference view: the topics that the topic on show refers to, those that refer to it, and the
+/// note of the selected reference.
 class XrefForm : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// For the topic on show. Go stores the chosen title in `CurrentTopicName`; Close leaves it as it is.
+    /// For the topic on show. Go stores the chosen title in `CurrentTopicName`; Close does not change it.
     XrefForm(QWidget* parent, Book& book, const Seams& seams);
     ~XrefForm() override;
 

@@ -5,11 +5,11 @@
 namespace ls {
 namespace {
 
-// The command that edits the logic of the topic on show, with what an author does in the editor.
+// The command that edits the logic of the topic on show. Tests say what an author does in the editor.
 struct AdviceEdItemTest : MainFixture
 {
     EditCommands edit{book, world.Get(), view, navigation};
-    std::string seen; ///< the block in memory when the editor came up
+    std::string seen; ///< the block in memory when the editor opened
 
     void EditAnd(bool done, const std::string& block = {})
     {

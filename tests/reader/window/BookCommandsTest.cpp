@@ -210,7 +210,7 @@ TEST_F(BookCommandsTest, open_unsavedChanges_asksFirstAndCancelKeepsThem)
     world.messages.replies = {Reply::Cancel};
     commands.OpenItem_Click();
     EXPECT_EQ(Boxes(), Strings{AskOpen});
-    EXPECT_EQ(view.fileForms, 1) << "the form came only for the first book";
+    EXPECT_EQ(view.fileForms, 1) << "the form was shown only for the first book";
     EXPECT_TRUE(book.BookChanged);
     EXPECT_EQ(OnShow(), "[A]|a");
 }

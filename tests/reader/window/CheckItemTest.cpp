@@ -25,7 +25,7 @@ struct CheckItemTest : MainFixture
     void OpenFaulty()
     {
         Open(Faulty);
-        Boxes(); // the header's
+        Boxes(); // drops the boxes about the header
     }
 
     void Check() { CheckItem_Click(book, world.Get(), view, navigation); }
@@ -48,7 +48,7 @@ struct CheckItemTest : MainFixture
                 return i;
             }
         }
-        ADD_FAILURE() << "nothing is found in " << topic;
+        ADD_FAILURE() << "no finding in " << topic;
         return 0;
     }
 
@@ -160,7 +160,7 @@ TEST_F(CheckItemTest, unsavedChanges_theListIsThatOfTheFileAndANoteTells)
     EXPECT_EQ(shown.findings, before);
     EXPECT_EQ(shown.notes,
               "Your changes that are not saved yet were not checked: the lines are those of the file.\n");
-    EXPECT_EQ(book.TopicNames(1), "[B]") << "what is in memory stays";
+    EXPECT_EQ(book.TopicNames(1), "[B]") << "topics in memory are unchanged";
 }
 
 TEST_F(CheckItemTest, chosenFindingInARemovedTopic_isNotFound)
@@ -200,7 +200,7 @@ TEST_F(CheckItemTest, readError_isToldAndTheListSaysThatItIsCut)
         EXPECT_EQ(Boxes(), Strings{"critical|Lodestar Advisor|Error reading <</work/Book.IDA>> with code 57: "
                                    "Device I/O error"});
         EXPECT_TRUE(shown.notes.starts_with("The file could not be read to its end.\n")) << shown.notes;
-        EXPECT_FALSE(world.end.Ended()) << "the program and what was edited stay";
+        EXPECT_FALSE(world.end.Ended()) << "the program goes on, with the edits";
     }
 }
 

@@ -10,7 +10,7 @@ namespace {
 struct EditCommandsTest : MainFixture
 {
     EditCommands edit{book, world.Get(), view, navigation};
-    std::string seen; ///< the text that the editor came up with
+    std::string seen; ///< the text in the editor when it opened
     int editors = 0;
 
     /// The author replaces the text in the editor and presses Done.
@@ -37,7 +37,7 @@ struct EditCommandsTest : MainFixture
 
     [[nodiscard]] const TopicRec& Rec(int number) const { return book.TopicRecs(number); }
 
-    /// The bytes of the book as it would be saved now.
+    /// The bytes of the book if it were saved now.
     std::string Saved()
     {
         std::unique_ptr<OutputFile> file;

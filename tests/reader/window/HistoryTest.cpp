@@ -16,7 +16,7 @@ struct HistoryTest : MainFixture
         navigation.GoToButton_Click();
     }
 
-    // What can be done now: "<" for back, ">" for forward.
+    // The possible ways: "<" for back, ">" for forward.
     [[nodiscard]] std::string Ways() const
     {
         return std::string(navigation.CanGoBack() ? "<" : "") + (navigation.CanGoForward() ? ">" : "");
@@ -50,7 +50,7 @@ TEST_F(HistoryTest, backAndForward_showTheTopicsAndSelectThem)
     EXPECT_EQ(Boxes(), Strings{});
 }
 
-// The buttons keep to the list; only what they showed is remembered.
+// Next and Previous follow the list, not the history, but the history remembers what they show.
 TEST_F(HistoryTest, nextAndPrevious_followTheListAndAreRemembered)
 {
     OpenThree();
@@ -111,7 +111,7 @@ TEST_F(HistoryTest, movedTopics_areShownByTheirTitles)
 {
     OpenThree();
     Pick(1);
-    MoveTopics(book, {1}, 3); // B C A
+    MoveTopics(book, {1}, 3); // the order is now B C A
     navigation.FillTopicList();
     navigation.GoBackItem_Click();
     EXPECT_EQ(OnShow(), "[A]|a");
@@ -177,7 +177,7 @@ TEST_F(HistoryTest, plainTextFile_hasNoHistory)
 {
     OpenThree();
     Pick(1);
-    world.messages.replies = {Reply::Ok}; // to be shown as a single topic
+    world.messages.replies = {Reply::Ok}; // shows the file as a single topic
     Open("plain\r\n", "/work/Plain.TXT");
     EXPECT_TRUE(book.IsPlainText());
     EXPECT_EQ(Ways(), "");
@@ -188,7 +188,7 @@ TEST_F(HistoryTest, topicThatIsGoneFromTheFile_isToldOfAndDropped)
     OpenThree();
     Pick(1);
     Pick(2);
-    book.TopicPos(2) = 1; // no header line stands there
+    book.TopicPos(2) = 1; // no header line is there
     navigation.GoBackItem_Click();
     EXPECT_EQ(Boxes().size(), 1U);
     EXPECT_EQ(OnShow(), "");

@@ -26,7 +26,7 @@ struct MainFixture : testing::Test
     Navigation navigation{book, world.Get(), view};
     BookCommands commands{book, global.settings, global.fileDialog, world.Get(), view, navigation};
 
-    /// The user picks that file in the file form and presses its O.K.
+    /// The user chooses that file in the file form and presses O.K.
     void Choose(const std::string& name)
     {
         view.onFileForm = [this, name] {
@@ -35,7 +35,7 @@ struct MainFixture : testing::Test
         };
     }
 
-    /// A file of that content, opened by the Open command.
+    /// Puts a file of that content in place and opens it by the Open command.
     void Open(const std::string& bytes, const std::string& path = "/work/Book.IDA")
     {
         world.files[path] = bytes;

@@ -66,7 +66,7 @@ TEST(MainLayoutTest, resize_onePixelWider_paneLosesTheScrollGap)
 
 TEST(MainLayoutTest, resize_higher_marginsUnderThePaneStay)
 {
-    // Under the pane 400 - 60 - 300 = 40 stay; the buttons keep 368 - 60 - 300 = 8 from it.
+    // 400 - 60 - 300 = 40 are left below the pane; the buttons stay 368 - 60 - 300 = 8 away from it.
     ExpectPositions(MainLayout(Designed()).Form_Resize(600, 700),
                     {560, 600, 570, 600, 400, 420, 500, 550, 668});
 }

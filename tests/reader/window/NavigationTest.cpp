@@ -400,7 +400,7 @@ TEST_F(NavigationTest, xref_goToARemovedTopic_doesNotShowIt)
     EXPECT_EQ(book.CurrentTopicName, "");
     book.TopicRecs(2).Deleted = false;
     navigation.XRButton_Click();
-    EXPECT_EQ(OnShow(), "[B]|b") << "restored, it is";
+    EXPECT_EQ(OnShow(), "[B]|b") << "a restored topic is shown";
 }
 
 TEST_F(NavigationTest, xref_goToTheOneOfTwoThatIsNotRemoved_showsThatOne)

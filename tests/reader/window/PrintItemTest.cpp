@@ -1,4 +1,4 @@
-// The command that prints, and the print dialog's rules, without the dialog.
+// The print command and the rules of the print dialog, without the dialog.
 
 #include "reader/window/PrintItem.h"
 
@@ -29,7 +29,7 @@ struct PrintItemTest : ShowTopicTest
     {
         ls::PrintItem_Click(book, settings, printer, world.Get(), [this] {
             ++shown;
-            EXPECT_FALSE(settings.PrintConfirmed) << "cleared before the dialog comes up";
+            EXPECT_FALSE(settings.PrintConfirmed) << "cleared before the dialog opens";
             settings.PrintConfirmed = confirm;
         });
     }
@@ -63,7 +63,7 @@ TEST_F(PrintItemTest, noTopicOnShow_asksForOne)
 TEST_F(PrintItemTest, confirmed_printsTheTopicOnShow)
 {
     ShowTopicA();
-    settings.PrintConfirmed = true; // from the last time
+    settings.PrintConfirmed = true; // left from the last time
     Click();
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(printer.log, (Strings{"title A", "font Courier New 12", "end"}));
@@ -186,7 +186,7 @@ TEST_F(PrtFormRulesTest, load_colourIsThePrintersUntilItWasChosen)
     EXPECT_FALSE(LoadPrtForm(settings, printer).colour);
     ASSERT_TRUE(Accept({"Office", 0, true, false}));
     printer.state.colour = false;
-    EXPECT_TRUE(LoadPrtForm(settings, printer).colour) << "as it was chosen the last time";
+    EXPECT_TRUE(LoadPrtForm(settings, printer).colour) << "the last choice is remembered";
 }
 
 TEST_F(PrtFormRulesTest, load_currentPrinterIsGone_theFirstTakesItsPlace)
@@ -215,7 +215,7 @@ TEST_F(PrtFormRulesTest, accept_setsThePrinterUpInOrder)
 
     printer.log.clear();
     EXPECT_TRUE(Accept({"Attic", 0, false, false}));
-    EXPECT_EQ(printer.log, (Strings{"choose Attic", "grey"})) << "code 0 leaves the printer its paper";
+    EXPECT_EQ(printer.log, (Strings{"choose Attic", "grey"})) << "code 0 does not change the paper";
     EXPECT_FALSE(settings.PrintInColour);
     EXPECT_EQ(settings.CharsPerInch, 10);
 }
@@ -268,7 +268,7 @@ TEST_F(PrtFormRulesTest, accept_paperOfSixByEightInches_isTheSmallest)
     }
 }
 
-// What counts is the paper that was chosen, not the one that the printer held before.
+// The chosen paper counts, not the one that the printer used before.
 TEST_F(PrtFormRulesTest, accept_sizeIsThatOfTheChosenPaper)
 {
     printer.sizes = {{1, {12240, 15840}}, {11, {8400, 11900}}};
@@ -298,7 +298,7 @@ TEST_F(PrtFormRulesTest, accept_colourRefused_isToldAndStays)
     EXPECT_FALSE(settings.PrintConfirmed);
 }
 
-// "Print to PDF" asks for the name of its file.
+// The printer "Print to PDF" asks for a file name.
 struct PdfNameTest : PrtFormRulesTest
 {
     PdfNameTest() { printer.fileTo = "Print to PDF"; }

@@ -24,7 +24,7 @@ struct RealDesk
 {
     explicit RealDesk(const std::string& iniDir) { settings.IniDir = iniDir; }
 
-    /// Opens a book, locked, and edits its second topic; false when it cannot be opened.
+    /// Opens a book, locked, and edits its second topic. False if it cannot be opened.
     bool OpenEdited(const std::string& path)
     {
         book.BookPath = path;
@@ -37,7 +37,7 @@ struct RealDesk
         return true;
     }
 
-    /// The Save command with that name in the file form; gives the boxes.
+    /// Saves with that name in the file form. Returns the boxes shown.
     std::vector<std::string> SaveAs(const std::string& path)
     {
         view.onFileForm = [this, path] { AcceptFileName(dialog, path, false, book.LockBook, seams); };

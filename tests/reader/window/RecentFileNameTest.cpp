@@ -1,4 +1,4 @@
-// Under which name an opened book enters the recent files.
+// The name that the recent files get for an opened book.
 
 #include "reader/window/MainFixture.h"
 

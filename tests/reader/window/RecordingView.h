@@ -9,7 +9,7 @@
 
 namespace ls::test {
 
-/// A main window without a window: its state as plain values, and what was told to it, in order.
+/// A `MainView` without a window: keeps its state as plain values and logs its calls in order.
 class RecordingView : public MainView
 {
 public:
@@ -138,7 +138,7 @@ public:
     int fileForms = 0;
     int advForms = 0;
     int scans = 0;
-    std::string saved; ///< the file whose writing was watched last
+    std::string saved; ///< the file whose saving was watched last
     std::function<std::unique_ptr<Progress>()> saveProgress;
     std::function<std::unique_ptr<Progress>()> checkProgress;
     /// What the user chooses in the list of findings.

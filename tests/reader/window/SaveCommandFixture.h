@@ -13,7 +13,7 @@ struct SaveCommandFixture : MainFixture
     SaveCommand save{book, global.settings, global.fileDialog, world.Get(), view, commands};
     FileFormView form; ///< what the file form showed last
 
-    /// Save is chosen; in the file form the user types that name and presses O.K.
+    /// The user clicks Save, types that name into the file form and presses O.K.
     void SaveAs(const std::string& name)
     {
         view.onFileForm = [this, name] {
@@ -23,7 +23,7 @@ struct SaveCommandFixture : MainFixture
         save.SaveItem_Click();
     }
 
-    /// Save is chosen, and the name that the form proposes is left as it is.
+    /// The user clicks Save and accepts the name that the form proposes.
     std::string SaveAsProposed()
     {
         view.onFileForm = [this] {
@@ -46,7 +46,7 @@ struct SaveCommandFixture : MainFixture
     static constexpr const char* EditedBook =
         "LODESTAR BOOK V5.3\r\n[A]\r\na\r\n[B]\r\nedited\r\n\r\n[C]\r\nc\r\n";
 
-    /// The book of `OpenEdited` is as it was before a save that failed, and can still be saved.
+    /// After a save that failed, the book of `OpenEdited` is unchanged and can still be saved.
     void ExpectNothingLost()
     {
         EXPECT_EQ(book.BookPath, "/work/Book.IDA");

@@ -45,7 +45,7 @@ TEST_F(SaveItemTest, save_openedShared_warnsAndCancelStops)
     world.messages.replies = {Reply::Cancel};
     SaveAs("Out.IDA");
     EXPECT_EQ(Boxes(), Strings{AskShared});
-    EXPECT_EQ(view.fileForms, 1) << "the form came only to open the book";
+    EXPECT_EQ(view.fileForms, 1) << "the form was shown only to open the book";
 }
 
 TEST_F(SaveItemTest, save_openedShared_okGoesOn)
@@ -190,7 +190,7 @@ TEST_F(SaveItemTest, save_existingName_refusesAndKeepsBoth)
     SaveAs("Out.IDA");
     EXPECT_EQ(Boxes(), Strings{NameTaken});
     EXPECT_EQ(world.files["/work/Out.IDA"], "kept");
-    EXPECT_EQ(world.files.opened, Strings{}) << "a file that is there is not opened, which would lock it";
+    EXPECT_EQ(world.files.opened, Strings{}) << "an existing file was opened, which locks it";
     ExpectNothingLost();
 }
 
@@ -231,7 +231,7 @@ struct TestFailure
 {
     const char* name;
     const char* path;
-    int planted; ///< the error of opening it; 0 for none
+    int planted; ///< the error when the file is opened; 0 for none
     const char* box;
 };
 
@@ -382,7 +382,7 @@ TEST_F(SaveItemTest, save_openedShared_isOpenLockedAfterwards)
     EXPECT_TRUE(book.LockBook);
     EXPECT_EQ(world.files.opened.back(), "/work/Out.IDA locked");
     SaveAs("Out 2.IDA");
-    EXPECT_EQ(Boxes(), Strings{Saved}) << "nothing to be warned about any more";
+    EXPECT_EQ(Boxes(), Strings{Saved}) << "there is nothing left to warn about";
 }
 
 TEST_F(SaveItemTest, save_done_entersTheRecentFilesAndSavesTheSettingsOnce)
@@ -467,7 +467,7 @@ struct ProposalCase
 {
     const char* name;
     const char* bookPath;
-    const char* file; ///< where it lies
+    const char* file; ///< the path of the book's file
     const char* workDir;
     const char* proposal;
     const char* saved;

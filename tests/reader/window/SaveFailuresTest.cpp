@@ -1,4 +1,4 @@
-// Save on a file system that fails at every single call in turn.
+// Saves on a file system whose calls fail, a different one in each round.
 
 #include "reader/window/SaveCommandFixture.h"
 
@@ -7,7 +7,7 @@ namespace {
 
 struct SaveFailures : SaveCommandFixture, testing::WithParamInterface<int>
 {
-    // The calls of the whole command, from the click on; the one of that number fails.
+    // Lets one call of the command fail, the one with that number.
     void FailAt(int failAt)
     {
         calls = 0;
@@ -22,11 +22,11 @@ struct SaveFailures : SaveCommandFixture, testing::WithParamInterface<int>
     }
 
     int calls = 0;
-    std::string error; ///< the call that failed; empty when there were fewer
+    std::string error; ///< the call that failed; empty if there were fewer calls
 };
 
-// Either the book in memory is as it was, edits and all, or the new file is whole; the old one always is, and
-// "File saved" is said of a whole file only.
+// After a failure either the book in memory is unchanged, with its edits, or the new file is complete. The
+// old file is always complete, and "File saved" is reported only for a complete new file.
 TEST_P(SaveFailures, save_eachCallFailing_losesNothing)
 {
     int unsaved = 0;
@@ -56,7 +56,8 @@ TEST_P(SaveFailures, save_eachCallFailing_losesNothing)
             break;
         }
     }
-    EXPECT_GE(unsaved, 5) << "testing, creating, reading, writing, finishing and naming failed";
+    EXPECT_GE(unsaved, 5)
+        << "too few kinds of calls failed: testing, creating, reading, writing, finishing, naming";
 }
 
 INSTANTIATE_TEST_SUITE_P(Errors, SaveFailures, testing::Values(error::DiskFull, error::DeviceIo),

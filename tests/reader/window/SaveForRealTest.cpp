@@ -1,4 +1,4 @@
-// Saving on the real file system: on a disk that is full, and in a process that is killed while it saves.
+// Saves to the real file system: to a full disk, and in a process that is killed while it saves.
 
 #include "RealDesk.h"
 #include "platform/ChildProcess.h"
@@ -38,7 +38,7 @@ void Write(const std::string& path, const std::string& bytes)
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-// A book of that many bytes a topic; its topic 2 reads "edited" when it was edited.
+// A book whose topics have that many bytes each; topic 2 reads "edited" if it was edited.
 std::string BookText(std::size_t bytesOfTopic, bool edited)
 {
     std::string bytes = "LODESTAR BOOK V5.3\r\n";
@@ -49,7 +49,7 @@ std::string BookText(std::size_t bytesOfTopic, bool edited)
     return bytes;
 }
 
-// The settings remember a file of another day.
+// A `RealDesk` whose settings already list a recent file.
 struct RealWorld : test::RealDesk
 {
     explicit RealWorld(const std::string& iniDir) : RealDesk(iniDir)
@@ -63,8 +63,8 @@ struct SaveForReal : testing::Test
     test::ScratchFolder folder;
 };
 
-// Saves onto a disk with ever more room: what is missing of a book of about 300 KiB, and then of the
-// settings. Gives what went wrong.
+// Saves to a disk with more room in each round: at first too little for a book of about 300 KiB, then too
+// little for the settings. Returns what went wrong, or nothing.
 std::string FillDisk(const std::string& input, const std::string& disk)
 {
     constexpr std::size_t Page = 4096;
@@ -72,7 +72,7 @@ std::string FillDisk(const std::string& input, const std::string& disk)
     int settingsFull = 0;
     for (std::size_t room = 0;; room += Page) {
         if (room > 200 * Page) {
-            return "the disk never had room enough";
+            return "the disk never had enough room";
         }
         Write(disk + "/LSAdvisor.INI", IniBefore);
         Write(disk + "/filler", std::string((std::filesystem::space(disk).available / Page) * Page, 'f'));
@@ -84,17 +84,17 @@ std::string FillDisk(const std::string& input, const std::string& disk)
         const Strings boxes = world.SaveAs(disk + "/Out.IDA");
         const bool saved = !boxes.empty() && boxes.front() == Saved;
         if (saved != std::filesystem::exists(disk + "/Out.IDA")) {
-            return "said to be saved is not what is there, with room for " + std::to_string(room);
+            return "the message does not match the disk, with room for " + std::to_string(room);
         }
         if (saved && Read(disk + "/Out.IDA") != BookText(1000, true)) {
-            return "the saved book is not whole";
+            return "the saved book is incomplete";
         }
         const std::string ini = Read(disk + "/LSAdvisor.INI");
         if (saved && boxes.size() == 1) {
             return full > 10 && settingsFull > 0 ? "" : "the disk was not full often enough";
         }
         if (ini != IniBefore) {
-            return "the settings were not kept: " + ini;
+            return "the settings were lost: " + ini;
         }
         if (saved) {
             ++settingsFull;
@@ -140,7 +140,7 @@ TEST_F(SaveForReal, save_diskFullAtAnyPoint_losesNothing)
     EXPECT_EQ(folder.Read("In.IDA"), BookText(1000, false));
 }
 
-/// A process that opens "In.IDA", edits it and saves it as "Out.IDA", and is killed meanwhile.
+/// A process that opens "In.IDA", edits it, saves it as "Out.IDA", and is killed at some moment.
 struct KilledWhileSaving : SaveForReal
 {
     static constexpr std::size_t BytesOfTopic = 40000; ///< the book has 12 MB
@@ -152,7 +152,7 @@ struct KilledWhileSaving : SaveForReal
         folder.Write("In.IDA", input);
     }
 
-    // Starts it and kills it when `now` says so, or waits for its end.
+    // Starts the process and kills it when `now` returns true, or waits for its end.
     void Round(const std::function<bool()>& now)
     {
         for (const char* name : {"Out.IDA", "Out.IDA.part", "LSAdvisor.INI.new"}) {
@@ -175,9 +175,9 @@ struct KilledWhileSaving : SaveForReal
 
     void ExpectAllWhole()
     {
-        EXPECT_TRUE(folder.Read("In.IDA") == input) << "the book that was open is not whole";
+        EXPECT_TRUE(folder.Read("In.IDA") == input) << "the open book was damaged";
         if (folder.Has("Out.IDA")) {
-            EXPECT_TRUE(folder.Read("Out.IDA") == output) << "there is half a book";
+            EXPECT_TRUE(folder.Read("Out.IDA") == output) << "Out.IDA is incomplete";
             EXPECT_FALSE(folder.Has("Out.IDA.part"));
         }
         const std::string ini = folder.Read("LSAdvisor.INI");
@@ -197,7 +197,7 @@ TEST_F(KilledWhileSaving, save_killedAtRandomPoints_everyFileIsWhole)
     Round([] { return false; });
     const auto whole = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start);
     ExpectAllWhole();
-    ASSERT_TRUE(folder.Has("Out.IDA")) << "nobody killed it";
+    ASSERT_TRUE(folder.Has("Out.IDA")) << "the process saved nothing, although it was not killed";
     std::minstd_rand random(20260101);
     std::uniform_int_distribution<std::int64_t> points(0, whole.count());
     for (int i = 0; i < 40 && !HasFailure(); ++i) {

@@ -24,7 +24,7 @@ struct TopicCommandsTest : MainFixture
         topics.AddTopicItem_Click();
     }
 
-    // The author checks the boxes of those topics only, and presses O.K.
+    // The author checks only the boxes of those topics and presses O.K.
     void Remove(const std::vector<int>& numbers)
     {
         view.onDelTopicForm = [this, numbers] {
@@ -67,7 +67,7 @@ TEST_F(TopicCommandsTest, add_isListedSelectedShownEditedAndShownAgain)
     };
     const int showings = view.showings;
     Add("  D ");
-    EXPECT_EQ(onShow, "[D]|Insert text here.") << "before the editor comes";
+    EXPECT_EQ(onShow, "[D]|Insert text here.") << "before the editor opens";
     EXPECT_EQ(OnShow(), "[D]|written");
     EXPECT_EQ(view.showings, showings + 2);
     EXPECT_EQ(view.textForms, 1);
@@ -106,7 +106,7 @@ TEST_F(TopicCommandsTest, add_emptyAnswerOrCancel_doesNothing)
     EXPECT_EQ(book.TopicCount, 3);
     EXPECT_EQ(view.textForms, 0);
     EXPECT_FALSE(book.BookChanged);
-    EXPECT_EQ(Boxes().size(), 3U) << "nothing but the input boxes";
+    EXPECT_EQ(Boxes().size(), 3U) << "only input boxes were shown";
 }
 
 TEST_F(TopicCommandsTest, add_refusedNames_saySoAndAddNothing)
@@ -296,7 +296,7 @@ TEST_F(TopicCommandsTest, move_cancelled_changesNothing)
 {
     OpenThree();
     const int fills = view.fills;
-    global.topicFlags.TopicsRearranged = true; // of an earlier move
+    global.topicFlags.TopicsRearranged = true; // left by an earlier move
     topics.ReorderItem_Click();
     EXPECT_EQ(view.fills, fills);
     EXPECT_EQ(Boxes(), Strings{});

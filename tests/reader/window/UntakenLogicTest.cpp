@@ -7,14 +7,14 @@
 namespace ls {
 namespace {
 
-// Blocks of the file that the text editor leaves there, since no "<LOGIC>" stands right behind "<IXML>".
+// Blocks that the text editor leaves in the file, because "<LOGIC>" does not directly follow "<IXML>".
 struct UntakenLogicTest : MainFixture
 {
     EditCommands edit{book, world.Get(), view, navigation};
     test::RecordingLogicView logicView;
     int editors = 0;
 
-    /// What is done in the editor; true for its Done.
+    /// Runs `work` in the editor; it returns true for Done.
     void EditAnd(const std::function<bool(LogicEditor&)>& work)
     {
         view.onLgEdForm = [this, work] {
