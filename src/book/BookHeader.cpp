@@ -11,10 +11,10 @@ namespace ls {
 
 namespace {
 
-constexpr std::size_t VersionLetter = 14; ///< where the "V" stands, counted from 0
+constexpr std::size_t VersionLetter = 14; ///< index of the "V", from 0
 constexpr float FirstBookVersion = 4.0F;
 
-// A number that the version cannot hold counts as none.
+// A number too large for the version field counts as 0.
 float VersionOf(std::string_view text)
 {
     const double number = LeadingNumber(text);

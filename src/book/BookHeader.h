@@ -20,15 +20,15 @@ struct BookHeader
 
 /// Reads a header line: `LODESTAR BOOK V5.3 /AUTHOR="..." /COPYRIGHT="..." /URL="..." /POST="..."`.
 ///
-/// Returns false when the line is a book's but holds an unknown key or a "/" without "="; the fields read so
-/// far are kept. A line that is no book's leaves every field empty and is no fault here.
+/// Returns false for a book's header with an unknown key or a "/" without "="; the fields read before it
+/// stay. A line that is no book's header leaves every field empty and returns true.
 bool ParseBookHeader(std::string_view line, BookHeader& header);
 
 /// Whether a header belongs to a book: its magic, and a version of 4.0 or later.
 [[nodiscard]] bool IsBook(const BookHeader& header);
 
-/// The header line as it is written, without its line end: version 5.3, and each field that is not empty.
-/// Values are written as they are; a double quote inside one is not escaped.
+/// The header line as it is saved, without its line end: version 5.3, then each field that is not empty.
+/// A double quote inside a value is not escaped.
 [[nodiscard]] std::string HeaderLine(const BookHeader& header);
 
 } // namespace ls

@@ -7,7 +7,7 @@
 
 namespace ls {
 
-// The words of a book's file. Its lines end in `LineEnd` and its name in `BookType`, which base needs too.
+// The words of a book's file. `LineEnd` and `BookType` belong to them, but base needs these two as well.
 
 inline constexpr std::string_view HeaderMagic = "LODESTAR BOOK"; ///< begins the first line of the file
 inline constexpr std::string_view HeaderVersion = "V5.3";        ///< follows it in a saved book
@@ -20,10 +20,10 @@ inline constexpr std::string_view BookEnd = "[EOF]";        ///< a line that end
 inline constexpr std::string_view IndexLine = "<INDEX>";    ///< a line that opens a legacy index
 inline constexpr std::string_view IndexEnd = "<END-INDEX>"; ///< the name in an index's last record
 
-inline constexpr std::string_view XrefTag = "<XREF"; ///< begins a line that ends the text that is shown
+inline constexpr std::string_view XrefTag = "<XREF"; ///< begins a line that ends the displayed text
 inline constexpr std::string_view XrefOpening = "<XREF TOPIC="; ///< begins a reference's line, case as here
 inline constexpr std::string_view XrefClosing = "</XREF>";      ///< within a line of its note, case as here
-inline constexpr std::string_view XrefOtherClosing = "<\\";     ///< the same; the note lacks that line
+inline constexpr std::string_view XrefOtherClosing = "<\\"; ///< also ends a note, which then lacks that line
 
 inline constexpr std::string_view BlockOpening = "<IXML>";   ///< a line that opens a topic's logic block
 inline constexpr std::string_view BlockClosing = "</IXML>";  ///< a line that closes it

@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t BlockSize = 256 * 1024;
 constexpr char32_t Utf8Mark = 0xFEFF;
 
-// The length of the sequence that a byte begins; 1 also for bytes that begin none.
+// The length of the UTF-8 sequence that begins with this byte; 1 for a byte that begins none.
 std::size_t SequenceLength(unsigned char lead)
 {
     if (lead >= 0xF0) {
@@ -25,7 +25,7 @@ std::size_t SequenceLength(unsigned char lead)
     return lead >= 0xE0 ? 3 : (lead >= 0xC0 ? 2 : 1);
 }
 
-// How many bytes at the end of a block may begin a character whose rest is in the next one.
+// The number of bytes at the end of a block that may be an incomplete character.
 std::size_t CutSequence(std::string_view block)
 {
     for (std::size_t back = 1; back <= std::min<std::size_t>(3, block.size()); ++back) {
@@ -40,7 +40,7 @@ std::size_t CutSequence(std::string_view block)
     return 0;
 }
 
-// Gives a text in pieces that cut no character.
+// Reads a text in pieces that never cut a character.
 class Pieces
 {
 public:
@@ -48,7 +48,7 @@ public:
     {
     }
 
-    // An empty piece is the end.
+    // An empty piece means the end.
     FileError Next(std::string_view& piece)
     {
         m_text.erase(0, m_given);
@@ -61,7 +61,7 @@ public:
         m_pos += static_cast<FilePos>(got);
         m_text.resize(kept + got);
         m_given = got == 0 ? m_text.size() : m_text.size() - CutSequence(m_text);
-        if (got > 0 && m_given == 0) { // nothing but the beginning of a character
+        if (got > 0 && m_given == 0) { // only the beginning of a character
             m_given = m_text.size();
         }
         piece = std::string_view(m_text).substr(0, m_given);
@@ -92,11 +92,11 @@ private:
     std::size_t m_given = 0;
 };
 
-// Follows the line ends of a text, character by character.
+// Counts lines, character by character.
 class LineWatch
 {
 public:
-    // What a character ends: the line before it (a CR alone), its own line, or none.
+    // The character after a CR shows whether the line ends in CR or in CR LF.
     void Take(char32_t character, bool changed)
     {
         if (m_afterCr) {
@@ -118,7 +118,7 @@ public:
 
     void MarkChanged() { m_changed = true; }
 
-    // The number of the line in which the character stands that was taken last.
+    // The number of the line that holds the last character.
     [[nodiscard]] std::int64_t Line() const { return m_counts.lines + 1; }
     [[nodiscard]] bool AfterCr() const { return m_afterCr; }
 
@@ -144,13 +144,13 @@ private:
     bool m_changed = false;
 };
 
-// Looks for what stands in the way, until the text proves to be no UTF-8.
+// Looks for characters that cannot be converted. Stops when the text proves not to be UTF-8.
 class Examination
 {
 public:
     explicit Examination(TextFindings& findings) : m_findings(findings) {}
 
-    // False when the rest needs no look.
+    // False when the rest needs no check.
     bool Take(std::string_view piece)
     {
         if (m_first && (piece.starts_with("\xFF\xFE") || piece.starts_with("\xFE\xFF"))) {
@@ -230,13 +230,13 @@ private:
     std::vector<std::int64_t> m_lastLines;
 };
 
-// Makes book text of pieces.
+// Converts the pieces to book text.
 class Conversion
 {
 public:
     explicit Conversion(bool utf8) : m_utf8(utf8) {}
 
-    // Nothing when a character has no byte after all: somebody changed the file in between.
+    // No result if a character has no byte: another program changed the file after the examination.
     std::optional<std::string> Take(std::string_view piece)
     {
         std::string text;

@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t BlockSize = 64 * 1024;
 constexpr std::string_view PartType = ".part";
 
-// Appends `block` to `text` with CR LF for each lone LF; `previous` is the character before the block.
+// Appends `block` to `text` with each lone LF as CR LF. `previous` is the character before the block.
 void AppendWithCrLf(std::string& text, std::string_view block, char previous)
 {
     for (const char c : block) {
@@ -30,7 +30,7 @@ void AppendWithCrLf(std::string& text, std::string_view block, char previous)
     }
 }
 
-// The next numbered name that is free, and whose partial file is too; empty when all are taken.
+// The next numbered name that is free, and whose partial file is free too. Empty if all names are taken.
 std::string FreeNumberedName(const Seams& seams, const std::string& path)
 {
     std::string name = path;
@@ -61,7 +61,7 @@ FileError WritePart(FileSystem& files, BookFile& from, const std::string& part)
     return error;
 }
 
-// Writes the copy under another name first, so that a cut one never passes for a whole book.
+// Writes under another name first, so that a cut copy is never mistaken for a whole book.
 FileError MakeCopy(FileSystem& files, BookFile& from, const std::string& copy)
 {
     const std::string part = copy + std::string(PartType);
@@ -115,7 +115,7 @@ std::string OfferConvertedCopy(const Book& book, const Seams& seams)
     const std::string realPath = FindSpelling(seams.files, seams.paths, path);
     std::unique_ptr<BookFile> file;
     if (!seams.files.OpenForReading(realPath, Sharing::Shared, file).Ok() || !HasUnixLineEnds(*file)) {
-        return book.BookPath; // what cannot be opened is reported where it is opened
+        return book.BookPath; // `OpenBook` reports the error
     }
     if (seams.messages.MsgBox("<<" + FromPath(path) +
                                   ">> has Unix line ends.  Do you want to open a converted copy?",

@@ -14,14 +14,14 @@ namespace {
 
 constexpr std::size_t LargeTopic = 16 * 1024 * 1024; // bytes
 
-// Reads the lines of one topic up to the place where it ends in the file.
+// Reads the lines of one topic up to its end in the file.
 class TopicReader
 {
 public:
     TopicReader(LineCursor& cursor, FilePos end) : m_cursor(cursor), m_end(end) {}
 
-    // Appends the next line to `text`, where it then begins at `start`. False at the end of the topic, and
-    // after an error, which `Error` tells. Nothing is copied: a line may fill half of the memory.
+    // Appends the next line to `text` and sets `start` to its beginning there. False at the end of the topic
+    // and after an error, see `Error`. The line is not copied again, since it may fill half of the memory.
     bool Append(std::string& text, std::size_t& start)
     {
         start = text.size();
@@ -36,18 +36,18 @@ public:
         return true;
     }
 
-    // The bytes of the topic that are left.
+    // The number of bytes that are left of the topic.
     [[nodiscard]] std::size_t Rest() const
     {
         return static_cast<std::size_t>(std::max<FilePos>(0, m_end - m_cursor.Position()));
     }
 
-    // A read error, or a file that ends before the topic does: somebody cut it after the scan.
+    // A read error, or a file that ends before the topic does because it was cut after the scan.
     [[nodiscard]] const FileError& Error() const { return m_error; }
 
 private:
-    // With a blank behind it "<INDEX>" is a line like any other. Without it, a saved book would list no
-    // topics.
+    // A blank after "<INDEX>" stays, because it makes the line plain text. Without the blank, a saved book
+    // would list no topics.
     static void TrimEnd(std::string& text, std::size_t start)
     {
         const std::string_view line = std::string_view(text).substr(start);
@@ -61,7 +61,7 @@ private:
     FileError m_error;
 };
 
-// Appends the lines that are left.
+// Appends the remaining lines.
 void ReadRest(TopicReader& reader, std::string& text)
 {
     for (std::size_t start = 0; reader.Append(text, start);) {
@@ -69,11 +69,11 @@ void ReadRest(TopicReader& reader, std::string& text)
     }
 }
 
-// The text up to the logic block or the topic's end; true when a logic block follows.
+// Reads the text up to the logic block or the topic's end. True if a logic block follows.
 bool ReadText(TopicReader& reader, std::string& text)
 {
     if (reader.Rest() > LargeTopic) {
-        text.reserve(reader.Rest() + LineEnd.size()); // growing would need up to three times as much
+        text.reserve(reader.Rest() + LineEnd.size()); // growing would take up to three times the memory
     }
     for (std::size_t start = 0; reader.Append(text, start);) {
         if (OpensBlock(std::string_view(text).substr(start))) {
@@ -108,9 +108,9 @@ bool LoadPlainText(Book& book, const Seams& seams, std::string* plainText)
     while (!cursor.AtEnd()) {
         const std::size_t start = plainText->size();
         if (const FileError error = cursor.AppendLine(*plainText); !error.Ok()) {
-            // Half a file would pass for the whole.
+            // Half a file must not look like the whole.
             plainText->clear();
-            // The file has no topic that the message could name.
+            // The file has no topics, so the message names the file.
             ShowFetchError(seams, ToBook(FromPath(book.BookPath)).value_or(std::string()), error);
             return false;
         }
@@ -139,7 +139,7 @@ bool LoadTopicRec(Book& book, const Seams& seams, std::string& name, Count16& nu
     const bool hasLogic = ReadText(reader, text);
     std::string logic = hasLogic ? ReadLogic(reader) : std::string();
     if (!reader.Error().Ok()) {
-        // Half a topic in memory would be saved as the whole: it stays unedited instead.
+        // A save would write half a topic as the whole, so the topic stays unedited.
         ShowFetchError(seams, name, reader.Error());
         name.clear();
         number = 0;

@@ -10,7 +10,7 @@ namespace ls {
 
 namespace {
 
-// The number of the first topic of exactly that name, or 0. Deleted topics are not skipped.
+// The number of the first topic with exactly that name, or 0. Deleted topics count too.
 int FindTopic(const Book& book, const std::string& key)
 {
     const auto end = book.TopicNames.begin() + book.TopicCount;

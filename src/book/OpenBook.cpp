@@ -19,7 +19,7 @@ bool ReportOpenError(const Seams& seams, const std::string& path, const FileErro
     return false;
 }
 
-// Reads and parses the first line; the cursor ends behind it. An empty file has an empty first line.
+// Reads and parses the first line and leaves the cursor after it. An empty file has an empty first line.
 FileError ReadHeader(Book& book, const Seams& seams, LineCursor& cursor)
 {
     std::string line;

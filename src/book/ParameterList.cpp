@@ -8,13 +8,13 @@ namespace {
 
 constexpr auto None = std::string_view::npos;
 
-// The slash that ends the value which begins at `equals`: the next one, unless it stands between two quotes.
-// Then it is the first slash at or behind the closing quote.
+// The position of the slash that ends the value after `equals`. If the next slash is between two double
+// quotes, the first slash after the closing quote ends the value.
 std::size_t ValueEnd(std::string_view rest, std::size_t equals)
 {
     const std::size_t end = rest.find('/', equals);
-    // Only a quote before that slash counts. Further on none is looked for: a line of slashes would be walked
-    // through once for each of them.
+    // The opening quote must come before that slash. Searching further would scan a line of slashes again for
+    // each slash.
     const std::size_t open = end == None ? None : rest.substr(0, end).find('"', equals);
     if (open == None) {
         return end;

@@ -11,8 +11,8 @@ namespace {
 
 constexpr int MaxParts = 99;
 
-// A name for the file until it is whole. The one that a failed save left there stays, so that the author may
-// try the same name again when there is room.
+// A free name for the unfinished file. The unfinished file of an earlier failed save stays, so the number in
+// the name lets the author save under the same final name again.
 std::string FreePartName(FileSystem& files, const std::string& path)
 {
     std::string name = path + ".part";

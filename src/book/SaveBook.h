@@ -7,13 +7,15 @@
 
 namespace ls {
 
-/// Writes the book into a new file of that name.
+/// Writes the book into a new file with the name `path`.
 ///
-/// It is written under the name with ".part" behind it (".part2" and so on where that is taken), brought to
-/// the disk, and then given its name by a step that fails if anything has that name by now: a file under the
-/// final name is always whole, and none is ever overwritten. After a failure (a message was shown) what was
-/// written stays as ".part"; after a cancel it is removed. The book in memory, its open file and its path
-/// stay as they were.
+/// 1. The book is written to `path` with ".part" added (".part2" and so on if that is taken).
+/// 2. The file is flushed to the disk.
+/// 3. The file is renamed to `path`. This fails if a file of that name exists by now.
+///
+/// So a file named `path` is always whole and never overwritten. After a failure (a message is shown) the
+/// ".part" file stays. After a cancel it is removed. The book in memory, its open file and its path do not
+/// change.
 [[nodiscard]] WriteOutcome SaveBook(const Book& book, const Seams& seams, const std::string& path,
                                     Progress* progress = nullptr);
 

@@ -21,7 +21,7 @@ enum class LineOutcome
     Overflow
 };
 
-// One scan of the open file: a cursor, the line at hand, and what it has come to.
+// One scan of the open file: a cursor, the current line, and the results so far.
 class Scanner
 {
 public:
@@ -32,11 +32,11 @@ public:
         m_cursor.Seek(book.BookStartPos);
     }
 
-    // Error number 6 stands for a count that passed its limit.
+    // Error number 6 means that a count passed its limit.
     FileError Run()
     {
         for (;;) {
-            // Only lines that begin with "[" or "<" can matter: all others are passed over uncopied.
+            // Only lines that begin with "[" or "<" matter. The others are skipped without a copy.
             FileError error = m_cursor.SkipToLineBeginning('[', '<');
             if (!error.Ok() || m_cursor.AtEnd()) {
                 return error;
@@ -114,8 +114,8 @@ private:
         return {};
     }
 
-    // Reads the records of a legacy index and stores none of them: such a book lists no topics, which is
-    // kept. A missing end record ends the index with the file.
+    // Skips the records of a legacy index. Intended: such a book lists no topics. Without an end record the
+    // index ends with the file.
     FileError ReadIndex()
     {
         m_book.CurrentTopicNo = 0;
@@ -149,8 +149,8 @@ private:
         m_nextReport = m_linePos + ProgressStep;
         FilePos size = 0;
         if (m_book.File->Size(size).Ok()) {
-            m_progress->Step(m_linePos,
-                             size); // a scan cannot be cancelled: half a table would be saved short
+            // A scan cannot be cancelled: with half a table, a save would lose topics.
+            m_progress->Step(m_linePos, size);
         }
     }
 
@@ -163,7 +163,7 @@ private:
     FilePos m_endPos = 0;
 };
 
-// A table that stops at its limit would be saved short: nothing of the book is kept.
+// Closes and clears the book: with a table cut at its limit, a save would lose topics.
 bool DropOverfullBook(Book& book, const Seams& seams)
 {
     CloseBook(book);

@@ -44,7 +44,7 @@ bool StartsTopic(std::string_view line)
 
 bool OpensBlock(std::string_view line)
 {
-    // The first character decides for most lines, so that a long one's last blanks are not passed.
+    // The first character decides for most lines. So the last blanks of a long line are not scanned.
     line = TrimLeft(line);
     return line.starts_with(BlockOpening.front()) && EqualsUpper(TrimRight(line), BlockOpening);
 }

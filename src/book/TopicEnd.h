@@ -8,11 +8,11 @@ namespace ls {
 
 struct Book;
 
-/// Where a topic of the file ends: at the next topic, else where the scan stopped. A line in between that
-/// begins with "[" but is no header ("[]", a line of a note) belongs to the topic and must not cut it short.
+/// The position where a topic of the file ends: at the next topic, else where the scan stopped. A line that
+/// begins with "[" but is no header ("[]", or a line of a note) does not end the topic.
 [[nodiscard]] FilePos EndOfTopic(const Book& book, int number);
 
-/// What a line of a topic is to those who show it, in any letter case.
+/// What a line of a topic means for its display, in any letter case.
 enum class TopicLine
 {
     Text,
@@ -23,11 +23,12 @@ enum class TopicLine
 
 [[nodiscard]] TopicLine ClassifyTopicLine(std::string_view line);
 
-/// Whether no text follows in the topic. The display alone reads on after a reference, for the logic block.
+/// Whether the text of the topic ends at this line. Only the display reads on after a reference, to find the
+/// logic block.
 [[nodiscard]] bool EndsText(std::string_view line);
 
-/// Whether the line begins with "[". That ends every scan of a topic's text or logic block, also where the
-/// line is no topic's header.
+/// Whether the line begins with "[". Such a line ends every scan of a topic's text or logic block, even if it
+/// is no topic's header.
 [[nodiscard]] bool StartsTopic(std::string_view line);
 
 /// Whether the line opens a logic block: "<IXML>" between blanks, in any letter case.

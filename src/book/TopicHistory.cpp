@@ -27,8 +27,8 @@ void TopicHistory::Clear()
     m_current = 0;
 }
 
-// Number 0 when no topic of the table is on show: nothing, a plain text file, or a title that was only found
-// in the file.
+// The number is 0 if no topic of the table is on show: nothing is shown, a plain text file is shown, or a
+// title was only found in the file.
 TopicHistory::Place TopicHistory::OnShow(const Book& book)
 {
     const int number = book.CurrentTopicNo;
@@ -38,14 +38,14 @@ TopicHistory::Place TopicHistory::OnShow(const Book& book)
     return {WithoutBrackets(book.CurrentTopicName), number, book.TopicOrder};
 }
 
-// A title may stand in a book twice; so its number counts for more, wherever it still names such a topic.
+// A book may hold a title twice. So a topic that still has both the number and the title comes first.
 int TopicHistory::Find(const Book& book, const Place& place)
 {
     if (IsListed(book, place.number) && HasTitle(book, place.number, place.title)) {
         return place.number;
     }
     if (place.order == book.TopicOrder) {
-        return 0; // the numbers are still the same: this very topic was removed
+        return 0; // the numbers have not changed, so this topic was removed
     }
     for (int number = 1; number <= book.TopicCount; ++number) {
         if (IsListed(book, number) && HasTitle(book, number, place.title)) {
@@ -62,7 +62,7 @@ void TopicHistory::Visit(const Book& book)
         return;
     }
     if (!m_places.empty() && Find(book, m_places[m_current]) == shown.number) {
-        m_places[m_current] = std::move(shown); // its number may be a new one
+        m_places[m_current] = std::move(shown); // its number may have changed
         return;
     }
     if (!m_places.empty()) {
@@ -75,7 +75,7 @@ void TopicHistory::Visit(const Book& book)
     m_current = m_places.size() - 1;
 }
 
-// Places of the topic on show are passed over: what stood between two of them may have been removed.
+// Skips places of the topic on show: topics between two such places may have been removed.
 std::size_t TopicHistory::IndexBehind(const Book& book) const
 {
     const int onShow = OnShow(book).number;

@@ -9,34 +9,34 @@ namespace ls {
 
 struct Book;
 
-/// The topics that were shown, in the order in which they were: what Go Back and Go Forward walk along, as in
-/// a web browser. (Previous and next topic are something else: they follow the list.)
+/// The topics shown so far, in order. Go Back and Go Forward move along them as in a web browser. (Previous
+/// and next topic follow the topic list instead.)
 ///
-/// A topic is remembered by its number as long as numbers keep their meaning, and by its title after a move
-/// or a save. One that is gone, removed or called otherwise, is passed over; it comes back with its title.
+/// A topic is found again by its number, or by its title after a move or a save. A topic that is removed or
+/// renamed is skipped until its title comes back.
 class TopicHistory
 {
 public:
-    /// More are not remembered; the oldest go first.
+    /// The oldest places are dropped beyond this number.
     static constexpr std::size_t MostPlaces = 100;
 
-    /// Another book: nothing was shown yet.
+    /// Forgets all topics, for another book.
     void Clear();
 
-    /// The topic on show, just shown. The same one again changes nothing; another one ends what lay ahead.
+    /// Adds the topic on show. Nothing changes if it is the current place; otherwise the places ahead are
+    /// dropped.
     void Visit(const Book& book);
 
-    /// The number of the topic that going back or forward leads to; 0 for none. With no topic on show, back
-    /// is the one that was shown last.
+    /// The number of the topic that Go Back or Go Forward leads to; 0 for none. If no topic is on show, Go
+    /// Back leads to the last topic shown.
     [[nodiscard]] int TopicBehind(const Book& book) const;
     [[nodiscard]] int TopicAhead(const Book& book) const;
 
-    /// Takes the place of that topic. What it returns is to be shown next; 0 when there is none.
+    /// Makes that topic the current place and returns its number, to be shown next; 0 for none.
     [[nodiscard]] int GoBack(const Book& book);
     [[nodiscard]] int GoForward(const Book& book);
 
-    /// The topic whose place was taken cannot be shown: its place is forgotten, so that the next step leads
-    /// on.
+    /// Removes the current place because its topic cannot be shown. The next step then leads past it.
     void DropCurrent();
 
     [[nodiscard]] std::size_t Count() const { return m_places.size(); }
@@ -46,7 +46,7 @@ private:
     {
         std::string title; ///< without brackets
         int number = 0;
-        std::uint32_t order = 0; ///< of the book when the number was taken down
+        std::uint32_t order = 0; ///< the book's `TopicOrder` when the number was recorded
     };
 
     [[nodiscard]] static Place OnShow(const Book& book);
@@ -57,7 +57,7 @@ private:
     int GoTo(const Book& book, std::size_t index);
 
     std::vector<Place> m_places;
-    std::size_t m_current = 0; ///< the place that was taken last; means nothing without places
+    std::size_t m_current = 0; ///< index of the current place; no meaning without places
 };
 
 } // namespace ls

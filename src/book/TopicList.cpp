@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view AfterNumber = ". ";
 
-// A topic with what the list is sorted by.
+// A topic with its sort key.
 struct SortedName
 {
     std::string name;
@@ -98,7 +98,7 @@ TopicListModel FillTopicList(const Book& book, bool alphabetic)
     TopicListModel list;
     list.selected = IndexToSelect(book, numbers);
     list.items.reserve(numbers.size());
-    // Deleted topics leave no gap in the numbering, but count for its width.
+    // Deleted topics get no number, but they count for the width of the numbers.
     const std::size_t width = std::to_string(static_cast<int>(book.TopicCount)).size();
     for (const int number : numbers) {
         const int count = static_cast<int>(list.items.size()) + 1;

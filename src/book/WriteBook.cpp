@@ -16,13 +16,13 @@
 
 // How a book is written:
 //
-// 1. The header is made anew, and the topics follow in the order of the table.
-// 2. An unedited topic is copied from the file, whole lines at a time; an edited one is written from
-//    memory.
-// 3. Topics are copied up to the next topic of the file, and the places of all of them are sorted once.
-// 4. Before a topic is copied its header line is compared with its title, and after it the place with its
-//    end: if one of them differs, the file was changed and the writing stops.
-// 5. The bytes go through one buffer, and after each full one the progress is reported and may cancel the
+// 1. A new header is written. The topics follow in the order of the table.
+// 2. An unedited topic is copied from the file in whole lines. An edited topic is written from memory.
+// 3. A topic is copied up to the next topic of the file. The positions of all topics are sorted once for
+//    this.
+// 4. The header line of a copied topic must match its title, and the copy must stop exactly at its end. If
+//    not, the file was changed and the writing stops.
+// 5. All bytes go through one buffer. Each time it is full, the progress is reported; it may cancel the
 //    writing.
 
 namespace ls {
@@ -31,15 +31,14 @@ namespace {
 
 constexpr std::size_t BufferSize = 256 * 1024;
 
-// The header line of a topic that is written from memory. "[EOF]" would end the book for every later reader,
-// and "[]" would be a line of the topic before it; a file can hold such topics only with a blank behind their
-// titles, which keeps them topics.
+// The header line of a topic that is written from memory. "[EOF]" would end the book, and "[]" would become
+// a line of the topic before it. A blank after such a title makes the line a header.
 std::string HeaderOf(const std::string& name)
 {
     return name == BookEnd || name == "[]" ? name + ' ' : name;
 }
 
-// Where every topic of the file ends, worked out once: asking for each would be quadratic.
+// The ends of all topics of the file. They are sorted once, since a search for each topic is quadratic.
 class TopicEnds
 {
 public:
@@ -107,7 +106,7 @@ private:
         }
     }
 
-    // Stands behind the topic's header line, which is written when `put` is set. False after a message.
+    // Moves past the topic's header line and writes it if `put` is set. False after a message.
     bool FindHeader(int number, bool put)
     {
         const FilePos pos = m_book.TopicPos(number);
@@ -138,13 +137,13 @@ private:
                 CopyLine();
             }
         }
-        // A line that runs across the end that the scan saw: somebody changed the file.
+        // A line crosses the end that the scan found: another program changed the file.
         if (m_outcome == WriteOutcome::Written && m_cursor->Position() != end) {
             StopAtChange(number);
         }
     }
 
-    // A line may be longer than the memory.
+    // A line may be larger than the memory.
     void CopyLine()
     {
         std::string_view piece;
@@ -158,7 +157,7 @@ private:
         Put(LineEnd);
     }
 
-    // A block that does not begin with "<IXML>" and "<LOGIC>" was never taken into the logic editor, so an
+    // The logic editor takes only a block that begins with "<IXML>" and "<LOGIC>". For any other block, an
     // empty `Logic` does not mean that the author removed it.
     void CopyUntakenBlock(int number)
     {
@@ -189,7 +188,7 @@ private:
 
     bool Read(std::string_view& line) { return Check(m_cursor->ReadLine(line)); }
 
-    // Whether reading went well; false after a message.
+    // False after a message for a read error.
     bool Check(const FileError& error)
     {
         if (!error.Ok()) {
@@ -204,7 +203,8 @@ private:
         Put(LineEnd);
     }
 
-    // A full buffer goes to the file, and the progress is told. An edited text may be longer than any buffer.
+    // A full buffer goes to the file and the progress is reported. An edited text may be larger than the
+    // buffer.
     void Put(std::string_view bytes)
     {
         const bool large = bytes.size() > 2 * BufferSize;

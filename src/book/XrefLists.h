@@ -17,15 +17,15 @@ struct XrefEntry
     friend bool operator==(const XrefEntry&, const XrefEntry&) = default;
 };
 
-/// The references of one topic both ways, in the order of the book's table. Doubles are kept, and a reference
-/// of a topic to itself stands in both lists.
+/// The references from and to one topic, in the order of the book's table, doubles included. A reference of a
+/// topic to itself is in both lists.
 struct XrefLists
 {
     std::vector<XrefEntry> to; ///< topics that it refers to
     std::vector<XrefEntry> in; ///< topics that refer to it
 };
 
-/// The lists for a topic's bare title, compared with case.
+/// The lists for a topic's bare title; letter case counts.
 [[nodiscard]] XrefLists FindXrefs(const Book& book, std::string_view title);
 
 } // namespace ls

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t Limit = 32000;
 
-// Collects the pieces of a note. `Add` returns false when the note is cut.
+// Collects the pieces of a note. `Add` returns false when the note reaches its limit.
 class NoteText
 {
 public:
@@ -22,7 +22,7 @@ public:
         if (m_text->empty() && piece.empty()) {
             return true;
         }
-        // The limit counts the length that the text would have, its joining line end included.
+        // The limit applies to the new length, including the line end between the pieces.
         const std::string_view joint = m_text->empty() ? std::string_view() : LineEnd;
         if (m_text->size() + joint.size() + piece.size() > Limit) {
             m_text->append("???");
@@ -32,7 +32,7 @@ public:
         return true;
     }
 
-    // The last piece, before the end tag: an empty one adds nothing.
+    // Adds the piece before the end tag, unless it is empty.
     void AddLast(std::string_view piece)
     {
         if (!Trim(piece).empty()) {

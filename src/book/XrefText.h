@@ -9,15 +9,15 @@ namespace ls {
 
 class LineCursor;
 
-/// The target named by an opening line: what stands from character 13 up to the first ">", quotes removed.
+/// The target in an opening line: from character 13 to the first ">", quotes removed.
 /// Empty when there is no ">".
 [[nodiscard]] std::string XrefTarget(std::string_view openingLine);
 
-/// The note of a cross reference: what stands behind the first ">" of its opening line and on the lines that
-/// follow, up to "</XREF>". The cursor ends behind the line that ended the note.
+/// Reads the note of a cross reference: the text from the first ">" of its opening line to "</XREF>". The
+/// cursor stops after the line that ends the note.
 ///
-/// Each piece is trimmed; leading empty ones are dropped; later ones are joined by CR LF. A piece that would
-/// take the text past 32,000 characters ends it with "???" instead.
+/// Each piece is trimmed, leading empty pieces are dropped, and the others are joined with CR LF. A piece
+/// that would make the text longer than 32,000 characters becomes "???" and ends the note.
 FileError ReadXrefText(LineCursor& cursor, std::string_view openingLine, std::string& text);
 
 } // namespace ls

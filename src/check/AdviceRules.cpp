@@ -9,13 +9,13 @@ namespace ls {
 
 namespace {
 
-// The identifier under which the advice for a conclusion is searched.
+// The identifier of the advice text for a conclusion.
 std::string Identifier(const std::string& target, const std::string& value)
 {
     return target == DefaultGoal ? value : target + "(" + value + ")";
 }
 
-// The other form, which authors mix up with it.
+// The other form, which authors confuse with the right one.
 std::string WrongIdentifier(const std::string& target, const std::string& value)
 {
     return target == DefaultGoal ? target + "(" + value + ")" : value;
@@ -50,7 +50,7 @@ void CheckRuleForTarget(const RuleBase& base, Findings& findings)
 void CheckTargetQuestion(const RuleBase& base, Findings& findings)
 {
     const std::string& target = base.Target();
-    const bool hasBlank = target.find(' ') != std::string::npos; // which has its own finding
+    const bool hasBlank = target.find(' ') != std::string::npos; // another rule reports it
     if (target != DefaultGoal && !target.empty() && !hasBlank && base.Question(target) == nullptr) {
         const std::string name = FromBook(target);
         findings.Warning("target-without-question", TargetLine(base),
@@ -89,7 +89,7 @@ void CheckAdviceText(const RuleBase& base, Findings& findings)
     }
 }
 
-// Identifiers that some dialogue of the book searches in this block.
+// The identifiers that dialogues of the book search for in this block.
 class Reached
 {
 public:
@@ -99,7 +99,7 @@ public:
         m_targets.insert(base.Target());
     }
 
-    // Other topics may have sent the goal of their own dialogue here.
+    // Adds the identifiers of other topics that lead their own goal here by a DEFINE.
     void AddOthers()
     {
         BlockStore& store = m_base.Store();
@@ -143,7 +143,7 @@ private:
     std::unordered_set<std::string> m_targets;
 };
 
-// `VAR(CHOICE)` of a variable that is no goal: the logic editor keeps its choices so.
+// `VAR(CHOICE)` of a variable that is no goal: in this form the logic editor stores the choices.
 bool IsChoice(const std::string& id, const Reached& reached)
 {
     const std::size_t open = id.find('(');
@@ -209,13 +209,14 @@ void CheckAdviceReached(const RuleBase& base, Findings& findings)
             others = true;
             reached.AddOthers();
         }
-        if (!reached.Has(entry.id) && entry.id.find(' ') == std::string::npos) { // blanks have their own
+        // Another rule reports blanks.
+        if (!reached.Has(entry.id) && entry.id.find(' ') == std::string::npos) {
             ReportUnreached(base, reached, entry, findings);
         }
     }
 }
 
-// Advice of the default goal is searched from where the last question was read.
+// The search for the default goal's advice starts at the last question that was read.
 void CheckAdvicePlace(const RuleBase& base, Findings& findings)
 {
     if (base.Target() != DefaultGoal) {

@@ -9,7 +9,7 @@ namespace ls {
 
 namespace {
 
-// Every identifier that the author wrote down, in the order of the rules, then of the texts.
+// Every identifier that the author wrote: first those of the rules, then those of the texts.
 std::vector<std::string> WrittenAdvice(const RuleBase& base)
 {
     std::vector<std::string> ids;

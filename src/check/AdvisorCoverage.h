@@ -7,17 +7,17 @@
 
 namespace ls {
 
-/// What the dialogues of a topic come to, all taken together. Texts are book text, as in `DialogueMap`.
+/// The ends of all dialogues of a topic. Texts are book text, as in `DialogueMap`.
 struct AdvisorCoverage
 {
-    std::string target;                    ///< the variable that the dialogues are about
-    DialogueMap map;                       ///< every end
-    std::vector<std::string> neverReached; ///< identifiers that a rule concludes or that have a text
+    std::string target;                    ///< the goal of the dialogues
+    DialogueMap map;                       ///< all ends
+    std::vector<std::string> neverReached; ///< advice that a rule concludes or that has a text
 };
 
-/// Holds all dialogues on the current topic of the book, as `SearchDialogues` does, and names the advice of
-/// the topic that none of them ends on; after a search that was cut, that none of those ends on which were
-/// held. The dialogues begin without earlier answers.
+/// Runs all dialogues on the current topic of the book, as `SearchDialogues` does, and lists the advice that
+/// none of them ends on. If the search is cut, only the dialogues up to the cut count. The dialogues begin
+/// without earlier answers.
 [[nodiscard]] AdvisorCoverage ExploreAdvisor(const Book& book, const Seams& seams, const SearchLimits& limits,
                                              Progress* progress);
 

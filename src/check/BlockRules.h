@@ -5,16 +5,16 @@
 
 namespace ls {
 
-/// The rules of `check` for one topic's logic, in groups. Each looks at one thing, and reports at the line of
-/// the own block where the author can mend it.
+/// The rules of `check` for one topic's logic, in groups. Each rule checks one thing and reports it at a line
+/// of the topic's own block, where the author can correct it.
 
-/// The frame of the block: its tags, and what stands where nothing may stand.
+/// The frame of the block: its tags, and text in places where none is allowed.
 void CheckBlockFrame(const RuleBase& base, Findings& findings);
 
-/// The entries of the definitions: their tags, their places, the length of their texts.
+/// The entries of the definitions: their tags, their places and the length of their texts.
 void CheckEntries(const RuleBase& base, Findings& findings);
 
-/// Commands: their words and arguments, blanks that became part of a name.
+/// Commands: their words and arguments, and blanks inside names.
 void CheckCommands(const RuleBase& base, Findings& findings);
 
 /// The form of each rule line.
@@ -26,16 +26,16 @@ void CheckQuestions(const RuleBase& base, Findings& findings);
 /// The goal of the dialogue and its advice.
 void CheckAdvice(const RuleBase& base, Findings& findings);
 
-/// The values of variables, and names that the engine takes for one another.
+/// The values of variables, and names that the engine confuses.
 void CheckValues(const RuleBase& base, Findings& findings);
 
 /// Definitions that lead back to themselves.
 void CheckCircles(const RuleBase& base, Findings& findings);
 
-/// Rules that contradict themselves or stand in the way of one another.
+/// Rules that contradict themselves or keep other rules from firing.
 void CheckOverlaps(const RuleBase& base, Findings& findings);
 
-/// All of these.
+/// All groups.
 void CheckBlock(const RuleBase& base, Findings& findings);
 
 } // namespace ls

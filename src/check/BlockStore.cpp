@@ -15,7 +15,7 @@ namespace ls {
 
 namespace {
 
-// Looks for "<IXML>" in a topic's lines and reads the block behind it.
+// Searches a topic's lines for "<IXML>" and reads the block after it.
 std::unique_ptr<CheckedBlock> ReadBlock(TopicBody& body, int topic)
 {
     std::unique_ptr<CheckedBlockReader> reader;

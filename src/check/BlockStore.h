@@ -11,11 +11,11 @@ namespace ls {
 
 struct Book;
 
-/// Which logic blocks are at hand.
+/// Where a store's logic blocks come from.
 enum class BlockSource
 {
-    Given,  ///< those that were put in, all blocks of the book
-    Edited, ///< read when asked for: from what was edited in memory, else from the file
+    Given,  ///< all blocks of the book, put in by the caller
+    Edited, ///< read when needed: the edited block in memory, else the block in the file
 };
 
 /// The logic blocks of a book by topic number, and its topics by title.
@@ -27,23 +27,23 @@ public:
 
     void Put(CheckedBlock block);
 
-    /// The block of a topic; nullptr when it has none.
+    /// The block of a topic; nullptr if the topic has none.
     [[nodiscard]] const CheckedBlock* Find(int topic);
 
-    /// The topic that a DEFINE with this title (upper case) means: the first of that title without regard to
-    /// case; 0 when there is none.
+    /// The topic that a DEFINE names by this title (in upper case): the first topic with the title, without
+    /// regard to case; 0 for none.
     [[nodiscard]] int TopicNumber(const std::string& title);
 
     /// The title of a topic without brackets, as UTF-8.
     [[nodiscard]] std::string Title(int topic) const;
 
-    /// Whether every block of the book is there, so that what no block uses is not used at all.
+    /// Whether the store holds every block of the book. Only then is something unused if no block uses it.
     [[nodiscard]] bool HasWholeBook() const { return m_source == BlockSource::Given; }
 
-    /// The first error that reading blocks from the file came to; success when there was none.
+    /// The first error while reading blocks from the file, else success.
     [[nodiscard]] const FileError& Error() const { return m_error; }
 
-    /// All blocks that are there, by topic.
+    /// All blocks in the store, by topic number.
     [[nodiscard]] const std::unordered_map<int, std::unique_ptr<CheckedBlock>>& All() const
     {
         return m_blocks;
@@ -56,12 +56,12 @@ private:
     const Book& m_book;
     BlockSource m_source;
     FileError m_error;
-    std::unordered_map<int, std::unique_ptr<CheckedBlock>> m_blocks; ///< nullptr: looked for in vain
+    std::unordered_map<int, std::unique_ptr<CheckedBlock>> m_blocks; ///< nullptr: the topic has no block
     std::unordered_map<std::string, int> m_numbers;                  ///< by title in upper case
 };
 
-/// The block in a text that begins with "<IXML>", parted by CR LF, its lines counted from 1; nothing when the
-/// text holds no such line.
+/// The block in a text whose lines end in CR LF, from its "<IXML>" line on. Lines count from 1. Nothing if
+/// the text has no such line.
 [[nodiscard]] std::unique_ptr<CheckedBlock> ReadLogicText(const std::string& text, int topic);
 
 } // namespace ls

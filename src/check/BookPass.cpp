@@ -72,7 +72,7 @@ FileError BookPass::Run()
     return {};
 }
 
-// Steps over the lines that an editor sees in a line of the book.
+// Counts each LF inside a line of the book, since an editor shows a new line there.
 void BookPass::CheckBytes(std::string_view line, int& number)
 {
     if (std::any_of(line.begin(), line.end(), IsHigh)) {
@@ -186,7 +186,7 @@ void BookPass::TakeText(std::string_view line, int number)
     }
 }
 
-// Tags of whole lines that are not where, or as, they must be. Whether that was told of this line.
+// Reports a tag in the wrong place or form. True if this line was reported.
 bool BookPass::TakeTag(std::string_view line, int number)
 {
     const std::string_view trimmed = TrimLeft(line);
@@ -221,7 +221,8 @@ bool BookPass::TakeTag(std::string_view line, int number)
     return true;
 }
 
-// The end of a block without its beginning: the title of this topic is a line of the block before it.
+// Finds the end of a block that has no beginning. It shows that this topic's title is really a line of the
+// block before it.
 bool BookPass::CheckCutBlock(std::string_view tag)
 {
     if (m_cutLine == 0) {
@@ -252,7 +253,7 @@ void BookPass::TellNeverShown(int number, std::string_view why)
     }
 }
 
-// The scan has stopped at this line or an earlier one.
+// Takes a line at or after the place where the scan stopped.
 void BookPass::TakeBehindEnd(std::string_view line, FilePos pos, int number)
 {
     if (pos == m_book.ScanEndPos) {

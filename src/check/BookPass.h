@@ -17,15 +17,15 @@ class BlockStore;
 class Findings;
 class Progress;
 
-/// One pass over a book's file: it checks what a line tells by itself, and gathers the logic blocks.
+/// One pass over a book's file: it checks single lines and collects the logic blocks.
 ///
-/// Where topics begin, and where the book ends, is what the book's own scan says.
+/// The beginnings of topics and the end of the book come from the book's own scan.
 class BookPass
 {
 public:
     BookPass(const Book& book, Findings& findings, BlockStore& store, Progress* progress);
 
-    /// The error that ended it; a cancelled pass ends without one.
+    /// Returns a read error. A cancelled pass ends without an error.
     FileError Run();
 
 private:
@@ -47,24 +47,24 @@ private:
     Findings& m_findings;
     BlockStore& m_store;
     Progress* m_progress;
-    std::unordered_map<std::string_view, int> m_titles; ///< with the number of the first topic of that name
-    std::unordered_map<int, int> m_doubled;             ///< topics whose title another one has before them
-    std::unordered_map<int, int> m_firstLines;          ///< the lines of those others
+    std::unordered_map<std::string_view, int> m_titles; ///< the number of the first topic with each title
+    std::unordered_map<int, int> m_doubled;             ///< by topic, the first topic with the same title
+    std::unordered_map<int, int> m_firstLines;          ///< the lines of those first topics
     TextRules m_text;
     ReferenceRules m_references;
     FilePos m_size = 0;
     FilePos m_nextReport = 0;
-    FilePos m_nextTopic = 0; ///< where the next topic begins; 0 when none follows
+    FilePos m_nextTopic = 0; ///< where the next topic begins; 0 for none
 
     int m_topic = 0;
-    int m_lines = 0;            ///< of the topic's displayed text
-    bool m_hidden = false;      ///< a cross reference hides what follows
-    bool m_toldHidden = false;  ///< text that is never shown was found in this topic
-    bool m_rulesAsText = false; ///< the rest of this topic is meant for rules, and that was told
-    int m_noteBracket = 0;      ///< the first line of a note that begins with a bracket
-    int m_endLine = 0;          ///< of "[EOF]"
+    int m_lines = 0;            ///< number of lines in the topic's displayed text
+    bool m_hidden = false;      ///< a cross reference hides the lines that follow
+    bool m_toldHidden = false;  ///< hidden text of this topic was reported
+    bool m_rulesAsText = false; ///< rules that are read as text were reported in this topic
+    int m_noteBracket = 0;      ///< the first line of a note that begins with "["
+    int m_endLine = 0;          ///< the line of "[EOF]"
     bool m_toldBehindEnd = false;
-    int m_cutLine = 0; ///< of this topic's title when the block before it was not closed
+    int m_cutLine = 0; ///< the line of this topic's title, if the block before it was not closed
     std::optional<CheckedBlockReader> m_block;
 };
 

@@ -49,7 +49,7 @@ std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* p
     BookPass pass(book, findings, store, progress);
     error = pass.Run();
     DialogueBook dialogues(book);
-    bool goOn = error.Ok(); // what a block leads to may stand where the file could not be read
+    bool goOn = error.Ok(); // rules may need blocks from the part that could not be read
     for (const CheckedBlock* block : InOrder(store)) {
         if (!goOn) {
             break;
@@ -59,7 +59,7 @@ std::vector<Finding> CheckBook(const Book& book, const Seams& seams, Progress* p
         const int errors = findings.ErrorCount();
         CheckBlock(base, findings);
         CheckDialogues(dialogues, seams, base, findings.ErrorCount() > errors, findings);
-        const bool cancelled = progress != nullptr && !progress->Step(1, 1); // the file is through
+        const bool cancelled = progress != nullptr && !progress->Step(1, 1); // the whole file was read
         goOn = !cancelled && dialogues.Error().Ok();
     }
     if (error.Ok()) {

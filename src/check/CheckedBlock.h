@@ -8,38 +8,38 @@
 
 namespace ls {
 
-/// `NAME(VALUE)` of a rule, in upper case and without blanks.
+/// `NAME(VALUE)` in a rule, in upper case and without blanks.
 struct BlockTerm
 {
     std::string var;
     std::string value;
-    std::string words; ///< the name as it was written, when it has more than one word; else empty
+    std::string words; ///< the name as written, if it has several words; else empty
 };
 
-/// What keeps a rule from having the form `VAR(VALUE)=A(X)B(Y)`.
+/// The fault that keeps a rule from having the form `VAR(VALUE)=A(X)B(Y)`.
 enum class RuleFault
 {
     None,
-    Conclusion, ///< what stands before the "=" is not `VAR(VALUE)`
+    Conclusion, ///< the part before the "=" is not `VAR(VALUE)`
     Brackets,   ///< unbalanced, nested, or without a name before them
     Equals,     ///< more than one "="
-    Stray,      ///< something between or behind the conditions
+    Stray,      ///< other text between or after the conditions
 };
 
-/// A rule line. Where its form is broken, the terms are read as the author seems to mean them, so that one
-/// slip does not bring findings about everything it touches.
+/// A rule line. If its form is broken, the terms are what the author probably means, so that one slip does
+/// not cause findings about everything in the rule.
 struct BlockRule
 {
     int line = 0;
-    std::string text; ///< as the rule table holds it, the assumption put in
+    std::string text; ///< as in the rule table, with the assumption inserted
     BlockTerm conclusion;
-    std::vector<BlockTerm> conditions; ///< those assumed first
-    std::size_t assumed = 0;           ///< how many of them come from an ASSUME line
+    std::vector<BlockTerm> conditions; ///< those of the ASSUME line first
+    std::size_t assumed = 0;           ///< the number of conditions from the ASSUME line
     RuleFault fault = RuleFault::None;
-    std::string stray; ///< the text that is too much, when that is the fault
+    std::string stray; ///< the text that is in excess, for `RuleFault::Stray`
 };
 
-/// Another line of the logic section. The parts are as the loader takes them: argument untrimmed.
+/// Another line of the logic section, split as the loader splits it: the argument is untrimmed.
 struct BlockCommand
 {
     using Kind = LogicCommand::Kind;
@@ -48,8 +48,8 @@ struct BlockCommand
     Kind kind = Kind::Unknown;
     std::string text; ///< the whole line, trimmed and in upper case
     std::string argument;
-    std::string var;              ///< of a DEFINE: before the "@", untrimmed
-    std::string title;            ///< of a DEFINE: behind the "@", trimmed; empty when the line is malformed
+    std::string var;              ///< of a DEFINE: the part before the "@", untrimmed
+    std::string title;            ///< of a DEFINE: the part after the "@", trimmed; empty without an "@"
     std::vector<BlockTerm> terms; ///< of an ASSUME
     std::string stray;            ///< of an ASSUME: text that is no condition
 };
@@ -61,42 +61,42 @@ struct BlockEntry
     bool question = false;
     std::string id;          ///< in upper case, untrimmed
     bool atStart = false;    ///< it begins its line
-    bool registered = false; ///< a question that stands where the loader looks for it
-    bool searched = false;   ///< its text can be found
+    bool registered = false; ///< it is a question in a place where the loader finds it
+    bool searched = false;   ///< it is in a place where its text is found
     bool hasText = false;
     bool closed = false;
-    bool closedInLowerCase = false; ///< "</q>" or "</av>" stands where the closing tag should
+    bool closedInLowerCase = false; ///< "</q>" or "</av>" instead of the closing tag
     bool tooLong = false;           ///< the text is cut when it is shown
 };
 
-/// A logic block as the loader and the definitions' reader take it, with the lines where things stand. A
-/// line number of 0 means that there is no such line.
+/// A logic block as the loader and the reader of definitions see it, with line numbers. The number 0 means
+/// that there is no such line.
 struct CheckedBlock
 {
     int topic = 0;
-    int line = 0;                  ///< of "<IXML>"
-    int logicLine = 0;             ///< of "<LOGIC>"
-    bool logicIsNext = false;      ///< "<LOGIC>" follows right behind
-    int logicEnd = 0;              ///< of "</LOGIC>"
-    int definitionsLine = 0;       ///< of the line that opens the definitions
+    int line = 0;                  ///< "<IXML>"
+    int logicLine = 0;             ///< "<LOGIC>"
+    bool logicIsNext = false;      ///< "<LOGIC>" is the next line after "<IXML>"
+    int logicEnd = 0;              ///< "</LOGIC>"
+    int definitionsLine = 0;       ///< the line that opens the definitions
     bool definitionsAlone = false; ///< that line holds nothing else
-    bool definitionsTag = false;   ///< it begins with a tag, so it is no comment and no rule
-    int definitionsEnd = 0;        ///< of "</DEFINITIONS>" alone on its line
-    int blockEnd = 0;              ///< of "</IXML>"
-    int bracketLine = 0;           ///< the first line of the definitions that begins with blanks and "["
-    int textBehind = 0;            ///< the first text behind "</IXML>"
-    int targetInDefinitions = 0;   ///< a TARGET line that stands among the entries
+    bool definitionsTag = false;   ///< that line begins with a tag, so it is no comment and no rule
+    int definitionsEnd = 0;        ///< "</DEFINITIONS>" alone on its line
+    int blockEnd = 0;              ///< "</IXML>"
+    int bracketLine = 0;           ///< the first line of the definitions that is blanks and then "["
+    int textBehind = 0;            ///< the first text after "</IXML>"
+    int targetInDefinitions = 0;   ///< a TARGET line among the entries
     std::vector<BlockRule> rules;
     std::vector<BlockCommand> commands;
     std::vector<BlockEntry> entries;
 
-    /// The goal of a dialogue that begins with this block.
+    /// The goal of a dialogue that starts in this block.
     [[nodiscard]] std::string Target() const;
 
-    /// The TARGET line that counts; nullptr when the goal is "AV" for want of one.
+    /// The TARGET line that counts; nullptr if there is none and the goal is "AV".
     [[nodiscard]] const BlockCommand* TargetCommand() const;
 
-    /// The first entry in which the text for an opening tag is searched; nullptr when there is none.
+    /// The first entry with that opening tag, where its text is searched; nullptr for none.
     [[nodiscard]] const BlockEntry* FindEntry(bool question, const std::string& id) const;
 };
 

@@ -28,7 +28,7 @@ void Fault(BlockRule& rule, RuleFault fault)
     }
 }
 
-// What stands before the "=" is to be `VAR(VALUE)`.
+// Reads the part before the "=", which must be `VAR(VALUE)`.
 void ReadConclusion(std::string_view source, BlockRule& rule)
 {
     std::vector<BlockTerm> terms;
@@ -74,7 +74,7 @@ void CheckedBlockReader::TakeBeforeLogic(std::string_view trimmed, int number)
         m_block.logicLine = number;
         m_block.logicIsNext = m_first;
     } else if (EqualsUpper(trimmed, BlockClosing)) {
-        m_block.blockEnd = number; // the loader reads on: a later "<LOGIC>" would still count
+        m_block.blockEnd = number; // the loader reads on: a later "<LOGIC>" still counts
     }
 }
 
@@ -91,7 +91,7 @@ void CheckedBlockReader::TakeLogic(std::string_view trimmed, int number)
     case LogicLine::LogicClosing:
         m_block.logicEnd = number;
         break;
-    case LogicLine::BlockClosing: // for the loader an unknown command
+    case LogicLine::BlockClosing: // an unknown command to the loader
         m_block.blockEnd = number;
         m_part = Part::Behind;
         break;
@@ -101,7 +101,7 @@ void CheckedBlockReader::TakeLogic(std::string_view trimmed, int number)
     case LogicLine::Empty:
     case LogicLine::Comment:
         break;
-    default: // the other words of the format are no commands either
+    default: // other words of the format are unknown commands, too
         TakeCommand(std::move(line), number);
     }
 }
@@ -178,7 +178,7 @@ void CheckedBlockReader::TakeDefinitions(std::string_view line, int number)
     if (m_open && !opens && !ends) {
         from = TakeText(line, 0);
     } else if (m_open) {
-        m_block.entries.back().hasText = true; // what stands from here on runs into it
+        m_block.entries.back().hasText = true; // the text from here on runs into the open entry
         m_open = false;
     }
     const bool comment = from == 0 && !upperTrimmed.empty() && upperTrimmed.front() == '*';
@@ -222,7 +222,7 @@ void CheckedBlockReader::OpenEntries(std::string_view line, const std::string& u
     }
 }
 
-// Takes text of the open entry; gives the place behind its closing tag, or none while it stays open.
+// Takes text of the open entry. Returns the position after its closing tag, or none if it stays open.
 std::size_t CheckedBlockReader::TakeText(std::string_view line, std::size_t from)
 {
     BlockEntry& entry = m_block.entries.back();
@@ -239,8 +239,8 @@ std::size_t CheckedBlockReader::TakeText(std::string_view line, std::size_t from
     return end == None ? None : end + closing.size();
 }
 
-// `A(X) AND B(Y)`: the loader reads a variable "ANDB". When nothing knows that name but "B" is known, the
-// word is too much.
+// In `A(X) AND B(Y)` the loader reads a variable "ANDB". If that name is unknown but "B" is known, "AND" is
+// stray text.
 void CheckedBlockReader::ResolveStrayWords()
 {
     std::unordered_set<std::string> known;

@@ -8,10 +8,10 @@
 
 namespace ls {
 
-/// Reads the lines of a logic block, the one behind "<IXML>" first, and remembers where things stand.
+/// Reads the lines of a logic block, from the line after "<IXML>" on, and records what is on which line.
 ///
-/// What is a rule, a command, a registered question or a findable text is decided as the advisor's own
-/// loader decides it; tests hold the two against each other.
+/// It recognises rules, commands, registered questions and searchable texts as the advisor's own loader does.
+/// Tests compare the two.
 class CheckedBlockReader
 {
 public:
@@ -23,10 +23,10 @@ public:
 
     void Take(std::string_view line, int number);
 
-    /// Whether "</IXML>" was passed.
+    /// Whether "</IXML>" was read.
     [[nodiscard]] bool Closed() const { return m_block.blockEnd != 0; }
 
-    /// The block, when its last line has been taken.
+    /// The block. Call it after the last line.
     [[nodiscard]] CheckedBlock Finish();
 
 private:
@@ -35,7 +35,7 @@ private:
         BeforeLogic,
         Logic,
         Definitions,
-        Behind, ///< "</IXML>" was passed
+        Behind, ///< after "</IXML>"
     };
 
     void TakeBeforeLogic(std::string_view trimmed, int number);
@@ -50,16 +50,16 @@ private:
     CheckedBlock m_block;
     Part m_part = Part::BeforeLogic;
     bool m_first = true;
-    bool m_registers = true;  ///< questions are still registered
-    bool m_searched = true;   ///< texts are still found
-    bool m_open = false;      ///< the last entry still takes text
-    std::size_t m_length = 0; ///< of that text so far
-    std::string m_assumption; ///< as it is put into rules
+    bool m_registers = true;  ///< the loader still finds questions here
+    bool m_searched = true;   ///< texts are still found here
+    bool m_open = false;      ///< the last entry is not closed yet
+    std::size_t m_length = 0; ///< the length of its text so far
+    std::string m_assumption; ///< the text that ASSUME inserts into rules
     std::vector<BlockTerm> m_assumedTerms;
 };
 
-/// Reads a text of conditions, `A(X) B(Y)`, in upper case. `stray` gets the last text that is no condition,
-/// such as a comma.
+/// Reads conditions, `A(X) B(Y)`, in upper case. `stray` gets the last text that is no condition, such as a
+/// comma.
 void ReadTerms(std::string_view source, std::vector<BlockTerm>& terms, RuleFault& fault, std::string& stray);
 
 } // namespace ls

@@ -10,7 +10,7 @@ namespace ls {
 
 namespace {
 
-// From a variable to what its rules ask for, and the rule that does.
+// A step from a variable to a variable that one of its rules needs, and that rule.
 struct Step
 {
     std::string to;
@@ -36,7 +36,7 @@ Steps StepsOf(const RuleBase& base)
     return steps;
 }
 
-// The shortest way from a variable back to itself, without it at its end; empty when there is none.
+// The shortest way from a variable back to itself, without the variable at the end; empty for none.
 std::vector<std::string> CircleFrom(const std::string& start, const Steps& steps)
 {
     std::unordered_map<std::string, std::string> cameFrom;
@@ -65,8 +65,8 @@ std::vector<std::string> CircleFrom(const std::string& start, const Steps& steps
     return {};
 }
 
-// The variables from which one can come back: what is left when those without a way on, or without a way to
-// them, are taken away one after the other.
+// The variables that may be part of a circle. Variables that no step leads to cannot be; they are removed one
+// after the other.
 std::unordered_set<std::string> Suspects(const Steps& steps)
 {
     std::unordered_map<std::string, int> waysIn;
@@ -112,7 +112,7 @@ std::string PathText(const std::vector<std::string>& circle)
     return text + FromBook(circle.front());
 }
 
-// What the goal comes to.
+// The goal and all variables that it depends on.
 std::unordered_set<std::string> Needed(const std::string& goal, const Steps& steps)
 {
     std::unordered_set<std::string> needed{goal};
@@ -132,7 +132,7 @@ std::unordered_set<std::string> Needed(const std::string& goal, const Steps& ste
     return needed;
 }
 
-// The DEFINE line that leads into the circle; without one for a variable of the circle, the first of all.
+// The line of the DEFINE for a variable of the circle, else of the first DEFINE.
 int DefineLine(const RuleBase& base, const std::vector<std::string>& circle)
 {
     int first = 0;
@@ -148,7 +148,7 @@ int DefineLine(const RuleBase& base, const std::vector<std::string>& circle)
     return first;
 }
 
-// The first rule of the own block that is a step of the circle; 0 when other topics hold all of it.
+// The first rule of the topic's own block that is a step of the circle; 0 if all steps are in other topics.
 int LineOf(const RuleBase& base, const std::vector<std::string>& circle)
 {
     int line = 0;
@@ -183,7 +183,7 @@ void CheckCircles(const RuleBase& base, Findings& findings)
         }
         int line = LineOf(base, circle);
         if (line == 0 && needed.count(variable.name) != 0) {
-            line = DefineLine(base, circle); // other topics hold all of it, but this one comes to it
+            line = DefineLine(base, circle); // the circle is in other topics, but this goal needs it
         }
         if (line == 0) {
             continue;

@@ -51,7 +51,7 @@ void ReportProgramEnds(const DialogueMap& map, int line, bool hasErrors, Finding
     }
 }
 
-// Boxes are the only thing that tells these, so an error that was found already tells more.
+// Reports dialogues that stop with a box. Not used if the block has errors, since those say more.
 void ReportStops(const DialogueMap& map, int line, Findings& findings)
 {
     for (const DialogueEnd& end : map.ends) {
@@ -75,7 +75,7 @@ void ReportCut(const DialogueMap& map, int line, Findings& findings)
     }
 }
 
-// Behind the topic's "<IXML>" line; 0 when there is none.
+// The position after the topic's "<IXML>" line; 0 for none.
 FilePos LogicPosition(BookFile& file, FilePos topic)
 {
     LineCursor cursor(file);
@@ -96,7 +96,7 @@ FilePos LogicPosition(BookFile& file, FilePos topic)
 
 } // namespace
 
-// The real file; behind its end, with a gap, what stands in memory.
+// The book's file and, after its end and a gap, the blocks in memory.
 class DialogueBook::Overlay : public BookFile
 {
 public:
@@ -129,7 +129,7 @@ public:
     FilePos Append(const std::string& text)
     {
         const FilePos pos = m_tailPos + static_cast<FilePos>(m_tail.size());
-        m_tail.append(text).append(LineEnd).append("[]").append(LineEnd); // such a line ends a topic
+        m_tail.append(text).append(LineEnd).append("[]").append(LineEnd); // "[]" ends a topic
         return pos;
     }
 
@@ -145,7 +145,7 @@ private:
     BookFile* m_file;
     FilePos m_tailPos = 2;
     std::string m_tail;
-    FileError m_error; ///< the first one
+    FileError m_error; ///< the first error
 };
 
 DialogueBook::DialogueBook(const Book& book)
@@ -189,7 +189,7 @@ void CheckDialogues(DialogueBook& book, const Seams& seams, const RuleBase& base
     }
     const DialogueMap map = SearchDialogues(book.Get(), seams, SearchLimits(), nullptr);
     if (!book.Error().Ok()) {
-        return; // a dialogue that met a disk that fails says nothing about the rules
+        return; // after a read error a dialogue shows nothing about the rules
     }
     const int line = own.logicLine != 0 ? own.logicLine : own.line;
     ReportProgramEnds(map, line, hasErrors, findings);

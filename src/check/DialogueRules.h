@@ -10,34 +10,34 @@
 
 namespace ls {
 
-/// A book on which dialogues can be tried without touching the one on show: its tables, its file, and blocks
-/// that stand in memory in place of those in the file.
+/// A copy of a book to try dialogues on, without a change to the book on show. It has the book's tables and
+/// file. Blocks in memory can replace blocks of the file.
 class DialogueBook
 {
 public:
-    /// The book outlives it.
+    /// The book must outlive it.
     explicit DialogueBook(const Book& book);
 
-    /// From now on the topic's block is this one.
+    /// Replaces the topic's block.
     void Replace(int topic, const std::string& block);
 
-    /// Makes the topic the current one; false when it has no logic block that can be found.
+    /// Makes the topic the current one. False if no logic block is found in it.
     [[nodiscard]] bool Show(int topic);
 
     [[nodiscard]] const Book& Get() const { return m_book; }
 
-    /// The first error that reading the book's file came to; success when there was none.
+    /// The first error while reading the book's file, else success.
     [[nodiscard]] const FileError& Error() const;
 
 private:
     class Overlay;
 
     Book m_book;
-    Overlay* m_overlay; ///< the book's file
+    Overlay* m_overlay; ///< owned by m_book
 };
 
-/// Holds every dialogue of the topic within limits: answers that leave no rule, and whatever else ends a
-/// dialogue without advice and has no error of its own among `hasErrors`.
+/// Runs every dialogue of the topic within limits. Reports answers that leave no rule, and other ends without
+/// advice. `hasErrors` means that the block has errors already; then only ends of the program are reported.
 void CheckDialogues(DialogueBook& book, const Seams& seams, const RuleBase& base, bool hasErrors,
                     Findings& findings);
 

@@ -4,7 +4,7 @@
 
 namespace ls {
 
-/// An error keeps something from working as it is written; a warning works, but not as it was meant.
+/// An error keeps something from working. A warning is about something that works, but not as intended.
 enum class Severity
 {
     Error,
@@ -14,12 +14,12 @@ enum class Severity
 /// One thing in a book that would surprise its author. Texts are UTF-8.
 struct Finding
 {
-    std::string file;  ///< the book's path as it was given; empty for a text that is still being edited
+    std::string file;  ///< the book's path as given; empty for a text in the editor
     int line = 0;      ///< from 1, as an editor counts the lines of the file or text
     std::string topic; ///< the title without brackets; empty outside of the topics
     Severity severity = Severity::Error;
-    std::string rule; ///< a short name that never changes, e.g. "no-question"
-    std::string text; ///< one sentence: what happens to the reader, and how to mend it
+    std::string rule; ///< a short name that never changes, such as "no-question"
+    std::string text; ///< one sentence: the effect on the reader, and the correction
 
     friend bool operator==(const Finding&, const Finding&) = default;
 };

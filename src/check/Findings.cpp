@@ -13,7 +13,7 @@ void Findings::Add(Severity severity, std::string_view rule, int line, std::stri
     m_list.push_back({m_file, line, m_topic, severity, std::string(rule), std::move(text)});
 }
 
-// Places are sorted rather than findings, which are large and many in a book of bad habits.
+// Sorts indexes, since findings are large and a book may have many of them.
 std::vector<Finding> Findings::TakeSorted()
 {
     std::vector<std::size_t> order(m_list.size());

@@ -10,13 +10,13 @@
 
 namespace ls {
 
-/// Collects what the rules find. All texts given to it are UTF-8.
+/// Collects the findings of all rules. All texts are UTF-8.
 class Findings
 {
 public:
     explicit Findings(std::string file) : m_file(std::move(file)) {}
 
-    /// From now on findings belong to the topic of that title (without brackets).
+    /// Later findings belong to the topic with that title (without brackets).
     void InTopic(std::string title) { m_topic = std::move(title); }
 
     void Error(std::string_view rule, int line, std::string text)
@@ -28,11 +28,11 @@ public:
         Add(Severity::Warning, rule, line, std::move(text));
     }
 
-    /// How many errors there are so far.
+    /// The number of errors so far.
     [[nodiscard]] int ErrorCount() const { return m_errors; }
 
-    /// All findings by line, those of one line in the order in which they were found. The collection is
-    /// empty afterwards.
+    /// All findings by line, and those of one line in the order in which they were found. Empties the
+    /// collection.
     [[nodiscard]] std::vector<Finding> TakeSorted();
 
 private:
@@ -41,7 +41,7 @@ private:
     std::string m_file;
     std::string m_topic;
     int m_errors = 0;
-    std::deque<Finding> m_list; ///< grows without moving what is there
+    std::deque<Finding> m_list; ///< a deque, so that growing moves no elements
 };
 
 } // namespace ls

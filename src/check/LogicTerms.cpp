@@ -16,7 +16,7 @@ std::string Squeezed(std::string_view text)
     return squeezed;
 }
 
-// A name as far as it belongs to the variable: what stands before a separator does not.
+// Removes everything up to the last separator. It is not part of the name.
 std::string_view WithoutSeparators(std::string_view name, RuleFault& fault, std::string& stray)
 {
     const std::size_t separator = name.find_last_of(",;\t");

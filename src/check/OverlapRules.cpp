@@ -29,7 +29,7 @@ std::string Fact(const std::string& var, const std::string& value)
     return FromBook(var + "(" + value + ")");
 }
 
-// The rule asks for two values of one variable.
+// Reports a rule that needs two values of one variable.
 bool CheckContradiction(const BlockRule& rule, const TermSet& conditions, Findings& findings)
 {
     const auto twice =
@@ -39,7 +39,7 @@ bool CheckContradiction(const BlockRule& rule, const TermSet& conditions, Findin
     if (twice == conditions.end()) {
         return false;
     }
-    // Any of the two answers takes out one condition; the other one is left to be asked for.
+    // Either answer removes only one of the conditions. The other one is still open.
     findings.Warning(
         "contradictory-rule", rule.line,
         Fact(twice->first, twice->second) + " and " + Fact(twice->first, std::next(twice)->second) +
@@ -50,7 +50,7 @@ bool CheckContradiction(const BlockRule& rule, const TermSet& conditions, Findin
     return true;
 }
 
-// The answer takes out one of the two, and the other one is then taken as given.
+// Reports a condition that occurs twice. The answer removes only one; the other one is then taken as given.
 void CheckDoubledCondition(const BlockRule& rule, const TermSet& conditions, Findings& findings)
 {
     if (conditions.size() == rule.conditions.size()) {
@@ -68,12 +68,12 @@ void CheckDoubledCondition(const BlockRule& rule, const TermSet& conditions, Fin
     }
 }
 
-// The conditions of a rule as numbers, so that a rule is told from tens of thousands of others without
-// comparing texts.
+// The conditions of a rule as numbers. Comparing numbers is fast enough for tens of thousands of rules,
+// comparing texts is not.
 struct Needs
 {
     std::vector<std::uint32_t> numbers; ///< ascending
-    std::uint64_t mask = 0;             ///< a bit for each, the number modulo 64
+    std::uint64_t mask = 0;             ///< one bit for each number: the number modulo 64
 
     [[nodiscard]] bool Include(const Needs& fewer) const
     {
@@ -82,11 +82,11 @@ struct Needs
     }
 };
 
-// Finds, for each rule, an earlier rule for the same variable that needs no more than it does.
+// Finds an earlier rule for the same variable with the same conditions or fewer.
 class Earlier
 {
 public:
-    // The earlier rule, nullptr when there is none. The rule then counts as an earlier one.
+    // Returns the earlier rule, nullptr for none, and adds this rule to the earlier ones.
     const BlockRule* Take(const BlockRule& rule, const TermSet& conditions)
     {
         Group& group = m_groups[rule.conclusion.var];
@@ -97,7 +97,7 @@ public:
     }
 
 private:
-    // A rule stands under its least condition: a set that holds all of its conditions holds that one.
+    // A rule is listed under its least condition. A set that includes all its conditions includes that one.
     struct Group
     {
         const BlockRule* withoutConditions = nullptr;
@@ -150,7 +150,7 @@ private:
         return needs;
     }
 
-    static constexpr std::size_t MostTries = 2000; ///< keeps a base of tens of thousands of rules quick
+    static constexpr std::size_t MostTries = 2000; ///< limits the time for tens of thousands of rules
 
     std::unordered_map<std::string, Group> m_groups;
     std::map<std::pair<std::string, std::string>, std::uint32_t> m_numbers;
@@ -173,7 +173,7 @@ void ReportEarlier(const BlockRule& rule, const TermSet& conditions, const Block
             "or add a condition there.");
 }
 
-// A condition on a value that no rule concludes, of a variable that the reader is never asked for.
+// Reports a condition on a value that no rule concludes, if the reader is never asked for the variable.
 void CheckConcluded(const RuleBase& base, const BlockRule& rule, Findings& findings)
 {
     for (const BlockTerm& term : rule.conditions) {

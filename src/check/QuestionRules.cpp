@@ -66,7 +66,7 @@ void CheckDefines(const RuleBase& base, Findings& findings)
     }
 }
 
-// Whether a DEFINE line names the variable, however badly: it has its own finding then.
+// Whether a DEFINE line names the variable. Another rule reports a malformed line.
 bool IsDefined(const CheckedBlock& block, const std::string& var)
 {
     return std::any_of(block.commands.begin(), block.commands.end(),
@@ -89,8 +89,8 @@ void CheckRegistered(const RuleBase& base, Findings& findings)
     }
 }
 
-// Where a question without a text is told: at its entry, or where this block needs that of another topic. 0
-// when there is no such entry, which has its own finding.
+// The line for a question without text: its entry, or the condition if the entry is in another topic. 0 if
+// there is no entry; another rule reports that.
 int EmptyQuestionLine(const RuleBase& base, const VariableUse& variable, const Registration& question)
 {
     const CheckedBlock* const block = base.Store().Find(question.topic);
@@ -100,7 +100,7 @@ int EmptyQuestionLine(const RuleBase& base, const VariableUse& variable, const R
     return question.topic == base.Own().topic ? question.line : variable.conditionLine;
 }
 
-// Only a variable with a choice is asked; one that rules conclude is worked out instead.
+// Only a variable with at least two values is asked, and only if no rule concludes it.
 void CheckQuestionTexts(const RuleBase& base, Findings& findings)
 {
     for (const VariableUse& variable : base.Variables()) {
@@ -145,7 +145,7 @@ void CheckRegisteredOnce(const RuleBase& base, Findings& findings)
     }
 }
 
-// The variables for which another block of the book comes to this topic.
+// The variables for which another block's DEFINE names this topic.
 std::unordered_set<std::string> WantedByOthers(const RuleBase& base)
 {
     std::unordered_set<std::string> wanted;
@@ -166,7 +166,7 @@ std::unordered_set<std::string> WantedByOthers(const RuleBase& base)
 void CheckQuestionsUsed(const RuleBase& base, Findings& findings)
 {
     if (!base.Store().HasWholeBook()) {
-        return; // a topic that was not read yet may use it
+        return; // a topic that was not read yet may use the question
     }
     std::vector<const BlockEntry*> unused;
     for (const BlockEntry& entry : base.Own().entries) {

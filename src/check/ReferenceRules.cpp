@@ -53,8 +53,8 @@ void ReferenceRules::TellHeader()
     m_told = true;
 }
 
-// What the note takes away from the book because its end is missing. That it is missing, and a line with a
-// bracket is not a part of the note, shows when another reference begins before the note ends.
+// Reports what a note swallows if its end is missing. A line with a bracket may belong to the note. If
+// another reference begins before the note ends, the end is missing and that line is a title.
 void ReferenceRules::CheckSwallowed(std::string_view line, int number)
 {
     if (line.size() > 2 && line.front() == '[' && m_header == 0) {
@@ -85,7 +85,7 @@ void ReferenceRules::Take(std::string_view line, int number)
     TakePiece(line);
 }
 
-// As the scan reads a note, piece by piece.
+// Reads a piece of the note as the scan does.
 void ReferenceRules::TakePiece(std::string_view piece)
 {
     m_textBehind = false;

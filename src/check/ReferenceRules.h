@@ -9,8 +9,8 @@
 
 namespace ls {
 
-/// Cross references: their targets, and what their notes swallow. A note is followed as the book's scan
-/// follows it.
+/// Checks cross references: their targets, and what their notes swallow. It reads notes as the book's scan
+/// does.
 class ReferenceRules
 {
 public:
@@ -23,16 +23,16 @@ public:
     /// Whether the next line belongs to a note.
     [[nodiscard]] bool InNote() const { return m_line != 0; }
 
-    /// A line that opens a cross reference.
+    /// Takes a line that opens a cross reference.
     void Open(std::string_view line, int number);
 
-    /// A further line of the note.
+    /// Takes a further line of the note.
     void Take(std::string_view line, int number);
 
-    /// The file is through.
+    /// Ends the check at the end of the file.
     void Finish();
 
-    /// Whether the line that closed a note, or opened and closed one, has text behind the end tag.
+    /// Whether the last line closes a note and has text after the end tag.
     [[nodiscard]] bool TextBehind() const { return m_textBehind; }
 
 private:
@@ -43,10 +43,10 @@ private:
 
     Findings& m_findings;
     const std::unordered_map<std::string_view, int>& m_titles;
-    int m_line = 0;           ///< of the open note; 0 when there is none
+    int m_line = 0;           ///< the line of the open note; 0 for none
     int m_header = 0;         ///< the first line in the note that looks like a title
-    std::size_t m_length = 0; ///< of its text
-    bool m_told = false;      ///< a finding about this note was made
+    std::size_t m_length = 0; ///< the length of the note's text
+    bool m_told = false;      ///< a finding about this note was reported
     bool m_textBehind = false;
 };
 

@@ -7,7 +7,7 @@ namespace ls {
 
 namespace {
 
-// Books whose topics all lead to one another would otherwise be gone through once for each topic.
+// A limit for books in which all topics lead to one another. Otherwise each topic would read the whole book.
 constexpr std::size_t MostBlocks = 200;
 
 } // namespace
@@ -30,7 +30,7 @@ void RuleBase::FollowDefines()
     m_blocks.push_back(m_own);
     for (std::size_t i = 0; i < m_blocks.size(); ++i) {
         for (const BlockCommand& command : m_blocks[i]->commands) {
-            // A name with a blank never comes up, since rules have none.
+            // Names in rules have no blanks, so a name with a blank never comes up.
             const bool followed = !command.title.empty() && command.var.find(' ') == std::string::npos;
             const int topic = followed ? m_store->TopicNumber(command.title) : 0;
             const CheckedBlock* const block =
@@ -42,7 +42,7 @@ void RuleBase::FollowDefines()
     }
 }
 
-// The commands stand before the entries, and the first registration counts.
+// Commands come before the entries, and the first registration counts.
 void RuleBase::Register(const CheckedBlock& block)
 {
     for (const BlockCommand& command : block.commands) {

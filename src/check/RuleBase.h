@@ -10,37 +10,37 @@
 
 namespace ls {
 
-/// Where the question for a variable is registered.
+/// The place where the question for a variable is registered.
 struct Registration
 {
     int topic = 0;
-    int line = 0; ///< in the block that registers it
+    int line = 0; ///< in the block that registers the question
     bool byDefine = false;
 };
 
-/// A rule with the block in which it stands.
+/// A rule and the block that holds it.
 struct PlacedRule
 {
     const CheckedBlock* block;
     const BlockRule* rule;
 };
 
-/// What the rules say of one variable.
+/// What the rules say about one variable.
 struct VariableUse
 {
     std::string name;
-    int line = 0;                        ///< first named in the own block; 0 when only in others
-    int conditionLine = 0;               ///< first a condition there
-    bool condition = false;              ///< a condition anywhere
+    int line = 0;           ///< the first rule in the own block that names it; 0 for none
+    int conditionLine = 0;  ///< the first rule in the own block with a condition on it; 0 for none
+    bool condition = false; ///< a rule of any block has a condition on it
     std::vector<PlacedRule> conclusions; ///< the rules that conclude it
     std::vector<PlacedRule> rules;       ///< all rules that name it, each once, in the order of the rules
 };
 
-/// The target of a dialogue whose rules name none.
+/// The goal of a dialogue without a TARGET line.
 inline constexpr std::string_view DefaultGoal = "AV";
 
-/// The rules of a topic's dialogue: those of its own block, and of the blocks that its DEFINE lines lead to,
-/// which join in as their variables come up.
+/// The rules of a topic's dialogue: those of its own block and of the blocks that its DEFINE lines lead to.
+/// The other blocks are added when their variables come up.
 class RuleBase
 {
 public:
@@ -51,20 +51,20 @@ public:
     [[nodiscard]] const std::vector<const CheckedBlock*>& Blocks() const { return m_blocks; }
     [[nodiscard]] const std::string& Target() const { return m_target; }
 
-    /// All variables, in the order in which the rules name them.
+    /// All variables, in the order in which the rules first name them.
     [[nodiscard]] const std::vector<VariableUse>& Variables() const { return m_variables; }
     [[nodiscard]] const VariableUse* Find(const std::string& name) const;
 
-    /// Where a variable's question is found; nullptr when it is nowhere registered.
+    /// The place of a variable's question; nullptr if it is not registered.
     [[nodiscard]] const Registration* Question(const std::string& name) const;
 
-    /// Whether a question of that name with a text is found where it is registered.
+    /// Whether the question is registered and has a text in that place.
     [[nodiscard]] bool HasQuestionText(const std::string& name) const;
 
-    /// The block in whose definitions the advice is searched; nullptr when that is no block of the book.
+    /// The block whose definitions hold the advice; nullptr if the book has no such block.
     [[nodiscard]] const CheckedBlock* AdviceHome() const;
 
-    /// The values of a variable as its question offers them, each once, in the order of the rules.
+    /// The values of a variable that its question offers, each once, in the order of the rules.
     [[nodiscard]] std::vector<std::string> Values(const VariableUse& variable) const;
 
 private:
@@ -78,12 +78,11 @@ private:
     std::string m_target;
     std::vector<const CheckedBlock*> m_blocks;
     std::vector<VariableUse> m_variables;
-    std::unordered_map<std::string, std::size_t> m_numbers; ///< of m_variables
+    std::unordered_map<std::string, std::size_t> m_numbers; ///< indexes into m_variables, by name
     std::unordered_map<std::string, Registration> m_questions;
 };
 
-/// The value that a rule gives or asks of a variable: the first place where it names it counts. nullptr when
-/// it names it nowhere.
+/// The value of a variable in the first place where the rule names it; nullptr if the rule does not name it.
 [[nodiscard]] const std::string* ValueIn(const BlockRule& rule, const std::string& variable);
 
 } // namespace ls

@@ -14,7 +14,7 @@ std::string Fact(const BlockTerm& term)
     return FromBook(term.var + "(" + term.value + ")");
 }
 
-// What stands between conditions, in words.
+// A readable form of the text between conditions.
 std::string StrayText(const std::string& stray)
 {
     return stray == "\t" ? "a TAB" : Quoted(stray);
@@ -58,7 +58,7 @@ void CheckStray(const BlockRule& rule, Findings& findings)
     }
 }
 
-// An empty value is skipped in the list of choices or makes a choice that looks like none.
+// Reports an empty value. The list of choices skips it or shows it as a blank choice.
 void CheckEmptyValue(const BlockTerm& term, int line, Findings& findings)
 {
     if (term.value.empty()) {

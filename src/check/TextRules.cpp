@@ -29,7 +29,7 @@ bool ReadsAsUtf8(std::string_view line)
     return true;
 }
 
-// The export takes a line for a heading by its first four characters.
+// The export recognises a heading by its first four characters.
 bool IsHeading(std::string_view line)
 {
     return line.size() > 4 && BeginsUpper(line, "<H") && line[2] >= '1' && line[2] <= '4' && line[3] == '>';

@@ -8,14 +8,14 @@
 
 namespace ls {
 
-/// What the text of topics tells line by line: its markup, its headings, and its bytes.
+/// Checks the text of topics line by line: its markup, its headings and its bytes.
 class TextRules
 {
 public:
-    /// `markup`: tags and entities mean something in this book.
+    /// `markup` is set if tags and entities have a meaning in this book.
     TextRules(Findings& findings, bool markup) : m_findings(findings), m_markup(markup) {}
 
-    /// A line that is displayed.
+    /// Takes a line that is displayed.
     void TakeShown(std::string_view line, int number)
     {
         if (m_markup) {
@@ -23,15 +23,15 @@ public:
         }
     }
 
-    /// Any line of the file that has bytes above 7F.
+    /// Takes any line of the file with bytes above 7F.
     void TakeHighBytes(std::string_view line, int number);
 
-    /// A line that holds a LF which is no part of a line end.
+    /// Takes a line with an LF that is not part of a line end.
     void TakeLoneLf(int number);
 
     void BeginTopic();
 
-    /// The topic is over, or nothing more of it is displayed.
+    /// Ends the displayed text of the topic.
     void EndShown();
 
 private:

@@ -30,7 +30,8 @@ void CheckOneValue(const RuleBase& base, const VariableUse& variable, Findings& 
     }
 }
 
-// The choices are gathered into a text, in which a value that ends an earlier one counts as known.
+// Reports values that are missing in the choices. The list of choices is one text, and a value counts as
+// known if an earlier value ends in it.
 void CheckHiddenValues(const RuleBase& base, const VariableUse& variable, Findings& findings)
 {
     if (!variable.condition || !base.HasQuestionText(variable.name)) {
@@ -50,7 +51,8 @@ void CheckHiddenValues(const RuleBase& base, const VariableUse& variable, Findin
     }
 }
 
-// An answer is searched as "NAME(" in the text of the rules, and is found behind any longer name, too.
+// Reports a name that is the end of a longer name. The engine searches "NAME(" in the text of the rules, so
+// it finds the longer name too.
 void CheckNames(const RuleBase& base, Findings& findings)
 {
     std::unordered_map<std::string_view, const VariableUse*> asked;

@@ -13,7 +13,7 @@ namespace ls {
 
 using Strings = std::vector<std::string>;
 
-/// A book that lies in memory, opened and scanned by the real loader.
+/// A book in memory that the real loader opens and scans.
 struct BookFixture : testing::Test
 {
     test::TestSeams world;
@@ -33,7 +33,7 @@ struct BookFixture : testing::Test
         return {book.TopicNames.begin(), book.TopicNames.begin() + book.TopicCount};
     }
 
-    /// "from>to:text" of every cross reference.
+    /// Every cross reference as "from>to:text".
     [[nodiscard]] Strings XrefTexts() const
     {
         Strings texts;

@@ -5,7 +5,7 @@
 namespace ls {
 namespace {
 
-// What a header line comes to, as one text: "magic|version|author|copyright|url|post|good".
+// The result of parsing a header line as one text: "magic|version|author|copyright|url|post|good".
 std::string Parsed(const std::string& line)
 {
     BookHeader header;

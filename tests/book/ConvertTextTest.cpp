@@ -84,7 +84,7 @@ const TextCase TextCases[] = {
 INSTANTIATE_TEST_SUITE_P(Texts, ConvertTextCaseTest, testing::ValuesIn(TextCases),
                          [](const auto& row) { return row.param.name; });
 
-// Whatever a block's end cuts through, the result is that of the text in one piece.
+// The end of a block may cut a character or a line end. The result is the same as for one whole piece.
 TEST_F(ConvertTextTest, characterAndLineEndAcrossBlocks_areKeptTogether)
 {
     constexpr std::size_t Block = 256 * 1024;

@@ -1,4 +1,4 @@
-// The open file is changed by somebody else between its scan and a save.
+// Another program changes the open file between the scan and a save.
 
 #include "book/BookFixture.h"
 #include "book/SaveBook.h"
@@ -10,7 +10,7 @@ struct InputChanged : BookFixture
 {
     void SetUp() override { ASSERT_TRUE(Scan(Bytes)); }
 
-    // Saves what the file holds now; true when that was called saved.
+    // Saves while the file holds `changed`. True if the save reports success.
     bool Saves(const std::string& changed)
     {
         world.files["/work/Book.IDA"] = changed;

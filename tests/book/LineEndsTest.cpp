@@ -146,7 +146,7 @@ TEST_F(LineEndsTest, copy_takenNames_arePassedOver)
 TEST_F(LineEndsTest, copy_fileInWorkDir_liesBesideIt)
 {
     Put("a\n");
-    book.BookPath = "book.ida"; // spelled otherwise than on the disk
+    book.BookPath = "book.ida"; // the case differs from the name on the disk
     book.WorkDir = "/work";
     world.messages.replies = {Reply::Yes};
     EXPECT_EQ(Offer(), Copy);
@@ -177,7 +177,7 @@ struct CopyFaultCase
     const char* name;
     const char* operation;
     int number;
-    const char* end; ///< of the box
+    const char* end; ///< how the box ends
 };
 
 struct LineEndsFaultTest : LineEndsTest, testing::WithParamInterface<CopyFaultCase>

@@ -5,7 +5,7 @@ namespace {
 
 struct LoadTopicRecTest : BookFixture
 {
-    // "name number" after loading a topic.
+    // Loads a topic and returns "name number".
     std::string Load(std::string name, int number = 0)
     {
         Count16 no = number;
@@ -17,7 +17,7 @@ struct LoadTopicRecTest : BookFixture
 struct TextCase
 {
     const char* name;
-    const char* body; ///< of the topic "A", behind its header line
+    const char* body; ///< of the topic "A", after its header line
     const char* text;
     const char* logic;
 };
@@ -178,8 +178,8 @@ TEST_F(LoadTopicRecTest, load_readErrorInAPlainTextFile_saysSoAndGivesNoHalf)
 struct FileLogicCase
 {
     const char* name;
-    const char* body;  ///< of the topic "A", behind its header line
-    const char* logic; ///< as it comes from the file; "before" when it stays as it was
+    const char* body;  ///< of the topic "A", after its header line
+    const char* logic; ///< as read from the file; "before" if it does not change
 };
 
 struct FileLogicTable : LoadTopicRecTest, testing::WithParamInterface<FileLogicCase>
@@ -192,7 +192,7 @@ TEST_P(FileLogicTable, loadLogicFromFile_givesTheBlockWhateverFollowsItsOpening)
     std::string logic = "before";
     EXPECT_TRUE(LoadLogicFromFile(book, world.Get(), 1, logic));
     EXPECT_EQ(logic, GetParam().logic);
-    EXPECT_EQ(book.TopicRecs(1).Logic, "") << "nothing is brought into memory";
+    EXPECT_EQ(book.TopicRecs(1).Logic, "") << "nothing is loaded into memory";
     EXPECT_TRUE(world.messages.boxes.empty());
 }
 

@@ -6,7 +6,7 @@ namespace {
 
 struct LocateTopicTest : BookFixture
 {
-    // "name number line": what the look-up came to, and the line that the cursor stands at.
+    // "name number line": the result of the lookup and the line at the cursor.
     std::string Locate(std::string name, int number = 0)
     {
         LineCursor cursor(*book.File);
@@ -116,7 +116,7 @@ TEST_F(LocateTopicTest, locate_readError_namesTheError)
 
 TEST_F(LocateTopicTest, locate_positionBehind2GiB_isReached)
 {
-    // A file that claims to be huge: only the bytes at the asked position exist.
+    // A file that reports a huge size. Only the bytes at the requested position exist.
     struct FarFile : BookFile
     {
         FilePos asked = 0;

@@ -1,4 +1,4 @@
-// Every sample book, saved and opened again: the same header, topics, texts, logic blocks and references.
+// Each sample book is saved and opened again. Its header, topics, texts, logic blocks and references stay.
 
 #include "book/BookFixture.h"
 #include "book/SaveBook.h"
@@ -40,7 +40,7 @@ void PrintTo(const TopicTexts& topic, std::ostream* out)
 
 struct SaveRoundTrip : BookFixture, testing::WithParamInterface<std::string>
 {
-    // False for a file without topics: there is nothing to save.
+    // False for a file without topics, since it cannot be saved.
     bool OpenSample() { return Scan(test::ReadWholeFile(GetParam())) && book.TopicCount > 0; }
 
     void SaveAndOpen()
@@ -52,7 +52,7 @@ struct SaveRoundTrip : BookFixture, testing::WithParamInterface<std::string>
         ASSERT_TRUE(Scan(saved));
     }
 
-    // Brings every topic into memory, as the editors do, and tells what it holds.
+    // Loads every topic into memory, as the editors do, and returns its texts.
     std::vector<TopicTexts> LoadTopics()
     {
         std::vector<TopicTexts> topics;
@@ -100,7 +100,7 @@ TEST_P(SaveRoundTrip, save_unedited_opensTheSame)
     EXPECT_EQ(book.BookPost, header.BookPost);
 }
 
-// An edited topic gains an empty line behind its text and behind its logic block, and nothing else.
+// An edited topic gains only an empty line after its text and one after its logic block.
 TEST_P(SaveRoundTrip, save_everyTopicEdited_opensTheSameWithAnEmptyLineMore)
 {
     world.messages.replies = {Reply::Cancel};

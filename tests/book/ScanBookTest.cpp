@@ -6,7 +6,7 @@ namespace {
 struct ScanCase
 {
     const char* name;
-    const char* body; ///< what follows the header line
+    const char* body; ///< the text after the header line
     Strings topics;
     Strings xrefs;
 };
@@ -138,7 +138,7 @@ TEST_F(ScanBookTest, scan_progress_reportsPositionsOfTheFile)
         bool Step(std::int64_t done, std::int64_t total) override
         {
             steps.emplace_back(done, total);
-            return false; // asks for a cancel, which a scan must not heed
+            return false; // asks to cancel; a scan must ignore this
         }
         std::vector<std::pair<std::int64_t, std::int64_t>> steps;
     } progress;

@@ -18,7 +18,7 @@ struct TopicHistoryTest : testing::Test
         }
     }
 
-    // What the main window does when it has shown a topic.
+    // What the main window does after it shows a topic.
     void Show(int number)
     {
         book.CurrentTopicNo = number;
@@ -33,7 +33,7 @@ struct TopicHistoryTest : testing::Test
         }
     }
 
-    // The topics that going back leads to, one after the other, by their titles.
+    // The titles of the topics that Go Back leads to, in order.
     std::string WayBack()
     {
         std::string way;
@@ -119,7 +119,7 @@ TEST_F(TopicHistoryTest, anotherTopicInTheMiddle_endsWhatLayAhead)
 TEST_F(TopicHistoryTest, nothingOnShow_backIsTheLastOneShown)
 {
     ShowAll({1, 2});
-    book.CurrentTopicName.clear(); // the user looks through the list
+    book.CurrentTopicName.clear(); // the user is looking through the list
     EXPECT_EQ(history.TopicBehind(book), 2);
     Show(history.GoBack(book));
     EXPECT_EQ(WayBack(), "A");
@@ -177,7 +177,7 @@ TEST_F(TopicHistoryTest, renamedTopic_isPassedOver)
 TEST_F(TopicHistoryTest, bookSavedWithoutARemovedTopic_keepsTheOthersByTheirTitles)
 {
     ShowAll({1, 2, 3, 4});
-    ResetBook(book); // the saved book is read anew: A C D
+    ResetBook(book); // the saved book is read again: A C D
     for (const char* name : {"[A]", "[C]", "[D]"}) {
         static_cast<void>(book.TopicCount.Add());
         book.TopicNames(book.TopicCount) = name;
@@ -218,7 +218,7 @@ TEST_F(TopicHistoryTest, topicThatCannotBeShown_doesNotStopTheWay)
 {
     ShowAll({1, 2, 3});
     EXPECT_EQ(history.GoBack(book), 2);
-    book.CurrentTopicName.clear(); // its text could not be read
+    book.CurrentTopicName.clear(); // the topic's text could not be read
     history.DropCurrent();
     EXPECT_EQ(history.TopicBehind(book), 1);
     EXPECT_EQ(history.TopicAhead(book), 3);

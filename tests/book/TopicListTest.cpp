@@ -109,7 +109,7 @@ TEST_F(TopicListTest, fill_alphabetic_sortsWithoutRegardToCase)
 
 TEST_F(TopicListTest, fill_alphabetic_accentsOfTheCodePageHaveNoCaseEither)
 {
-    // An a with two dots, small and capital: the small one's byte is the greater, but "b" decides.
+    // Small and capital "a" with two dots. The small one's byte is greater, but "b" decides the order.
     Add({"[\xE4"
          "c]",
          "[\xC4"
@@ -147,8 +147,8 @@ struct SelectCase
     const char* name;
     const char* currentName;
     int currentNo;
-    int contents;   ///< the index selected in contents order
-    int alphabetic; ///< and in alphabetic order
+    int contents;   ///< the selected index in contents order
+    int alphabetic; ///< the selected index in alphabetic order
 };
 
 struct TopicListSelectTest : TopicListTest, testing::WithParamInterface<SelectCase>

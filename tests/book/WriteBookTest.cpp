@@ -9,7 +9,7 @@ namespace {
 
 struct WriteBookTest : BookFixture
 {
-    // Saves the open book as "/work/Out.IDA" and gives its bytes; empty when it is not there.
+    // Saves the open book as "/work/Out.IDA" and returns its bytes; empty if there is no such file.
     std::string Save(Progress* progress = nullptr)
     {
         outcome = SaveBook(book, world.Get(), "/work/Out.IDA", progress);
@@ -22,7 +22,7 @@ struct WriteBookTest : BookFixture
 struct CopyCase
 {
     const char* name;
-    const char* body; ///< behind the header line
+    const char* body; ///< the text after the header line
     const char* saved;
 };
 
@@ -218,8 +218,8 @@ TEST_F(WriteBookTest, save_existingPart_isNotTouchedAndInNobodysWay)
     EXPECT_FALSE(world.files.Has("/work/Out.IDA.part3"));
 }
 
-// The disk fills up, or breaks, at each operation on the output in turn: never a file under the final name,
-// always one message, and the book in memory stays.
+// Each operation on the output fails in turn. There is never a file under the final name, there is one
+// message, and the book in memory does not change.
 TEST_F(WriteBookTest, save_outputFailingAtEachCall_neverLeavesHalfABook)
 {
     std::string bytes = "LODESTAR BOOK V5.3\r\n";

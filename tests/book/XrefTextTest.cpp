@@ -8,7 +8,7 @@
 namespace ls {
 namespace {
 
-// The note read from a file of these lines, and, behind "|", the line that follows it.
+// The note read from a file of these lines and, after "|", the next line.
 std::string NoteOf(const std::string& bytes)
 {
     test::MemoryFileSystem files;
@@ -85,7 +85,7 @@ TEST(XrefText, read_over32000_isCutBeforeTheLineAndMarked)
     const std::string text(31990, 'x');
     EXPECT_EQ(NoteOf("<XREF TOPIC=A>" + text + "\r\n12345678"), text + "\r\n12345678|");
     EXPECT_EQ(NoteOf("<XREF TOPIC=A>" + text + "\r\n123456789\r\nnext"), text + "???|next")
-        << "the joining line end counts too";
+        << "the line end between the pieces counts too";
     EXPECT_EQ(NoteOf("<XREF TOPIC=A>" + text + "\r\n123456789</XREF>\r\nnext"), text + "???|next");
     EXPECT_EQ(NoteOf("<XREF TOPIC=A>" + text + "\r\n12345678</XREF>\r\nnext"), text + "\r\n12345678|next");
 }

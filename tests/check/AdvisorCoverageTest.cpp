@@ -21,7 +21,7 @@ namespace {
 using Kind = DialogueEnd::Kind;
 using Strings = std::vector<std::string>;
 
-// A book in memory and its dialogues, by a player's way and by exploration.
+// A book in memory. Its dialogues can be explored or played.
 class World
 {
 public:
@@ -121,10 +121,10 @@ TEST(ExploreAdvisor, twoWaysIntoDeadEnds_bothAreTold)
                        "advice G(2) after A=Y,B=Q: two",
                        "dead end  after A=Y,B=P: I can't find a question to ask for target G."}));
     EXPECT_EQ(world.Explore("Topic", SearchLimits(), nullptr).map.ends.size(), 3U)
-        << "one of a kind where not every way is asked for";
+        << "without everyWay, one dead end is enough";
 }
 
-// The text of the default goal's advice is searched from where the last question stood.
+// The search for the text of the default goal's advice starts at the last question.
 TEST(ExploreAdvisor, adviceThatComesWithItsTextOrWithout_isToldTwice)
 {
     World world(Topic({"AV(GO)=A(X)", "AV(GO)=A(Y)B(P)", "AV(STAY)=A(Y)B(Q)"},
@@ -146,7 +146,7 @@ TEST(ExploreAdvisor, faultsThatEndTheProgram_areToldWithTheirAnswers)
                        "advice G(2) after A=Y,C=P: two", "advice G(3) after A=Y,C=Q: three"}));
     EXPECT_EQ(coverage.map.ends[1].boxes, Strings{"Warning--circular definition"});
     EXPECT_FALSE(world.seams.end.Ended()) << "the program itself goes on";
-    EXPECT_EQ(world.seams.messages.boxes, Strings{}) << "nobody sees a box";
+    EXPECT_EQ(world.seams.messages.boxes, Strings{}) << "no box is shown";
 }
 
 TEST(ExploreAdvisor, logicThatCannotBeLoaded_isTheOnlyEnd)
@@ -160,12 +160,12 @@ TEST(ExploreAdvisor, logicThatCannotBeLoaded_isTheOnlyEnd)
 
 TEST(ExploreAdvisor, statesThatAreTheSame_areGoneThroughOnce)
 {
-    // After A the rules left are the same whatever the answer was.
+    // Each answer to A leaves the same rules.
     World world(Topic({"TARGET G", "G(1)=B(P)", "G(2)=B(Q)", "G(3)=A(1)A(2)A(3)C(1)", "G(4)=A(4)C(1)",
                        "G(4)=A(5)C(1)", "G(4)=A(6)C(1)", "H(1)=C(2)"},
                       {"<Q ID=G></Q>", "<Q ID=A>A?</Q>", "<Q ID=B>B?</Q>", "<Q ID=C>C?</Q>"}));
     const AdvisorCoverage coverage = world.Explore("Topic");
-    EXPECT_LT(coverage.map.states, 12) << "with A's six answers told apart they would be more";
+    EXPECT_LT(coverage.map.states, 12) << "equal states are counted once";
     EXPECT_FALSE(coverage.map.cut);
 }
 
@@ -201,11 +201,11 @@ TEST(ExploreAdvisor, cancelled_isCut)
     EXPECT_EQ(EndLines(coverage), Strings{"advice G(1) after A=X: "});
 }
 
-// What a reader comes to who gives these answers.
+// What a reader sees after these answers.
 struct Played
 {
-    std::string end; ///< one line; empty when a question waits
-    Strings choices; ///< of that question
+    std::string end; ///< one line; empty if a question is open
+    Strings choices; ///< of the open question
 };
 
 Played Play(World& world, const std::string& title, const Strings& answers)
@@ -242,7 +242,7 @@ Played Play(World& world, const std::string& title, const Strings& answers)
     AdvisorTables tables;
     RunAdvisor(world.book, tables, world.seams.Get(), player, 1, title);
     world.seams.end = ProgramEnd{};
-    EXPECT_EQ(given, answers.size()) << "the dialogue ended sooner";
+    EXPECT_EQ(given, answers.size()) << "the dialogue ended too early";
     if (!waiting && played.end.empty()) {
         played.end = "stops: " + (text.empty() ? box : text);
     }
@@ -271,7 +271,7 @@ Strings AnswersOf(const DialogueEnd& end)
     return answers;
 }
 
-using Shortest = std::map<std::string, std::size_t>; ///< the fewest answers that lead to an end
+using Shortest = std::map<std::string, std::size_t>; ///< the smallest number of answers for each end
 
 Shortest ExploredEnds(const AdvisorCoverage& coverage)
 {
@@ -282,7 +282,7 @@ Shortest ExploredEnds(const AdvisorCoverage& coverage)
     return ends;
 }
 
-// All dialogues, one by one, that can be had in so many of them.
+// The ends of all dialogues, up to that number. `all` is set if no dialogue is left out.
 Shortest PlayedEnds(World& world, const std::string& title, int mostDialogues, bool& all)
 {
     Shortest ends;
@@ -353,8 +353,8 @@ void CompareFolder(const std::string& folder, Tally& tally)
     }
 }
 
-// What exploration says is what readers meet: each of its ways is walked by a player, and every dialogue that
-// a player can have leads to an end that it names, in no fewer answers.
+// The exploration shows what readers see. Each of its ways is played. Each dialogue that a player can have
+// ends as one of its ways, and that way needs no more answers.
 TEST(ExploreAdvisor, everyWay_isTheOneThatReadersGo)
 {
     Tally tally;

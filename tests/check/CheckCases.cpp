@@ -14,7 +14,7 @@ namespace ls::test {
 
 namespace {
 
-// Puts bytes for "{XX}", and so many "x" for "{xNUMBER}".
+// Replaces "{XX}" by a byte and "{xNUMBER}" by that many "x".
 std::string Bytes(const std::string& text)
 {
     std::string bytes;
@@ -83,7 +83,7 @@ CheckedBook::CheckedBook(const std::string& bytes)
     book.BookPath = "/case.IDA";
     EXPECT_TRUE(OpenBook(book, seams.Get()));
     EXPECT_TRUE(ScanBook(book, seams.Get()));
-    seams.messages.Take(); // a bad header's box; the check says it again
+    seams.messages.Take(); // the box for a bad header; the check reports it too
 }
 
 std::vector<std::string> Lines(const std::vector<Finding>& findings)

@@ -9,17 +9,17 @@
 
 namespace ls::test {
 
-/// A book and what `check` is to find in it, from a data file.
+/// A book from a data file and the findings that `check` must give.
 struct CheckCase
 {
-    std::string name; ///< the rule that it is about first; "near RULE ..." for one that must not trigger it
-    std::string book; ///< bytes
+    std::string name; ///< the rule to test; "near RULE ..." for a book that must not trigger it
+    std::string book; ///< the bytes of the book
     std::vector<std::string> findings; ///< "line: severity: rule: text"
 };
 
 /// All cases of tests/data/check. In a file "== NAME" begins a case, "--" ends its book, and the findings
-/// follow. A book that begins with a topic gets a header line; "{XX}" stands for a byte, "{xN}" for N
-/// letters, and a line that ends in "{}" is joined with the next one.
+/// follow. A book that begins with a topic gets a header line. "{XX}" is a byte, "{xN}" is N letters, and a
+/// line that ends in "{}" is joined with the next one.
 [[nodiscard]] std::vector<CheckCase> ReadCheckCases();
 
 /// A book in memory, open and scanned.
@@ -31,7 +31,7 @@ struct CheckedBook
     Book book;
 };
 
-/// Findings as the data files have them.
+/// Findings in the form of the data files.
 [[nodiscard]] std::vector<std::string> Lines(const std::vector<Finding>& findings);
 
 /// The findings of a book.

@@ -15,7 +15,7 @@ struct Variable
     std::string home; ///< the title of the topic that asks for it
 };
 
-// One logic block in the making.
+// The parts of one logic block.
 struct Block
 {
     std::string commands;
@@ -51,7 +51,7 @@ private:
     int Up(int below) { return static_cast<int>(m_random() % static_cast<unsigned>(below)); }
     bool Chance(int oneIn) { return Up(oneIn) == 0; }
 
-    // Names and values are equally long, so that none ends another one.
+    // All names and values have the same length, so that none is the end of another.
     std::string NewName()
     {
         return std::string(1, static_cast<char>('A' + Up(26))) + std::to_string(1000 + m_next++);
@@ -157,7 +157,7 @@ private:
         return Chance(2) ? "text" : "\r\nfirst line\r\n\r\n- second, [in brackets]\r\n* with a star\r\n";
     }
 
-    // Rules that conclude a value of `goal` for all answers: each of its values at least once.
+    // Adds rules that conclude a value of `goal` for each list of answers.
     void AddTree(Block& block, const Variable& goal, const std::string& home, const std::string& conditions,
                  int depth, std::size_t& given, const Variable* root)
     {
@@ -177,7 +177,7 @@ private:
         }
     }
 
-    // The question, and for some variables rules that conclude it.
+    // Adds the question of a variable. Some variables also get rules that conclude them.
     void Ask(Block& block, const Variable& variable, int depth)
     {
         const bool derived = depth > 0 && Chance(4);
@@ -201,7 +201,7 @@ private:
         std::swap(rules, block.rules);
         block.rules += rules;
         for (std::size_t i = given; !all && i < variable.values.size(); ++i) {
-            const Variable more = NewVariable(variable.home); // a further way to a value not concluded yet
+            const Variable more = NewVariable(variable.home); // for a value that no rule concludes yet
             Ask(block, more, 0);
             for (const std::string& value : more.values) {
                 block.rules += Rule(Fact(variable.name, variable.values[i]), Fact(more.name, value));
@@ -243,7 +243,7 @@ private:
         return Write(block, goal, target);
     }
 
-    // A tree whose first condition is put in by ASSUME.
+    // Adds trees whose first condition comes from ASSUME.
     void AddAssumed(Block& block, const Variable& goal, const Variable& root, std::size_t& given)
     {
         for (const std::string& value : root.values) {
@@ -279,8 +279,8 @@ private:
     std::mt19937 m_random;
     int m_next = 0;
     std::vector<std::string> m_titles;
-    std::vector<Variable> m_shared;  ///< variables for which other topics may DEFINE
-    std::vector<Variable> m_pending; ///< that rules are still to conclude
+    std::vector<Variable> m_shared;  ///< variables that other topics may DEFINE
+    std::vector<Variable> m_pending; ///< variables that still need rules to conclude them
 };
 
 } // namespace

@@ -22,7 +22,7 @@ std::string Number(int i)
     return std::to_string(i);
 }
 
-// What the rules about a block's frame find in it.
+// The findings of the rules for a block's frame.
 Texts FrameFindings(const std::string& logic, const std::string& definitions)
 {
     test::CheckedBook world(Header);
@@ -90,7 +90,7 @@ TEST(CheckLimits, linesPastTheLimit_areAnErrorAtTheFirstOfThem)
     EXPECT_EQ(test::FindingsOf(Lines(32767)), Texts());
 }
 
-// A rule for every list of answers to so many questions with two choices each: 2^n - 1 states.
+// Questions with two choices each, and a rule for every list of answers. The dialogue has 2^n - 1 states.
 std::string Tree(int questions)
 {
     std::string text = Header + std::string("<IXML>\r\n<LOGIC>\r\nTARGET G\r\n");
@@ -119,7 +119,7 @@ TEST(CheckLimits, dialogueOfMoreThanAThousandStates_saysThatTheSearchWasCut)
     EXPECT_EQ(test::FindingsOf(Tree(9)), Texts());
 }
 
-/// Cancels at the nth step, and counts.
+/// Cancels at step number `stopAt` and counts the steps.
 class StoppingProgress : public Progress
 {
 public:

@@ -7,10 +7,10 @@
 
 namespace ls {
 
-/// What `EditTopicOnShow` types.
+/// The line that `EditTopicOnShow` types.
 inline constexpr const char* TypedLine = "A line that was typed";
 
-/// The real window in the hands of an author, on real files.
+/// The real window on real files, used as an author uses it.
 struct AuthorFixture : MainFormFixture
 {
     std::string Read(const std::string& path)
@@ -20,7 +20,7 @@ struct AuthorFixture : MainFormFixture
         return file.readAll().toStdString();
     }
 
-    /// The program starts, and the user picks that file and locks it for editing.
+    /// Starts the program. The user opens that file and locks it for editing.
     void StartWith(const std::string& path)
     {
         test::ModalScript script;
@@ -31,7 +31,7 @@ struct AuthorFixture : MainFormFixture
         Start("");
     }
 
-    /// The program starts without a book.
+    /// Starts the program without a book.
     void StartWithoutBook()
     {
         test::ModalScript script;
@@ -39,7 +39,7 @@ struct AuthorFixture : MainFormFixture
         Start("");
     }
 
-    /// Saves under the name that is offered, which is to be that one, and says what came in the end.
+    /// Saves under the suggested name, which must be `name`, and checks the message at the end.
     void Save(const std::string& name)
     {
         test::ModalScript script;
@@ -60,7 +60,7 @@ struct AuthorFixture : MainFormFixture
         EXPECT_EQ(Get<QComboBox>("TopicList").currentIndex(), 0);
     }
 
-    /// The open book is opened once more, as a user of the next day would.
+    /// Opens the open book once more, as a user would the next day.
     void OpenAgain()
     {
         test::ModalScript script;
@@ -74,7 +74,7 @@ struct AuthorFixture : MainFormFixture
         test::Press(form, "GoToButton");
     }
 
-    /// Types in front of the topic on show, makes that bold with the button, and presses Done.
+    /// Types at the start of the topic on show, makes the text bold with the button, and presses Done.
     void EditTopicOnShow()
     {
         test::ModalScript script;
@@ -92,7 +92,7 @@ struct AuthorFixture : MainFormFixture
         EXPECT_EQ(script.Seen(), Strings{"form|TxEdForm|Topic Text Edit"});
     }
 
-    /// Every line of the topic on show, with what is bold in brackets, by scrolling through it.
+    /// Every line of the topic on show, with bold text in brackets. Scrolls through the topic.
     Strings ShownText()
     {
         auto& bar = Get<QScrollBar>("VScroll1");
@@ -111,7 +111,7 @@ struct AuthorFixture : MainFormFixture
         return lines;
     }
 
-    /// What every topic is in the file of the open book, from its header line on.
+    /// The bytes of every topic in the file of the open book, from its header line on.
     Strings TopicBytes()
     {
         const Book& book = global.book;
@@ -127,7 +127,7 @@ struct AuthorFixture : MainFormFixture
         return topics;
     }
 
-    /// The bytes that a topic in memory is to be saved as.
+    /// The bytes that a save must write for a topic in memory.
     std::string EditedBytes(int number)
     {
         const TopicRec& rec = global.book.TopicRecs(number);
@@ -135,7 +135,7 @@ struct AuthorFixture : MainFormFixture
                (rec.Logic.empty() ? "" : rec.Logic + "\r\n");
     }
 
-    /// Checks or unchecks the boxes of those rows in the form that removes topics.
+    /// Checks or unchecks the boxes of these rows in the form that removes topics.
     void ToggleRemoved(const std::vector<int>& rows)
     {
         test::ModalScript script;
@@ -150,7 +150,7 @@ struct AuthorFixture : MainFormFixture
         test::Press(form, "DelTopicItem");
     }
 
-    /// Moves the topic of that row (-1 for the last one) to the start.
+    /// Moves the topic of that row to the start; -1 is the last row.
     void MoveToStart(int row)
     {
         test::ModalScript script;
@@ -164,7 +164,7 @@ struct AuthorFixture : MainFormFixture
         test::Press(form, "ReorderItem");
     }
 
-    /// Add Topic, that name, that text, Done.
+    /// Adds a topic with that name and text: Add Topic, the name, the text, Done.
     void Add(const std::string& name, const QString& text)
     {
         test::ModalScript script;

@@ -9,7 +9,8 @@
 
 namespace ls::test {
 
-/// The control of that object name; a control that is missing fails the test and gives a null pointer.
+/// Returns the control with that object name. If it is missing, the test fails and the result is a null
+/// pointer.
 template <typename Control>
 Control* Find(const QWidget& form, const char* name)
 {
@@ -18,23 +19,24 @@ Control* Find(const QWidget& form, const char* name)
     return control;
 }
 
-/// Clicks the button, or picks the menu entry, of that object name as a user would; one that is hidden or
-/// disabled fails the test instead.
+/// Clicks the button or picks the menu entry with that object name, as a user would. The test fails if it is
+/// hidden or disabled.
 void Press(const QWidget& form, const char* name);
 
 /// Replaces the text of a line or text edit by typing, as `TypeKeys` does.
 void Type(const QWidget& form, const char* name, const QString& text);
 
-/// Types text where the caret of a control is, "\n" by the Enter key.
+/// Types text at the caret of a control. "\n" is the Enter key.
 void TypeKeys(QWidget& control, const QString& text);
 
-/// Runs the event loop until the condition holds; false when it did not within five seconds.
+/// Runs the event loop until the condition is true. Returns false after five seconds.
 [[nodiscard]] bool WaitFor(const std::function<bool()>& condition);
 
 /// Shows the window and waits until it is active.
 void ShowActive(QWidget& window);
 
-/// Saves how the widget looks as NAME.png in the folder that LS_PICTURES names; does nothing without it.
+/// Saves a picture of the widget as NAME.png in the folder that LS_PICTURES names. Does nothing if
+/// LS_PICTURES is not set.
 void TakePicture(QWidget& widget, const char* name);
 
 } // namespace ls::test

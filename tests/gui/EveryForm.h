@@ -6,15 +6,15 @@
 
 namespace ls {
 
-/// Every window of the program, filled as a user meets it, for what all of them must keep.
+/// Opens every window of the program with typical content, for tests that apply to all windows.
 struct EveryForm : MainFormFixture
 {
     using Look = std::function<void(const std::string& name, QWidget& form)>;
 
-    /// A topic with references both ways and an advisor, in a book that names its web site.
+    /// Starts on a topic with references both ways and an advisor, in a book that names its web site.
     void StartOnFullBook();
 
-    /// Opens one window after the other, and the boxes too, and closes each when it was looked at.
+    /// Opens the windows and boxes one after the other, calls `look` for each, and closes it.
     void ForEach(const Look& look);
 
 private:

@@ -19,7 +19,7 @@ namespace ls {
 
 using Strings = std::vector<std::string>;
 
-/// The real logic editor on a book in memory; messages and input boxes come from a script.
+/// The real logic editor on a book in memory. A script answers messages and input boxes.
 struct LgEdFormFixture : testing::Test
 {
     test::TestSeams world;
@@ -35,7 +35,7 @@ struct LgEdFormFixture : testing::Test
         book.TopicRecs(1).Text = "a\r\n";
     }
 
-    /// The variables RISK, with the choices HIGH and LOW, AGE, with YOUNG and OLD, and NOTE with none.
+    /// A block with the variables RISK (choices HIGH and LOW), AGE (YOUNG and OLD) and NOTE (no choices).
     [[nodiscard]] static std::string Block()
     {
         return test::CrLf({"<IXML>",
@@ -63,7 +63,7 @@ struct LgEdFormFixture : testing::Test
                            "</IXML>"});
     }
 
-    /// The editor as it comes up, nothing chosen in its lists.
+    /// Opens the editor and selects nothing in its lists.
     void LoadUntouched(const std::string& block = Block())
     {
         book.TopicRecs(1).Logic = block;
@@ -72,7 +72,7 @@ struct LgEdFormFixture : testing::Test
         test::ShowActive(*form);
     }
 
-    /// The same with the first variable picked, if there is one.
+    /// Opens the editor and picks the first variable, if there is one.
     void Load(const std::string& block = Block())
     {
         LoadUntouched(block);
@@ -105,7 +105,7 @@ struct LgEdFormFixture : testing::Test
         return entries;
     }
 
-    /// Chooses an entry as a user does with the keys.
+    /// Selects an entry with the keys, as a user does.
     void Pick(const char* name, const char* entry) const
     {
         QComboBox& list = List(name);
@@ -122,7 +122,7 @@ struct LgEdFormFixture : testing::Test
 
     void Type(const char* name, const char* text) const { test::Type(*form, name, QString::fromUtf8(text)); }
 
-    /// Presses a key where the focus is.
+    /// Presses a key in the control that has the focus.
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         QTest::keyClick(form->windowHandle(), key, modifiers);
@@ -135,13 +135,13 @@ struct LgEdFormFixture : testing::Test
         Box("LogicTextbox").setTextCursor(cursor);
     }
 
-    /// Answers the next input boxes; nothing stands for Cancel.
+    /// Sets the answers to the next input boxes. An empty answer means Cancel.
     void Answer(std::vector<std::optional<std::string>> inputs)
     {
         world.messages.inputs.assign(inputs.begin(), inputs.end());
     }
 
-    /// Presses Done, which must close the editor, and gives the block that it stored.
+    /// Presses Done, which must close the editor, and returns the block that it stored.
     std::string Done()
     {
         test::Press(*form, "SaveButton");

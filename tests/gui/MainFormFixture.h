@@ -35,8 +35,8 @@ namespace ls {
 
 using Strings = std::vector<std::string>;
 
-/// The real main window on real files in a scratch folder, which is also the working folder and that of the
-/// settings.
+/// The real main window on real files in a scratch folder. The folder is also the working folder and the one
+/// for settings.
 class MainFormFixture : public testing::Test
 {
 protected:
@@ -51,7 +51,7 @@ protected:
         return folder.path().toStdString() + (name.empty() ? "" : "/" + name);
     }
 
-    /// Writes a file into the scratch folder and gives its path.
+    /// Writes a file into the scratch folder and returns its path.
     std::string Write(const std::string& name, const std::string& bytes)
     {
         QFile file(QString::fromStdString(Path(name)));
@@ -60,13 +60,13 @@ protected:
         return Path(name);
     }
 
-    /// A book of the topics "A", "B" and "C" with the bodies "a", "b" and "c".
+    /// Writes a book with the topics "A", "B" and "C" and the bodies "a", "b" and "c".
     std::string WriteThree()
     {
         return Write("Three.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "[B]", "b", "[C]", "c"}));
     }
 
-    /// Start-up with that book ("" for none) and the first showing, which also ends the first resize.
+    /// Starts with that book ("" for none) and shows the window, which also ends the first resize.
     void Start(const std::string& path, const std::string& topic = {})
     {
         CommandLine commandLine;
@@ -78,15 +78,15 @@ protected:
             return;
         }
         form.show();
-        Settle(); // a form or box that comes first is open meanwhile
+        Settle(); // if a form or box comes first, it is open during this
         form.activateWindow();
         EXPECT_TRUE(test::WaitFor([this] { return form.isActiveWindow(); }));
     }
 
-    /// Runs the event loop until what a resize left to do is done.
+    /// Runs the event loop until the delayed work of a resize is done.
     static void Settle() { QTest::qWait(150); }
 
-    /// Opens a file through the Open item and the file form.
+    /// Opens a file with the Open item and the file form.
     void Open(test::ModalScript& script, const std::string& path)
     {
         script.Do([path](QWidget& chooser) { ChooseFile(chooser, path); });
@@ -100,7 +100,7 @@ protected:
         test::Press(chooser, "OKButton");
     }
 
-    /// The window still opens a book and goes through it.
+    /// Checks that the window still opens a book and goes through it.
     void ExpectUsable(test::ModalScript& script)
     {
         Open(script, WriteThree());
@@ -123,7 +123,7 @@ protected:
         return Get<QWidget>(name).isVisible();
     }
 
-    /// The rows that the pane shows, joined by "|".
+    /// The rows on the pane, joined by "|".
     std::string PaneText()
     {
         std::string text;
@@ -147,7 +147,7 @@ protected:
         return texts;
     }
 
-    /// Chooses an entry of the list as a user does with the keys.
+    /// Selects an entry of the list with the keys, as a user does.
     void Select(int index)
     {
         auto& list = Get<QComboBox>("TopicList");

@@ -7,8 +7,7 @@
 
 namespace ls {
 
-/// What tests of the text in the main window's pane share: books to show, and keys that go through the
-/// window.
+/// Shared by tests of the text in the main window's pane: books to show, and keys that go through the window.
 struct MainFormPaneFixture : MainFormFixture
 {
     ReadingPane& Pane() { return Get<ReadingPane>("MsgPic"); }
@@ -17,7 +16,8 @@ struct MainFormPaneFixture : MainFormFixture
     std::string Selected() { return Pane().SelectedText().toStdString(); }
     std::size_t SelectionStart() { return Pane().Selection().Range().begin; }
 
-    /// Presses keys where the focus is, through the window, so that its shortcuts have their turn.
+    /// Presses keys in the control that has the focus. They go through the window, so its shortcuts come
+    /// first.
     void Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(form.windowHandle(), key, modifiers);
@@ -38,7 +38,7 @@ struct MainFormPaneFixture : MainFormFixture
         return Write("Topic.IDA", bytes);
     }
 
-    /// Two hundred lines, of which every fiftieth has "Needle".
+    /// Writes a book with a topic of two hundred lines. Every fiftieth has "Needle".
     std::string WriteNeedles()
     {
         Strings rows;

@@ -47,7 +47,7 @@ std::string ButtonNames(QMessageBox::StandardButtons buttons)
     return names == "OK" ? "" : "|" + names;
 }
 
-// A caption as a user reads it: "&" only underlines, and "&&" is one.
+// A caption as a user reads it. "&" only underlines the next character, and "&&" is one "&".
 QString WithoutMark(const QString& caption)
 {
     QString read;
@@ -153,7 +153,7 @@ ModalScript& ModalScript::Do(std::function<void(QWidget&)> step)
     return *this;
 }
 
-// A step may open a window itself and so run inside that one's event loop; the next look is therefore due
+// A step may open a window and then runs inside that window's event loop. So the next look is scheduled
 // before the step begins.
 void ModalScript::Look()
 {
@@ -181,7 +181,7 @@ void ModalScript::Handle(QWidget& window)
     step(window);
 }
 
-// A window that was closed and opens again is a new one.
+// Forgets a closed window. If it opens again, it counts as a new one.
 bool ModalScript::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Hide) {

@@ -15,16 +15,16 @@
 
 namespace ls::test {
 
-/// What a window says, as one text: a message box reads "critical|Lodestar Advisor|Overflow" with
-/// "|OKCancel" or the like behind it when it asks, an input box "input|title|prompt|text", any other window
-/// "form|object name|title". The pictures of a warning and an exclamation are the same: both read "warning".
+/// The content of a window as one text. A message box is "critical|Lodestar Advisor|Overflow", with
+/// "|OKCancel" or the like at the end if it asks. An input box is "input|title|prompt|text". Any other window
+/// is "form|object name|title". A warning and an exclamation have the same picture: both read "warning".
 [[nodiscard]] std::string Describe(const QWidget& window);
 
-/// Does what a user does to the modal windows that open, one step for each, in their order. While a window
-/// that had its step stays open, the next step waits for a window over it.
+/// Acts as the user in the modal windows that open: one step for each window, in order. If a window stays
+/// open after its step, the next step waits for a window above it.
 ///
-/// A step whose window never came fails the test, and so does a window that no step is left for (it is closed
-/// then, so that nothing hangs).
+/// The test fails if a step gets no window, or a window gets no step. A window without a step is closed, so
+/// that nothing hangs.
 class ModalScript : public QObject
 {
     Q_OBJECT
@@ -33,19 +33,19 @@ public:
     ModalScript();
     ~ModalScript() override;
 
-    /// A message box comes; its button is clicked.
+    /// Expects a message box and clicks its button.
     ModalScript& Answer(Reply reply);
 
-    /// An input box comes; the text is typed and OK clicked, or Cancel without a text.
+    /// Expects an input box, types the text and clicks OK. Without a text it clicks Cancel.
     ModalScript& Enter(std::optional<std::string> text);
 
-    /// A window comes; Escape is pressed in it.
+    /// Expects a window and presses Escape in it.
     ModalScript& Escape();
 
-    /// A window comes; anything may be done to it. It must be closed in the end.
+    /// Expects a window and calls `step` with it. The window must be closed in the end.
     ModalScript& Do(std::function<void(QWidget& window)> step);
 
-    /// What the windows said that came so far, in their order.
+    /// The content of the windows so far, in order.
     [[nodiscard]] const std::vector<std::string>& Seen() const { return m_seen; }
 
 protected:
@@ -57,7 +57,7 @@ private:
 
     QTimer m_timer;
     std::deque<std::function<void(QWidget&)>> m_steps;
-    std::vector<QPointer<QObject>> m_handled; ///< windows that had their step and are still open
+    std::vector<QPointer<QObject>> m_handled; ///< windows that are still open after their step
     std::vector<std::string> m_seen;
 };
 

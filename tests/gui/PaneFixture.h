@@ -16,7 +16,7 @@
 
 namespace ls::test {
 
-/// A window with a pane and its bar, which shows a topic as the main window does.
+/// A window with a pane and its scroll bar that shows a topic as the main window does.
 class PaneFixture : public testing::Test
 {
 protected:
@@ -32,7 +32,7 @@ protected:
 
     ~PaneFixture() override { pane->SetTopic(nullptr, 0); }
 
-    /// Shows the window with a topic of these display lines and the focus in the pane.
+    /// Shows the window with a topic of these display lines. The pane has the focus.
     void Show(const std::vector<std::string>& texts)
     {
         ShowActive(window);
@@ -48,7 +48,7 @@ protected:
         pane->setFocus();
     }
 
-    /// A topic of the lines "1", "2", ...
+    /// Shows a topic of the lines "1", "2", ...
     void ShowNumbers(int count)
     {
         std::vector<std::string> texts;
@@ -65,7 +65,7 @@ protected:
         QTest::keyClick(pane, key, modifiers);
     }
 
-    /// The point between two characters of the pane: in front of that row's column, both from 1.
+    /// The point before that column of that row in the pane, both from 1.
     [[nodiscard]] QPoint Point(int row, int column) const
     {
         const QPointF inside((column - 1) * pane->CharWidth() + 1, (row - 0.5) * pane->RowHeight());

@@ -16,11 +16,11 @@ namespace {
 
 constexpr int ClearDifference = 85;
 constexpr int DotsPerInch = 100;
-// The painter moves the letters of some kinds of fonts to whole dots, so it is to paint with smaller ones.
+// The painter moves the letters of some kinds of fonts to whole dots. So it paints with smaller dots.
 constexpr int Finer = 4;
 constexpr int LongestMilliseconds = 60'000;
 
-// Each pixel is the mean of a square of pixels.
+// Reduces a picture: each pixel is the mean of a square of pixels.
 QImage Reduced(const QImage& fine)
 {
     QImage picture(fine.width() / Finer, fine.height() / Finer, QImage::Format_Grayscale8);

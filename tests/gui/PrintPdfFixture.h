@@ -21,7 +21,7 @@ namespace ls {
 using Strings = std::vector<std::string>;
 using PageRows = std::vector<Strings>;
 
-/// Prints into PDF files of a scratch folder, on a system that has no printers.
+/// Prints into PDF files in a scratch folder, on a system without printers.
 class PrintPdfTest : public testing::Test
 {
 protected:
@@ -41,7 +41,7 @@ protected:
         }
     }
 
-    /// Prints a topic (0: the plain text file) into NAME.pdf and gives its path.
+    /// Prints a topic (0 is the plain text file) into NAME.pdf and returns its path.
     std::string Print(int number, const std::string& name = "a")
     {
         const std::string path = folder / (name + ".pdf");
@@ -54,7 +54,7 @@ protected:
         return path;
     }
 
-    /// The pages that `lsbook pages` gives for the same sheet.
+    /// The pages that `lsbook pages` prints for the same sheet.
     PageRows BookPages(int number)
     {
         const PrinterState state = printer.State();

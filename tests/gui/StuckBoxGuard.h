@@ -6,8 +6,8 @@
 
 namespace ls::test {
 
-/// Ends a modal window that no test answers: after some seconds the test fails with what the window said, and
-/// the window is closed, so that the tests after it still run.
+/// Closes a modal window that no test answers. After some seconds the test fails with the window's content,
+/// and the window is closed so that later tests still run.
 class StuckBoxGuard
 {
 public:
@@ -18,7 +18,7 @@ private:
 
     QTimer m_timer;
     QPointer<QWidget> m_seen;
-    int m_looks = 0; ///< how often it was found open
+    int m_looks = 0; ///< the number of checks that found it open
 };
 
 } // namespace ls::test

@@ -8,16 +8,16 @@
 
 namespace ls::test {
 
-/// Real files that count the reads of books, and fail them all when told to.
+/// Passes calls to real files, counts the reads of books and can make them fail.
 class WatchedFiles : public FileSystem
 {
 public:
     explicit WatchedFiles(std::unique_ptr<FileSystem> files) : m_files(std::move(files)) {}
 
     int reads = 0;
-    int failure = 0;     ///< the error number of every read from then on; 0 for none
-    int readsBefore = 0; ///< reads that still succeed before it
-    int pause = 0;       ///< milliseconds that each read takes, as on a slow disk
+    int failure = 0;     ///< the error number of all reads after `readsBefore` more reads; 0 for none
+    int readsBefore = 0; ///< the number of reads that still succeed
+    int pause = 0;       ///< milliseconds for each read, as on a slow disk
 
     FileError OpenForReading(const std::string& path, Sharing sharing,
                              std::unique_ptr<BookFile>& file) override

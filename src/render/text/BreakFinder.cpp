@@ -2,25 +2,23 @@
 
 #include <algorithm>
 
-// How a row that holds markup finds its end:
+// How the end of a row with markup is found:
 //
 // 1. A walk counts the columns of a row until there is one too many.
-// 2. Plain characters are taken in runs: up to the next "<" or "&", the next mark or the width, whichever
-//    comes first.
-// 3. Hidden characters, in a tag or an entity, are taken one by one, as each of them may end what hides
-//    it.
+// 2. Plain characters are taken in runs. A run ends at the next "<" or "&", at the next mark or at the width.
+// 3. Hidden characters, in a tag or an entity, are taken one by one, because each may end the tag or entity.
 // 4. Every 256 characters a walk leaves a mark with its state and its column.
-// 5. A later walk that meets a mark in the same state leaps to the last mark within its width, so that the
-//    rows that end inside a megabyte of tags do not all walk through it.
+// 5. A later walk that meets a mark in the same state leaps to the last mark within its width. So a megabyte
+//    of tags is not walked again for each row that ends inside it.
 //
 // WrapSegment.wrap_randomLines_asTheRuleWrittenStepByStep and
-// Kinds/HiddenText.wrap_randomLines_asTheRuleWrittenStepByStep compare it with the plain rule.
+// Kinds/HiddenText.wrap_randomLines_asTheRuleWrittenStepByStep compare the result with the plain rule.
 
 namespace ls {
 
 namespace {
 
-// Far enough apart that ordinary lines, which break sooner, never leave one.
+// Ordinary rows are shorter, so they never leave a mark.
 constexpr std::size_t MarkDistance = 256;
 
 } // namespace
@@ -66,8 +64,8 @@ bool BreakFinder::TakeSpaces()
     return false;
 }
 
-// Takes the characters up to the next "<" or "&", and that one; no more than the line has columns left and
-// one. True when the line breaks there.
+// Takes characters up to and including the next "<" or "&", at most one more than fits in the row. True if
+// the row breaks there.
 bool BreakFinder::TakePlainRun()
 {
     const auto columnsLeft = static_cast<std::size_t>(m_width + 1 - m_now.column);
@@ -83,8 +81,7 @@ bool BreakFinder::TakePlainRun()
     return m_now.column > m_width || (run.size() < longest && TakeMarkup());
 }
 
-// Takes characters that are not counted, up to the end of the tag and the entity that they stand in. True
-// when the line breaks there.
+// Takes hidden characters up to the end of the current tag and entity. True if the row breaks there.
 bool BreakFinder::TakeHiddenRun()
 {
     const std::size_t end = std::min(m_nextStop, m_text.size());
@@ -96,7 +93,7 @@ bool BreakFinder::TakeHiddenRun()
     return false;
 }
 
-// Takes one character that begins, ends or stands inside a tag or an entity. True when the line breaks before
+// Takes one character that begins or ends a tag or an entity, or is inside one. True if the row breaks before
 // it.
 bool BreakFinder::TakeMarkup()
 {
@@ -108,7 +105,7 @@ bool BreakFinder::TakeMarkup()
         m_now.inEntity = true;
         break;
     case ';':
-        m_now.column += m_now.inEntity ? 1 : 0; // the whole entity is one column
+        m_now.column += m_now.inEntity ? 1 : 0; // a whole entity is one column wide
         m_now.inEntity = false;
         break;
     case '<':
@@ -132,7 +129,7 @@ void BreakFinder::MeetMark()
         if (marks[met].inTag == m_now.inTag && marks[met].inEntity == m_now.inEntity) {
             LeapFrom(met);
         } else if (m_next == marks.size()) {
-            // This walk is not that of the marks and has come further than they reach: its own serve better.
+            // This walk has passed all marks and differs from their walk. Its own marks will help more.
             m_memory->marks.clear();
             m_memory->first = 0;
             m_next = 0;
@@ -155,13 +152,15 @@ void BreakFinder::LeaveMark()
     m_nextStop = m_now.at + MarkDistance;
 }
 
-// Goes on from the last mark that lies inside the row. This walk is there in the mark's state, and as many
-// columns apart from it as here.
+// Continues at the last mark inside the row. From one mark to the next, this walk and the walk that left the
+// marks have the same states, and their columns differ by the same number.
 //
-// What is leapt over cannot decide where the segment ends. There is no blank in it: the walk that left the
-// marks would have ended its segment at that blank, and this one would begin behind it. There may be a "&"
-// that ends a full row; but then the row ends at the marks' end at the latest, as it did for that walk, and
-// where no blank was met, the segment is the same wherever the row is found to end.
+// The skipped text cannot change the end of the segment:
+//
+// 1. It has no blank. The walk that left the marks would have ended its segment at that blank, and this walk
+//    would begin after it.
+// 2. It may have a "&" that ends a full row. Then the row ends after the last mark at the latest, as it did
+//    for the earlier walk. Since no blank was met, the segment is the same wherever the row ends.
 void BreakFinder::LeapFrom(std::size_t index)
 {
     const std::vector<BreakMarks::Mark>& marks = m_memory->marks;

@@ -6,11 +6,11 @@
 
 namespace ls {
 
-/// What one walk through a line leaves for the next one.
+/// The marks that one walk through a line leaves for the next one.
 ///
-/// Hidden text, such as a megabyte of tags, is walked for one segment and walked again for each of the many
-/// segments that end inside it. So a walk leaves marks on its way. Once a later walk stands at a mark in the
-/// same state, the two go the same way from there, a number of columns apart, and it can leap ahead.
+/// Many segments may end inside the same hidden text, such as a megabyte of tags. Each of them would walk
+/// through it again. So a walk leaves marks. A later walk that reaches a mark in the same state takes the
+/// same way from there, at a fixed distance in columns, and can leap ahead.
 struct BreakMarks
 {
     /// The state of a walk before the character at `at`, counted from 0.
@@ -22,24 +22,24 @@ struct BreakMarks
         bool inEntity = false;
     };
 
-    std::vector<Mark> marks; ///< in the order of the text, and of columns
-    std::size_t first = 0;   ///< those before it have been passed for good
+    std::vector<Mark> marks; ///< in the order of the text, which is the order of columns
+    std::size_t first = 0;   ///< the first mark that a walk can still meet
 };
 
-/// Looks for the place where a line has to break: walks its characters with a visible column.
+/// Finds the place where a line must break. It walks through the characters and counts visible columns.
 ///
-/// Tags and entities switch the counting off until they end. One that never ends switches it off for the rest
-/// of the line, which then does not break any more; that is kept.
+/// Tags and entities are not counted until they end. Intended: one that never ends hides the rest of the
+/// line, so the line does not break any more.
 class BreakFinder
 {
 public:
-    /// The walk begins at `start` of the text, behind `spaces` blanks that are not in it.
+    /// The walk begins at `start` of the text, after `spaces` blanks that are not in the text.
     BreakFinder(std::string_view text, std::size_t start, std::size_t spaces, BreakMarks& memory);
 
     /// Whether the line breaks at all when it begins in that column.
     bool Find(int width, int column);
 
-    /// The last blank that the break may stand at, counted from 1 at the start of the walk; 0 without one.
+    /// The last blank at which the line may break, counted from 1 at the start of the walk; 0 for none.
     [[nodiscard]] std::size_t LastSpace() const { return m_lastSpace; }
 
 private:
@@ -57,11 +57,11 @@ private:
     BreakMarks* m_memory;
 
     std::ptrdiff_t m_width = 0;
-    BreakMarks::Mark m_now;      ///< where the walk stands
+    BreakMarks::Mark m_now;      ///< the current place and state of the walk
     std::size_t m_lastSpace = 0; ///< the last blank outside tags and entities, as `LastSpace` counts
-    std::size_t m_next = 0;      ///< the mark to be met next
-    std::size_t m_nextStop = 0;  ///< where a mark is to be met or left
-    std::ptrdiff_t m_apart = 0;  ///< columns that the walk is ahead of the marks
+    std::size_t m_next = 0;      ///< index of the next mark
+    std::size_t m_nextStop = 0;  ///< the place where the next mark is met or left
+    std::ptrdiff_t m_apart = 0;  ///< columns by which this walk is ahead of the walk that left the marks
 };
 
 } // namespace ls

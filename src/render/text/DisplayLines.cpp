@@ -4,8 +4,8 @@ namespace ls {
 
 namespace {
 
-// A row of the widest pane needs a fraction of this. A line that did not break may have needed megabytes,
-// which must not stay taken while other topics are read.
+// A row of the widest pane needs a fraction of this. A line that did not break may take megabytes, which are
+// freed before another topic is read.
 constexpr std::size_t KeptCapacity = 16 * 1024;
 
 } // namespace

@@ -7,10 +7,10 @@
 
 namespace ls {
 
-/// The prepared lines of a topic: wrapped, indented by spaces, tags and entities still inside.
+/// The display lines of a topic: wrapped and indented with spaces, with their tags and entities.
 ///
-/// Strings keep their memory from topic to topic, so that wrapping a topic again, as every step of a resize
-/// does, allocates nothing for its lines.
+/// The strings are reused for the next topic. So wrapping a topic again, as in each step of a resize,
+/// allocates no memory for its lines.
 struct DisplayLines
 {
     Array1<std::string> Lines; ///< elements 1..Count are in use
@@ -18,14 +18,14 @@ struct DisplayLines
 
     [[nodiscard]] const std::string& operator()(int number) const { return Lines(number); }
 
-    /// Counts one line more and gives it to be overwritten; nullptr when there are 32,767 already.
+    /// Adds a line and returns it to be overwritten; nullptr if there are 32,767 lines already.
     [[nodiscard]] std::string* AddLine();
 
-    /// Sets the count to 0. Memory is kept, except that of lines far beyond what a topic's rows need.
+    /// Sets the count to 0. Only the memory of very long lines is freed.
     void Clear();
 };
 
-/// How the table grows: past its bound, the bound becomes the new count plus this.
+/// The growth of the table: when the count passes its bound, the new bound is the count plus this.
 inline constexpr int DisplayGrowthStep = 999;
 
 } // namespace ls

@@ -10,39 +10,39 @@ namespace ls {
 struct DisplayLines;
 class TextSurface;
 
-/// Sets the styles of text without tags: none of them, and black.
+/// Sets the styles of text without tags: no bold, italic or underline, and black.
 void SetPlain(TextSurface& surface);
 
-/// Draws as many display lines as the surface has rows, from `firstLine` (from 1) on. Tags set styles and
-/// entities become characters from version 5.0 on; below it lines are printed as they stand. Styles start
-/// plain at each call: one opened above `firstLine` is not in force, and a line of tags only ends no row,
-/// which is kept.
+/// Draws as many display lines as the surface has rows, from `firstLine` (from 1) on. From version 5.0 on
+/// tags set styles and entities become characters; below 5.0 lines are printed as they are.
+/// Intended: styles start plain at each call, so a style that begins above `firstLine` has no effect, and a
+/// line of tags only does not end its row.
 void DrawLines(TextSurface& surface, const DisplayLines& lines, int firstLine, float bookVersion);
 
-/// Draws `rows` lines from `firstLine` on, however many rows the surface has.
+/// Draws `rows` lines from `firstLine` on, whatever the height of the surface.
 void DrawRows(TextSurface& surface, const DisplayLines& lines, int firstLine, int rows, float bookVersion);
 
-/// Prints one display line where the surface's position stands, in the styles that are in force. One that
-/// ends in a tag with nothing before it, such as a line of tags only, leaves its row open, which is kept.
-/// `buffer` is room to work in, kept by whoever draws many lines.
+/// Prints one display line at the surface's position, in the current styles. Intended: a line that ends in a
+/// tag with no text before it, such as a line of tags only, does not end its row. `buffer` is working memory
+/// that callers reuse for many lines.
 void DrawLine(TextSurface& surface, std::string_view line, float bookVersion, std::string& buffer,
               TagColours colours = TagColours::Applied);
 
-/// Rows that `DrawLines` draws: the inner height by the row height, rounded with halves to even.
+/// The number of rows that `DrawLines` draws: inner height divided by row height, halves to even.
 [[nodiscard]] int VisibleRows(double innerHeight, double rowHeight);
 
-/// How the scroll bar is set for a topic.
+/// The settings of the scroll bar for a topic.
 struct ScrollSetup
 {
     int max = 0;
     int largeChange = 1;
 };
 
-/// The page step leaves one line in view; a topic that fits gets half its count plus 1, halves to even. A
-/// step of 0 (a pane of one row) is raised to 1.
+/// A page step leaves one line in view. For a topic that fits the pane it is half the line count plus 1,
+/// halves to even. It is at least 1, also in a pane of one row.
 [[nodiscard]] ScrollSetup PlanScrolling(double innerHeight, double rowHeight, int lineCount);
 
-/// Characters that fit across: the inner width by the width of "W", rounded down.
+/// The number of characters in a row: the inner width divided by the width of "W", rounded down.
 [[nodiscard]] int CharsAcross(double innerWidth, double charWidth);
 
 } // namespace ls

@@ -8,25 +8,25 @@
 
 namespace ls {
 
-// Finds the last blank of a row, as `rfind(' ')` does, without a loop in most rows.
+// How the last blank of a row is found, as `rfind(' ')` finds it but mostly without a loop:
 //
 // 1. Words are short, so the last blank is nearly always among the last eight characters of a row.
 // 2. These eight are read as one number, the first character lowest.
 // 3. A few operations on that number set the top bit of each byte that is a blank, and no other bit.
-// 4. The zero bits above the highest of them count the characters after the last blank.
-// 5. A row that is shorter, or without a blank there, is searched with `rfind`.
+// 4. The number of zero bits above the highest set bit gives the characters after the last blank.
+// 5. A shorter row, or one without a blank there, is searched with `rfind`.
 //
-// A loop would end at another character in each row, which the processor cannot foresee: plain text would be
-// wrapped 5.4 instead of 7.1 times as fast as fold.
+// A loop ends at a different character in each row, which the processor cannot predict. With a loop, plain
+// text is wrapped 5.4 times as fast as fold does it; without, 7.1 times.
 //
-// The test EightBytes.findLastBlank_randomRows_asAPlainSearch compares it with `rfind`.
+// The test EightBytes.findLastBlank_randomRows_asAPlainSearch compares the result with `rfind`.
 
 /// Eight characters as one number, the first one lowest.
 inline std::uint64_t EightBytes(const char* from)
 {
     std::uint64_t bytes = 0;
     if constexpr (std::endian::native == std::endian::little) {
-        std::memcpy(&bytes, from, sizeof bytes); // shifts would not become one load
+        std::memcpy(&bytes, from, sizeof bytes); // compilers do not turn shifts into one load
     } else {
         for (std::size_t i = 0; i < sizeof bytes; ++i) {
             bytes |= std::uint64_t{static_cast<unsigned char>(from[i])} << (8 * i);
@@ -41,7 +41,7 @@ constexpr std::uint64_t InEachByte(unsigned char value)
     return 0x0101010101010101 * std::uint64_t{value};
 }
 
-/// The place of the last blank, from 0; `npos` without one.
+/// The position of the last blank, from 0; `npos` for none.
 inline std::size_t FindLastBlank(std::string_view row)
 {
     if (row.size() < 8) {

@@ -4,13 +4,13 @@ namespace ls {
 
 namespace {
 
-// Both limits are positions in the line counted from 1, not lengths.
-constexpr std::size_t NumberLimit = 10; ///< a number's ". " or ") " stands before it
-constexpr std::size_t TagLimit = 6;     ///< text behind a leading tag begins before it
+// Both limits are positions in the line, counted from 1. They are not lengths.
+constexpr std::size_t NumberLimit = 10; ///< a number's ". " or ") " begins before it
+constexpr std::size_t TagLimit = 6;     ///< text after a leading tag begins before it
 
 constexpr auto None = std::string_view::npos;
 
-// Where the text begins, from 0, behind a leading tag of at most 4 characters.
+// The position, from 0, where the text begins: after a leading tag of at most 4 characters.
 std::size_t TextStart(std::string_view line)
 {
     if (line.empty() || line.front() != '<') {
@@ -29,7 +29,7 @@ bool IsDigit(char c)
 
 int ListIndent(std::string_view line)
 {
-    line = line.substr(0, NumberLimit); // nothing behind it matters, however long the line is
+    line = line.substr(0, NumberLimit); // the rest of a long line does not matter
     const std::size_t start = TextStart(line);
     const std::string_view text = line.substr(start);
     if (text.starts_with(" - ")) {
@@ -38,12 +38,12 @@ int ListIndent(std::string_view line)
     if (text.starts_with("- ")) {
         return 2;
     }
-    // "A1. " is a number too: only its last character has to be a digit.
+    // "A1. " is a number too: only the last character must be a digit.
     const std::size_t point = text.find(". ");
     if (point != None && point > 0 && IsDigit(text[point - 1])) {
         return static_cast<int>(point) + 2;
     }
-    // "a) " and "1) ", but not "10) ": exactly one character, whichever it is.
+    // "a) " and "1) ", but not "10) ": one character before the bracket, of any kind.
     return text.find(") ") == 1 ? 3 : 0;
 }
 

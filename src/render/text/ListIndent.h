@@ -4,8 +4,8 @@
 
 namespace ls {
 
-/// The hanging indent, in characters, of a source line's continuation lines: how a list item is recognised
-/// from its start, behind one leading tag of at most 4 characters.
+/// The hanging indent of a source line's continuation lines, in characters. The start of the line shows
+/// whether it is a list item; one leading tag of at most 4 characters is skipped.
 [[nodiscard]] int ListIndent(std::string_view line);
 
 } // namespace ls

@@ -11,7 +11,7 @@ namespace {
 
 constexpr auto None = std::string_view::npos;
 
-// What a tag changes; an empty field leaves things as they are.
+// What a tag changes. An empty field changes nothing.
 struct TagEffect
 {
     std::string_view name;
@@ -40,7 +40,7 @@ constexpr std::array<TagEffect, 12> Tags = {{
 
 std::size_t MarkupReader::Find(char c, std::size_t from, std::size_t& known) const
 {
-    // A place found from an earlier start still is the first one as long as it has not been passed.
+    // The place that was found last is still the first one unless it has been passed.
     if (known == 0 || (known != None && known - 1 < from)) {
         const std::size_t found = m_line.find(c, from);
         known = found == None ? None : found + 1;

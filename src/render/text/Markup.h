@@ -7,14 +7,14 @@ namespace ls {
 
 class TextSurface;
 
-/// What stands next in a display line: text, and the entity or tag that ends it.
+/// The next piece of a display line: text, and the entity or tag that ends it.
 struct MarkupPiece
 {
     enum class Kind
     {
         Text,   ///< `before` is the rest of the line
-        Entity, ///< `name` is what stands between "&" and ";"
-        Tag     ///< `name` is what stands between "<" and ">"
+        Entity, ///< `name` is the text between "&" and ";"
+        Tag     ///< `name` is the text between "<" and ">"
     };
 
     Kind kind = Kind::Text;
@@ -22,10 +22,10 @@ struct MarkupPiece
     std::string_view name;
 };
 
-/// Reads one display line piece by piece, in time that grows with its length only. The line must outlive it.
+/// Reads one display line piece by piece, in linear time. The line must outlive the reader.
 ///
-/// A "<" without ">" behind it, and a "&" without ";", is text. Where both an entity and a tag are to come,
-/// the one that begins first is read, whatever it encloses.
+/// A "<" without a later ">" is text, and so is a "&" without a later ";". If both an entity and a tag
+/// follow, the one that begins first is read, even if it encloses the other.
 class MarkupReader
 {
 public:
@@ -39,28 +39,28 @@ private:
 
     std::string_view m_line;
     std::size_t m_at = 0;
-    // Where each character was found last: looked for again only when that place has been passed.
+    // The last position found for each character. It is searched for again only after it was passed.
     std::size_t m_open = 0;
     std::size_t m_close = 0;
     std::size_t m_ampersand = 0;
     std::size_t m_semicolon = 0;
 };
 
-/// The character that an entity shows: "<", ">" or "&"; "?" for an unknown one. Names are compared with case.
+/// The character that an entity shows: "<", ">" or "&"; "?" for an unknown one. Letter case counts.
 [[nodiscard]] char EntityCharacter(std::string_view name);
 
-/// Whether tags set colours, or styles only.
+/// Whether tags set colours or only styles.
 enum class TagColours
 {
     Applied,
     LeftOut
 };
 
-/// Whether a tag of that name does anything. Names are compared with case.
+/// Whether a tag of that name has an effect. Letter case counts.
 [[nodiscard]] bool IsKnownTag(std::string_view name);
 
-/// Sets the styles and the colour that a tag stands for; an unknown one does nothing. Names are compared with
-/// case. The end of a heading switches its styles off whoever switched them on.
+/// Sets the styles and the colour of a tag. An unknown tag does nothing. Letter case counts. The end of a
+/// heading switches the heading's styles off, even if another tag switched them on.
 void ApplyTag(TextSurface& surface, std::string_view name, TagColours colours = TagColours::Applied);
 
 } // namespace ls

@@ -7,23 +7,23 @@
 
 namespace ls {
 
-/// A text printed in one style: what one print put on a surface.
+/// A text printed in one style by one print.
 struct Run
 {
-    int displayLine = 0; ///< the display line it comes from, from 1
-    int row = 1;         ///< the row it stands in, from 1
+    int displayLine = 0; ///< the display line of the text, from 1
+    int row = 1;         ///< the row of the text, from 1
     int firstColumn = 1; ///< the column of its first character, from 1
-    std::string text;    ///< book text; may be empty where a print only ended a row
+    std::string text;    ///< book text; may be empty if the print only ends a row
     bool bold = false;
     bool italic = false;
     bool underline = false;
     Colour colour;
-    bool endRow = false; ///< what is printed next stands in the next row
+    bool endRow = false; ///< the next print begins a new row
 
     friend bool operator==(const Run&, const Run&) = default;
 };
 
-/// A surface that records what is printed on it. Its units are characters and rows: every character is one
+/// A surface that records what is printed on it. Its units are characters and rows: each character is one
 /// wide and one high.
 class RunList : public TextSurface
 {

@@ -27,7 +27,7 @@ public:
     {
     }
 
-    // Takes the lines of a body up to the topic's end. True when it ended at the topic's logic block.
+    // Takes the lines of a body up to the topic's end. True if the topic's logic block ended it.
     bool Take(TopicBody& body)
     {
         std::string_view line;
@@ -60,13 +60,13 @@ private:
         do {
             std::string* segment = m_shown->lines.AddLine();
             if (segment == nullptr) {
-                // The lines that follow are only looked at for references and logic, so that the buttons of a
-                // topic do not depend on its length.
+                // The later lines are still searched for references and logic. So the buttons of a topic do
+                // not depend on its length.
                 m_overflowed = true;
                 m_skip = true;
                 return;
             }
-            segment->reserve(static_cast<std::size_t>(m_width)); // also suits what it holds next time
+            segment->reserve(static_cast<std::size_t>(m_width)); // enough for a row of the next topic, too
             WrapSegment(rest, m_width, indent, *segment);
             indent = hang;
         } while (!rest.Blank());
@@ -75,12 +75,12 @@ private:
     bool m_plainText;
     int m_width;
     ShownTopic* m_shown;
-    bool m_skip = false; ///< nothing of what follows is displayed
+    bool m_skip = false; ///< nothing that follows is displayed
     bool m_overflowed = false;
 };
 
-// Where the saved logic of a topic begins in the file, 0 when there is none. It is looked for on behalf of a
-// text in memory, so whatever is wrong with the file is no news to the user here.
+// The position of a topic's saved logic in the file; 0 for none. The text of the topic is in memory, so
+// errors of the file are not reported here.
 FilePos FindLogic(const Book& book, int number)
 {
     if (!book.File || book.TopicPos(number) == 0) {
@@ -101,7 +101,7 @@ FilePos FindLogic(const Book& book, int number)
     return 0;
 }
 
-// The text in memory of a topic, nullptr when it is unedited and stands in the file.
+// A topic's text in memory; nullptr if the topic is unedited and its text is in the file.
 const std::string* EditedText(const Book& book, int number)
 {
     if (number < 1 || number > book.TopicRecs.UpperBound() || book.TopicRecs(number).Text.empty()) {
@@ -110,7 +110,7 @@ const std::string* EditedText(const Book& book, int number)
     return &book.TopicRecs(number).Text;
 }
 
-// A reference in another topic counts too: the reader may want to go back along it.
+// Whether a reference leads to this topic: the user may want to go back along it.
 bool IsReferredTo(const Book& book, std::string_view topicName)
 {
     const std::string_view title = topicName.substr(1, topicName.size() - 2);
@@ -128,8 +128,8 @@ void StartAnew(ShownTopic& shown)
     shown.logicPos = 0;
 }
 
-// Shows what was read before the error, since it may be all that can be saved of a failing disk, and says
-// that it is not the whole.
+// The part read before the error is shown, since it may be all that can be saved from a failing disk. The
+// message says that it is incomplete.
 void ReportCut(const Seams& seams, const Preparation& preparation, const std::string& name,
                const FileError& error)
 {
@@ -151,7 +151,7 @@ ShowResult ShowPlainText(const Book& book, const Seams& seams, int lineWidthChar
     FileBody body(cursor);
     Preparation preparation(true, lineWidthChars, shown);
     preparation.Take(body);
-    // The file has no topic that the message could name.
+    // The file has no topics, so the message names the file.
     ReportCut(seams, preparation, ToBook(FromPath(book.BookPath)).value_or(std::string()), body.Error());
     return ShowResult::Shown;
 }
@@ -162,7 +162,7 @@ void PrepareEdited(const Book& book, const Seams& seams, int number, const std::
     TextBody body(text);
     Preparation preparation(false, width, shown);
     preparation.Take(body);
-    // The advisor reads its block from the file, where the saved one stands until the book is written.
+    // The advisor reads the saved block. It is in the file until the book is saved.
     shown.logicPos = FindLogic(book, number);
     shown.advisorButton = shown.logicPos != 0;
     ReportCut(seams, preparation, shown.name, {});

@@ -11,30 +11,30 @@ namespace ls {
 
 struct Book;
 
-/// A topic made ready to be drawn.
+/// A topic that is ready to be drawn.
 struct ShownTopic
 {
     std::string name; ///< "[Title]"; empty for a plain text file
     DisplayLines lines;
-    bool xrefButton = false;    ///< it refers to a topic, or one refers to it
+    bool xrefButton = false;    ///< it refers to a topic, or a topic refers to it
     bool advisorButton = false; ///< it has a logic block
-    FilePos logicPos = 0;       ///< behind the block's "<IXML>" line; 0 without one
+    FilePos logicPos = 0;       ///< after the block's "<IXML>" line; 0 for none
 };
 
 enum class ShowResult
 {
-    Nothing, ///< there is no topic to show; what is on show stays
-    Cleared, ///< the topic cannot be shown (its message was given): the pane is to be cleared
+    Nothing, ///< there is no topic to show; the pane does not change
+    Cleared, ///< the topic cannot be shown; a message was shown and the caller clears the pane
     Shown,   ///< `ShownTopic` is filled
 };
 
-/// Reads a topic from the book's file, or from its edited text, and wraps it to `lineWidthChars` characters
-/// (`LeastLineWidth` at least). A plain text file is shown whole, whatever the name.
+/// Reads a topic from its edited text, or from the book's file, and wraps it to `lineWidthChars` characters
+/// (at least `LeastLineWidth`). A plain text file is shown whole, whatever the name.
 ///
-/// `topicName` is the title with or without brackets and comes back with them (empty after a failed look-up);
-/// `topicIndex` is its number, 0 when it is to be looked up. A topic of more than 32,767 display lines is cut
-/// there after the "Overflow" box. A topic that cannot be read to its end is shown as far as it was read,
-/// after the message for a topic that cannot be fetched.
+/// `topicName` is the title with or without brackets. On return it has brackets, or is empty if the topic was
+/// not found. `topicIndex` is the topic's number, or 0 to look it up. After 32,767 display lines the topic is
+/// cut and the "Overflow" box is shown. After a read error a message is shown, and the topic as far as it was
+/// read.
 ShowResult ShowTopic(const Book& book, const Seams& seams, std::string& topicName, Count16& topicIndex,
                      int lineWidthChars, ShownTopic& shown);
 

@@ -20,17 +20,16 @@ inline constexpr Colour DarkRed{127, 0, 0};
 inline constexpr Colour DarkGreen{0, 127, 0};
 inline constexpr Colour DarkBlue{0, 0, 127};
 
-/// What topics are drawn on: the reading pane, a printer, a list of runs, a terminal.
+/// A surface to draw topics on: the reading pane, a printer, a list of runs, a terminal.
 ///
-/// Text is printed at the surface's current position in the styles set last; each print either ends its row
-/// or leaves the position behind the text. Lengths are the surface's own units (pixels of the pane, twips of
-/// a page).
+/// Text is printed at the current position in the current styles. Each print either ends its row or leaves
+/// the position after the text. Lengths are in the surface's own units (pixels of the pane, twips of a page).
 class TextSurface
 {
 public:
     virtual ~TextSurface() = default;
 
-    /// Empties the surface; the position returns to the top left. Styles stay as they are.
+    /// Empties the surface and moves the position to the top left. Styles do not change.
     virtual void Clear() = 0;
 
     virtual void SetBold(bool on) = 0;
@@ -38,10 +37,10 @@ public:
     virtual void SetUnderline(bool on) = 0;
     virtual void SetColour(Colour colour) = 0;
 
-    /// Tells which display line (from 1) the prints that follow come from.
+    /// Gives the display line (from 1) of the prints that follow.
     virtual void BeginLine(int displayLine) = 0;
 
-    /// Prints book text (one byte a character).
+    /// Prints book text (one byte per character).
     virtual void Print(std::string_view text, bool endRow) = 0;
 
     [[nodiscard]] virtual double InnerWidth() const = 0;

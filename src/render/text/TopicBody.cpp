@@ -6,7 +6,7 @@ namespace ls {
 
 namespace {
 
-// More than a tag that is looked for at the start of a line, and than what a hanging indent is found from.
+// Enough characters to recognise a tag at the start of a line and to find a hanging indent.
 constexpr std::size_t Telling = 16;
 
 } // namespace

@@ -8,19 +8,18 @@
 
 namespace ls {
 
-/// The source lines of a topic, one after the other, from wherever they are kept.
+/// The source lines of a topic, one after the other, from a file or from memory.
 class TopicBody
 {
 public:
     virtual ~TopicBody() = default;
 
-    /// The next line without its line end, valid until the next call; false at the end of what there is, and
-    /// after an error, which `Error` tells.
+    /// The next line without its line end, valid until the next call. False at the end and after an error,
+    /// see `Error`.
     virtual bool Next(std::string_view& line) = 0;
 
-    /// The same; but of a line that is too long to be had at once its beginning, and in `rest` the cursor
-    /// that reads on in it (nullptr: the line is whole). A beginning has at least some characters between its
-    /// blanks: what the line is, it tells.
+    /// As `Next`, with `rest` nullptr. For a line too long for one block: its beginning, enough to classify
+    /// it, and in `rest` the cursor for the remainder.
     virtual bool NextPart(std::string_view& line, LineCursor*& rest)
     {
         rest = nullptr;
@@ -30,7 +29,7 @@ public:
     [[nodiscard]] virtual FileError Error() const { return {}; }
 };
 
-/// Lines of the book's file from where a cursor stands, to the end of the file.
+/// Lines of the book's file from the cursor's position to the end of the file.
 class FileBody : public TopicBody
 {
 public:
@@ -43,10 +42,10 @@ public:
 private:
     LineCursor* m_cursor;
     FileError m_error;
-    bool m_inLine = false; ///< the last one was given in part
+    bool m_inLine = false; ///< the last line was given in part
 };
 
-/// Lines of a text in memory, parted by CR LF. One at the end begins no further line.
+/// Lines of a text in memory, separated by CR LF. A CR LF at the end begins no further line.
 class TextBody : public TopicBody
 {
 public:
@@ -54,7 +53,7 @@ public:
 
     bool Next(std::string_view& line) override;
 
-    /// Where the next line begins, from 0.
+    /// The position where the next line begins, from 0.
     [[nodiscard]] std::size_t Position() const { return m_at; }
 
 private:

@@ -8,7 +8,7 @@
 
 namespace ls {
 
-// What the lines are drawn on.
+// The surface that the lines are drawn on.
 class TopicText::Collector : public TextSurface
 {
 public:
@@ -67,7 +67,7 @@ private:
 
 namespace {
 
-// The number, from 1, of the last start at or before an offset; 0 when there is none.
+// The number, from 1, of the last start at or before an offset; 0 for none.
 int NumberAt(const std::vector<std::size_t>& starts, std::size_t offset)
 {
     return static_cast<int>(std::upper_bound(starts.begin(), starts.end(), offset) - starts.begin());

@@ -10,7 +10,7 @@ namespace ls {
 
 struct DisplayLines;
 
-/// A part of a text: from the character `begin`, counted from 0, up to but without `end`.
+/// A part of a text from character `begin`, counted from 0, to just before `end`.
 struct TextRange
 {
     std::size_t begin = 0;
@@ -22,7 +22,7 @@ struct TextRange
     friend bool operator==(const TextRange&, const TextRange&) = default;
 };
 
-/// How characters look.
+/// The style of characters.
 struct TextStyle
 {
     bool bold = false;
@@ -33,7 +33,7 @@ struct TextStyle
     friend bool operator==(const TextStyle&, const TextStyle&) = default;
 };
 
-/// A part of a text that looks the same throughout.
+/// A part of a text that has one style.
 struct StyledPart
 {
     TextRange range;
@@ -42,12 +42,12 @@ struct StyledPart
     friend bool operator==(const StyledPart&, const StyledPart&) = default;
 };
 
-/// The text of a whole topic as its rows read when they are drawn from the first line on: tags removed,
-/// entities resolved, rows parted by "\n". For whatever looks beyond the rows on the pane: finding, copying,
-/// a screen reader.
+/// The text of a whole topic as it is drawn from the first line on: tags removed, entities resolved, rows
+/// separated by "\n". Finding, copying and screen readers use it, because they need more than the rows on the
+/// pane.
 ///
-/// Places in it are offsets: characters before the place. A row mostly is one display line; a line that
-/// leaves its row open, such as one of tags only, shares it with the next line.
+/// Places in it are offsets: the number of characters before the place. A row usually is one display line. A
+/// line that does not end its row, such as a line of tags only, shares the row with the next line.
 class TopicText
 {
 public:
@@ -60,21 +60,21 @@ public:
 
     [[nodiscard]] int LineCount() const { return static_cast<int>(m_lineStarts.size()); }
 
-    /// Where a display line (from 1) begins; the length for one behind the last.
+    /// The offset where a display line (from 1) begins; the length of the text for a later number.
     [[nodiscard]] std::size_t LineStart(int displayLine) const;
 
-    /// The display line that a character stands in, or behind which it ends the row; 0 without any line. Of
-    /// lines that begin at the same place it is the last.
+    /// The display line of the character at an offset, or of the "\n" there; 0 if there is no line. If
+    /// several lines begin at one offset, it is the last of them.
     [[nodiscard]] int LineAt(std::size_t offset) const;
 
-    /// Rows, at least one; counted from 1.
+    /// The number of rows, at least 1. Rows are counted from 1.
     [[nodiscard]] int RowCount() const { return static_cast<int>(m_rowStarts.size()); }
     [[nodiscard]] int RowAt(std::size_t offset) const;
 
-    /// A row without the "\n" behind it. The number is held between the first and the last.
+    /// A row without its "\n". A number outside the rows means the first or the last row.
     [[nodiscard]] TextRange Row(int row) const;
 
-    /// How the character at an offset looks, with the neighbours that look the same. An empty part at the end
+    /// The style of the character at an offset, with all neighbours of that style. An empty part at the end
     /// of the text.
     [[nodiscard]] StyledPart StyleAt(std::size_t offset) const;
 
@@ -84,11 +84,10 @@ private:
     std::string m_text;
     std::vector<std::size_t> m_lineStarts;
     std::vector<std::size_t> m_rowStarts = {0};
-    std::vector<StyledPart> m_parts; ///< of the whole text, in its order
+    std::vector<StyledPart> m_parts; ///< of the whole text, in order
 };
 
-/// The level of the heading that text of that colour belongs to, 1 to 3; 0 for other text. No other tag sets
-/// a colour.
+/// The level, 1 to 3, of a heading with that colour; 0 for other text. Only headings set a colour.
 [[nodiscard]] int HeadingLevel(Colour colour);
 
 } // namespace ls

@@ -23,17 +23,17 @@ LineRemainder::LineRemainder(std::string_view text, LineCursor* rest) : m_rest(r
 void LineRemainder::Begin(std::string_view text)
 {
     m_text = text;
-    m_contentEnd = text.find_last_not_of(' ') + 1; // 0 when there is none
+    m_contentEnd = text.find_last_not_of(' ') + 1; // 0 for a text of blanks
     m_at = 0;
     m_tag = text.find('<');
     m_entity = text.find('&');
 }
 
-// Lets the cursor drop what has been taken, and read more.
+// Lets the cursor drop the characters that were taken and read more.
 void LineRemainder::ReadOn()
 {
     bool whole = true;
-    (void)m_rest->ReadOn(m_read, m_at, whole); // an error stays in the cursor, and ends the line
+    (void)m_rest->ReadOn(m_read, m_at, whole); // an error stays in the cursor and ends the line
     m_rest = whole ? nullptr : m_rest;
     Begin(TrimRight(m_read));
     m_marks = {};
@@ -60,7 +60,7 @@ void LineRemainder::Pass(std::size_t count)
     m_at += count - spaces;
 }
 
-// False, and nothing is taken, when the line goes on behind what is known.
+// Takes all that is left. Takes nothing and returns false if the line is not read to its end.
 bool LineRemainder::TakeRest(std::string& segment)
 {
     if (m_rest != nullptr) {
@@ -71,8 +71,8 @@ bool LineRemainder::TakeRest(std::string& segment)
     return true;
 }
 
-// Whether a "<" or "&" follows before `end`. Each is searched for again only when it has been passed, so that
-// a line is searched once.
+// Whether a "<" or "&" comes before `end`. Each is searched for again only after it was passed, so a line is
+// searched once.
 bool LineRemainder::MarkupBefore(std::size_t end)
 {
     if (m_tag < m_at) {
@@ -84,9 +84,9 @@ bool LineRemainder::MarkupBefore(std::size_t end)
     return std::min(m_tag, m_entity) < end;
 }
 
-// A row without markup breaks at the last blank of its characters and the next one. False, and nothing is
-// taken, where a walk has to decide: at markup, at spaces of a TAB, at the end of what is known of the line,
-// and where the only blank comes first.
+// Takes a row without markup. It breaks at the last blank among its characters and the next one. Takes
+// nothing and returns false in the cases that need a walk: markup, spaces of a TAB, the end of the text that
+// was read, and a row whose only blank comes first.
 bool LineRemainder::TakePlainRow(std::size_t columns, std::size_t hang, std::string& segment)
 {
     const std::size_t end = m_at + columns - hang + 1;
@@ -106,7 +106,7 @@ bool LineRemainder::TakePlainRow(std::size_t columns, std::size_t hang, std::str
     return true;
 }
 
-// Breaks inside a word, after so many raw characters: tags are counted, the indent is not.
+// Breaks inside a word after `columns` raw characters. Tags count, the indent does not.
 void LineRemainder::CutHard(std::size_t columns, std::string& segment)
 {
     const std::size_t cut = std::min(columns, Size());
@@ -114,8 +114,8 @@ void LineRemainder::CutHard(std::size_t columns, std::string& segment)
     Pass(cut);
 }
 
-// As a walk through the characters has it. False, and nothing is taken, when the row goes on behind what is
-// known of the line.
+// Takes a row that `BreakFinder` finds. Takes nothing and returns false if the row reaches the end of the
+// text and the line is not read to its end.
 bool LineRemainder::TakeWalkedRow(std::size_t columns, std::size_t hang, std::string& segment)
 {
     BreakFinder finder(m_text, m_at, m_spaces, m_marks);
@@ -127,8 +127,8 @@ bool LineRemainder::TakeWalkedRow(std::size_t columns, std::size_t hang, std::st
         return true;
     }
     if (finder.LastSpace() == 1 && hang == 0) {
-        // The only blank is the first character: an empty row would gain nothing, so the rest stands
-        // unwrapped.
+        // The only blank is the first character. A break there would give an empty row, so the rest of
+        // the line is not wrapped.
         const std::size_t blank = m_rest == nullptr ? 1 : 0;
         Pass(blank);
         return TakeRest(segment);
@@ -157,7 +157,7 @@ void WrapSegment(LineRemainder& line, int width, int indent, std::string& segmen
     while (!line.TakeRow(columns, hang, segment)) {
         line.ReadOn();
     }
-    line.NeedMoreThan(0); // whether nothing but blanks is left
+    line.NeedMoreThan(0); // so that `Blank` knows whether more follows
 }
 
 } // namespace ls

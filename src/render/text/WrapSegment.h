@@ -9,28 +9,27 @@
 
 namespace ls {
 
-/// The width below which a hanging indent could reach the width itself: the largest indent is 10.
+/// The least width of a line: above the largest hanging indent, which is 10.
 inline constexpr int LeastLineWidth = 11;
 
-/// What is left of a source line while it is being wrapped: a position in the text, never a copy of it, so
-/// that a line of any length wraps in linear time. The text must outlive it.
+/// The rest of a source line while it is wrapped. It is a position in the text and never a copy, so a line of
+/// any length wraps in linear time. The text must outlive it.
 ///
-/// A row without markup is cut at its last blank, without a walk through its characters. `BreakFinder` walks
-/// through every other row.
+/// A row without markup is cut at its last blank without a walk through its characters. Other rows need a
+/// walk by `BreakFinder`.
 class LineRemainder
 {
 public:
-    /// With `rest`, a cursor, the text is the beginning of a line that it gave and did not give whole. More
-    /// of it is read as it is needed, so that the line never is in memory as one, and blanks at its end are
-    /// cut. At a read error the line ends with what was read; the cursor tells the error to whoever reads
-    /// next.
+    /// With a cursor `rest`, the text is the beginning of a line that the cursor did not give whole. More is
+    /// read when it is needed, so the whole line is never in memory. Blanks at its end are cut. A read error
+    /// ends the line; the cursor keeps the error for the next reader.
     explicit LineRemainder(std::string_view text, LineCursor* rest = nullptr);
 
-    /// Length in characters of what is known of the line, the spaces of an opened leading TAB included.
+    /// The number of characters read and not yet taken, including the spaces of an expanded leading TAB.
     [[nodiscard]] std::size_t Size() const { return m_spaces + (m_text.size() - m_at); }
     [[nodiscard]] bool Empty() const { return Size() == 0; }
 
-    /// True when nothing but blanks is left.
+    /// Whether only blanks are left.
     [[nodiscard]] bool Blank() const { return m_at >= m_contentEnd; }
 
 private:
@@ -54,23 +53,23 @@ private:
     void Pass(std::size_t count);
     bool TakeRest(std::string& segment);
 
-    LineCursor* m_rest = nullptr; ///< what follows m_text; nullptr when nothing does
-    std::string_view
-        m_read; ///< as the cursor gave it: m_text with blanks that may yet turn out to be its last
+    LineCursor* m_rest = nullptr; ///< reads what follows m_text; nullptr at the end of the line
+    /// As the cursor gave it: m_text and blanks that may be the last ones of the line.
+    std::string_view m_read;
     std::string_view m_text;
-    std::size_t m_contentEnd = 0; ///< after the last character of m_text that is no blank
+    std::size_t m_contentEnd = 0; ///< after the last character of m_text that is not a blank
     std::size_t m_at = 0;         ///< the next character of m_text
-    std::size_t m_spaces = 0;     ///< spaces of a TAB that stand before it
-    std::size_t m_tag = 0;        ///< the first "<" of m_text from m_at on, as far as looked for
+    std::size_t m_spaces = 0;     ///< spaces of a TAB before that character
+    std::size_t m_tag = 0;        ///< the first "<" of m_text at or after m_at; searched again once passed
     std::size_t m_entity = 0;     ///< the same for "&"
     BreakMarks m_marks;
 };
 
-/// Cuts one display line off the front of `line` and puts it, with `indent` spaces in front, into `segment`.
+/// Cuts one display line off the front of `line` and puts it into `segment`, after `indent` spaces.
 ///
-/// `width` is counted in visible characters: a tag counts nothing, an entity one. The line breaks at the last
-/// blank that fits, else hard after `width` raw characters. `indent` must be below `width`; a caller that
-/// breaks this gets the whole rest unwrapped (and an assertion in debug builds).
+/// `width` counts visible characters: a tag counts 0 and an entity 1. The line breaks at the last blank that
+/// fits, else after `width` raw characters. `indent` must be less than `width`. Otherwise the whole rest
+/// comes back unwrapped (debug builds stop at an assertion).
 void WrapSegment(LineRemainder& line, int width, int indent, std::string& segment);
 
 } // namespace ls

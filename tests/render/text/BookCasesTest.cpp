@@ -1,4 +1,4 @@
-// Books worked out by hand: what each of them holds and how its topics wrap stands beside it.
+// Books with results that were worked out by hand. A file next to each book holds them.
 
 #include "base/CodePage.h"
 #include "base/Text.h"

@@ -4,7 +4,7 @@
 
 namespace ls::test {
 
-/// How often memory was taken by `new` since the program began.
+/// The number of calls of `new` since the program began.
 [[nodiscard]] std::size_t AllocationCount();
 
 } // namespace ls::test

@@ -30,7 +30,7 @@ std::string ColourName(Colour colour)
            std::to_string(colour.blue);
 }
 
-// "line row:column {text} biu 127,0,0 /": styles and colour where they are set, "/" where the row ends.
+// "line row:column {text} biu 127,0,0 /": styles and colour only if they are set, "/" if the row ends.
 std::string Describe(const Run& run)
 {
     std::string styles;
@@ -169,7 +169,7 @@ TEST(DrawLines, drawLines_surface_drawsItsRowsRounded)
     EXPECT_EQ(Describe(surface), (Strings{"2 1:1 {b} /", "3 2:1 {c} /"}));
 }
 
-// A surface whose rows do not fit its height.
+// A surface whose height is not a whole number of rows.
 class HalfRows : public RunList
 {
 public:

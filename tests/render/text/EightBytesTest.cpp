@@ -19,7 +19,7 @@ TEST(EightBytes, findLastBlank_oneBlankAnywhere_findsIt)
     }
 }
 
-// Mostly characters that differ from a blank in one bit, or that a carry from their neighbour could change.
+// Most characters differ from a blank in one bit, or could be changed by a carry from the next byte.
 TEST(EightBytes, findLastBlank_randomRows_asAPlainSearch)
 {
     const std::string characters("x !\"$(0@`\xA0\xA1\x00\x01\x1F\x7F\x80\xFF", 17);

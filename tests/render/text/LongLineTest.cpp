@@ -1,4 +1,4 @@
-// Lines that are wrapped while they are read, beside the same lines in memory.
+// Lines that are wrapped while they are read give the same rows as lines in memory.
 
 #include "base/LineCursor.h"
 #include "base/Text.h"
@@ -92,7 +92,7 @@ TEST(LongLine, wrap_readError_endsTheLineAndIsToldNext)
     EXPECT_EQ(body.Error().number, error::DeviceIo);
 }
 
-// Only what is looked at together is in memory: a beginning of blanks, or of a tag that is none, is read on.
+// Blanks at the start of a line are read until the line can be classified.
 TEST(LongLine, nextPart_beginningOfBlanks_isReadOnUntilItTells)
 {
     DrippingFile file(std::string(100, ' ') + "<IXML>" + std::string(100, ' ') + "\r\n" +

@@ -4,8 +4,8 @@
 
 namespace ls::test {
 
-/// The wrap rule written down step by step, on copies and without any speed: what `WrapSegment` is compared
-/// with. Cuts a segment off the front of `line`.
+/// The wrap rule step by step, on copies and not fast. Tests compare `WrapSegment` with it. Cuts a segment
+/// off the front of `line`.
 inline std::string PlainWrapSegment(std::string& line, int width, int indent)
 {
     const auto take = [&line](std::size_t count, std::size_t drop) {

@@ -43,17 +43,17 @@ TEST_P(ScrollTable, planScrolling_topic_setsMaxAndPageStep)
     EXPECT_EQ(setup.largeChange, GetParam().largeChange);
 }
 
-// A topic that fits: half its lines and one, halves to the even neighbour.
+// A topic that fits the pane: half its lines plus 1, halves to even.
 INSTANTIATE_TEST_SUITE_P(Fits, ScrollTable,
                          testing::Values(Row{0, 300, 1}, Row{1, 300, 2}, Row{2, 300, 2}, Row{3, 300, 2},
                                          Row{4, 300, 3}, Row{5, 300, 4}, Row{7, 300, 4}, Row{20, 300, 11}));
 
-// A longer one: a page less one line; the pane's rows are rounded down.
+// A longer topic: the rows of a page, rounded down, less 1.
 INSTANTIATE_TEST_SUITE_P(IsLonger, ScrollTable,
                          testing::Values(Row{21, 300, 19}, Row{21, 314, 19}, Row{21, 314.99, 19},
                                          Row{21, 315, 12}, Row{32767, 300, 19}));
 
-// A pane of one row or none still scrolls, by one line.
+// A pane of one row or less scrolls by one line.
 INSTANTIATE_TEST_SUITE_P(LowPane, ScrollTable,
                          testing::Values(Row{10, 15, 1}, Row{10, 14, 1}, Row{10, 0, 1}));
 

@@ -1,4 +1,4 @@
-// Topics whose text is held in memory.
+// Topics whose text is in memory.
 
 #include "render/text/ShowTopicFixture.h"
 

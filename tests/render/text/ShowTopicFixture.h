@@ -7,7 +7,7 @@ namespace ls {
 
 inline const std::string Header = "LODESTAR BOOK V5.3\r\n";
 
-/// A book in memory, and the topic of it that was shown last.
+/// A book in memory and the topic that was shown last.
 struct ShowTopicTest : BookFixture
 {
     ShownTopic shown;
@@ -21,7 +21,7 @@ struct ShowTopicTest : BookFixture
         return ShowTopic(book, world.Get(), name, number, width, shown);
     }
 
-    // Shows topic 1, "[A]", of a book with this body.
+    // Shows topic 1, "[A]", of a book with this body and returns its lines.
     Strings ShowBody(const std::string& body, int width = 40)
     {
         EXPECT_TRUE(Scan(Header + "[A]\r\n" + body));
@@ -38,7 +38,7 @@ struct ShowTopicTest : BookFixture
         return lines;
     }
 
-    // Opens bytes that are no book and agrees to view them.
+    // Opens bytes that are no book and agrees to show them as plain text.
     void OpenPlain(const std::string& bytes)
     {
         world.messages.replies = {Reply::Ok};

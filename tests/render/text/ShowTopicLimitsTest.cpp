@@ -45,7 +45,7 @@ TEST_F(ShowTopicLimitsTest, show_plainTextWithoutFile_nothing)
 
 // Faults and limits
 
-// The file can be read up to about its 100,000th byte.
+// Reading fails from about the 100,000th byte of the file on.
 void FailFurtherOn(test::MemoryFileSystem& files, int errorNumber)
 {
     files.fail = [errorNumber](const std::string& operation) {

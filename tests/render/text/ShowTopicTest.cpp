@@ -3,7 +3,7 @@
 namespace ls {
 namespace {
 
-// What is shown at all
+// What is shown
 
 TEST_F(ShowTopicTest, show_noTopics_nothingAndTheOldTopicStays)
 {
@@ -137,7 +137,7 @@ TEST_F(ShowTopicTest, show_again_startsAnew)
 
 TEST_F(ShowTopicTest, show_widthBelowTheLargestIndent_isRaised)
 {
-    // An indent of 10 in a width of 11: one column is left, and the hard break counts no indent.
+    // The width is 11 and the indent 10, so one column is left. The break inside a word ignores the indent.
     EXPECT_EQ(ShowBody("12345678. one two\r\n", 1), (Strings{"12345678.", "          one two"}));
 }
 
@@ -175,7 +175,7 @@ TEST_F(ShowTopicTest, show_referredTo_showsTheButton)
     EXPECT_EQ(Show("B", 2), ShowResult::Shown);
     EXPECT_TRUE(shown.xrefButton);
     EXPECT_EQ(Show("b", 3), ShowResult::Shown);
-    EXPECT_FALSE(shown.xrefButton) << "names are compared with case";
+    EXPECT_FALSE(shown.xrefButton) << "letter case counts";
 }
 
 TEST_F(ShowTopicTest, show_referredToFromTheSecondReference_showsTheButton)

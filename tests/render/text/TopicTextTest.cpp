@@ -52,7 +52,7 @@ TEST(TopicText, text_lineThatLeavesItsRowOpen_sharesItWithTheNext)
     EXPECT_EQ(topic.LineStart(2), 2U);
     EXPECT_EQ(topic.LineStart(3), 2U);
     EXPECT_EQ(topic.LineStart(4), 5U);
-    EXPECT_EQ(topic.LineAt(2), 3) << "the one that has text";
+    EXPECT_EQ(topic.LineAt(2), 3) << "the line that has text";
     EXPECT_EQ(topic.LineAt(5), 4);
 }
 

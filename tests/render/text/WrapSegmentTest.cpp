@@ -13,7 +13,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-// All segments of a line: the first one without indent, later ones with it.
+// All segments of a line. Only the first one has no indent.
 Strings Wrap(const std::string& line, int width, int indent)
 {
     Strings segments;
@@ -170,7 +170,7 @@ TEST(WrapSegment, remainder_ofBlanks_isBlankAndNotEmpty)
     EXPECT_FALSE(rest.Empty());
 }
 
-// Compares every segment of random lines with those of the rule written down step by step.
+// Compares every segment of random lines with the plain rule.
 class RandomLines
 {
 public:
@@ -187,7 +187,7 @@ public:
         return line;
     }
 
-    // Each segment may have a width of its own, as no caller has them: the rule asks for no other.
+    // Each segment may have another width. No caller does this, but the rule allows it.
     void Compare(const std::string& line, int leastWidth, int mostWidth, int indent)
     {
         std::string expectedRest = line;
@@ -211,7 +211,7 @@ private:
 
 TEST(WrapSegment, wrap_randomLines_asTheRuleWrittenStepByStep)
 {
-    // Few characters, those that matter, so that every rule meets every other one.
+    // Only the characters that matter, so that all rules meet.
     const Strings pieces = {"a", "a", "a", " ", " ", "<", ">", "&", ";", "\t"};
     RandomLines random(20240501);
     for (int round = 0; round < 40000 && !testing::Test::HasFatalFailure(); ++round) {
@@ -221,8 +221,8 @@ TEST(WrapSegment, wrap_randomLines_asTheRuleWrittenStepByStep)
     }
 }
 
-// Text with little markup: most rows are plain. Words have all lengths, also more than the eight characters
-// in which the last blank of a row is looked for first.
+// Text with little markup, so most rows are plain. Some words are longer than the eight characters that are
+// searched first for the last blank.
 TEST(WrapSegment, wrap_randomLongLinesOfWords_asTheRuleWrittenStepByStep)
 {
     Strings pieces = {"<B>", "&AMP; ", "</B> ", "  ", "\t"};
@@ -238,7 +238,7 @@ TEST(WrapSegment, wrap_randomLongLinesOfWords_asTheRuleWrittenStepByStep)
     }
 }
 
-// Hidden text of hundreds of characters, in which many segments end before it is passed.
+// Hidden text of hundreds of characters. Many segments end inside it.
 class HiddenText : public testing::TestWithParam<std::pair<const char*, Strings>>
 {
 };
@@ -278,7 +278,7 @@ INSTANTIATE_TEST_SUITE_P(
                     std::pair("everything", Strings{"<", ">", "&", ";", "a", "a", " ", ManyTags, "bcd"})),
     [](const auto& row) { return row.param.first; });
 
-// Rows full of tags and entities. Half of the lines hold simple ones only. The others also hold tags with
+// Rows full of tags and entities. Half of the lines have only simple ones. The others also have tags with
 // attributes, names of digits or signs, long names, and markup without an end.
 TEST(WrapSegment, wrap_randomLongLinesOfMarkup_asTheRuleWrittenStepByStep)
 {
