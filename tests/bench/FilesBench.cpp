@@ -148,7 +148,7 @@ int main(int argc, char** argv)
     }
     ls::bench::PrintHead(
         "The file selector",
-        "How long events wait at most in a folder of 50,000 files, by the clock on the wall.");
+        "The longest time that an event waits in a folder of 50,000 files, by the clock on the wall.");
     ls::Run(QDir(QString::fromLocal8Bit(argv[1])).absoluteFilePath(QStringLiteral("many-files")));
     return 0;
 }

@@ -126,9 +126,8 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QGuiApplication application(argc, argv);
-    bench::PrintHead(
-        "Redrawing the pane",
-        "A full pane of 3840 x 2160 pixels, beside one text drawing call a row, by the clock on the wall.");
+    bench::PrintHead("Redrawing the pane", "A full pane of 3840 x 2160 pixels, compared with one text "
+                                           "drawing call a row, by the clock on the wall.");
     for (const Scene& scene :
          {Scene{"plain text", 1, 0}, Scene{"a new style every 20 characters", 1, 20},
           Scene{"a new style every 5 characters", 1, 5}, Scene{"plain text, scale 1.5", 1.5, 0},

@@ -161,11 +161,12 @@ int main(int argc, char** argv)
         std::fputs("usage: bench_start FOLDER PROGRAM\n", stderr);
         return 2;
     }
-    ls::bench::PrintHead("Starting a window",
-                         "From the start of the process until the heading of the first topic is on the "
-                         "screen, by the clock on the wall, in turns on one virtual display. All viewers "
-                         "show the same 200 topics. Memory is the most that was resident, added up over a "
-                         "viewer's processes, so that pages which they share count more than once.");
+    ls::bench::PrintHead(
+        "Starting a window",
+        "The time from the start of the process until the heading of the first topic is on the screen, by "
+        "the clock on the wall. The viewers run in turns on one virtual display and show the same 200 "
+        "topics. Memory is the most that was resident, added up over a viewer's processes. Pages that the "
+        "processes share count more than once.");
     const std::string folder = std::filesystem::absolute(argv[1]).string() + "/start";
     std::filesystem::create_directories(folder);
     ls::bench::Run(folder, std::filesystem::absolute(argv[2]));

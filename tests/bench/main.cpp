@@ -22,43 +22,48 @@ struct Benchmark
 
 constexpr Benchmark Benchmarks[] = {
     {"scan", "Scanning a book",
-     "A book of 200 MiB with 30,000 topics, beside tools that only read it. Both memories are the most that "
-     "a process of its own had resident.",
+     "A book of 200 MiB with 30,000 topics, compared with tools that only read it. Peak memory is the most "
+     "that a process had resident. Each of its two rows has a new process.",
      BenchScan},
-    {"check", "Checking a book", "The ratio is scan and check together by the scan alone.",
+    {"check", "Checking a book",
+     "The ratio is the time of scan and check together, divided by that of the scan alone.",
      [](const std::string&, const std::string& folder) { BenchCheck(folder); }},
-    {"show", "Showing a topic", "The ratio is the last topic of that book by its first one.",
+    {"show", "Showing a topic",
+     "The ratio is the time of the book's last topic, divided by that of its first one.",
      [](const std::string&, const std::string& folder) { BenchShow(folder); }},
     {"save", "Saving a book",
-     "By the clock on the wall, since both wait for the disk. Other work on the same disk changes the ratio.",
+     "Times are by the clock on the wall, since both programs wait for the disk. Other work on the same disk "
+     "changes the ratio.",
      [](const std::string&, const std::string& folder) { BenchSave(folder); }},
-    {"resize", "Changing the width", "One step of a resize, beside a copy of the topic's lines in memory.",
+    {"resize", "Changing the width",
+     "One step of a resize, compared with a copy of the topic's lines in memory.",
      [](const std::string&, const std::string& folder) { BenchResize(folder); }},
     {"wrap", "Wrapping",
-     "Texts of 64 MiB, read and written, beside `fold -s -w 80` in the C locale. The two do the same work "
-     "where a text has no tags. `fold` takes tags for text; this program finds them and measures what is "
-     "between.",
+     "Texts of 64 MiB, read and written, compared with `fold -s -w 80` in the C locale. If a text has no "
+     "tags, both do the same work. `fold` treats tags as text. This program finds the tags and measures only "
+     "the text between them.",
      [](const std::string&, const std::string& folder) { BenchWrap(folder); }},
     {"lines", "Long lines",
-     "The ratio is the time of a MiB by that of a MiB of the shortest line of the same kind.",
+     "The ratio is the time for one MiB of the line, divided by that for one MiB of the shortest line of the "
+     "same kind.",
      [](const std::string&, const std::string&) { BenchLines(); }},
     {"export", "Exporting",
-     "Every topic of a book as HTML, beside pandoc on the same text in one file. Pandoc runs once.",
+     "Every topic of a book as HTML, compared with pandoc on the same text in one file. Pandoc runs once.",
      [](const std::string&, const std::string& folder) { BenchExport(folder); }},
     {"growth", "Ten times the work",
-     "Each row has ten times the topics, lines or rules of the work that it is compared with. Sorting then "
-     "takes 13 times as long, and what is quadratic takes 100 times as long.",
+     "Each row has ten times the topics, lines or rules of the work that it is compared with. Sorting ten "
+     "times as much takes 13 times as long. A quadratic method takes 100 times as long.",
      [](const std::string&, const std::string& folder) { BenchGrowth(folder); }},
     {"journal", "The recovery journal",
-     "Processor time. Each journal is also flushed to the disk, and that wait comes on top.",
+     "Times are processor time. Each journal is also flushed to the disk. That wait is not included.",
      [](const std::string&, const std::string& folder) { BenchJournal(folder); }},
     {"advisor", "The advisor",
-     "Made-up rules with 6 conditions each over 40 variables, and a reader who answers every question. Load "
-     "is reading the logic block, for the peers their program with the same rules. A question is the time "
-     "from an answer until the next question is on show. With 100 rules, half of it goes into reading the "
-     "question's text from the book, which no peer does. `CLIPS, rules` has a defrule for each rule. `CLIPS, "
-     "facts` has a fact for each rule and three defrules that reduce them as the advisor does. CLIPS chooses "
-     "no question.",
+     "The rules are made up: each has 6 conditions over 40 variables. The reader answers every question. "
+     "Load is the time to read the logic block; a peer reads its own program with the same rules. A question "
+     "is the time from an answer until the next question is on show. With 100 rules, half of that time goes "
+     "into reading the question's text from the book. No peer reads that text. `CLIPS, rules` has a defrule "
+     "for each rule. `CLIPS, facts` has a fact for each rule and three defrules that reduce the facts as the "
+     "advisor does. CLIPS chooses no question.",
      [](const std::string&, const std::string& folder) { BenchAdvisor(folder); }},
 };
 
