@@ -62,8 +62,8 @@ struct FileFormTest : testing::Test
 
     void Load()
     {
-        form = std::make_unique<FileForm>(nullptr, global, world.Get(),
-                                          FormSeams{volumes, dde, registry, printer});
+        form = std::make_unique<FileForm>(nullptr, global.fileDialog, global.book, global.settings,
+                                          world.Get(), FormSeams{volumes, dde, registry, printer});
         test::ShowActive(*form);
     }
 
@@ -395,8 +395,8 @@ TEST_F(FileFormTest, push_whileTheSelectorReadsItsFolder_beepsAndBlocks)
 TEST_F(FileFormTest, otherMode_endsTheProgramSilently)
 {
     global.fileDialog.FileMode = "X";
-    form =
-        std::make_unique<FileForm>(nullptr, global, world.Get(), FormSeams{volumes, dde, registry, printer});
+    form = std::make_unique<FileForm>(nullptr, global.fileDialog, global.book, global.settings, world.Get(),
+                                      FormSeams{volumes, dde, registry, printer});
     EXPECT_TRUE(world.end.Ended());
     EXPECT_TRUE(world.messages.boxes.empty());
 }
