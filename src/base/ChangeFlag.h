@@ -4,8 +4,8 @@
 
 namespace ls {
 
-/// A "was changed" flag that reads and is set like a bool. It also counts how often it was set, so that the
-/// holder of a copy compares the count instead of the data.
+/// A "was changed" flag that is used like a bool. It also counts how often it was set to true. Code that
+/// keeps a copy of the data compares the count instead of the data.
 class ChangeFlag
 {
 public:
@@ -18,7 +18,7 @@ public:
 
     operator bool() const { return m_changed; } // not explicit: it reads as a bool
 
-    /// How often it was set.
+    /// How often it was set to true.
     [[nodiscard]] std::uint64_t Changes() const { return m_changes; }
 
 private:

@@ -11,15 +11,15 @@ namespace ls {
 /// back.
 [[nodiscard]] std::string FromBook(std::string_view bookText);
 
-/// The characters of a text that the code page lacks.
+/// The first character of a text that the code page lacks.
 struct Unmapped
 {
-    char32_t character = 0; ///< the first of them; U+FFFD for bytes that are not UTF-8
+    char32_t character = 0; ///< U+FFFD for bytes that are not UTF-8
     int line = 0;           ///< the line it is in, from 1
 };
 
-/// UTF-8 as book text. No character is ever replaced: if the code page lacks one, the result is nothing, and
-/// `unmapped`, when given, names it.
+/// UTF-8 as book text. If the code page lacks a character, the result is nothing, and `unmapped` (if given)
+/// gets the first such character. No character is ever replaced.
 [[nodiscard]] std::optional<std::string> ToBook(std::string_view utf8, Unmapped* unmapped = nullptr);
 
 /// A path as UTF-8 for messages: each byte that is not UTF-8 becomes U+FFFD.

@@ -15,7 +15,7 @@ public:
     virtual ~DdeServer() = default;
 
     /// Starts to receive execute strings. False when the name is taken or no other program can be reached;
-    /// the program works without.
+    /// this is no error.
     virtual bool Start(Handler handler) = 0;
 
     virtual void Stop() = 0;

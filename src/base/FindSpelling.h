@@ -8,8 +8,8 @@
 
 namespace ls {
 
-/// A path in one case, for comparing. Letters with accents change case too, as far as the code page knows
-/// them. In a path with characters that the code page lacks, only A to Z do.
+/// A path in capital letters, for comparing paths without regard to case. Letters with accents change too. If
+/// the path has a character that the code page lacks, only a to z change.
 [[nodiscard]] std::string WithoutCase(std::string_view path);
 
 /// The real spelling of a path that may be written in another case.

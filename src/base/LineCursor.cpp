@@ -16,7 +16,7 @@ constexpr std::size_t LastBlock = 256 * 1024;
 
 constexpr std::size_t Chunk = 4 * 1024;
 
-// A longer line gets its room at once; growing step by step would take three times as much memory in the end.
+// A longer line gets its memory in one step. Growing step by step would take three times as much.
 constexpr std::size_t LongLine = 1024 * 1024;
 
 // Whether an LF follows each CR of the bytes; reads one byte past them. The loop has no branch, so that the
@@ -48,14 +48,14 @@ void LineCursor::Seek(FilePos pos)
 bool LineCursor::Fill()
 {
     if (!m_error.Ok()) {
-        return false; // a disk with passing errors must not yield a book with a gap
+        return false; // a later read might succeed, and the book would have a gap
     }
     m_blockPos = Position();
     m_next = 0;
     const std::size_t wanted =
         m_capacity == 0 ? FirstBlock : std::min(m_size < m_capacity ? m_capacity : 2 * m_capacity, LastBlock);
     m_size = 0;
-    if (m_capacity < wanted || m_capacity > LastBlock) { // only a single long line makes the block larger
+    if (m_capacity < wanted || m_capacity > LastBlock) { // a long line made the block larger than LastBlock
         SetCapacity(wanted, 0);
     }
     m_error = m_file->ReadAt(m_blockPos, m_block.get(), m_capacity, m_size);
@@ -115,8 +115,8 @@ void LineCursor::AppendRestOfBlock(std::string& line)
     }
 }
 
-// The number of bytes that the line has after the block, which is used up. Looks ahead in the file; keeps
-// only the number.
+// The number of bytes that the line still has in the file. All bytes of the block must be taken. Reads ahead,
+// but the position stays.
 std::size_t LineCursor::RestOfLine()
 {
     Seek(Position());
@@ -269,7 +269,7 @@ std::string_view LineCursor::ReadCrLfLines(FilePos end)
     const std::string_view bytes(m_block.get() + m_next, std::min(m_size - m_next, wanted));
     const std::size_t first = bytes.find('\r');
     if (first == std::string_view::npos || first + 1 >= bytes.size() || bytes[first + 1] != '\n') {
-        return {}; // without LF, testing a chunk for each line would be wasted
+        return {}; // no line can be passed, so the test of a chunk would be wasted
     }
     std::size_t good = 0;
     while (good + 1 < bytes.size()) {

@@ -41,8 +41,9 @@ public:
     /// Appends one line, without its line end, to `text`.
     FileError AppendLine(std::string& text);
 
-    /// Reads a line piece by piece, so that a long line costs no memory. `more` is false before the first
-    /// piece and after the last one, which may be empty. A piece is valid until the cursor's next call.
+    /// Reads a line piece by piece, so that a long line costs no memory. Set `more` to false before the first
+    /// piece. It is false again after the last piece, which may be empty. A piece is valid until the cursor's
+    /// next call.
     FileError ReadPiece(std::string_view& piece, bool& more);
     /// Begins a line of any length. Gives the whole line and sets `whole`, or gives at least what one block
     /// holds of it. Call `ReadOn` or `EndLine` next. The text is valid until the cursor's next call.

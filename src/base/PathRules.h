@@ -5,7 +5,7 @@
 
 namespace ls {
 
-/// How a system writes paths. It is data, so that tests cover both systems everywhere.
+/// How a system writes paths. It is data, so that tests on one system also cover the other.
 struct PathRules
 {
     char separator = '/';

@@ -19,7 +19,7 @@ public:
     [[nodiscard]] std::string Reason() const { return m_reason.value_or(std::string()); }
 
     /// What to do when the first fault ends the program. It runs before anything closes, while the forms are
-    /// still as the user left them. It must show and ask nothing.
+    /// still as the user left them. It must not show or ask anything.
     void SetLastAct(std::function<void()> act) { m_lastAct = std::move(act); }
 
 private:
@@ -28,7 +28,8 @@ private:
     std::function<void()> m_lastAct;
 };
 
-/// The only way for a fault to end the program. It returns to its caller; the first reason is kept.
+/// Ends the program after a fault; every fault ends it this way. Returns to its caller. Only the first reason
+/// counts.
 void EndProgram(ProgramEnd& end, std::string_view reason);
 
 } // namespace ls

@@ -12,7 +12,7 @@ class RegistryKey
 public:
     virtual ~RegistryKey() = default;
 
-    /// The type and the size in bytes of a value, with its terminating NUL; false when there is no such
+    /// Gets a value's type, and its size in bytes including the NUL at its end. False when there is no such
     /// value.
     virtual bool QueryType(const std::string& valueName, std::uint32_t& type, std::uint32_t& size) = 0;
 

@@ -6,7 +6,7 @@ namespace ls {
 
 namespace {
 
-// The position of the quote that ends the word whose text begins at `from`; the line's size without one.
+// The position of the quote that ends the word whose text begins at `from`; the line's size if none does.
 std::size_t ClosingQuote(std::string_view line, std::size_t from)
 {
     std::size_t at = line.find('"', from);

@@ -36,7 +36,7 @@ constexpr char UpperCaseOf(unsigned char byte)
     case 0x9C:
     case 0x9E:
         return static_cast<char>(byte - 0x10);
-    case 0xFF: // y with two dots: its capital is in the other block
+    case 0xFF: // y with two dots: its capital is 9F
         return static_cast<char>(0x9F);
     case 0xF7: // the division sign is no letter
         return static_cast<char>(byte);

@@ -5,7 +5,7 @@
 
 namespace ls {
 
-/// Ends each line that is written, to a book or beside it: CR LF.
+/// The end of each line that the program writes into a file: CR LF.
 inline constexpr std::string_view LineEnd = "\r\n";
 
 /// Removes blanks at both ends. Only spaces count; a TAB is text.

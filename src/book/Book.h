@@ -56,7 +56,7 @@ struct Book : BookHeader, OldNames
     Count16 CurrentTopicNo;       ///< the topic on show; during a scan the running count
     std::string CurrentTopicName; ///< "[Title]" while the topic is on show; a bare title before it is shown
     std::string StartTopic;       ///< the topic named on the command line
-    ChangeFlag BookChanged;       ///< set by every edit once the tables hold it
+    ChangeFlag BookChanged;       ///< set by every edit, after the tables have changed
     FilePos LogicPos = 0;         ///< after the "<IXML>" line of the topic on show
 
     std::unique_ptr<BookFile> File; ///< open while the book is shown

@@ -59,7 +59,7 @@ struct ConvertedLines
 FileError FindUnconvertible(BookFile& from, Progress* progress, TextFindings& findings);
 
 /// Writes a text as book text. LF, CR and CR LF become CR LF, UTF-8 becomes the code page, and a UTF-8 byte
-/// order mark is removed. Text that is not UTF-8 keeps its bytes. `findings` are those of this text and are
+/// order mark is removed. Text that is not UTF-8 keeps its bytes. `findings` must be those of this text, and
 /// `Convertible`. Reports the second half of the progress and cannot be cancelled.
 FileError ConvertText(BookFile& from, const TextFindings& findings, OutputFile& to, Progress* progress,
                       ConvertedLines& lines);

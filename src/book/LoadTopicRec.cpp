@@ -21,7 +21,7 @@ public:
     TopicReader(LineCursor& cursor, FilePos end) : m_cursor(cursor), m_end(end) {}
 
     // Appends the next line to `text` and sets `start` to its beginning there. False at the end of the topic
-    // and after an error, see `Error`. The line is not copied again, since it may fill half of the memory.
+    // and after an error, see `Error`. Makes no second copy of a line, since it may fill half of the memory.
     bool Append(std::string& text, std::size_t& start)
     {
         start = text.size();

@@ -11,8 +11,8 @@ namespace {
 
 constexpr int MaxParts = 99;
 
-// A free name for the unfinished file. The unfinished file of an earlier failed save stays, so the number in
-// the name lets the author save under the same final name again.
+// A free name for the unfinished file. A failed save leaves its unfinished file. The number in the name lets
+// the author try again with the same final name.
 std::string FreePartName(FileSystem& files, const std::string& path)
 {
     std::string name = path + ".part";

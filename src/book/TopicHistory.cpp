@@ -27,8 +27,8 @@ void TopicHistory::Clear()
     m_current = 0;
 }
 
-// The number is 0 if no topic of the table is on show: nothing is shown, a plain text file is shown, or a
-// title was only found in the file.
+// The number is 0 if no listed topic is on show: the pane is empty, or it shows a plain text file or a topic
+// that was removed.
 TopicHistory::Place TopicHistory::OnShow(const Book& book)
 {
     const int number = book.CurrentTopicNo;
@@ -38,7 +38,7 @@ TopicHistory::Place TopicHistory::OnShow(const Book& book)
     return {WithoutBrackets(book.CurrentTopicName), number, book.TopicOrder};
 }
 
-// A book may hold a title twice. So a topic that still has both the number and the title comes first.
+// A book may hold a title twice. So a topic that still has both the number and the title is preferred.
 int TopicHistory::Find(const Book& book, const Place& place)
 {
     if (IsListed(book, place.number) && HasTitle(book, place.number, place.title)) {

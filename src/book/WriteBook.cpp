@@ -31,14 +31,15 @@ namespace {
 
 constexpr std::size_t BufferSize = 256 * 1024;
 
-// The header line of a topic that is written from memory. "[EOF]" would end the book, and "[]" would become
-// a line of the topic before it. A blank after such a title makes the line a header.
+// The header line of a topic that is written from memory. "[EOF]" would end the book, and "[]" would count as
+// text of the topic before it. With a blank added, both are headers.
 std::string HeaderOf(const std::string& name)
 {
     return name == BookEnd || name == "[]" ? name + ' ' : name;
 }
 
-// The ends of all topics of the file. They are sorted once, since a search for each topic is quadratic.
+// The ends of all topics of the file. They are sorted once: a search for each topic would take quadratic
+// time.
 class TopicEnds
 {
 public:
@@ -143,7 +144,7 @@ private:
         }
     }
 
-    // A line may be larger than the memory.
+    // Copies piece by piece, because a line may be larger than the memory.
     void CopyLine()
     {
         std::string_view piece;
@@ -203,8 +204,8 @@ private:
         Put(LineEnd);
     }
 
-    // A full buffer goes to the file and the progress is reported. An edited text may be larger than the
-    // buffer.
+    // Adds bytes to the buffer; an edited text may be larger than it. A full buffer is written to the file,
+    // and the progress is reported.
     void Put(std::string_view bytes)
     {
         const bool large = bytes.size() > 2 * BufferSize;

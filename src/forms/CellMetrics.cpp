@@ -32,8 +32,8 @@ std::array<char16_t, 256> MakeCellCharacters()
     return characters;
 }
 
-// Names "Courier New" alone: where only its look-alike is installed, the system resolves the name only as the
-// first family. If that gives no fixed pitch, the look-alike is named itself.
+// Asks for "Courier New" alone. Where it is missing, the system substitutes a look-alike, but only for the
+// first family of a list. If the result has no fixed pitch, asks for the look-alike by its own name.
 QFont FixedPitchFont(int pixelSize)
 {
     QFont font(QStringLiteral("Courier New"));

@@ -9,9 +9,9 @@ namespace ls {
 
 /// The messages of the desktop program: modal boxes over the open form.
 ///
-/// Texts are plain ("<B>" is no markup here). Of a text of more than 2,000 bytes only the beginning and the
-/// end are shown. Escape and the close button give the safe answer. A fault may end the program while a box
-/// is open, so callers test for that afterwards.
+/// Texts are plain ("<B>" is no markup here). A text of more than 2,000 bytes is shown without its middle.
+/// Escape and the close button give the safe answer. A fault may end the program while a box is open, so
+/// callers test for that afterwards.
 class FormMessages : public Messages
 {
 public:

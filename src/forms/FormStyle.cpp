@@ -11,8 +11,8 @@ namespace {
 
 constexpr int HalfWay = 128; // between black and white
 
-// The plain style draws the edge of an empty check box darker than the window, so it is invisible on a dark
-// one. This style draws a visible edge.
+// The plain style draws the edge of an empty check box darker than the window. On a dark window that edge is
+// invisible, so this style draws a visible one.
 class FormStyle : public QProxyStyle
 {
 public:

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace ls {
 
-/// The height, in pixels, that a row of controls needs: for each control at least its designed height and the
-/// height that its font needs.
+/// The height, in pixels, that a row of controls needs. No control gets lower than designed, or lower than
+/// its font needs.
 [[nodiscard]] int NeededHeight(std::initializer_list<QWidget*> controls);
 
 /// The width of one control by the same rule.
