@@ -34,7 +34,7 @@ bool StoreParameter(CommandLine& commandLine, const std::string& name, const std
     return true;
 }
 
-// The path between the first quote and the second.
+// The text between the first quote and the second; the whole path if it has no quote.
 std::string BetweenQuotes(std::string_view path)
 {
     const std::size_t open = path.find('"');
@@ -77,7 +77,7 @@ std::size_t NextParameter(std::string_view text, std::size_t from)
     return None;
 }
 
-// Splits one string with everything in it into the path and the parameters.
+// Splits a command line given as one string into the path and the parameters.
 std::vector<std::string> CutOneString(std::string_view line)
 {
     std::vector<std::string> pieces;

@@ -64,10 +64,10 @@ private:
     Navigation& m_navigation;
 };
 
-/// The name that the recent files get for the open book: `BookPath`, unchanged.
+/// The name of the open book in the recent files. Usually it is `BookPath`, unchanged.
 ///
-/// If the settings file has a folder of its own, the program may run from any current folder, where a
-/// relative name would not be found. The name is then the full path of the opened file.
+/// If the settings file has a folder of its own, the program may next start in another current folder, where
+/// a relative name would not be found. A relative name then becomes the full path of the opened file.
 [[nodiscard]] std::string RecentFileName(const Book& book, const Settings& settings, const Seams& seams);
 
 } // namespace ls

@@ -15,7 +15,7 @@ namespace {
 constexpr int Margin = 8;
 constexpr int ButtonGap = 4; // between the buttons beside the list
 
-// A picture does not grow with the font.
+// A button with a picture keeps its width, because the picture does not grow with the font.
 void WidenToCaption(QPushButton& button, int height)
 {
     const int needed = button.text().isEmpty() ? 0 : button.sizeHint().width();

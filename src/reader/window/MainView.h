@@ -19,8 +19,8 @@ enum class DefaultButton
     Done
 };
 
-/// The main window, as the code that decides what it shows sees it. Its calls cause no events: the list's
-/// change event is only for choices of the user.
+/// What the commands of the main window need from it. Its calls cause no events: the list's change event is
+/// only for choices of the user.
 class MainView
 {
 public:
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] virtual int LineWidthChars() const = 0;
 
     /// Shows a topic's lines from the first one on, and shows or hides `XRButton` and `AdvisorButton` as
-    /// `shown` asks. It may swap the lines for old ones, whose memory the next topic reuses.
+    /// `shown` asks. May put old lines into `shown` in exchange, so that the next topic reuses their memory.
     virtual void ShowLines(ShownTopic& shown) = 0;
 
     /// Empties the pane, hides and resets the scroll bar, hides `XRButton` and `AdvisorButton`.

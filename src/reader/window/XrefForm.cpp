@@ -17,8 +17,8 @@ namespace ls {
 
 namespace {
 
-// Fills a list; hides it, with its label and button, if it has no entries. An item created inside its list is
-// searched for there, which is slow for thousands, so each one is added after it is made.
+// Fills a list; hides it, with its label and button, if it has no entries. Each item is complete before it is
+// added: the list searches for an item that changes inside it, which is slow for thousands.
 void Fill(QListWidget& list, QWidget& label, QWidget& button, const std::vector<XrefEntry>& entries)
 {
     for (const XrefEntry& entry : entries) {

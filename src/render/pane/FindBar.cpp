@@ -70,7 +70,7 @@ void FindBar::SetShown(bool shown)
     }
 }
 
-// A longer text is searched for from the match of the shorter one.
+// Searches from the start of the current match, so that typing on keeps a match that still fits.
 void FindBar::FindBox_Change()
 {
     Recount();
@@ -97,7 +97,7 @@ void FindBar::Recount()
     m_matches = FindAll(m_pane->Topic().Text(), sought.value_or(std::string()));
 }
 
-// If nothing is found, the match of a shorter text is deselected.
+// Selects the match. Without one, clears the selection.
 void FindBar::ShowMatch(std::optional<std::size_t> match)
 {
     const std::size_t from = m_pane->Selection().Range().begin;

@@ -20,8 +20,9 @@ struct CaretKey
     bool extend = false;
 };
 
-/// The caret's move for a key: Left and Right, by words with Control. With Shift, every key extends the
-/// selection. Home and End go to the ends of the row with Shift, to those of the topic with Control.
+/// The caret's move for a key, after `ScrollActionOf` has taken the keys that scroll. With Shift the move
+/// extends the selection. Left and Right go by characters, with Control by words. Home and End go to the ends
+/// of the row, with Control to those of the topic.
 [[nodiscard]] std::optional<CaretKey> CaretKeyOf(int key, Qt::KeyboardModifiers modifiers);
 
 } // namespace ls

@@ -14,10 +14,10 @@ class TopicText;
 /// The reader's place at an offset in the text.
 [[nodiscard]] std::size_t ReadingPlace(const TopicText& topic, std::size_t offset);
 
-/// The offset of the first unread character that is not blank; the end of the text if there is none.
+/// The offset of the first character after the place that is not blank; the end of the text if there is none.
 [[nodiscard]] std::size_t OffsetOfPlace(const TopicText& topic, std::size_t place);
 
-/// The offset after the last read character that is not blank.
+/// The offset just after the last character before the place that is not blank.
 [[nodiscard]] std::size_t OffsetBehindPlace(const TopicText& topic, std::size_t place);
 
 /// The display line, from 1, in which the reader goes on.
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] TextSelection In(const TopicText& topic) const;
 
 private:
-    std::size_t m_begin = 0; // places of a reader
+    std::size_t m_begin = 0; // both are places as above
     std::size_t m_end = 0;
     bool m_empty = true;
     bool m_behind = false; // a caret before a blank or a row's end stays after the character before it

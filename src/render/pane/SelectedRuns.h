@@ -24,7 +24,7 @@ struct CellPlace
 /// place above the first row gives the first row, a place below the last row gives the last row.
 [[nodiscard]] std::size_t OffsetAt(std::span<const Run> runs, const TopicText& topic, CellPlace place);
 
-/// The place in the rows of a place in the text; nothing if its line was not drawn.
+/// Where an offset of the text is in the rows; nothing if its line was not drawn.
 [[nodiscard]] std::optional<CellPlace> PlaceOf(std::span<const Run> runs, const TopicText& topic,
                                                std::size_t offset);
 

@@ -25,7 +25,7 @@ constexpr Colour Purple{127, 0, 127};
 constexpr int EliteCharsPerInch = 12;
 constexpr double PicaPoints = 12;
 constexpr double ElitePoints = 10;
-constexpr std::size_t LongLine = 50; // only continuation lines of longer lines hang
+constexpr std::size_t LongLine = 50; // a line up to this length has no hanging indent
 constexpr int TitleLines = 2;        // the title and the empty line below it
 
 void PrintMargin(TextSurface& surface, const PrintSettings& settings)

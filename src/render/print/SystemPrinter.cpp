@@ -300,7 +300,7 @@ FileError SystemPrinter::StoreFile()
     if (!bytes.last(std::min(bytes.size(), EndLength)).contains(EndOfPdf)) {
         return MakeFileError(error::DiskFull);
     }
-    // If the user was not asked about an old file, one that has appeared since then stays.
+    // A file that appeared after the print dialog is not replaced, because the user was not asked about it.
     const auto open = m_replace ? OpenToReplace : OpenToCreate;
     std::unique_ptr<OutputFile> file;
     if (const FileError error = open(m_files, m_path, file); !error.Ok()) {

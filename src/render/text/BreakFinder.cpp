@@ -4,12 +4,13 @@
 
 // How the end of a row with markup is found:
 //
-// 1. A walk counts the columns of a row until there is one too many.
+// 1. A walk counts the columns of a row until there is one too many. It notes the last blank outside tags and
+//    entities. The row ends at that blank; without one the caller breaks inside a word.
 // 2. Plain characters are taken in runs. A run ends at the next "<" or "&", at the next mark or at the width.
 // 3. Hidden characters, in a tag or an entity, are taken one by one, because each may end the tag or entity.
-// 4. Every 256 characters a walk leaves a mark with its state and its column.
-// 5. A later walk that meets a mark in the same state leaps to the last mark within its width. So a megabyte
-//    of tags is not walked again for each row that ends inside it.
+// 4. Every 256 characters a walk leaves a mark: its place, its column, and whether it is in a tag or entity.
+// 5. The walk for the next row may pass the same text. If it meets a mark in the same state, it leaps to the
+//    last mark within its width. So a megabyte of tags is not walked again for each row that ends inside it.
 //
 // WrapSegment.wrap_randomLines_asTheRuleWrittenStepByStep and
 // Kinds/HiddenText.wrap_randomLines_asTheRuleWrittenStepByStep compare the result with the plain rule.
@@ -129,7 +130,8 @@ void BreakFinder::MeetMark()
         if (marks[met].inTag == m_now.inTag && marks[met].inEntity == m_now.inEntity) {
             LeapFrom(met);
         } else if (m_next == marks.size()) {
-            // This walk has passed all marks and differs from their walk. Its own marks will help more.
+            // At the last mark the state of this walk differs from that of the mark. From here on its own
+            // marks help later walks more.
             m_memory->marks.clear();
             m_memory->first = 0;
             m_next = 0;

@@ -8,9 +8,9 @@ namespace ls {
 
 /// The marks that one walk through a line leaves for the next one.
 ///
-/// Many segments may end inside the same hidden text, such as a megabyte of tags. Each of them would walk
-/// through it again. So a walk leaves marks. A later walk that reaches a mark in the same state takes the
-/// same way from there, at a fixed distance in columns, and can leap ahead.
+/// Many segments may end inside the same hidden text, such as a megabyte of tags. Without marks each of them
+/// would walk through it again. A later walk that reaches a mark in the same state would repeat the earlier
+/// walk from there, with all columns shifted by the same number. So it leaps ahead.
 struct BreakMarks
 {
     /// The state of a walk before the character at `at`, counted from 0.

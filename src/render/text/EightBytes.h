@@ -12,12 +12,12 @@ namespace ls {
 //
 // 1. Words are short, so the last blank is nearly always among the last eight characters of a row.
 // 2. These eight are read as one number, the first character lowest.
-// 3. A few operations on that number set the top bit of each byte that is a blank, and no other bit.
+// 3. A few operations give a number in which only the top bit of each byte that is a blank is set.
 // 4. The number of zero bits above the highest set bit gives the characters after the last blank.
 // 5. A shorter row, or one without a blank there, is searched with `rfind`.
 //
-// A loop ends at a different character in each row, which the processor cannot predict. With a loop, plain
-// text is wrapped 5.4 times as fast as fold does it; without, 7.1 times.
+// A loop ends at a different character in each row, which the processor cannot predict. Plain text is wrapped
+// 5.4 times as fast as the tool `fold` wraps it with such a loop, 7.1 times as fast without it.
 //
 // The test EightBytes.findLastBlank_randomRows_asAPlainSearch compares the result with `rfind`.
 

@@ -162,7 +162,7 @@ void PrepareEdited(const Book& book, const Seams& seams, int number, const std::
     TextBody body(text);
     Preparation preparation(false, width, shown);
     preparation.Take(body);
-    // The advisor reads the saved block. It is in the file until the book is saved.
+    // The advisor reads the block that is in the file, not the edited one.
     shown.logicPos = FindLogic(book, number);
     shown.advisorButton = shown.logicPos != 0;
     ReportCut(seams, preparation, shown.name, {});

@@ -17,7 +17,7 @@ struct ShownTopic
     std::string name; ///< "[Title]"; empty for a plain text file
     DisplayLines lines;
     bool xrefButton = false;    ///< it refers to a topic, or a topic refers to it
-    bool advisorButton = false; ///< it has a logic block
+    bool advisorButton = false; ///< it has a logic block in the file
     FilePos logicPos = 0;       ///< after the block's "<IXML>" line; 0 for none
 };
 
@@ -33,8 +33,8 @@ enum class ShowResult
 ///
 /// `topicName` is the title with or without brackets. On return it has brackets, or is empty if the topic was
 /// not found. `topicIndex` is the topic's number, or 0 to look it up. After 32,767 display lines the topic is
-/// cut and the "Overflow" box is shown. After a read error a message is shown, and the topic as far as it was
-/// read.
+/// cut and the "Overflow" box is shown. After a read error a message is shown, and the lines read before it
+/// are prepared.
 ShowResult ShowTopic(const Book& book, const Seams& seams, std::string& topicName, Count16& topicIndex,
                      int lineWidthChars, ShownTopic& shown);
 

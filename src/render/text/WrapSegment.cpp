@@ -84,9 +84,9 @@ bool LineRemainder::MarkupBefore(std::size_t end)
     return std::min(m_tag, m_entity) < end;
 }
 
-// Takes a row without markup. It breaks at the last blank among its characters and the next one. Takes
-// nothing and returns false in the cases that need a walk: markup, spaces of a TAB, the end of the text that
-// was read, and a row whose only blank comes first.
+// Takes a row without markup. The row breaks at its last blank; the character just after a full row counts
+// too. Takes nothing and returns false in the cases that need a walk: markup, spaces of a TAB, the end of the
+// text that was read, and a row whose only blank comes first.
 bool LineRemainder::TakePlainRow(std::size_t columns, std::size_t hang, std::string& segment)
 {
     const std::size_t end = m_at + columns - hang + 1;
