@@ -1,9 +1,9 @@
-# With ccache a second build of the same sources takes seconds. The base folder lets clones share one cache;
-# sizes and mtimes keep ccache's safe defaults.
+# With ccache a second build of the same sources takes seconds. The base folder lets clones share one cache.
+# The checks of sizes and times keep ccache's safe defaults.
 #
-# Compiled headers are cached too; their contents are part of every key. For that, ccache demands that two of its
-# checks are off. One is for macros that a source defines after such a header: no source changes one that a header
-# of LS_PRECOMPILE mentions. The other is for __TIME__, which nothing here uses.
+# Compiled headers are cached too; their contents are part of every key. For them ccache requires that two of its
+# checks are off. The first one guards against sources that define a macro which a compiled header mentions; no
+# source here does so. The second one guards against __TIME__, which nothing here uses.
 find_program(LS_CCACHE ccache)
 if(LS_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER

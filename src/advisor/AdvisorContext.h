@@ -8,8 +8,8 @@ namespace ls {
 struct AdvisorTables;
 struct Book;
 
-/// What the parts of the advisor that read the book work on. A dialogue has one cursor, and the next text is
-/// searched from where the last read left it. The referents must outlive the context.
+/// The data shared by the parts of the advisor that read the book. A dialogue has one cursor: each search for
+/// a text starts where the last read ended. All that the context refers to must outlive it.
 struct AdvisorContext
 {
     const Book& book;

@@ -204,8 +204,9 @@ void AdvisorDialog::DispQ(const std::string& text, const CollectedValues& values
 }
 
 // Intended: the advice of the default goal "AV" is a bare value without a variable, so the topic's name is
-// used as the variable. It is rarely registered. The user then sees a message that it cannot be found, and
-// the advice is searched from where the last read left the file. Books rely on this.
+// used as the variable. A variable of that name is rarely registered. If it is not, the user sees a message
+// that it cannot be found, and the advice is searched from where the last read left the file. Books rely on
+// this.
 void AdvisorDialog::DispA(const std::string& advice)
 {
     const std::size_t open = advice.find('(');

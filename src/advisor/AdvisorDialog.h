@@ -16,8 +16,8 @@ struct Question;
 
 /// A question-and-answer dialogue for the topic on show.
 ///
-/// It is made when the window opens, which clears the rule table, and lives as long as the window. After a
-/// fault of the rules has ended the program (`seams.end`) it shows nothing, and every event returns at once.
+/// It is made when the window opens and lives as long as the window. Its constructor clears the rule table.
+/// Once a fault of the rules has ended the program (`seams.end`), it shows nothing and ignores every event.
 class AdvisorDialog
 {
 public:
@@ -27,7 +27,7 @@ public:
     AdvisorDialog(const AdvisorDialog&) = delete;
     AdvisorDialog& operator=(const AdvisorDialog&) = delete;
 
-    /// Loads the topic's logic and shows the first question, or the advice, or why there is neither.
+    /// Loads the topic's logic and shows the first question, the advice, or the reason why there is neither.
     void Form_Load();
 
     /// Takes the selected choice, as book text. If the dialogue is over, closes the window.

@@ -62,8 +62,8 @@ struct AdvisorPlayer
     bool trace = false;
 };
 
-/// Makes the topic with that title (UTF-8) the one on show, as Go in the main window does. False if it has no
-/// logic block, or after a message.
+/// Shows the topic with that title (UTF-8), as Go in the main window does. False if it has no logic block, or
+/// after a message.
 [[nodiscard]] bool ShowForAdvisor(Book& book, const Seams& seams, const std::string& title);
 
 /// Runs a dialogue on the topic with that title (UTF-8), as Go and Advisor in the main window do. It runs
@@ -71,7 +71,7 @@ struct AdvisorPlayer
 /// events.
 ///
 /// Boxes go to the player instead of `seams.messages`. If a fault of the rules ends the program, the last
-/// event is `ProgramEnds`, and `seams.end` has ended.
+/// event is `ProgramEnds`, and `seams.end.Ended()` is true.
 void RunAdvisor(Book& book, AdvisorTables& tables, const Seams& seams, AdvisorPlayer& player, int run,
                 const std::string& title);
 

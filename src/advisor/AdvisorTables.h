@@ -33,8 +33,8 @@ struct Answer
     bool Derived = false; ///< concluded by a rule; otherwise given by the user
 };
 
-/// What a derived variable offers besides its values. It has lower case letters, so no rule's value equals
-/// it.
+/// The choice that a derived variable offers besides its values. Values in rules are in upper case, so none
+/// of them equals it.
 inline constexpr char UnsureText[] = "? - unsure";
 
 /// The advisor's state: rules, goals, and the topics of questions. Each dialogue builds everything but the
@@ -61,12 +61,12 @@ struct AdvisorTables
 
     Array1<Answer> Answers;
     Count16 AnswerCount;
-    std::uint32_t AnswersOrder = 0; ///< the book's `TopicOrder` for which the answers' topic numbers hold
+    std::uint32_t AnswersOrder = 0; ///< the book's `TopicOrder` when the answers' topics were numbered
 
     FilePos DefinitionsPos = 0; ///< after the "<DEFINITIONS>" line of the topic loaded first
     Count16 FirstTopic;         ///< the topic for which the advisor was opened
 
-    std::string CurrentVar;  ///< its question is on show
+    std::string CurrentVar;  ///< the variable whose question is on show
     Count16 CurrentVarTopic; ///< the topic with that question
     std::string UnsureAnswer;
 };

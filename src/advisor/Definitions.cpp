@@ -50,7 +50,7 @@ public:
             m_text += "???";
             return true;
         }
-        // An empty line adds a line end, unless it comes before the text or is the last one.
+        // A line end precedes each line but the first one with text. An empty last line adds nothing.
         piece = Trim(piece);
         if (!m_text.empty() && !(last && piece.empty())) {
             m_text += LineEnd;

@@ -19,16 +19,17 @@
 // How the search visits all dialogues of a topic:
 //
 // 1. It runs the real dialogue, with a view and message boxes that only record what is shown.
-// 2. A question with the tables of that moment is a state. States wait in a queue, so the first way found to
-//    an end has the fewest answers.
-// 3. For each choice of a state the tables are restored and the choice is answered, which leads to a state or
-//    to an end.
-// 4. A key of each state has all that can still matter: rules, goals, the question, and the answers while a
-//    topic is still to be loaded. A state with a known key is not visited again.
+// 2. A state is a question on show, with the advisor's tables at that moment. States wait in a queue, first
+//    in, first out. So the first way found to an end has the fewest answers.
+// 3. For each choice of a state, the search restores the tables and answers with that choice. The result is
+//    another state or an end.
+// 4. Each state has a key, a hash of all that can still matter: the rules, the goals, the question, and, if a
+//    topic is still to be loaded, the answers. A state with a known key is not visited again.
 // 5. Limits on the number of states, on the texts held and on the texts processed stop a search that would
 //    take too long.
 //
-// ExploreAdvisor.everyWay_isTheOneThatReadersGo compares it with dialogues that are played one by one.
+// The test ExploreAdvisor.everyWay_isTheOneThatReadersGo compares the search with dialogues that are played
+// one by one.
 
 namespace ls {
 
@@ -84,7 +85,7 @@ std::size_t RuleBytes(const AdvisorTables& tables)
     return bytes;
 }
 
-// Two hashes. For a few thousand states it is practically impossible that both agree by chance.
+// Two hashes of a state. Among a few thousand states, two different ones practically never agree in both.
 class StateKey
 {
 public:
@@ -258,7 +259,7 @@ private:
         }
     }
 
-    // The same advice may have its text or none, depending on the answers before it.
+    // An advice may be shown with or without its text, depending on the answers before it.
     void AddAdvice(DialogueEnd end)
     {
         if (m_known.emplace(end.kind, end.name + '\n' + end.text).second) {

@@ -62,8 +62,8 @@ struct DialogueMap
 };
 
 /// Searches all dialogues on the current topic of the book (`CurrentTopicNo`, `CurrentTopicName`,
-/// `LogicPos`), breadth first, by the same rules as a dialogue with a user. States with the same questions
-/// left are visited once. It shows no box, and no fault ends the program.
+/// `LogicPos`), breadth first, by the same rules as a dialogue with a user. States that can only go on in the
+/// same way are visited once. It shows no box, and no fault ends the program.
 [[nodiscard]] DialogueMap SearchDialogues(const Book& book, const Seams& seams, const SearchLimits& limits,
                                           Progress* progress);
 

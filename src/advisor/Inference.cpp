@@ -17,14 +17,15 @@
 // 1. The rules are texts, and an answer rewrites them: a met condition is cut out, and a contradicted rule is
 //    dropped.
 // 2. A rule fires when nothing is left after its "=".
-// 3. One pass over the rules finds the highest goal with a fired rule, and its value is asserted like an
-//    answer.
-// 4. The variable that occurs most often in the conditions of the rules for the current goal is asked next.
-// 5. An index knows the places of the variables in each rule, so only rules of an odd form are searched as
-//    text.
+// 3. Goals are a stack: the dialogue's own goal is at the bottom, the current one on top. One pass over the
+//    rules finds the topmost goal with a fired rule, and the rule's value is asserted like an answer.
+// 4. The next question is about the variable that occurs most often in the conditions of the rules for the
+//    current goal.
+// 5. An index holds the places of the variables in each rule, so the text is searched only in rules of an odd
+//    form.
 //
-// InferenceModel.randomRules_giveWhatThePlainReadingGives compares it with the plain rule, and
-// DialogueModel.randomBooks_playAsThePlainReadingDoes does so for whole dialogues.
+// The test InferenceModel.randomRules_giveWhatThePlainReadingGives compares it with a slow and simple
+// version. DialogueModel.randomBooks_playAsThePlainReadingDoes does so for whole dialogues.
 
 namespace ls {
 
@@ -143,10 +144,10 @@ void Inference::ReportMalformed(const std::string& rule)
                             Icon::Exclamation);
 }
 
-// The highest goal with a fired rule, and the value of the first such rule.
+// The topmost goal with a fired rule, and the value of the first such rule.
 //
-// Same result as scanning all rules once per goal, in one pass. A malformed rule stops a scan that has not
-// found its rule before it, so only fired rules before the first malformed one are noted.
+// Same result as scanning all rules once per goal, in one pass. A scan that meets a malformed rule before a
+// fired one ends the search, so only fired rules before the first malformed rule count.
 std::optional<Inference::Conclusion> Inference::FirstConclusion(int highestTarget)
 {
     std::unordered_map<std::string_view, std::string_view> fired;
@@ -205,12 +206,12 @@ std::string Inference::AssertFact(const std::string& var, Count16 topic, const s
             return {};
         }
         if (found->target == 1) {
-            // The dialogue's own goal. Answers may settle it while sub-goals are pending. The advice counts
-            // all the same; otherwise the user would read that there is no question to ask.
+            // The dialogue's own goal. Answers may settle it while sub-goals are open. Its advice counts even
+            // then; otherwise the user would read that no question can be found.
             return found->var == AdviceGoal ? found->value : Fact(found->var, found->value);
         }
         ReduceRules(found->var, found->value);
-        // The top of the stack is removed, even if the fired goal is deeper.
+        // The top of the stack is removed, even if the goal with the fired rule is below it.
         m_tables.TargetCount = m_tables.TargetCount - 1;
         t = found->target - 1;
     }

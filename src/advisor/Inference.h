@@ -44,7 +44,7 @@ public:
     void ReduceRules(std::string_view var, std::string_view value);
 
     /// Applies a fact and draws all conclusions, from the current goal down to the dialogue's own goal.
-    /// Returns the advice if that one has fired.
+    /// Returns the advice if a rule for the dialogue's own goal has fired, else an empty text.
     std::string AssertFact(const std::string& var, Count16 topic, const std::string& value);
 
     /// Stores the user's answer and asserts it. `UnsureAnswer` makes the variable a goal instead.

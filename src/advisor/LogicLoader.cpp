@@ -298,7 +298,7 @@ bool Loader::ReplayAnswers(std::string& firstAdvice)
     for (const VarTopic& entry : Counted(m_tables.VarTopics, m_tables.VarTopicCount)) {
         registered.emplace(entry.Name, entry.Topic);
     }
-    // Only the earlier answers are asserted: conclusions that this appends are asserted already.
+    // Conclusions that the loop appends to the answers are asserted already, so it stops before them.
     const int earlier = m_tables.AnswerCount;
     for (int i = 1; i <= earlier; ++i) {
         const Answer answer = m_tables.Answers(i);

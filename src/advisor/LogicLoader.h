@@ -14,7 +14,7 @@ class Inference;
 /// long ASSUME before thousands of rules would fill the memory.
 inline constexpr std::size_t MaxRuleBytes = 256 * 1024 * 1024;
 
-/// Reads a logic block into the tables, from the cursor on, which is at or before the "<LOGIC>" line.
+/// Reads a logic block into the tables. The cursor must be at or before its "<LOGIC>" line.
 ///
 /// `additionalTopic` is false for the topic on which the advisor was opened. The tables other than rules and
 /// answers then start empty, and the user is asked whether earlier answers count.

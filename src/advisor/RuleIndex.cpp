@@ -13,10 +13,11 @@
 //    rules.
 // 4. When a condition is cut out of a rule's text, the later terms move by its length and nothing is read
 //    again.
-// 5. A rule of another form, such as one with nested brackets, is odd: it has no terms, and the engine
-//    searches its text.
+// 5. A rule that is not of the usual form `VAR(VALUE)=A(X)B(Y)` is odd, for example one with nested brackets.
+//    It has no terms, and the engine searches its text.
 //
-// InferenceModel.answerAfterAnswer_givesWhatThePlainReadingGives compares it with a search in the texts.
+// The test InferenceModel.answerAfterAnswer_givesWhatThePlainReadingGives compares the index with a search in
+// the texts.
 
 namespace ls {
 

@@ -16,8 +16,8 @@ namespace ls {
 /// `VAR(VALUE)=A(X)B(Y)` with no other bracket or "=", perhaps with a text after the last ")". All other
 /// rules, such as those with nested brackets, are odd: the engine works on their texts alone.
 ///
-/// Rules have their numbers in the rule table. Code that changes that table in any way but appending must
-/// call the index.
+/// The index numbers rules as the rule table does. Code that changes that table, except by appending, must
+/// call the matching function of the index.
 class RuleIndex
 {
 public:
@@ -47,7 +47,7 @@ public:
         std::size_t m_count;
     };
 
-    /// The names that end in a variable's name, so that a search for "VAR(" would find them.
+    /// The names that a search for "VAR(" in the text would find: all that end in "VAR".
     class Matches
     {
     public:
@@ -74,7 +74,7 @@ public:
     /// Forgets everything; for another rule base.
     void Clear();
 
-    /// Whether the text contains a bracket or a "=". Such a variable or value may be found across terms, so
+    /// Whether the text contains a bracket or a "=". Such a variable or value can match across two terms, so
     /// the rule's text must be searched.
     [[nodiscard]] static bool HasMark(std::string_view text);
 
@@ -93,7 +93,7 @@ public:
         return !matches.m_anywhere && !At(rule).odd;
     }
 
-    /// Whether the rule has not the usual form, so that it has no terms.
+    /// Whether the rule lacks the usual form and so has no terms.
     [[nodiscard]] bool Odd(int rule) const { return At(rule).odd; }
 
     /// The terms of a rule that is not odd.
@@ -113,7 +113,7 @@ public:
     /// Call after a term with its whole name was cut out of the rule's text.
     void Cut(int rule, const Term& term);
 
-    /// Call after a rule has moved to an earlier place, whose old rule is gone.
+    /// Call after a rule has moved to an earlier place and replaced the rule there.
     void Move(int rule, int place) { m_rows(place) = At(rule); }
 
     /// Call after the rule table was cut to that many rules.

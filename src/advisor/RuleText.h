@@ -24,8 +24,9 @@ struct LeftHandSide
 
 /// Applies the fact `VAR(VALUE)` to a rule.
 ///
-/// A condition on that variable is removed if the rule contains the fact. Otherwise it contradicts the fact
-/// and the rule becomes empty. A rule that concludes the variable is no longer needed and becomes empty too.
+/// The first condition on that variable is removed if the rule contains the fact. Otherwise the rule
+/// contradicts the fact and becomes empty. A rule that concludes the variable is no longer needed and becomes
+/// empty too.
 ///
 /// Intended: `head` is "VAR(" and is searched as plain text, so "AGE(" is also found in "PAGE(X)". A book
 /// must not use a variable whose name is the end of another one's.

@@ -41,7 +41,7 @@ bool ValueList::FromTheEnd::operator()(std::size_t a, std::string_view b) const
     return LessFromTheEnd(Tail(Before(*text, a)), b);
 }
 
-// The text holds "value," if the text before some comma ends with the value.
+// Whether the text contains the value with its comma, so that the text before some comma ends with the value.
 bool ValueList::Holds(std::string_view value) const
 {
     const std::string_view tail = Tail(value);

@@ -11,7 +11,7 @@ namespace ls {
 
 /// The values of a variable in one text, each followed by ",": "YES,NO,".
 ///
-/// A value is left out if the text contains it with its comma anywhere, so also as the end of another value:
+/// A value is left out if the text already contains it with its comma, even as the end of another value:
 /// after "BA" no "A" is added. With thousands of rules it would be slow to search the whole text for each
 /// one, so an index gives the same answer.
 class ValueList

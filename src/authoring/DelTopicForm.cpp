@@ -24,8 +24,8 @@ DelTopicForm::DelTopicForm(QWidget* parent, Book& book, TopicFlags& flags, bool 
 
 DelTopicForm::~DelTopicForm() = default;
 
-// Selects the current topic, the most likely one to be removed. An item created inside its list is searched
-// for there, which is slow for thousands, so each one is added after it is made.
+// Selects the current topic, the most likely one to be removed. Each item is made first and then added: for
+// an item that is made with its list, the toolkit searches the whole list, which is slow for thousands.
 void DelTopicForm::Form_Load(bool alphabetic)
 {
     QListWidget& list = *m_ui->TopicListBox;

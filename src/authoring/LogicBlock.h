@@ -38,7 +38,8 @@ struct BareEntry
     friend bool operator==(const BareEntry&, const BareEntry&) = default;
 };
 
-/// A part of a block that its tables cannot hold, or that would mean something else when written from them.
+/// A part of a block that `LogicBlock` cannot hold, or that would change its meaning when the block is
+/// written again.
 struct LostPart
 {
     int line = 0;     ///< in the block; 1 is its "<IXML>" line

@@ -176,8 +176,8 @@ void Reader::ReadDefinitions()
     }
 }
 
-// The advisor registers no questions after any line that contains "</DEFINITIONS>", but finds texts up to the
-// line that is only this tag.
+// The advisor registers no questions after the first line that contains "</DEFINITIONS>". It finds texts up
+// to the first line with nothing but this tag.
 void Reader::TakeLine()
 {
     const std::string_view trimmed = Trim(m_upper);
@@ -212,7 +212,8 @@ void Reader::TakeEntries()
 {
     int begun = m_lines.Number();
     while (!m_ended) {
-        const bool comment = TrimLeft(m_upper).starts_with('*'); // an entry's last line can begin so too
+        // The last line of an entry may begin with "*" too.
+        const bool comment = TrimLeft(m_upper).starts_with('*');
         const Opening opening = comment ? Opening() : FindOpening();
         const std::size_t end = std::min(opening.at, m_line.size());
         if (Trim(std::string_view(m_upper).substr(m_at, end - m_at)) != DefinitionsClosing) {

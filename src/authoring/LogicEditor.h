@@ -58,9 +58,9 @@ public:
 
     /// Done: true if the block was stored and the form is to close.
     ///
-    /// A warning names the first character that books cannot hold. One question names what the block had and
-    /// cannot keep, another one what was typed and would not be read back. After a warning or Cancel the
-    /// editor stays open.
+    /// A warning names the first character that books cannot hold. One question lists the parts of the old
+    /// block that would be dropped, another one the typed text that would be read back differently. After a
+    /// warning or Cancel the editor stays open.
     [[nodiscard]] bool SaveButton_Click();
 
     /// Whether anything differs from what was loaded; for `MayDropText` when the window closes without Done.

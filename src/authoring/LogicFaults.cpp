@@ -75,7 +75,7 @@ private:
                       std::string(consequence) + ".");
     }
 
-    // Finds lines that have a meaning when the book is scanned, whatever part of the block they are in.
+    // Finds lines that have a meaning for the scan of a book, in any part of the block.
     void CheckScan(std::string_view text)
     {
         if (!Contains(text, "[") && !Contains(text, "<")) {

@@ -17,8 +17,8 @@ namespace ls {
 
 namespace {
 
-// An item created inside its list is searched for there, which is slow for thousands, so each one is added
-// after it is made.
+// Each item is made first and then added: for an item that is made with its list, the toolkit searches the
+// whole list, which is slow for thousands.
 void Fill(QListWidget& list, const std::vector<TopicListItem>& topics)
 {
     for (const TopicListItem& topic : topics) {
@@ -28,7 +28,7 @@ void Fill(QListWidget& list, const std::vector<TopicListItem>& topics)
     }
 }
 
-// The numbers of the selected entries. To ask each entry whether it is selected, or for its row, would search
+// The numbers of the selected entries. Asking each entry whether it is selected, or for its row, would search
 // the list each time, which is slow for thousands.
 std::vector<int> SelectedTopics(const QListWidget& list)
 {

@@ -109,7 +109,7 @@ private:
     }
 
     // If questions come between two equal entries, the advisor shows one or the other, depending on the
-    // question asked last. After all questions it always shows the first.
+    // question asked last. If both come after all questions, it always shows the first.
     void TakeBare(LogicEntry& entry)
     {
         const auto [earlier, first] = m_bare.emplace(UpperCase(entry.identifier), entry.line);

@@ -49,7 +49,7 @@ bool HoldsNoteEnd(std::string_view part)
     return Contains(part, XrefClosing) || Contains(part, XrefOtherClosing);
 }
 
-// Where the note with the opening line at `opening` ends; nothing if only the end of the text ends it.
+// The end of the note whose opening line is at `opening`; nothing if it ends only because the text ends.
 std::optional<FilePos> EndOfNote(TextFile& file, FilePos opening)
 {
     LineCursor cursor(file);

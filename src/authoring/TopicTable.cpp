@@ -13,7 +13,7 @@ namespace {
 // A header line with this name would end the book.
 constexpr std::string_view EndName = "EOF";
 
-// A full table grows by ten elements when a topic is added.
+// A full table grows by the new topic and this number of spare elements.
 constexpr int AddGrowthStep = 9;
 
 bool IsTaken(const Book& book, const std::string& name)

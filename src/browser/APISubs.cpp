@@ -85,7 +85,7 @@ std::string RegGetString(const Seams& seams, Registry& registry, const std::stri
         return {};
     }
     std::unique_ptr<RegistryKey> key = registry.Open(Registry::Root::CurrentUser, keyPath);
-    // Installers leave keys of the user that hold no value. Then the machine's key is used.
+    // Some installers leave the user a key without the value. The machine's key is used then.
     if (!key || !HasValue(*key, valueName)) {
         std::unique_ptr<RegistryKey> machine = registry.Open(Registry::Root::LocalMachine, keyPath);
         key = machine ? std::move(machine) : std::move(key);

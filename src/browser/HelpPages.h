@@ -12,8 +12,8 @@ namespace ls {
 /// if the user cancels.
 using AskForProgram = std::function<std::string(const std::string& startPath)>;
 
-/// The path of a help page in the program's folder, even if its name has other case there. An empty
-/// `pageName` is the first page of the help.
+/// The path of a help page in the program's folder. The file's name may differ from `pageName` in letter
+/// case. An empty `pageName` is the first page of the help.
 [[nodiscard]] std::string HelpPagePath(const std::string& pageName, const Seams& seams);
 
 /// Whether that page exists.

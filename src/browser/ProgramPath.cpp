@@ -23,8 +23,8 @@ std::string ProgramOfCommand(std::string_view command)
     if (command.empty() || command.front() != '"') {
         return std::string(command.substr(0, command.find(' ')));
     }
-    // The search for the closing quote begins at the third character: of two quotes at the start, the second
-    // belongs to the path.
+    // The search for the closing quote begins at the third character. So if the command begins with two
+    // quotes, the second one belongs to the path.
     const std::size_t end = command.find('"', 2);
     return std::string(end == std::string_view::npos ? command.substr(1) : command.substr(1, end - 1));
 }

@@ -36,7 +36,7 @@ struct Expansion
 };
 
 /// Replaces every "%NAME%" by that environment variable, also those in inserted values. Stops after a
-/// thousand, as variables that name each other would never end.
+/// thousand, because variables that name each other would go on for ever.
 [[nodiscard]] Expansion ExpandVariables(Processes& processes, std::string& text);
 
 } // namespace ls

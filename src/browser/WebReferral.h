@@ -13,8 +13,8 @@ struct Book;
 ///
 /// If the site takes comments (`BookPost` is "yes"), a page is written to the default folder and shown in the
 /// browser; its form posts the names of the book and the topic to the site. Otherwise the user is asked, and
-/// the site itself is shown. A book without an address ends the program, as only books with an address offer
-/// this.
+/// the site itself is shown. A book without an address ends the program, because the command is offered only
+/// for books with one.
 void ShowWebReferral(const Book& book, const Seams& seams, Registry& registry, const std::string& topicName);
 
 /// The book's address in the page. An address that does not begin with "http://" or "https://" gets

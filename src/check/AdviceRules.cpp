@@ -99,7 +99,7 @@ public:
         m_targets.insert(base.Target());
     }
 
-    // Adds the identifiers of other topics that lead their own goal here by a DEFINE.
+    // Another topic can name this one in the DEFINE of its own goal. Adds the identifiers of such topics.
     void AddOthers()
     {
         BlockStore& store = m_base.Store();
@@ -143,7 +143,7 @@ private:
     std::unordered_set<std::string> m_targets;
 };
 
-// `VAR(CHOICE)` of a variable that is no goal: in this form the logic editor stores the choices.
+// Whether the identifier is `VAR(CHOICE)` of a variable that is no goal. The logic editor stores choices so.
 bool IsChoice(const std::string& id, const Reached& reached)
 {
     const std::size_t open = id.find('(');
@@ -216,7 +216,8 @@ void CheckAdviceReached(const RuleBase& base, Findings& findings)
     }
 }
 
-// The search for the default goal's advice starts at the last question that was read.
+// Without a TARGET, advice is searched only after the question that was asked last, so advice before a
+// question may not be found.
 void CheckAdvicePlace(const RuleBase& base, Findings& findings)
 {
     if (base.Target() != DefaultGoal) {

@@ -221,8 +221,8 @@ bool BookPass::TakeTag(std::string_view line, int number)
     return true;
 }
 
-// Finds the end of a block that has no beginning. It shows that this topic's title is really a line of the
-// block before it.
+// Looks for the rest of a block that began in the topic before. If it is here, this topic's title is really a
+// line of that block.
 bool BookPass::CheckCutBlock(std::string_view tag)
 {
     if (m_cutLine == 0) {

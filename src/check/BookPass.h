@@ -61,7 +61,7 @@ private:
     bool m_hidden = false;      ///< a cross reference hides the lines that follow
     bool m_toldHidden = false;  ///< hidden text of this topic was reported
     bool m_rulesAsText = false; ///< rules that are read as text were reported in this topic
-    int m_noteBracket = 0;      ///< the first line of a note that begins with "["
+    int m_noteBracket = 0;      ///< the first line beginning with "[" in a note
     int m_endLine = 0;          ///< the line of "[EOF]"
     bool m_toldBehindEnd = false;
     int m_cutLine = 0; ///< the line of this topic's title, if the block before it was not closed

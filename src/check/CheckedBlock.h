@@ -39,7 +39,8 @@ struct BlockRule
     std::string stray; ///< the text that is in excess, for `RuleFault::Stray`
 };
 
-/// Another line of the logic section, split as the loader splits it: the argument is untrimmed.
+/// A line of the logic section that is no rule. It is split as the loader splits it: the argument is
+/// untrimmed.
 struct BlockCommand
 {
     using Kind = LogicCommand::Kind;
@@ -83,7 +84,7 @@ struct CheckedBlock
     bool definitionsTag = false;   ///< that line begins with a tag, so it is no comment and no rule
     int definitionsEnd = 0;        ///< "</DEFINITIONS>" alone on its line
     int blockEnd = 0;              ///< "</IXML>"
-    int bracketLine = 0;           ///< the first line of the definitions that is blanks and then "["
+    int bracketLine = 0;           ///< the first line of the definitions that has "[" after blanks
     int textBehind = 0;            ///< the first text after "</IXML>"
     int targetInDefinitions = 0;   ///< a TARGET line among the entries
     std::vector<BlockRule> rules;

@@ -10,7 +10,7 @@ namespace ls {
 
 namespace {
 
-// A step from a variable to a variable that one of its rules needs, and that rule.
+// A step from a concluded variable to another one that its rule needs, and that rule.
 struct Step
 {
     std::string to;

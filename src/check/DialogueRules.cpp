@@ -96,7 +96,7 @@ FilePos LogicPosition(BookFile& file, FilePos topic)
 
 } // namespace
 
-// The book's file and, after its end and a gap, the blocks in memory.
+// Reads as one file: first the book's file, then, after a gap, the blocks in memory.
 class DialogueBook::Overlay : public BookFile
 {
 public:

@@ -50,7 +50,8 @@ bool CheckContradiction(const BlockRule& rule, const TermSet& conditions, Findin
     return true;
 }
 
-// Reports a condition that occurs twice. The answer removes only one; the other one is then taken as given.
+// Reports a condition that occurs twice. The answer removes only one of them; the program then takes the
+// other one as given.
 void CheckDoubledCondition(const BlockRule& rule, const TermSet& conditions, Findings& findings)
 {
     if (conditions.size() == rule.conditions.size()) {
@@ -68,8 +69,8 @@ void CheckDoubledCondition(const BlockRule& rule, const TermSet& conditions, Fin
     }
 }
 
-// The conditions of a rule as numbers. Comparing numbers is fast enough for tens of thousands of rules,
-// comparing texts is not.
+// The conditions of a rule as numbers. For tens of thousands of rules, only comparing numbers is fast enough,
+// not texts.
 struct Needs
 {
     std::vector<std::uint32_t> numbers; ///< ascending
@@ -97,7 +98,8 @@ public:
     }
 
 private:
-    // A rule is listed under its least condition. A set that includes all its conditions includes that one.
+    // A rule is listed under its first condition in order. Every set that includes all its conditions has
+    // that one too.
     struct Group
     {
         const BlockRule* withoutConditions = nullptr;

@@ -146,7 +146,7 @@ public:
             RunAdvisor(m_context.TheBook(), m_tables, seams, m_player, run,
                        m_plan.titles[std::min(number, m_plan.titles.size()) - 1]);
         }
-        return seams.end.Ended() ? Status::Done : m_status; // an ended program has its own status
+        return seams.end.Ended() ? Status::Done : m_status; // the end of the program has a status of its own
     }
 
 private:
@@ -333,7 +333,7 @@ Status Run(CommandContext& context)
     }
     Plan plan;
     if (const Status status = MakePlan(context, plan); status != Status::Done) {
-        // the verdict turns it into FileFault again
+        // `GiveUp` returns Fault, and `Verdict` turns that into FileFault again
         return status == Status::FileFault ? context.GiveUp() : status;
     }
     if (context.OpenTheBook() != Opening::Done) {

@@ -12,8 +12,8 @@ namespace ls {
 class JsonWriter;
 class ProgressLine;
 
-/// Boxes on the command line. Each goes to standard error as "icon: text" and is kept for JSON. A question
-/// gets the answer that an option set for it, else its safe answer.
+/// Boxes on the command line. Each is written to standard error as "icon: text" and is stored for the JSON
+/// output. A question gets the answer that an option set for it, else its safe answer.
 class CliMessages : public Messages
 {
 public:

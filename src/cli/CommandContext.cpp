@@ -133,7 +133,7 @@ Status CommandContext::GiveUp()
 Status CommandContext::OutOfMemory()
 {
     Fail(MakeFileError(error::OutOfMemory).description, Icon::Critical);
-    if (!m_jsonBegun) { // JSON that was begun cannot be repaired
+    if (!m_jsonBegun) { // half-written JSON cannot be repaired
         GiveUp();
     }
     return Status::FileFault;

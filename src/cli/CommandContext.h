@@ -47,14 +47,15 @@ public:
     /// Opens the book of the first operand, and scans it unless it is treated as plain text.
     [[nodiscard]] Opening OpenTheBook();
 
-    /// Opens one of several books; closes the one before.
+    /// Closes the book that is open, if any, and opens this one.
     [[nodiscard]] Opening OpenTheBook(const std::string& path);
 
     /// Whether the command line names a topic; reports wrong usage if not. Call it before opening the book.
     [[nodiscard]] bool NamesTopic();
 
     /// The topic of the second operand or of --number, as the core's operations take it: number 0 means that
-    /// the name is to be looked up. In a plain text file both stay empty. Not `Done` after a report.
+    /// the name is to be looked up. In a plain text file both stay empty. Any other status than `Done` means
+    /// that a problem was reported.
     [[nodiscard]] Status ChooseTopic(std::string& name, Count16& number);
 
     /// Reports a fault of the book or the command, as a box would.
@@ -69,8 +70,8 @@ public:
     /// Ends a command whose book, or a line of it, does not fit into memory.
     [[nodiscard]] Status OutOfMemory();
 
-    /// Writes an object with these members and the messages. Without messages their member is left out,
-    /// unless `alwaysMessages`.
+    /// Writes an object with these members and the messages. If there are no messages, their member is left
+    /// out, unless `alwaysMessages` is set.
     void WriteJson(const std::function<void(JsonWriter&)>& members, bool alwaysMessages = false);
 
     /// Writes a line for people; the text is UTF-8.

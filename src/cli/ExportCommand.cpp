@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view Output = "-o";
 constexpr std::string_view Force = "--force";
 
-// Keeps the written bytes and passes them on to a file, if there is one.
+// Holds the written bytes in memory, and also writes them to a file if there is one.
 class KeptOutput : public OutputFile
 {
 public:

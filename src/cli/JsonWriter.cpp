@@ -75,7 +75,8 @@ JsonWriter& JsonWriter::BookText(std::string_view bytes)
 {
     BeginElement();
     *m_stream << '"';
-    for (; bytes.size() > Piece; bytes.remove_prefix(Piece)) { // each byte is a character: none is split
+    // No character is split, because each is one byte.
+    for (; bytes.size() > Piece; bytes.remove_prefix(Piece)) {
         WriteCharacters(FromBook(bytes.substr(0, Piece)));
     }
     WriteCharacters(FromBook(bytes));

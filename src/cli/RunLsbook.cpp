@@ -69,7 +69,7 @@ Status RunCommand(const CommandSpec& command, const std::vector<std::string>& re
     CommandContext context(command, arguments, environment);
     try {
         return context.Verdict(command.run(context));
-    } catch (const std::bad_alloc&) { // such as a line of gigabytes
+    } catch (const std::bad_alloc&) { // for example for a line of several gigabytes
         return context.OutOfMemory();
     }
 }

@@ -6,7 +6,7 @@
 
 namespace ls {
 
-/// The system's files, with a memory for errors: an error decides the exit status even if the operation goes
+/// The system's files. It remembers the first error, which decides the exit status even if the operation goes
 /// on.
 class WatchedFiles : public FileSystem
 {

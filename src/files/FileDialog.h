@@ -18,7 +18,7 @@ struct FileDialog
     std::string ChosenFile;          ///< out: the name as typed or picked
     std::string ChosenFullPath;      ///< out: that name made absolute
     bool FileFormOK = false;         ///< out: accepted, not cancelled
-    bool OverwriteConfirmed = false; ///< out of the file selector: the user agreed to replace a file
+    bool OverwriteConfirmed = false; ///< out: in the file selector the user agreed to replace a file
     std::string BrowsedName;         ///< the name that Browse put into the box last
 };
 

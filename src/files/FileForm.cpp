@@ -90,8 +90,8 @@ void FileForm::Form_Load(const Settings& settings)
     m_ui->FilenameBox->lineEdit()->selectAll();
     m_ui->FilenameBox->setFocus();
     m_remote.Reset();
-    // Starting may fail: another program may use the name, or there is nothing to talk to. The form works
-    // without it.
+    // Starting may fail: another program may use the name, or the system may offer no such link. The form
+    // works without it.
     m_forms.ddeServer.Start([this](const std::string& command) { return Form_LinkExecute(command); });
 }
 
@@ -159,8 +159,8 @@ void FileForm::OKButton_Click()
     }
 }
 
-// Events go on while the selector reads its first folder and is not yet shown. This form must not act on
-// them.
+// Events still arrive while the selector reads its first folder and is not shown yet. This form must not act
+// on them.
 void FileForm::ShowSelector()
 {
     const QScopedValueRollback<bool> selecting(m_selecting, true);

@@ -61,7 +61,7 @@ FileFormView LoadFileForm(FileDialog& dialog, const Settings& settings, const Se
 bool AcceptFileName(FileDialog& dialog, const std::string& text, bool exclusive, bool& lockBook,
                     const Seams& seams)
 {
-    // Intended: the user may type "?". Only these two are wildcards here.
+    // Intended: the user may type "?". Only "*" and "%" are wildcards here.
     if (text.find_first_of("*%") != std::string::npos) {
         seams.messages.MsgBox("Sorry, you cannot include a wildcard symbol in the filename.",
                               Icon::Exclamation);

@@ -35,8 +35,8 @@ bool AcceptFileName(FileDialog& dialog, const std::string& text, bool exclusive,
 /// that folder, else as the whole path. A cancelled selector (an empty path) leaves `text` unchanged.
 void TakeBrowsedFile(FileDialog& dialog, std::string& text, const Seams& seams);
 
-/// The path by which a chosen book is opened: the name in the box. A name from Browse becomes the full path
-/// if `workDir` is set: a name with a separator would otherwise be searched for in the current folder.
+/// The path by which a chosen book is opened: the name in the box. For a name from Browse it is the full path
+/// if `workDir` is set, because a name with a separator would be searched for in the current folder.
 [[nodiscard]] std::string PathOfChosenBook(const FileDialog& dialog, const std::string& workDir);
 
 /// Makes a file name absolute with `folder`, or with the current folder if `folder` is empty. Empty and

@@ -37,7 +37,7 @@ public:
     /// `fileMode` "R" accepts existing files only; "W" asks before it accepts one.
     OpenFormRules(const Seams& seams, Volumes& volumes, std::string fileMode, std::string workDir);
 
-    /// Runs the function, which reads a folder that may be large or slow, and returns when it is done.
+    /// Runs the function and returns when it is done. The function reads a folder that may be large or slow.
     using RunWork = std::function<void(const std::function<void()>&)>;
 
     /// Reads folders through `run`, so that a form can stay responsive meanwhile.

@@ -51,7 +51,7 @@ bool MatchesPattern(std::string_view fileName, std::string_view wildcards)
     std::size_t p = 0;
     std::size_t star = std::string::npos; // the last "*" passed; `afterStar` is where its match begins
     std::size_t afterStar = 0;
-    // Each turn either moves on in the name, or lets the last "*" match one more character. So the loop ends.
+    // The loop ends, because each round moves on in the name or lets the last "*" match one more character.
     while (n < name.size()) {
         if (p < pattern.size() && pattern[p] == '*') {
             star = p++;

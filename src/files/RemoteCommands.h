@@ -11,8 +11,8 @@ class Messages;
 /// A string is stored at once and carried out a moment later by a timer, so that the sender's request has
 /// returned before a button opens a box. Only one may be pending; a second is refused.
 ///
-/// Intended: a string that is no PUSH command stays pending for good, and so does one that came while the
-/// form could not act. Further strings are refused until the form is loaded again.
+/// Intended: a string that is no PUSH command stays pending for good. So does one that arrived while the form
+/// could not act. Further strings are refused until the form is loaded again.
 class RemoteCommands
 {
 public:

@@ -10,8 +10,8 @@ namespace ls {
 
 namespace {
 
-// Faster work lets no event in between. This wait and what follows stay below a tenth of a second, after
-// which a program seems to hang.
+// No events are handled for this long. Together with what follows, the wait stays below a tenth of a second;
+// longer than that, a program seems to hang.
 constexpr unsigned long PatienceMilliseconds = 40;
 
 } // namespace

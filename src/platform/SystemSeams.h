@@ -26,8 +26,8 @@ namespace ls {
 /// The printing service of the running system.
 [[nodiscard]] std::unique_ptr<PrintService> MakePrintService();
 
-/// The user's folder for data that the program keeps between runs by itself: recovery journals. It may not
-/// exist yet; empty when the user has no home.
+/// The user's folder for the recovery journals, which the program stores between runs. It may not exist yet;
+/// empty when the user has no home.
 [[nodiscard]] std::string StateFolder(Processes& processes);
 
 /// How the running system writes paths.

@@ -21,8 +21,9 @@ struct Book;
 /// Returns what the user was typing; its topic numbers are those of the book now.
 RunningEdits ApplyJournal(const Journal& journal, Book& book);
 
-/// Whether the new book that `AsNewBook` makes would hold any of a journal's edits. It would not hold
-/// removals, moves, or the header of a file: a journal holds that header whether it was edited or not.
+/// Whether the new book of `AsNewBook` would hold any of a journal's edits. Removals and moves do not count.
+/// Nor do the header fields of a book with a file, because a journal has them whether they were edited or
+/// not.
 [[nodiscard]] bool HasNewBookEdits(const Journal& journal);
 
 /// Makes a new, never saved book of the edited topics, in their order. The book must be reset and have no
@@ -32,7 +33,7 @@ RunningEdits AsNewBook(const Journal& journal, Book& book);
 
 /// Puts what the user was typing into the book, as if it were accepted. A character that books cannot hold
 /// becomes its number ("U+2192"). A topic that is not in memory is loaded first; otherwise saving would lose
-/// its other half.
+/// the half (text or logic) that was not edited.
 ///
 /// Returns what the author should check before saving, as whole sentences in UTF-8: such characters, lines
 /// that would be read back differently, and choices that were not accepted but are applied now.

@@ -19,7 +19,8 @@ FileError WriteJournal(FileSystem& files, const std::string& path, std::string_v
 /// 7.
 inline constexpr FilePos MostJournalBytes = FilePos{1} << 30U;
 
-/// Reads the journal of that name. The error is that of the file; `reading` reports damage in its bytes.
+/// Reads the journal of that name. Returns an error of the file itself; damage in its bytes is reported in
+/// `reading`.
 FileError ReadJournal(FileSystem& files, const std::string& path, JournalReading& reading);
 
 /// Copies a journal's bytes to another name, damaged or not.

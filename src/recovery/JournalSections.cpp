@@ -16,12 +16,13 @@ constexpr char Mark = '@';
 constexpr char LineEnd = '\n';
 constexpr std::size_t ChecksumDigits = 8;
 
-// After a broken head, the bytes are searched for whole sections. Each head found may claim a section up to
-// the end of the file. A file full of such heads would delay a start by hours. So failed checksums may cover
-// at most this many times the file's size. Damage in fewer heads is always searched completely.
+// After broken bytes, the rest is searched for whole sections. A section's first line may claim any size up
+// to the end of the file, and the checksum reads all of that. A file full of such lines would delay the
+// program's start by hours. So the search gives up when failed checksums have read this many times the file's
+// size. With fewer false first lines than this, the file is always searched to its end.
 constexpr std::size_t MostSummed = 64;
 
-// The checksum covers the kind too, so that no section is taken for another kind.
+// The checksum includes the kind, so that no section is taken for one of another kind.
 std::string ChecksumText(std::string_view kind, std::string_view payload)
 {
     std::array<char, ChecksumDigits + 1> digits{};

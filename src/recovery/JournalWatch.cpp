@@ -53,8 +53,8 @@ void JournalWatch::Look(const Forms& forms, bool busy)
     }
 }
 
-// While a command runs and no form is open, edits that are gone may be about to be saved. So the journal is
-// not removed before the command ends.
+// While a command runs and no form is open, edits may be missing only until the command has stored or saved
+// them. So the journal is not removed before the command ends.
 void JournalWatch::LookAt(const Forms& forms, bool busy, State state)
 {
     const RunningEdits running = Collect(forms);
@@ -85,7 +85,7 @@ void JournalWatch::LastAct(const Forms& forms)
 }
 
 // A fault in the program may have destroyed the form already. Then only the journal holds what was typed
-// there, and it stays there unless it has been accepted since.
+// there. So the journal is not rewritten, unless that text was accepted since.
 void JournalWatch::WriteLast(const Forms& forms)
 {
     const State state = StateOf(forms);

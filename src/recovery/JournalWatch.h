@@ -18,9 +18,9 @@ class OwnJournal;
 /// Decides when the running program's journal is written.
 ///
 /// `Look` is called often. Without a new edit it costs next to nothing, however large the book is. It may be
-/// called while a box or a form of a command is open. The book is consistent whenever something was edited
-/// since the last look: each edit makes the tables consistent before it sets `BookChanged`, and an action
-/// that leaves them inconsistent for a while (opening another book) clears `BookChanged` first.
+/// called while a box or a form of a command is open. If something was edited since the last look, the book's
+/// tables are consistent: each edit completes them before it sets `BookChanged`. An action that leaves them
+/// inconsistent for a while, such as opening another book, clears `BookChanged` first.
 class JournalWatch
 {
 public:

@@ -52,8 +52,8 @@ bool IsTopicOf(const Book& book, int topic)
     return topic >= 1 && topic <= book.TopicCount;
 }
 
-// Loads the topic, as the editor's command does before it opens; otherwise a topic with one edited half would
-// be saved without the other half. False if it cannot be read from its file.
+// Loads the topic, as the editor's command does before it opens; otherwise a topic with an edited text would
+// be saved without its logic, and the reverse. False if it cannot be read from its file.
 bool BringIntoMemory(Book& book, const Seams& seams, const RunningText& running)
 {
     const TopicRec& rec = book.TopicRecs(running.topic);

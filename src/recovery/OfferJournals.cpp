@@ -60,8 +60,8 @@ std::string NotesText(const char* first, const std::vector<std::string>& notes)
     return text;
 }
 
-// The own journal continues the recovered one. A damaged journal that cannot be copied is the exception: its
-// unread part must not be overwritten.
+// From now on the program writes its own edits to the recovered journal's file. A damaged journal that cannot
+// be copied is left alone, because its unread part must not be overwritten.
 void Adopt(FoundJournal& found, OwnJournal& own, std::vector<std::string>& notes)
 {
     if (found.reading.state == JournalState::Damaged) {

@@ -29,8 +29,8 @@ using AskRecovery = std::function<RecoveryChoice(const std::string& question)>;
 ///
 /// True if a journal was recovered: `book`, which must be empty before, then holds its edits and should be
 /// shown. It is the book that the journal belongs to, open and scanned, or a new book if the journal fits
-/// none. What the user was typing is in it too, and a box lists what the author should check. `own` continues
-/// the journal; a damaged one is also copied. False leaves `book` unchanged.
+/// none. What the user was typing is in it too, and a box lists what the author should check. `own` takes
+/// over the journal; a damaged one is copied before. False leaves `book` unchanged.
 [[nodiscard]] bool OfferJournals(const std::string& folder, Book& book, const Seams& seams, OwnJournal& own,
                                  const AskRecovery& ask);
 

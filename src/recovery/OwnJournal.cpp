@@ -25,7 +25,7 @@ FileError OwnJournal::Update(const Book& book, const RunningEdits& running, std:
     journal.written = now;
     const std::string bytes = JournalHead(journal) + timeless.substr(oldHead);
     if (!m_written.empty() && !InPlace()) {
-        m_claim.reset(); // its lock may be gone too
+        m_claim.reset(); // its lock file may be gone too
     }
     FileError error = Write(bytes);
     if (error.number == error::PathNotFound && m_claim) { // the folder was removed after the claim

@@ -33,8 +33,8 @@ public:
     /// it is made anew. `now` is in seconds since the beginning of 1970.
     FileError Update(const Book& book, const RunningEdits& running, std::int64_t now);
 
-    /// Continues a journal whose edits were just recovered, in place of an own one. So the edits are on disk
-    /// at every moment.
+    /// Takes over a journal whose edits were just recovered, instead of making a new one. So the edits are on
+    /// disk at every moment.
     void Adopt(std::unique_ptr<JournalClaim> recovered);
 
     /// Removes the journal, so that the next start offers nothing.

@@ -9,12 +9,12 @@
 // How a journal is read, whatever has happened to its file:
 //
 // 1. The first line names the version; a later version is not read at all.
-// 2. JournalSections finds the sections whose checksum fits, also after broken bytes, and passes over the
-//    rest.
+// 2. JournalSections finds the sections whose checksum matches, even after broken bytes, and skips all other
+//    bytes.
 // 3. Each section is a row of texts, and its kind says which part of the journal they fill.
-// 4. A section is taken whole or not at all: one with a wrong count, a wrong number or a part that is
-//    there already only marks the journal as damaged.
-// 5. The last section holds the number of sections, so that one that is missing is noticed too.
+// 4. A section is taken whole or not at all. It is skipped, and the journal counts as damaged, if it has the
+//    wrong number of texts, a malformed number, or a part that an earlier section has filled.
+// 5. The last section holds the number of sections before it, so that a missing one is noticed too.
 
 namespace ls {
 

@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::string_view Group = "Desktop Entry";
 
-// Programs that start another program, which is among their arguments. Without arguments they open nothing,
-// or a prompt.
+// Programs that start another program, named in their arguments. Without arguments they do nothing or open a
+// prompt.
 constexpr std::array<std::string_view, 27> Launchers = {
     "bash",   "bwrap",  "dash", "env",    "exo-open",       "firejail", "flatpak",
     "gio",    "ionice", "java", "ksh",    "gtk-launch",     "konsole",  "mono",

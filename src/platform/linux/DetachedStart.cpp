@@ -10,8 +10,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// Between a fork and the start of the other program, only calls that take no lock and no memory are allowed.
-// Another thread may hold such a lock during the fork; in the new process it is never released.
+// Between a fork and the start of the other program, only calls that take no lock and allocate no memory are
+// allowed. If another thread holds a lock during the fork, the lock is never released in the new process.
 
 namespace ls {
 

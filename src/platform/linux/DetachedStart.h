@@ -15,7 +15,7 @@ struct DetachedProcess
 /// Starts `program` in a session of its own. `words` are its arguments; the first is its own name.
 ///
 /// The new program inherits no descriptors (its three standard ones are the null device) and no ignored or
-/// blocked signals. It is not a child that this program must wait for.
+/// blocked signals. This program need not wait for its end.
 [[nodiscard]] DetachedProcess StartDetached(const std::string& program,
                                             const std::vector<std::string>& words);
 

@@ -52,8 +52,8 @@ FileError FindProgram(const std::string& name, const std::string& searchPath, st
             program = path;
             return {};
         }
-        // The error of a file that may not be run is kept, because it says more than "not found" in a later
-        // folder. A folder that may not be searched says nothing.
+        // A file that may not be run is the error of the whole search, because that says more than "not
+        // found" in a later folder. A folder that may not be searched is no error.
         if (number == error::PermissionDenied && ::access(path.c_str(), F_OK) == 0) {
             failure = number;
         }

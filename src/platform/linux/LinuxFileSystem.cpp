@@ -48,7 +48,7 @@ FileError ErrorOfKind(mode_t mode)
 // writing, or for reading when the file may not be written.
 FileDescriptor OpenRegular(const std::string& path, Sharing sharing)
 {
-    // Never waits: a pipe may have taken the name since the check.
+    // The flag against waiting: since the check a pipe may have taken the name, and opening it could block.
     if (sharing == Sharing::Locked) {
         FileDescriptor writable(OpenFile(path, O_RDWR | O_NONBLOCK | O_NOCTTY));
         if (writable.IsOpen()) {
@@ -68,8 +68,8 @@ FileError TakeLock(int descriptor, Sharing sharing)
     return result != 0 && errno == EWOULDBLOCK ? MakeFileError(error::PermissionDenied) : FileError{};
 }
 
-// A name is safe on the disk only when its folder is flushed. Failures are ignored: some file systems cannot
-// flush a folder, and the rename itself has succeeded.
+// A new name is safe on the disk only after its folder is flushed. Failures are ignored: some file systems
+// cannot flush a folder, and the rename itself has succeeded.
 void FlushFolder(const std::string& folder)
 {
     const FileDescriptor descriptor(OpenFile(folder, O_RDONLY | O_DIRECTORY));
@@ -78,7 +78,8 @@ void FlushFolder(const std::string& folder)
     }
 }
 
-// ENOENT of a rename: the old name is missing (53, or 76 with its folder), or the new name's folder is (76).
+// ENOENT of a rename: the old name is missing (53), its folder is missing (76), or the new name's folder is
+// missing (76).
 FileError ErrorOfRename(int errnoValue, const std::string& from)
 {
     struct stat status = {};

@@ -138,7 +138,7 @@ std::optional<DesktopEntry> FindDesktopEntry(const XdgFolders& folders, const st
         if (!text) {
             continue;
         }
-        // The first file decides, even when it hides an application of a later folder.
+        // The first file decides, even if it marks the application as hidden and a later folder has it too.
         std::optional<DesktopEntry> entry = ParseDesktopEntry(*text);
         const bool there = entry && IsThere(folders, entry->program) &&
                            (entry->tryExec.empty() || IsThere(folders, entry->tryExec));

@@ -10,8 +10,8 @@ namespace ls {
 
 class Processes;
 
-/// The folders with the desktop's settings of which program opens which type of file; the user's come before
-/// the system's.
+/// The folders in which the desktop stores which program opens which type of file. The user's folders come
+/// before the system's.
 struct XdgFolders
 {
     std::vector<std::string> config;

@@ -133,7 +133,7 @@ FileError ErrorOfPath(DWORD code, const std::wstring& path)
     if (maybeFolder && IsFolder(path)) {
         return MakeFileError(error::PathFileAccess);
     }
-    // Only the console's name gives this code for a path: the program has no console.
+    // A path gives this code only if it is the console's name and the program has no console.
     if (code == ERROR_INVALID_HANDLE) {
         return MakeFileError(error::DeviceUnavailable);
     }

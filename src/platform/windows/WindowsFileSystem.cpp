@@ -72,8 +72,8 @@ FileError ErrorOfRename(DWORD code, const std::wstring& from, const std::wstring
     return ErrorOfPath(code, oldIsMissing ? from : to);
 }
 
-// Whether a rename failed because another program has one of the two files open. If that file is to be
-// replaced, the system reports "access denied", as for a folder.
+// Whether a rename failed because another program has one of the two files open. For a file that would be
+// replaced, the system reports "access denied", just as for a folder.
 bool MayBeInUse(DWORD code, const std::wstring& to, DWORD flags)
 {
     const bool replaces = (flags & MOVEFILE_REPLACE_EXISTING) != 0;

@@ -8,8 +8,8 @@ namespace ls {
 class WindowsRegistry : public Registry
 {
 public:
-    /// Asks for rights to read and write, as this program always has. If those are refused, as for the
-    /// machine's keys, it asks for the right to read, which is all that it uses.
+    /// Intended: asks for the rights to read and write, although the program only reads. If they are refused,
+    /// as for the machine's keys, it asks for the right to read alone.
     std::unique_ptr<RegistryKey> Open(Root root, const std::string& path) override;
 };
 

@@ -11,8 +11,8 @@ namespace {
 
 constexpr int LetterCount = 26;
 
-// The disk's label, for fixed disks only: a removable disk would start to spin, and a network drive that is
-// away would delay the list.
+// The disk's label, for fixed disks only: a removable disk would start to spin, and an unreachable network
+// drive would delay the list.
 std::string NameOfDisk(const std::wstring& root)
 {
     wchar_t name[MAX_PATH + 1] = {};

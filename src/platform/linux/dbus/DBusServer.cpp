@@ -24,8 +24,8 @@ QString ObjectPath()
     return QStringLiteral("/FileForm");
 }
 
-// With a display but no bus, the bus library would start a bus that outlives the program. Then no bus is
-// used.
+// If there is a display but no bus, the bus library would start a bus that outlives the program. In that case
+// no bus is used.
 bool HasBus()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
