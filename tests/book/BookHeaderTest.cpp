@@ -1,4 +1,5 @@
 #include "book/BookHeader.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -22,11 +23,6 @@ struct HeaderCase
     const char* line;
     const char* expected;
 };
-
-void PrintTo(const HeaderCase& row, std::ostream* out)
-{
-    *out << row.name;
-}
 
 struct HeaderTable : testing::TestWithParam<HeaderCase>
 {
@@ -79,12 +75,7 @@ const HeaderCase HeaderCases[] = {
     {"repeatedKey_lastWins", "LODESTAR BOOK V5.3 /URL=a /URL=b", "LODESTAR BOOK|5.3|||b||good"},
 };
 
-std::string HeaderCaseName(const testing::TestParamInfo<HeaderCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Lines, HeaderTable, testing::ValuesIn(HeaderCases), HeaderCaseName);
+INSTANTIATE_TEST_SUITE_P(Lines, HeaderTable, testing::ValuesIn(HeaderCases), test::RowName());
 
 TEST(BookHeader, isBook_versionBelow4_isNone)
 {

@@ -59,13 +59,6 @@ TEST_F(BookTables, xrefs101_growTo150)
     EXPECT_EQ(book.Xrefs.UpperBound(), 150);
 }
 
-TEST_F(BookTables, topics32767_areRead)
-{
-    ASSERT_TRUE(Scan(ManyTopics(32767)));
-    EXPECT_EQ(book.TopicCount, 32767);
-    EXPECT_TRUE(world.messages.boxes.empty());
-}
-
 TEST_F(BookTables, topics32768_overflowOnceAndDropTheBook)
 {
     EXPECT_FALSE(Scan(ManyTopics(32768)));

@@ -2,6 +2,7 @@
 
 #include "base/Progress.h"
 #include "support/MemoryFileSystem.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -81,8 +82,7 @@ const TextCase TextCases[] = {
     {"nul", std::string("a\0b\n", 4), std::string("a\0b\r\n", 5), 1, 1},
 };
 
-INSTANTIATE_TEST_SUITE_P(Texts, ConvertTextCaseTest, testing::ValuesIn(TextCases),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Texts, ConvertTextCaseTest, testing::ValuesIn(TextCases), test::RowName());
 
 // The end of a block may cut a character or a line end. The result is the same as for one whole piece.
 TEST_F(ConvertTextTest, characterAndLineEndAcrossBlocks_areKeptTogether)
@@ -145,23 +145,6 @@ TEST_F(ConvertTextTest, markOfUtf8BeforeOtherBytes_namesTheLine)
     EXPECT_EQ(findings.coding, TextCoding::BadUtf8);
     EXPECT_EQ(findings.badLine, 2);
     EXPECT_FALSE(findings.Convertible());
-}
-
-TEST_F(ConvertTextTest, readAndWriteErrors_comeBack)
-{
-    const TextFindings findings = Find("a\n");
-    std::unique_ptr<OutputFile> output;
-    ASSERT_TRUE(files.CreateNew("/work/out", output).Ok());
-    files.fail = [](const std::string& operation) {
-        return operation.starts_with("write") ? error::DiskFull : 0;
-    };
-    EXPECT_EQ(ConvertText(*input, findings, *output, nullptr, lines).number, error::DiskFull);
-    files.fail = [](const std::string& operation) {
-        return operation.starts_with("read") ? error::DeviceIo : 0;
-    };
-    EXPECT_EQ(ConvertText(*input, findings, *output, nullptr, lines).number, error::DeviceIo);
-    TextFindings again;
-    EXPECT_EQ(FindUnconvertible(*input, nullptr, again).number, error::DeviceIo);
 }
 
 class RecordingProgress : public Progress

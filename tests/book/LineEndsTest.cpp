@@ -1,6 +1,7 @@
 #include "book/LineEnds.h"
 
 #include "book/BookFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -55,8 +56,7 @@ const DetectCase DetectCases[] = {
     {"crBehindThem", "\n" + std::string(Head - 1, 'a') + "\r", true},
 };
 
-INSTANTIATE_TEST_SUITE_P(Files, LineEndsDetectTest, testing::ValuesIn(DetectCases),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Files, LineEndsDetectTest, testing::ValuesIn(DetectCases), test::RowName());
 
 TEST_F(LineEndsTest, offer_crLfFile_asksNothing)
 {
@@ -171,43 +171,6 @@ TEST_F(LineEndsTest, offer_programEnded_asksNothing)
     EXPECT_EQ(Offer(), "/work/Book.IDA");
     EXPECT_FALSE(world.files.Has(Copy));
 }
-
-struct CopyFaultCase
-{
-    const char* name;
-    const char* operation;
-    int number;
-    const char* end; ///< how the box ends
-};
-
-struct LineEndsFaultTest : LineEndsTest, testing::WithParamInterface<CopyFaultCase>
-{
-};
-
-TEST_P(LineEndsFaultTest, copy_fault_isShownAndTheFileItselfIsOpened)
-{
-    Put("\n" + std::string(2 * Head, 'a'));
-    world.messages.replies = {Reply::Yes};
-    world.files.fail = [](const std::string& operation) {
-        return operation.starts_with(GetParam().operation) ? GetParam().number : 0;
-    };
-    EXPECT_EQ(Offer(), "/work/Book.IDA");
-    EXPECT_EQ(world.messages.Take(),
-              (Strings{Question, std::string("warning|Lodestar Advisor|Failed to write the converted copy "
-                                             "<</work/Book (001).IDA>> due to error #") +
-                                     GetParam().end}));
-    EXPECT_FALSE(world.files.Has(Copy));
-    EXPECT_FALSE(world.files.Has(Part));
-}
-
-INSTANTIATE_TEST_SUITE_P(Operations, LineEndsFaultTest,
-                         testing::Values(CopyFaultCase{"create", "create", 70, "70: Permission denied"},
-                                         CopyFaultCase{"read", "read /work/Book.IDA 65537", 57,
-                                                       "57: Device I/O error"},
-                                         CopyFaultCase{"write", "write", 61, "61: Disk full"},
-                                         CopyFaultCase{"finish", "finish", 57, "57: Device I/O error"},
-                                         CopyFaultCase{"rename", "rename", 58, "58: File already exists"}),
-                         [](const auto& row) { return row.param.name; });
 
 } // namespace
 } // namespace ls

@@ -1,4 +1,5 @@
 #include "book/BookFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -21,11 +22,6 @@ struct TextCase
     const char* text;
     const char* logic;
 };
-
-void PrintTo(const TextCase& row, std::ostream* out)
-{
-    *out << row.name;
-}
 
 struct TextTable : LoadTopicRecTest, testing::WithParamInterface<TextCase>
 {
@@ -65,33 +61,13 @@ const TextCase TextCases[] = {
      "<XREF TOPIC=B>n\r\n[C]\r\n</XREF>\r\nx\r\n", ""},
 };
 
-std::string TextCaseName(const testing::TestParamInfo<TextCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Topics, TextTable, testing::ValuesIn(TextCases), TextCaseName);
+INSTANTIATE_TEST_SUITE_P(Topics, TextTable, testing::ValuesIn(TextCases), test::RowName());
 
 TEST_F(LoadTopicRecTest, load_nameWithOneBracket_getsTheOther)
 {
     ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
     EXPECT_EQ(Load("[A"), "[A] 1");
     EXPECT_EQ(Load("A]"), "[A] 1");
-}
-
-TEST_F(LoadTopicRecTest, load_unknownName_clearsNameAndNumber)
-{
-    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
-    EXPECT_EQ(Load("Z"), " 0");
-    EXPECT_EQ(world.messages.Take(), (Strings{"warning|Lodestar Advisor|Topic [Z] was not found."}));
-}
-
-TEST_F(LoadTopicRecTest, load_topicOfABookWithoutAFile_wasNotFound)
-{
-    book.TopicCount = 1;
-    book.TopicNames(1) = "[New]";
-    EXPECT_EQ(Load("New", 1), " 0");
-    EXPECT_EQ(world.messages.Take(), (Strings{"warning|Lodestar Advisor|Topic [New] was not found."}));
 }
 
 TEST_F(LoadTopicRecTest, load_movedTopic_endsAtTheNextOneOfTheFile)
@@ -113,21 +89,6 @@ TEST_F(LoadTopicRecTest, load_editedTopic_isReplacedByTheFilesText)
     EXPECT_EQ(Load("A", 1), "[A] 1");
     EXPECT_EQ(book.TopicRecs(1).Text, "x\r\n");
     EXPECT_EQ(book.TopicRecs(1).Logic, "");
-}
-
-TEST_F(LoadTopicRecTest, load_readErrorInTheText_keepsTheTopicUnedited)
-{
-    const std::string text(40000, 'x');
-    ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\n" + text + "\r\n[B]\r\n"));
-    int reads = 0;
-    world.files.fail = [&reads](const std::string& operation) {
-        return operation.starts_with("read") && ++reads > 1 ? error::DeviceIo : 0;
-    };
-    EXPECT_EQ(Load("A"), " 0");
-    EXPECT_EQ(
-        world.messages.Take(),
-        (Strings{"warning|Lodestar Advisor|Failed to fetch topic [A] due to error #57: Device I/O error"}));
-    EXPECT_EQ(book.TopicRecs(1).Text, "");
 }
 
 TEST_F(LoadTopicRecTest, load_fileCutInsideTheTopic_keepsItUnedited)
@@ -152,27 +113,6 @@ TEST_F(LoadTopicRecTest, load_plainTextFile_readsTheWholeFile)
     std::string text;
     EXPECT_TRUE(LoadTopicRec(book, world.Get(), name, number, &text));
     EXPECT_EQ(text, "Plain\r\n[A]\r\n<IXML>\r\nx\r\n");
-}
-
-TEST_F(LoadTopicRecTest, load_readErrorInAPlainTextFile_saysSoAndGivesNoHalf)
-{
-    world.messages.replies = {Reply::Ok};
-    ASSERT_TRUE(Open("Plain\r\n" + std::string(40000, 'x') + "\r\n"));
-    world.messages.Take();
-    int reads = 0;
-    world.files.fail = [&reads](const std::string& operation) {
-        return operation.starts_with("read") && ++reads > 1 ? error::DeviceIo : 0;
-    };
-    std::string name;
-    Count16 number;
-    std::string text = "before";
-    EXPECT_FALSE(LoadTopicRec(book, world.Get(), name, number, &text));
-    EXPECT_EQ(world.messages.Take(), Strings{"warning|Lodestar Advisor|Failed to fetch topic "
-                                             "/work/Book.IDA due to error #57: Device I/O error"});
-    EXPECT_EQ(text, "");
-    world.files.fail = nullptr;
-    EXPECT_TRUE(LoadTopicRec(book, world.Get(), name, number, &text));
-    EXPECT_EQ(text.size(), 40009U);
 }
 
 struct FileLogicCase
@@ -204,12 +144,7 @@ const FileLogicCase FileLogicCases[] = {
     {"openingOnly", "<IXML>\r\n", "<IXML>\r\n"},
 };
 
-std::string FileLogicName(const testing::TestParamInfo<FileLogicCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Blocks, FileLogicTable, testing::ValuesIn(FileLogicCases), FileLogicName);
+INSTANTIATE_TEST_SUITE_P(Blocks, FileLogicTable, testing::ValuesIn(FileLogicCases), test::RowName());
 
 TEST_F(LoadTopicRecTest, loadLogicFromFile_changedFile_isTold)
 {

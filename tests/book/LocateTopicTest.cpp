@@ -103,17 +103,6 @@ TEST_F(LocateTopicTest, locate_fileTruncatedSinceTheScan_namesTheError)
                        "Input past end of file"}));
 }
 
-TEST_F(LocateTopicTest, locate_readError_namesTheError)
-{
-    world.files.fail = [](const std::string& operation) {
-        return operation.starts_with("read") ? error::DeviceIo : 0;
-    };
-    EXPECT_EQ(Locate("[A]"), " 1 ");
-    EXPECT_EQ(
-        world.messages.Take(),
-        (Strings{"warning|Lodestar Advisor|Failed to fetch topic [A] due to error #57: Device I/O error"}));
-}
-
 TEST_F(LocateTopicTest, locate_positionBehind2GiB_isReached)
 {
     // A file that reports a huge size. Only the bytes at the requested position exist.

@@ -1,5 +1,6 @@
 #include "base/LineCursor.h"
 #include "book/BookFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -121,19 +122,6 @@ TEST_F(OpenBookTest, open_missingFileFolderOrFolderItself_namesTheError)
     EXPECT_EQ(book.File, nullptr);
 }
 
-TEST_F(OpenBookTest, open_readErrorInTheHeader_closesAndNamesTheError)
-{
-    world.files.fail = [](const std::string& operation) {
-        return operation.starts_with("read") ? error::DeviceIo : 0;
-    };
-    EXPECT_FALSE(Open(Header));
-    EXPECT_EQ(
-        world.messages.Take(),
-        (Strings{
-            "critical|Lodestar Advisor|Error opening <</work/Book.IDA>> with code 57: Device I/O error"}));
-    EXPECT_EQ(book.File, nullptr);
-}
-
 TEST_F(OpenBookTest, open_lockBook_asksForALock)
 {
     EXPECT_TRUE(Open(Header));
@@ -191,12 +179,7 @@ const PlainCase PlainCases[] = {
     {"noVersion", "LODESTAR BOOK\r\n"},
 };
 
-std::string PlainCaseName(const testing::TestParamInfo<PlainCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Files, OpenPlainText, testing::ValuesIn(PlainCases), PlainCaseName);
+INSTANTIATE_TEST_SUITE_P(Files, OpenPlainText, testing::ValuesIn(PlainCases), test::RowName());
 
 TEST_F(OpenBookTest, open_badHeader_warnsAndKeepsWhatWasRead)
 {
@@ -206,16 +189,6 @@ TEST_F(OpenBookTest, open_badHeader_warnsAndKeepsWhatWasRead)
         (Strings{"warning|Lodestar Advisor|Invalid Lodestar Book header: <<LODESTAR BOOK V5.3 /URL=\"u\" "
                  "/TITLE=\"\xC3\xA9\">>.  Some information may not be loaded."}));
     EXPECT_EQ(book.BookUrl, "u");
-}
-
-TEST_F(OpenBookTest, open_headerKeyWithoutEquals_warns)
-{
-    EXPECT_TRUE(Open("LODESTAR BOOK V5.3 /AUTHOR\r\n"));
-    EXPECT_EQ(
-        world.messages.Take(),
-        (Strings{
-            "warning|Lodestar Advisor|Invalid Lodestar Book header: <<LODESTAR BOOK V5.3 /AUTHOR>>.  Some "
-            "information may not be loaded."}));
 }
 
 TEST_F(OpenBookTest, open_startPosInsideTheFile_isKept)

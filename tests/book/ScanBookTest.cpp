@@ -1,4 +1,5 @@
 #include "book/BookFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -10,11 +11,6 @@ struct ScanCase
     Strings topics;
     Strings xrefs;
 };
-
-void PrintTo(const ScanCase& row, std::ostream* out)
-{
-    *out << row.name;
-}
 
 struct ScanTable : BookFixture, testing::WithParamInterface<ScanCase>
 {
@@ -69,12 +65,7 @@ const ScanCase ScanCases[] = {
     {"emptyTitleInXref", "[ab\r\n<XREF TOPIC=B>n</XREF>\r\n", {"[ab"}, {"a>B:n"}},
 };
 
-std::string ScanCaseName(const testing::TestParamInfo<ScanCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Books, ScanTable, testing::ValuesIn(ScanCases), ScanCaseName);
+INSTANTIATE_TEST_SUITE_P(Books, ScanTable, testing::ValuesIn(ScanCases), test::RowName());
 
 struct ScanBookTest : BookFixture
 {
@@ -92,31 +83,6 @@ TEST_F(ScanBookTest, scan_eof_recordsItsPositionAsTheEnd)
 {
     ASSERT_TRUE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\n[EOF]\r\n[B]\r\n"));
     EXPECT_EQ(book.ScanEndPos, 26);
-}
-
-TEST_F(ScanBookTest, scan_readError_endsTheProgramAfterItsMessage)
-{
-    int reads = 0;
-    world.files.fail = [&reads](const std::string& operation) {
-        return operation.starts_with("read") && ++reads > 1 ? error::DeviceIo : 0;
-    };
-    EXPECT_FALSE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\n"));
-    EXPECT_EQ(world.messages.Take(),
-              (Strings{"critical|Lodestar Advisor|Error reading book file with code 57: Device I/O error"}));
-    EXPECT_TRUE(world.end.Ended());
-    EXPECT_EQ(world.end.Reason(), "error reading the book file");
-}
-
-TEST_F(ScanBookTest, scan_readErrorInsideANote_endsTheProgram)
-{
-    const std::string longNote(300000, 'x');
-    int reads = 0;
-    world.files.fail = [&reads](const std::string& operation) {
-        return operation.starts_with("read") && ++reads > 2 ? error::DeviceIo : 0;
-    };
-    EXPECT_FALSE(Scan("LODESTAR BOOK V5.3\r\n[A]\r\n<XREF TOPIC=B>a\r\n" + longNote + "\r\n" + longNote));
-    EXPECT_EQ(world.messages.Take(),
-              (Strings{"critical|Lodestar Advisor|Error reading book file with code 57: Device I/O error"}));
 }
 
 TEST_F(ScanBookTest, scan_indexEnd_nothingBehindItIsRead)

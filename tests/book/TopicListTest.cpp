@@ -1,6 +1,7 @@
 #include "book/TopicList.h"
 
 #include "book/Book.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -83,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(Counts, TopicListWidthTest,
                                          WidthCase{"ten", 10, "01. Topic 1", "10. Topic 10"},
                                          WidthCase{"hundredTwenty", 120, "001. Topic 1", "120. Topic 120"},
                                          WidthCase{"all", 32767, "00001. Topic 1", "32767. Topic 32767"}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 TEST_F(TopicListTest, fill_deletedTopic_leavesNoGapAndKeepsTableNumbers)
 {
@@ -175,7 +176,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SelectCase{"numberOfAnotherName", "Same", 2, 0, 1},
                     SelectCase{"otherCase", "FIRST", 2, -1, -1}, SelectCase{"unknown", "Nowhere", 1, -1, -1},
                     SelectCase{"deleted", "[Gone]", 4, -1, -1}, SelectCase{"none", "", 0, -1, -1}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 TEST_F(TopicListTest, fill_allTopicsOfOneName_selectsTheCurrentOne)
 {
@@ -213,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(Items, TitleOfItemTest,
                                          TitleCase{"alphabetic", "See p. 4", Alphabetic, "See p. 4"},
                                          TitleCase{"noNumber", "Safety", Contents, "Safety"},
                                          TitleCase{"emptyTitle", "1. ", Contents, ""}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 } // namespace
 } // namespace ls

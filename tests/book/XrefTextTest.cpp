@@ -2,6 +2,7 @@
 
 #include "base/LineCursor.h"
 #include "support/MemoryFileSystem.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -34,11 +35,6 @@ struct NoteCase
     const char* expected;
 };
 
-void PrintTo(const NoteCase& row, std::ostream* out)
-{
-    *out << row.name;
-}
-
 struct NoteTable : testing::TestWithParam<NoteCase>
 {
 };
@@ -67,12 +63,7 @@ const NoteCase NoteCases[] = {
     {"headerInside_isText", "<XREF TOPIC=A>one\r\n[B]\r\n</XREF>\r\nnext", "one\r\n[B]|next"},
 };
 
-std::string NoteCaseName(const testing::TestParamInfo<NoteCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Notes, NoteTable, testing::ValuesIn(NoteCases), NoteCaseName);
+INSTANTIATE_TEST_SUITE_P(Notes, NoteTable, testing::ValuesIn(NoteCases), test::RowName());
 
 TEST(XrefText, read_exactly32000_isWhole)
 {
