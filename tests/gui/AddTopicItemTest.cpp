@@ -11,30 +11,6 @@ struct AddTopicItemTest : MainFormFixture
 {
 };
 
-TEST_F(AddTopicItemTest, refusedName_saysSoAndChangesNothing)
-{
-    Start(WriteThree());
-    test::ModalScript script;
-    script.Enter(" A ");
-    script.Answer(Reply::Ok);
-    test::Press(form, "AddTopicItem");
-    EXPECT_EQ(script.Seen(), (Strings{"input|Lodestar Advisor|Topic Name:|",
-                                      "warning|Lodestar Advisor|Sorry, you already have a chapter with this "
-                                      "name."}));
-    EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. B", "3. C"}));
-    EXPECT_EQ(PaneText(), "a");
-    EXPECT_FALSE(global.book.BookChanged);
-}
-
-TEST_F(AddTopicItemTest, cancelled_changesNothing)
-{
-    Start(WriteThree());
-    test::ModalScript script;
-    script.Enter(std::nullopt);
-    test::Press(form, "AddTopicItem");
-    EXPECT_EQ(global.book.TopicCount, 3);
-}
-
 TEST_F(AddTopicItemTest, newName_isListedLastSelectedAndShownWithItsText)
 {
     Start(WriteThree());

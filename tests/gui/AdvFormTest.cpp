@@ -5,13 +5,10 @@
 #include "render/text/ShowTopic.h"
 #include "support/Json.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
-#include <QFontMetrics>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QTest>
 
 #include <new>
@@ -23,9 +20,6 @@ using test::Find;
 
 const char* const NoDefinition =
     "warning|Lodestar Advisor|I can't find the variable definition for <<[Weather]>>.";
-const char* const Reuse =
-    "question|Lodestar Advisor|You have already answered some questions.  In case your answers are "
-    "relevant to this topic, do you wish me to re-use those answers?|YesNo";
 
 struct AdvFormTest : MainFormFixture
 {
@@ -72,14 +66,11 @@ struct AdvFormTest : MainFormFixture
     }
 };
 
-TEST_F(AdvFormTest, question_showsCaptionsTextAndChoices)
+TEST_F(AdvFormTest, question_showsTextAndChoices)
 {
     StartUmbrella();
     test::ModalScript script;
     script.Do([](QWidget& window) {
-        EXPECT_EQ(Find<QLabel>(window, "IntroLabel")->text().remove(u'&'),
-                  QStringLiteral("Questions and answers..."));
-        EXPECT_EQ(Find<QLabel>(window, "AnswerLabel")->text().remove(u'&'), QStringLiteral("Your Answer:"));
         EXPECT_EQ(Find<QLabel>(window, "WarningLabel")->text(), QString());
         EXPECT_EQ(Text(window), QStringLiteral("How is the sky?\nLook <B>up</B>."));
         EXPECT_EQ(Choices(window), (Strings{"", "CLEAR", "GREY"}));
@@ -92,21 +83,6 @@ TEST_F(AdvFormTest, question_showsCaptionsTextAndChoices)
     });
     test::Press(form, "AdvisorButton");
     EXPECT_EQ(script.Seen(), Strings{"form|AdvForm|Lodestar Advisor - Questions and Answers"});
-}
-
-TEST_F(AdvFormTest, next_onTheEmptyItem_remindsAndAsksAgain)
-{
-    StartUmbrella();
-    test::ModalScript script;
-    script.Do([](QWidget& window) {
-        test::Press(window, "NextButton");
-        EXPECT_TRUE(window.isVisible());
-        EXPECT_EQ(Text(window), QStringLiteral("How is the sky?\nLook <B>up</B>."));
-        window.close();
-    });
-    script.Answer(Reply::Ok);
-    test::Press(form, "AdvisorButton");
-    EXPECT_EQ(script.Seen().at(1), "none|Lodestar Advisor|Please select an answer before pressing NEXT");
 }
 
 TEST_F(AdvFormTest, defaultGoal_messageComesFirstAndThenTheAdviceBehindTheQuestion)
@@ -128,24 +104,6 @@ TEST_F(AdvFormTest, defaultGoal_messageComesFirstAndThenTheAdviceBehindTheQuesti
     script.Answer(Reply::Ok);
     test::Press(form, "AdvisorButton");
     EXPECT_EQ(script.Seen().at(1), NoDefinition);
-}
-
-TEST_F(AdvFormTest, unsure_isOfferedForADerivedVariableAndLeadsToItsQuestion)
-{
-    StartUmbrella();
-    test::ModalScript script;
-    script.Do([](QWidget& window) {
-        Answer(window, 2);
-        EXPECT_EQ(Text(window), QStringLiteral("How is your mood?"));
-        EXPECT_EQ(Choices(window), (Strings{"", "? - unsure", "BAD", "GOOD"}));
-        Answer(window, 1);
-        EXPECT_EQ(Text(window), QStringLiteral("Did you sleep well?"));
-        Answer(window, 1);
-        EXPECT_EQ(Text(window), QStringLiteral("Take an umbrella."));
-        window.close();
-    });
-    script.Answer(Reply::Ok);
-    test::Press(form, "AdvisorButton");
 }
 
 TEST_F(AdvFormTest, keyboardAlone_answersAndCloses)
@@ -244,90 +202,6 @@ TEST_F(AdvFormTest, escape_leavesAtAnyTimeAndKeepsWhatWasAnswered)
     EXPECT_EQ(global.advisor.AnswerCount, 0);
 }
 
-TEST_F(AdvFormTest, controls_haveNamesLabelsAndTabOrder)
-{
-    StartUmbrella();
-    test::ModalScript script;
-    script.Do([](QWidget& window) {
-        auto* text = Find<QPlainTextEdit>(window, "MessageBox");
-        auto* list = Find<QComboBox>(window, "AnswerCombo");
-        auto* next = Find<QPushButton>(window, "NextButton");
-        EXPECT_EQ(Find<QLabel>(window, "IntroLabel")->buddy(), text);
-        EXPECT_EQ(Find<QLabel>(window, "AnswerLabel")->buddy(), list);
-        EXPECT_EQ(text->accessibleName(), QStringLiteral("Question or advice"));
-        EXPECT_EQ(list->accessibleName(), QStringLiteral("Your Answer"));
-        EXPECT_TRUE(text->isReadOnly());
-        EXPECT_FALSE(list->isEditable());
-        EXPECT_TRUE(next->isDefault());
-        EXPECT_TRUE(test::WaitFor([&window] { return window.isActiveWindow(); }));
-        for (QWidget* control : std::initializer_list<QWidget*>{next, text, list}) {
-            QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
-            EXPECT_EQ(window.focusWidget(), control);
-        }
-        window.close();
-    });
-    test::Press(form, "AdvisorButton");
-}
-
-TEST_F(AdvFormTest, anotherBook_isNotOfferedTheAnswersOfThisOne)
-{
-    StartUmbrella();
-    test::ModalScript script;
-    const auto answerOnce = [](QWidget& window) {
-        EXPECT_EQ(Text(window), QStringLiteral("How is the sky?\nLook <B>up</B>."));
-        Answer(window, 2);
-        window.close();
-    };
-    script.Do(answerOnce);
-    test::Press(form, "AdvisorButton");
-    ASSERT_EQ(global.advisor.AnswerCount, 1);
-    Open(script, Path("Advisor.IDA"));
-    script.Do(answerOnce); // no box before it
-    test::Press(form, "AdvisorButton");
-}
-
-TEST_F(AdvFormTest, advisorButton_isThereOnlyForATopicWithLogic)
-{
-    StartUmbrella();
-    EXPECT_TRUE(Visible("AdvisorButton"));
-    EXPECT_TRUE(Get<QPushButton>("AdvisorButton").isEnabled());
-    test::ModalScript script;
-    script.Answer(Reply::Ok);
-    test::Press(form, "NewItem");
-    EXPECT_FALSE(Visible("AdvisorButton"));
-    Open(script, WriteThree());
-    EXPECT_FALSE(Visible("AdvisorButton"));
-    script.Do([this](QWidget& chooser) {
-        ChooseFile(chooser, Write("Plain.TXT", test::CrLf({"Plain", "<IXML>", "<LOGIC>"})));
-    });
-    script.Answer(Reply::Ok); // view it as a single topic text file
-    test::Press(form, "OpenItem");
-    EXPECT_FALSE(Visible("AdvisorButton"));
-    EXPECT_EQ(PaneText(), "Plain|<IXML>|<LOGIC>");
-}
-
-TEST_F(AdvFormTest, secondRun_offersTheAnswersAgainAndOpensOnTheAdvice)
-{
-    StartUmbrella();
-    test::ModalScript script;
-    script.Do([](QWidget& window) {
-        Answer(window, 1);
-        test::Press(window, "NextButton");
-    });
-    script.Answer(Reply::Ok);
-    test::Press(form, "AdvisorButton");
-    script.Answer(Reply::Yes); // re-use
-    script.Answer(Reply::Ok);  // the default goal's message
-    script.Do([](QWidget& window) {
-        EXPECT_EQ(Caption(window), QStringLiteral("Close"));
-        EXPECT_FALSE(Find<QComboBox>(window, "AnswerCombo")->isVisible());
-        window.close();
-    });
-    test::Press(form, "AdvisorButton");
-    EXPECT_EQ(script.Seen().at(2), Reuse);
-    EXPECT_EQ(script.Seen().at(3), NoDefinition);
-}
-
 TEST_F(AdvFormTest, faultyBlock_saysSoInTheTextAndCanOnlyBeClosed)
 {
     StartWith({"NONSENSE", "<DEFINITIONS>"});
@@ -344,18 +218,6 @@ TEST_F(AdvFormTest, faultyBlock_saysSoInTheTextAndCanOnlyBeClosed)
     test::Press(form, "AdvisorButton");
     EXPECT_EQ(script.Seen().at(0),
               "critical|Lodestar Advisor|Invalid command in <LOGIC> section for the current topic");
-}
-
-TEST_F(AdvFormTest, circularDefinition_warnsAndEndsTheProgramWithoutTheWindow)
-{
-    StartWith({"AV(GO)=AV(STAY)", "<DEFINITIONS>", "</DEFINITIONS>"});
-    global.book.BookChanged = true; // nothing is asked even so
-    test::ModalScript script;
-    script.Answer(Reply::Ok);
-    test::Press(form, "AdvisorButton");
-    EXPECT_EQ(script.Seen(), Strings{"critical|Lodestar Advisor|Warning--circular definition"});
-    EXPECT_EQ(global.end.Reason(), "circular definition");
-    EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(AdvFormTest, faultDuringTheDialogue_endsTheProgramAndClosesBothWindows)
@@ -460,20 +322,6 @@ TEST_F(AdvFormTest, lettersOfTheCodePage_areShownAndComeBackUnchanged)
     test::Press(form, "AdvisorButton");
 }
 
-TEST_F(AdvFormTest, bookTruncatedWhileItAsks_endsInAMessageNotInACrash)
-{
-    StartUmbrella();
-    test::ModalScript script;
-    script.Do([this](QWidget& window) {
-        QFile::resize(QString::fromStdString(Path("Advisor.IDA")), 30);
-        Answer(window, 2);
-        EXPECT_EQ(Caption(window), QStringLiteral("Close"));
-        window.close();
-    });
-    test::Press(form, "AdvisorButton");
-    EXPECT_FALSE(global.end.Ended());
-}
-
 TEST_F(AdvFormTest, adviceBook_stainAskedAgain_opensOnItsAdviceBehindTheBox)
 {
     QFile::copy(QString::fromUtf8(LS_SAMPLES "/Advice.IDA"), QString::fromStdString(Path("Advice.IDA")));
@@ -493,24 +341,6 @@ TEST_F(AdvFormTest, adviceBook_stainAskedAgain_opensOnItsAdviceBehindTheBox)
     script.Answer(Reply::Ok);
     script.Do([&advice](QWidget& window) {
         EXPECT_EQ(Text(window), advice);
-        window.close();
-    });
-    test::Press(form, "AdvisorButton");
-}
-
-TEST_F(AdvFormTest, adviceBook_plantAdvisorThroughTheWindow_endsInAdvice)
-{
-    QFile::copy(QString::fromUtf8(LS_SAMPLES "/Advice.IDA"), QString::fromStdString(Path("Advice.IDA")));
-    Start(Path("Advice.IDA"), "A Sick Houseplant");
-    test::ModalScript script;
-    script.Do([](QWidget& window) {
-        for (int i = 0; i < 20 && Caption(window) == QStringLiteral("Next"); ++i) {
-            Answer(window, 1);
-        }
-        EXPECT_EQ(Caption(window), QStringLiteral("Close"));
-        EXPECT_FALSE(Find<QComboBox>(window, "AnswerCombo")->isVisible());
-        EXPECT_GT(Text(window).size(), 40);
-        test::TakePicture(window, "AdvFormPlant");
         window.close();
     });
     test::Press(form, "AdvisorButton");

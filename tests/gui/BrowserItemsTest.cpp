@@ -16,12 +16,6 @@ struct BrowserItemsTest : MainFormFixture
     {
         return Write("Sample.IDA", "LODESTAR BOOK V5.3" + header + "\r\n[A]\r\na\r\n[B]\r\nb\r\n");
     }
-
-    std::string Read(const std::string& name)
-    {
-        QFile file(QString::fromStdString(Path(name)));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
-    }
 };
 
 // The main window of a program whose help lies beside it: where that is counts when the window is made.
@@ -71,36 +65,6 @@ TEST_F(BrowserItemsTest, explain_bookThatTakesComments_postsTheTopicOnShow)
     EXPECT_EQ(processes.started, Strings{"/usr/bin/web " + Path("Lodestar_Ideas_Temp.htm")});
     EXPECT_NE(Read("Lodestar_Ideas_Temp.htm").find(" VALUE=\"Sample: B\">"), std::string::npos);
     EXPECT_EQ(PaneText(), "b");
-}
-
-TEST_F(BrowserItemsTest, explain_otherBook_asksFirst)
-{
-    Start(WriteBook(" /AUTHOR=\"Ann\" /URL=\"http://ann.example\""));
-    {
-        ModalScript script;
-        script.Answer(Reply::Cancel);
-        Press(form, "ExplainButton");
-        EXPECT_EQ(
-            script.Seen(),
-            Strings{
-                "none|Lodestar Advisor|To start your web browser and access the web site for the book you "
-                "are viewing, click O.K. below.  The author of this book, Ann, or the author's publisher, "
-                "have posted information at this web site: \nhttp://ann.example|OKCancel"});
-    }
-    EXPECT_EQ(processes.started, Strings{});
-    ModalScript script;
-    script.Answer(Reply::Ok);
-    Press(form, "ExplainButton");
-    EXPECT_EQ(processes.started, Strings{"/usr/bin/web http://ann.example"});
-}
-
-TEST_F(BrowserItemsTest, explain_addressGoneMeanwhile_endsTheProgram)
-{
-    Start(WriteBook(" /URL=\"http://ann.example\""));
-    global.book.BookUrl.clear();
-    Press(form, "ExplainButton");
-    EXPECT_TRUE(global.end.Ended());
-    EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(BrowserItemsTest, about_tellsOfTheProgramAndTheBook)

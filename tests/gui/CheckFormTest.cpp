@@ -4,35 +4,13 @@
 
 #include "support/Json.h"
 
-#include <QMenu>
 #include <QPlainTextEdit>
-#include <QProcess>
-#include <QProgressDialog>
 #include <QTreeWidget>
-
-#include <filesystem>
 
 namespace ls {
 namespace {
 
 using test::Find;
-
-// What `lsbook check` finds in a book, a line for each finding.
-Strings FoundByLsbook(const std::string& path)
-{
-    QProcess lsbook;
-    lsbook.start(QStringLiteral(LS_LSBOOK),
-                 {QStringLiteral("check"), QString::fromStdString(path), QStringLiteral("--json")});
-    EXPECT_TRUE(lsbook.waitForFinished());
-    Strings lines;
-    const test::Json json = test::Json::Parse(lsbook.readAllStandardOutput().toStdString());
-    for (const test::Json& finding : json["findings"].Items()) {
-        lines.push_back(finding["severity"].String() + "|" + std::to_string(finding["line"].Int()) + "|" +
-                        finding["topic"].String() + "|" + finding["rule"].String() + "|" +
-                        finding["text"].String());
-    }
-    return lines;
-}
 
 // The rows of the form's list.
 Strings Rows(const QWidget& check)
@@ -77,15 +55,6 @@ struct CheckFormTest : MainFormFixture
         test::Press(form, "CheckItem");
     }
 };
-
-TEST_F(CheckFormTest, item_standsBehindASeparator)
-{
-    const QList<QAction*> items = Get<QMenu>("ActionMenu").actions();
-    const qsizetype at = items.indexOf(form.findChild<QAction*>(QStringLiteral("CheckItem")));
-    ASSERT_GE(at, 1);
-    EXPECT_EQ(items[at]->text(), QStringLiteral("&Check Book"));
-    EXPECT_TRUE(items[at - 1]->isSeparator());
-}
 
 TEST_F(CheckFormTest, findings_areListedWithTheSentenceOfTheSelectedOne)
 {
@@ -168,27 +137,6 @@ TEST_F(CheckFormTest, cleanBook_saysSoAndHasNoList)
     });
 }
 
-TEST_F(CheckFormTest, unsavedChanges_theFormSaysThatTheFileWasChecked)
-{
-    const std::string path = WriteFaulty();
-    Start(path);
-    test::ModalScript script;
-    script.Do([](QWidget& editor) {
-        test::Type(editor, "MainTxBox", QStringLiteral("<h1>changed"));
-        test::Press(editor, "SaveButton");
-    });
-    test::Press(form, "EdTextItem");
-    ASSERT_TRUE(global.book.BookChanged);
-    Check(script, [&path](QWidget& check) {
-        EXPECT_EQ(Rows(check), FoundByLsbook(path));
-        EXPECT_EQ(LabelText(check, "NotesLabel"),
-                  "Your changes that are not saved yet were not checked: the lines are those of the file.");
-        test::TakePicture(check, "CheckForm-unsaved");
-        QTest::keyClick(&check, Qt::Key_Escape);
-    });
-    global.book.BookChanged = false; // else the window asks when it closes
-}
-
 TEST_F(CheckFormTest, unsavedChangesInACleanBook_theWholeNoteIsSeen)
 {
     Start(WriteThree());
@@ -226,51 +174,6 @@ TEST_F(CheckFormTest, slowDisk_showsABoxWhoseCancelKeepsWhatWasFound)
     });
     EXPECT_EQ(script.Seen(), (Strings{"form|ProgressBox|Lodestar Advisor", "form|CheckForm|Check Book"}));
 }
-
-TEST_F(CheckFormTest, nothingOpen_saysSo)
-{
-    test::ModalScript script;
-    script.Escape(); // the file form of the first showing
-    Start("");
-    script.Answer(Reply::Ok);
-    test::Press(form, "CheckItem");
-    EXPECT_EQ(script.Seen().back(), "warning|Lodestar Advisor|There is no book to check.");
-}
-
-// The very books that the command line checks: samples, books of the advisor's tests, and one of faults.
-struct CheckBooksTest : CheckFormTest, testing::WithParamInterface<std::string>
-{
-};
-
-TEST_P(CheckBooksTest, findings_areThoseOfLsbook)
-{
-    const std::string path = Write("Book.IDA", test::ReadWholeFile(GetParam()));
-    Start(path);
-    const Strings expected = FoundByLsbook(path);
-    if (GetParam().find("samples") == std::string::npos) {
-        EXPECT_FALSE(expected.empty());
-    }
-    test::ModalScript script;
-    Check(script, [&expected](QWidget& check) {
-        EXPECT_EQ(Rows(check), expected);
-        QTest::keyClick(&check, Qt::Key_Escape);
-    });
-}
-
-std::vector<std::string> Books()
-{
-    std::vector<std::string> books = {LS_SAMPLES "/Guide.IDA", LS_SAMPLES "/Advice.IDA"};
-    for (const char* number : {"01", "07", "42", "82", "89"}) {
-        books.push_back(LS_TEST_DATA "/cases/advisor/case-7700" + std::string(number) + ".IDA");
-    }
-    return books;
-}
-
-INSTANTIATE_TEST_SUITE_P(Books, CheckBooksTest, testing::ValuesIn(Books()), [](const auto& row) {
-    std::string name = std::filesystem::path(row.param).stem().string();
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-});
 
 } // namespace
 } // namespace ls

@@ -5,9 +5,7 @@
 #include "gui/Controls.h"
 #include "gui/MainFormFixture.h"
 
-#include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 #include <QTest>
 
 #include <memory>
@@ -67,37 +65,12 @@ struct DelTopicFormTest : testing::Test
     }
 };
 
-TEST_F(DelTopicFormTest, design_titleCaptionsAndTabOrder)
-{
-    Add({"A", "B"});
-    Load();
-    EXPECT_EQ(form->windowTitle(), QStringLiteral("Topic Deletion"));
-    EXPECT_EQ(Find<QLabel>(*form, "Label1")->text().remove(u'&'),
-              QStringLiteral("Check a box by a topic name to remove the topic. To restore a topic, uncheck "
-                             "the box. All changes become permanent when the file is saved."));
-    EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->text().remove(u'&'), QStringLiteral("O.K."));
-    EXPECT_EQ(Find<QPushButton>(*form, "CancelButton")->text().remove(u'&'), QStringLiteral("Cancel"));
-    EXPECT_TRUE(Find<QPushButton>(*form, "OKButton")->isDefault());
-    for (const char* name : {"TopicListBox", "OKButton", "CancelButton", "TopicListBox"}) {
-        EXPECT_EQ(form->focusWidget()->objectName(), QString::fromLatin1(name));
-        QTest::keyClick(form->windowHandle(), Qt::Key_Tab);
-    }
-}
-
 TEST_F(DelTopicFormTest, load_contentsOrder_listsEveryTopicWithItsNumberAndState)
 {
     Add({"B", "Caf\xE9", "A"});
     book.TopicRecs(2).Deleted = true;
     Load();
     EXPECT_EQ(Entries(), (Strings{"1. B@1", "+2. Caf\xC3\xA9@2", "3. A@3"}));
-}
-
-TEST_F(DelTopicFormTest, load_alphabeticOrder_listsBareNames)
-{
-    Add({"B", "C", "A"});
-    book.TopicRecs(2).Deleted = true;
-    Load(true);
-    EXPECT_EQ(Entries(), (Strings{"A@3", "B@1", "+C@2"}));
 }
 
 TEST_F(DelTopicFormTest, load_120Topics_standsAtTheCurrentOne)
@@ -141,15 +114,6 @@ TEST_F(DelTopicFormTest, ok_alphabeticOrder_goesByItemData)
     EXPECT_TRUE(book.TopicRecs(2).Deleted);
 }
 
-TEST_F(DelTopicFormTest, ok_withoutAClick_marksTheBookChangedToo)
-{
-    Add({"A"});
-    Load();
-    test::Press(*form, "OKButton");
-    EXPECT_TRUE(flags.TopicListStale);
-    EXPECT_TRUE(book.BookChanged);
-}
-
 TEST_F(DelTopicFormTest, cancelAndEscape_changeNothing)
 {
     Add({"A", "B"});
@@ -179,22 +143,6 @@ TEST_F(DelTopicFormTest, keyboard_spaceChecksTheEntryAndEnterIsOk)
     EXPECT_FALSE(form->isVisible());
     EXPECT_FALSE(book.TopicRecs(1).Deleted);
     EXPECT_TRUE(book.TopicRecs(2).Deleted);
-}
-
-TEST_F(DelTopicFormTest, thirtyThousandTopics_lastOneIsRemoved)
-{
-    GrowTopicTables(book, 30000);
-    for (int i = 1; i <= 30000; ++i) {
-        book.TopicNames(i) = "[Topic " + std::to_string(i) + "]";
-    }
-    book.TopicCount = 30000;
-    book.CurrentTopicNo = 30000;
-    Load();
-    EXPECT_EQ(List().count(), 30000);
-    QTest::keyClick(form->windowHandle(), Qt::Key_Space);
-    test::Press(*form, "OKButton");
-    EXPECT_TRUE(book.TopicRecs(30000).Deleted);
-    EXPECT_FALSE(book.TopicRecs(29999).Deleted);
 }
 
 struct DelTopicItemTest : MainFormFixture

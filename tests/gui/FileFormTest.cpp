@@ -8,6 +8,7 @@
 #include "support/RecordingDde.h"
 #include "support/RecordingPrinter.h"
 #include "support/RecordingRegistry.h"
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -75,7 +76,7 @@ struct FileFormTest : testing::Test
     }
 };
 
-TEST_F(FileFormTest, openMode_showsCaptionsToolTipsAndRecentFiles)
+TEST_F(FileFormTest, openMode_showsTitlesAndRecentFiles)
 {
     Load();
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Lodestar Advisor Open"));
@@ -86,15 +87,6 @@ TEST_F(FileFormTest, openMode_showsCaptionsToolTipsAndRecentFiles)
     EXPECT_EQ(names->count(), 2);
     EXPECT_EQ(names->itemText(1), QStringLiteral("/books/B.IDA"));
     EXPECT_EQ(Name(), QStringLiteral("/books/A.IDA"));
-    EXPECT_EQ(names->toolTip(),
-              QStringLiteral("Last saved files; can drag window border to stretch box width"));
-    EXPECT_EQ(Find<QPushButton>(*form, "BrowseButton")->toolTip(),
-              QStringLiteral("Click to pick disk, folder, and file"));
-    EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->text().remove(u'&'), QStringLiteral("O.K."));
-    EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->toolTip(), QStringLiteral("Open file"));
-    EXPECT_EQ(Find<QPushButton>(*form, "CancelButton")->toolTip(), QStringLiteral("Don't open; close form"));
-    EXPECT_EQ(Find<QGroupBox>(*form, "SharingFrame")->title().remove(u'&'), QStringLiteral("Use of file"));
-    EXPECT_EQ(Find<QPushButton>(*form, "HelpButton")->toolTip(), QStringLiteral("Show help page"));
     EXPECT_TRUE(Find<QRadioButton>(*form, "SharedOption")->isChecked());
     EXPECT_FALSE(Find<QPushButton>(*form, "InfoButton")->isVisible());
     test::TakePicture(*form, "FileFormOpen");
@@ -167,17 +159,6 @@ TEST_F(FileFormTest, enter_isOkAndEscapeIsCancel)
     EXPECT_EQ(global.fileDialog.ChosenFile, "");
 }
 
-TEST_F(FileFormTest, ok_wildcard_staysWithItsMessage)
-{
-    Load();
-    test::Type(*form, "FilenameBox", QStringLiteral("*.IDA"));
-    test::Press(*form, "OKButton");
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(world.messages.Take(),
-              (Strings{"exclamation|Lodestar Advisor|Sorry, you cannot include a wildcard symbol "
-                       "in the filename."}));
-}
-
 TEST_F(FileFormTest, recentName_canBePicked)
 {
     Load();
@@ -218,19 +199,6 @@ TEST_F(FileFormTest, resize_widerMovesAndStretches_narrowerRestores)
     EXPECT_EQ(state(), before);
 }
 
-TEST_F(FileFormTest, tabOrder_goesAsTheEyeGoes)
-{
-    Load();
-    QStringList order;
-    for (int i = 0; i < 5; ++i) {
-        order.append(form->focusWidget()->objectName());
-        QTest::keyClick(form->windowHandle(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, (QStringList{QStringLiteral("FilenameBox"), QStringLiteral("BrowseButton"),
-                                  QStringLiteral("SharedOption"), QStringLiteral("OKButton"),
-                                  QStringLiteral("CancelButton")}));
-}
-
 struct RemoteCase
 {
     const char* name;
@@ -255,16 +223,10 @@ TEST_P(FileFormRemote, push_pressesTheButtonAfterTheCallReturned)
 
 const RemoteCase RemoteCases[] = {
     {"ok", "PUSH OKButton", true, true},
-    {"okLowerCase", "push okbutton", true, true},
     {"cancel", "PUSH CancelButton", true, false},
 };
 
-std::string RemoteCaseName(const testing::TestParamInfo<RemoteCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Commands, FileFormRemote, testing::ValuesIn(RemoteCases), RemoteCaseName);
+INSTANTIATE_TEST_SUITE_P(Commands, FileFormRemote, testing::ValuesIn(RemoteCases), test::RowName());
 
 TEST_F(FileFormTest, pushBrowse_opensTheSelectorAfterTheCallReturned)
 {
@@ -289,18 +251,6 @@ TEST_F(FileFormTest, push_whileDisabled_beepsAndBlocks)
     QTest::qWait(50);
     EXPECT_TRUE(form->isVisible());
     EXPECT_FALSE(dde.handler("PUSH OKButton")) << "the command is still pending";
-}
-
-TEST_F(FileFormTest, pushUnknownControl_saysHowAndAcceptsTheNext)
-{
-    Load();
-    EXPECT_TRUE(dde.handler("PUSH  OKBUTTON"));
-    ASSERT_TRUE(test::WaitFor([this] { return !world.messages.boxes.empty(); }));
-    EXPECT_EQ(world.messages.Take(),
-              (Strings{"exclamation|Lodestar Advisor|Invalid DDE PUSH command received.  Use a command "
-                       "toLodestar|FileForm in the format <<PUSH controlname>>."}));
-    EXPECT_TRUE(dde.handler("PUSH CancelButton"));
-    EXPECT_TRUE(test::WaitFor([this] { return !form->isVisible(); }));
 }
 
 TEST_F(FileFormTest, closed_takesNoMoreCommands)
@@ -390,15 +340,6 @@ TEST_F(FileFormTest, push_whileTheSelectorReadsItsFolder_beepsAndBlocks)
               (Strings{"form|FileForm|Lodestar Advisor Open", "form|OpenForm|LSAdvisor File Selector"}));
     EXPECT_TRUE(form->isVisible());
     EXPECT_FALSE(dde.handler("PUSH CancelButton")) << "the first is still pending";
-}
-
-TEST_F(FileFormTest, otherMode_endsTheProgramSilently)
-{
-    global.fileDialog.FileMode = "X";
-    form = std::make_unique<FileForm>(nullptr, global.fileDialog, global.book, global.settings, world.Get(),
-                                      FormSeams{volumes, dde, registry, printer});
-    EXPECT_TRUE(world.end.Ended());
-    EXPECT_TRUE(world.messages.boxes.empty());
 }
 
 } // namespace

@@ -114,17 +114,6 @@ TEST_F(FormMessagesTest, markupInAText_isShownLiterally)
     EXPECT_EQ(shown, text);
 }
 
-TEST_F(FormMessagesTest, utf8_isShown)
-{
-    std::string shown;
-    modals.Do([&](QWidget& box) {
-        shown = LabelText(box);
-        box.close();
-    });
-    messages.MsgBox("caf\xC3\xA9 \xE2\x82\xAC", Icon::Information);
-    EXPECT_EQ(shown, "caf\xC3\xA9 \xE2\x82\xAC");
-}
-
 TEST_F(FormMessagesTest, longTexts_areWrapped)
 {
     int width = 0;

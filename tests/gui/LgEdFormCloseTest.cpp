@@ -3,8 +3,8 @@
 #include "check/CheckBook.h"
 #include "gui/LgEdFormFixture.h"
 #include "gui/ModalScript.h"
+#include "support/RowName.h"
 
-#include <QAbstractItemView>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QListWidget>
@@ -15,8 +15,6 @@ namespace ls {
 namespace {
 
 using test::Press;
-
-const std::string Refused = "exclamation|Lodestar Advisor|";
 
 using LgEdFormClose = LgEdFormFixture;
 
@@ -35,24 +33,6 @@ TEST_F(LgEdFormClose, done_storesTheBlockTellsAndCloses)
     EXPECT_EQ(form->result(), QDialog::Accepted);
     EXPECT_TRUE(book.BookChanged);
     EXPECT_EQ(book.TopicRecs(1).Text, "a\r\n");
-}
-
-TEST_F(LgEdFormClose, doneUntouched_givesTheSameBlock)
-{
-    Load();
-    EXPECT_EQ(Done(), Block());
-}
-
-TEST_F(LgEdFormClose, emptyLogicText_refusesSpecificationAndDone)
-{
-    Load();
-    Type("LogicTextbox", "");
-    Press(*form, "ShowSpecItem");
-    Press(*form, "SaveButton");
-    EXPECT_EQ(Boxes(), (Strings(2, Refused + "There is no logic information to save.")));
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(book.TopicRecs(1).Logic, Block());
-    EXPECT_FALSE(book.BookChanged);
 }
 
 TEST_F(LgEdFormClose, cancel_changesNothingAndAsksNothing)
@@ -107,26 +87,9 @@ const ChangeCase ChangeCases[] = {
     {"logic", [](LgEdFormFixture& editor) { editor.Type("LogicTextbox", "x"); }},
     {"question", [](LgEdFormFixture& editor) { editor.Type("VQuestionBox", "x"); }},
     {"advice", [](LgEdFormFixture& editor) { editor.Type("VCAnswerBox", "x"); }},
-    {"newVariable",
-     [](LgEdFormFixture& editor) {
-         editor.Answer({"NEW"});
-         Press(*editor.form, "VarAddButton");
-     }},
-    {"deletedVariable", [](LgEdFormFixture& editor) { Press(*editor.form, "VarDelButton"); }},
-    {"newChoice",
-     [](LgEdFormFixture& editor) {
-         editor.Answer({"NEW"});
-         Press(*editor.form, "AddAnsButton");
-     }},
-    {"deletedChoice", [](LgEdFormFixture& editor) { Press(*editor.form, "DelAnsButton"); }},
 };
 
-std::string ChangeName(const testing::TestParamInfo<ChangeCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Changes, LgEdFormAsks, testing::ValuesIn(ChangeCases), ChangeName);
+INSTANTIATE_TEST_SUITE_P(Changes, LgEdFormAsks, testing::ValuesIn(ChangeCases), test::RowName());
 
 TEST_F(LgEdFormClose, endedInABox_closesTheWindow)
 {
@@ -190,68 +153,7 @@ TEST_F(LgEdFormClose, specification_showsTheBlockAsItWouldBeStored)
     EXPECT_EQ(shown, block);
 }
 
-TEST_F(LgEdFormClose, commentBetweenTheEntries_isNamedBeforeItIsDropped)
-{
-    std::string block = Block();
-    block.insert(block.find("<Q ID=AGE>"), "* old and young\r\n");
-    Load(block);
-    world.messages.replies = {Reply::Cancel, Reply::Ok};
-    Press(*form, "SaveButton");
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(book.TopicRecs(1).Logic, block);
-    EXPECT_FALSE(book.BookChanged);
-    Press(*form, "SaveButton");
-    EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(book.TopicRecs(1).Logic, Block());
-    const std::string question =
-        "question|Lodestar Advisor|Not everything in this topic's logic can be kept as it was read:\n\nLine "
-        "14 of the block: The comment \"* old and young\" would be dropped.\n\nGo on all the same?|OKCancel";
-    EXPECT_EQ(Boxes(),
-              (Strings{question, question,
-                       "information|Lodestar Advisor|The changes will not take effect until you save "
-                       "the file."}));
-}
-
-TEST_F(LgEdFormClose, bareEntry_isWrittenBackBehindTheVariables)
-{
-    std::string block = Block();
-    const std::string bare = "<AV ID=GO>Go out.</AV>\r\n\r\n";
-    Load(std::string(block).insert(block.find("<Q ID=AGE>"), bare));
-    block.insert(block.find("</DEFINITIONS>"), bare);
-    EXPECT_EQ(Done(), block);
-}
-
 using LgEdFormSize = LgEdFormFixture;
-
-TEST_F(LgEdFormSize, thousandsOfLinesAndVariables_areTakenWhole)
-{
-    std::string logic;
-    std::string definitions;
-    for (int i = 1; i <= 5000; ++i) {
-        logic += "R(" + std::to_string(i) + ")=V" + std::to_string(i % 1000) + "(1)\r\n";
-    }
-    for (int i = 0; i < 1000; ++i) {
-        const std::string name = "V" + std::to_string(i);
-        definitions +=
-            "<Q ID=" + name + ">Question " + name + "?</Q>\r\n\r\n<AV ID=" + name + "(1)></AV>\r\n\r\n";
-    }
-    const std::string block = "<IXML>\r\n<LOGIC>\r\n" + logic + "</LOGIC>\r\n<DEFINITIONS>\r\n\r\n" +
-                              definitions + "</DEFINITIONS>\r\n</IXML>\r\n";
-    Load(block);
-    EXPECT_EQ(List("VarCombo").count(), 1000);
-    List("VarCombo").setCurrentIndex(999);
-    EXPECT_EQ(Question(), "Question V999?");
-    List("VarCombo").showPopup();
-    QTest::keyClick(List("VarCombo").view(), Qt::Key_Escape);
-    test::ModalScript script;
-    script.Do([&](QWidget& window) {
-        const auto* text = test::Find<QPlainTextEdit>(window, "Text1");
-        EXPECT_EQ(text->blockCount(), static_cast<int>(std::count(block.begin(), block.end(), '\n')) + 1);
-        Press(window, "CloseButton");
-    });
-    Press(*form, "ShowSpecItem");
-    EXPECT_EQ(Done(), block);
-}
 
 } // namespace
 } // namespace ls

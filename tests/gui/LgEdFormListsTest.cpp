@@ -47,25 +47,6 @@ TEST_F(LgEdFormLists, load_choosesNothing)
     EXPECT_EQ(Done(), Block());
 }
 
-TEST_F(LgEdFormLists, pickChoice_showsItsAdvice)
-{
-    Load();
-    Pick("AnswerCombo", "LOW");
-    EXPECT_EQ(Advice(), "Do not worry.");
-    Pick("AnswerCombo", "HIGH");
-    EXPECT_EQ(Advice(), "Take care.");
-}
-
-TEST_F(LgEdFormLists, blockWithoutVariables_leavesTheListsEmpty)
-{
-    Load({});
-    EXPECT_EQ(Logic(), "");
-    EXPECT_EQ(Entries("VarCombo"), Strings());
-    EXPECT_EQ(Entries("AnswerCombo"), Strings());
-    EXPECT_FALSE(Box("VQuestionBox").isEnabled()) << "what is typed there would belong to nothing";
-    EXPECT_FALSE(Box("VCAnswerBox").isEnabled());
-}
-
 TEST_F(LgEdFormLists, addVariable_isTrimmedAndShown)
 {
     Load();
@@ -81,31 +62,6 @@ TEST_F(LgEdFormLists, addVariable_isTrimmedAndShown)
     EXPECT_NE(Done().find("<Q ID=Mood>How do you feel?</Q>\r\n"), std::string::npos);
 }
 
-TEST_F(LgEdFormLists, addVariableOfAListedName_isRefusedInAnyCase)
-{
-    Load();
-    Answer({" age"});
-    Press(*form, "VarAddButton");
-    EXPECT_EQ(Boxes(), (Strings{InputPrefix + "Type the name for the variable to be added.|",
-                                Refused + "There is already a variable with this name."}));
-    EXPECT_EQ(Entries("VarCombo").size(), 3U);
-    EXPECT_EQ(Picked("VarCombo"), "RISK");
-}
-
-TEST_F(LgEdFormLists, addCancelledOrLeftEmpty_changesNothing)
-{
-    Load();
-    Answer({std::nullopt, "", "   ", std::nullopt, ""});
-    for (const char* button :
-         {"VarAddButton", "VarAddButton", "VarAddButton", "AddAnsButton", "AddAnsButton"}) {
-        Press(*form, button);
-    }
-    EXPECT_EQ(Boxes().size(), 5U);
-    EXPECT_EQ(Entries("VarCombo"), (Strings{"RISK", "AGE", "NOTE"}));
-    EXPECT_EQ(Entries("AnswerCombo"), (Strings{"HIGH", "LOW"}));
-    EXPECT_EQ(Advice(), "Take care.");
-}
-
 TEST_F(LgEdFormLists, deleteVariable_isNotWrittenBack)
 {
     Load();
@@ -116,18 +72,6 @@ TEST_F(LgEdFormLists, deleteVariable_isNotWrittenBack)
     const std::string block = Done();
     EXPECT_EQ(block.find("ID=AGE"), std::string::npos) << block;
     EXPECT_NE(block.find("<Q ID=RISK></Q>"), std::string::npos) << block;
-}
-
-TEST_F(LgEdFormLists, deleteAllVariables_thenRemindsToPickOne)
-{
-    Load();
-    for (int i = 0; i < 3; ++i) {
-        Press(*form, "VarDelButton");
-    }
-    EXPECT_EQ(Entries("VarCombo"), Strings());
-    EXPECT_EQ(Boxes(), Strings());
-    Press(*form, "VarDelButton");
-    EXPECT_EQ(Boxes(), Strings{Refused + "To delete a variable, first you must pick it from the list."});
 }
 
 TEST_F(LgEdFormLists, addChoice_isTrimmedAndShown)
@@ -146,28 +90,6 @@ TEST_F(LgEdFormLists, addChoice_isTrimmedAndShown)
     EXPECT_NE(Done().find("<AV ID=RISK(MIDDLE)>So so.</AV>\r\n"), std::string::npos);
 }
 
-TEST_F(LgEdFormLists, addChoiceOfAListedName_isRefusedInAnyCase)
-{
-    Load();
-    Answer({"low "});
-    Press(*form, "AddAnsButton");
-    EXPECT_EQ(Boxes(), (Strings{InputPrefix + "Type the choice to be added.|",
-                                Refused + "There is already a choice with this name."}));
-    EXPECT_EQ(Entries("AnswerCombo").size(), 2U);
-    Pick("VarCombo", "AGE");
-    Answer({"low"});
-    Press(*form, "AddAnsButton");
-    EXPECT_EQ(Entries("AnswerCombo"), (Strings{"YOUNG", "OLD", "low"})) << "another variable's choices";
-    Boxes();
-}
-
-TEST_F(LgEdFormLists, addChoiceWithoutVariable_asksToSelectOne)
-{
-    Load({});
-    Press(*form, "AddAnsButton");
-    EXPECT_EQ(Boxes(), Strings{Refused + "Before adding a choice, first select a variable."});
-}
-
 TEST_F(LgEdFormLists, deleteChoice_isNotWrittenBack)
 {
     Load();
@@ -179,14 +101,6 @@ TEST_F(LgEdFormLists, deleteChoice_isNotWrittenBack)
     const std::string block = Done();
     EXPECT_EQ(block.find("Take care."), std::string::npos) << block;
     EXPECT_NE(block.find("<AV ID=RISK(LOW)>Do not worry.</AV>"), std::string::npos) << block;
-}
-
-TEST_F(LgEdFormLists, deleteChoiceWithoutAny_asksForAVariableThatHasSome)
-{
-    Load();
-    Pick("VarCombo", "NOTE");
-    Press(*form, "DelAnsButton");
-    EXPECT_EQ(Boxes(), Strings{Refused + "Before deleting a choice, choose a variable that has some."});
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // What is typed and inserted in the logic editor's boxes.
 
 #include "gui/LgEdFormFixture.h"
+#include "support/RowName.h"
 
 #include <QAction>
 
@@ -8,8 +9,6 @@ namespace ls {
 namespace {
 
 using test::Press;
-
-const std::string Refused = "exclamation|Lodestar Advisor|";
 
 using LgEdFormTexts = LgEdFormFixture;
 
@@ -66,12 +65,7 @@ const SwitchCase SwitchCases[] = {
     {"SelectAllItem", "SelectAllItem", {}},
 };
 
-std::string SwitchName(const testing::TestParamInfo<SwitchCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Commands, LgEdFormStores, testing::ValuesIn(SwitchCases), SwitchName);
+INSTANTIATE_TEST_SUITE_P(Commands, LgEdFormStores, testing::ValuesIn(SwitchCases), test::RowName());
 
 TEST_F(LgEdFormTexts, doneWhileTheFocusIsInTheBox_storesItsText)
 {
@@ -84,20 +78,6 @@ TEST_F(LgEdFormTexts, doneWhileTheFocusIsInTheBox_storesItsText)
     EXPECT_NE(book.TopicRecs(1).Logic.find("<AV ID=RISK(HIGH)>Last words.</AV>"), std::string::npos);
 }
 
-TEST_F(LgEdFormTexts, questionOf59Characters_staysOnTheTagsLineAnd60Not)
-{
-    Load();
-    Pick("VarCombo", "AGE");
-    const std::string question59(59, 'q');
-    Type("VQuestionBox", question59.c_str());
-    EXPECT_NE(Done().find("<Q ID=AGE>" + question59 + "</Q>\r\n\r\n"), std::string::npos);
-    Load();
-    Pick("VarCombo", "AGE");
-    const std::string question60(60, 'q');
-    Type("VQuestionBox", question60.c_str());
-    EXPECT_NE(Done().find("<Q ID=AGE>\r\n" + question60 + "\r\n</Q>\r\n\r\n"), std::string::npos);
-}
-
 struct InsertCase
 {
     const char* name;
@@ -106,7 +86,6 @@ struct InsertCase
     const char* item;
     const char* list; ///< Enter in it does the same
     const char* inserted;
-    const char* reminder; ///< without a choice
 };
 
 struct LgEdFormInsert : LgEdFormFixture, testing::WithParamInterface<InsertCase>
@@ -167,40 +146,13 @@ TEST_P(LgEdFormInsert, selection_isReplacedAndOneUndoBringsItBack)
     EXPECT_EQ(Logic(), Before);
 }
 
-TEST_P(LgEdFormInsert, nothingChosen_reminds)
-{
-    Load({});
-    Key(GetParam().key);
-    Press(*form, GetParam().button);
-    Press(*form, GetParam().item);
-    EXPECT_EQ(Boxes(), (Strings(3, Refused + GetParam().reminder)));
-    EXPECT_EQ(Logic(), "");
-}
-
 const InsertCase InsertCases[] = {
-    {"keyword", Qt::Key_F2, "KeywordInsertButton", "KeywordItem", "KeywordCombo", "TARGET",
-     "To insert a keyword into the text box, first pick a keyword from the list."},
-    {"variable", Qt::Key_F3, "InsertButton", "InsVarItem", "VarCombo", "AGE",
-     "To insert a variable name into the text box, first pick a variable from the list."},
-    {"choice", Qt::Key_F4, "InsAdvButton", "InsAdvItem", "AnswerCombo",
-     "AGE(OLD)=", "To insert a choice, you must first select a variable and achoice from the pick lists."},
+    {"keyword", Qt::Key_F2, "KeywordInsertButton", "KeywordItem", "KeywordCombo", "TARGET"},
+    {"variable", Qt::Key_F3, "InsertButton", "InsVarItem", "VarCombo", "AGE"},
+    {"choice", Qt::Key_F4, "InsAdvButton", "InsAdvItem", "AnswerCombo", "AGE(OLD)="},
 };
 
-std::string InsertName(const testing::TestParamInfo<InsertCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Insert, LgEdFormInsert, testing::ValuesIn(InsertCases), InsertName);
-
-TEST_F(LgEdFormTexts, choiceOfAVariableWithoutChoices_isNotInserted)
-{
-    Load();
-    Pick("VarCombo", "NOTE");
-    Key(Qt::Key_F4);
-    EXPECT_EQ(Boxes(), Strings{Refused + "To insert a choice, you must first select a variable and achoice "
-                                         "from the pick lists."});
-}
+INSTANTIATE_TEST_SUITE_P(Insert, LgEdFormInsert, testing::ValuesIn(InsertCases), test::RowName());
 
 TEST_F(LgEdFormTexts, undoRedoSelectAll_actOnTheBoxWithTheFocus)
 {

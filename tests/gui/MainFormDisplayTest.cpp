@@ -114,14 +114,6 @@ TEST_F(MainFormDisplayTest, scroll_wheelOverThePane_movesTheBar)
     EXPECT_EQ(FirstLine(), Bar().value());
 }
 
-TEST_F(MainFormDisplayTest, scroll_lastLine_leavesTheRestEmpty)
-{
-    Start(WriteLines(100));
-    test::TakePicture(form, "main-long-topic");
-    Bar().setValue(100);
-    EXPECT_EQ(PaneText(), "100");
-}
-
 TEST_F(MainFormDisplayTest, scroll_anotherTopic_startsAtItsFirstLine)
 {
     Start(Write("Two.IDA", "LODESTAR BOOK V5.3\r\n[T]\r\na\r\nb\r\nc\r\n[U]\r\nd\r\ne\r\nf\r\n"));
@@ -225,36 +217,6 @@ TEST_F(MainFormDisplayTest, resize_boxOpen_laysOutAndShowsTheTopicAfterItCloses)
     Press(form, "NewItem");
     Settle();
     EXPECT_EQ(Bar().value(), 1);
-}
-
-TEST_F(MainFormDisplayTest, resize_fileChanged_raisesNoMessageAndKeepsThePane)
-{
-    Start(WriteThree());
-    Write("Three.IDA", "gone");
-    ResizeInner(886, 593);
-    Settle();
-    EXPECT_EQ(PaneText(), "a");
-    EXPECT_EQ(global.book.CurrentTopicName, "[A]");
-}
-
-TEST_F(MainFormDisplayTest, resize_nothingOnShow_raisesNoMessage)
-{
-    Start(WriteThree());
-    Select(1);
-    ResizeInner(886, 593);
-    Settle();
-    EXPECT_EQ(PaneText(), "");
-    EXPECT_EQ(Get<QComboBox>("TopicList").currentIndex(), 1);
-}
-
-TEST_F(MainFormDisplayTest, resize_plainText_wrapsItAgain)
-{
-    ModalScript script;
-    script.Answer(Reply::Ok);
-    Start(Write("Note.TXT", std::string(70, 'a') + " " + std::string(20, 'b') + "\r\n"));
-    ResizeInner(886, 593);
-    Settle();
-    EXPECT_EQ(PaneText(), std::string(70, 'a') + " " + std::string(20, 'b'));
 }
 
 } // namespace

@@ -60,7 +60,14 @@ protected:
         return Path(name);
     }
 
-    /// Writes a book with the topics "A", "B" and "C" and the bodies "a", "b" and "c".
+    /// The bytes of a file in the scratch folder; "(none)" if there is none.
+    std::string Read(const std::string& name)
+    {
+        QFile file(QString::fromStdString(Path(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
+    }
+
+    /// Writes a book with the topics "A", "B" and "C" with the bodies "a", "b" and "c".
     std::string WriteThree()
     {
         return Write("Three.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "[B]", "b", "[C]", "c"}));

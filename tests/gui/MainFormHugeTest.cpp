@@ -37,28 +37,5 @@ TEST_F(MainFormHugeTest, hundredMebibyteLine_isCutAtTheLimitOfLines)
     ExpectUsable(script);
 }
 
-TEST_F(MainFormHugeTest, hundredMebibyteHeader_isToldInShort)
-{
-    ModalScript script;
-    script.Answer(Reply::Ok);
-    Start(WriteHuge("LODESTAR BOOK V5.3 /TITLE=", "\r\n[T]\r\nbody\r\n"));
-    const std::string begin = "Invalid Lodestar Book header: <<LODESTAR BOOK V5.3 /TITLE=";
-    const std::string end = ">>.  Some information may not be loaded.";
-    EXPECT_EQ(script.Seen(),
-              Strings{"warning|Lodestar Advisor|" + begin + std::string(1500 - begin.size(), 'w') + " ... " +
-                      std::string(500 - end.size(), 'w') + end});
-    EXPECT_EQ(PaneText(), "body");
-    ExpectUsable(script);
-}
-
-TEST_F(MainFormHugeTest, hundredMebibyteTitle_isListedInShortAndShown)
-{
-    ModalScript script;
-    Start(WriteHuge("LODESTAR BOOK V5.3\r\n[", "]\r\nbody\r\n"));
-    EXPECT_EQ(ItemTexts(), Strings{"1. " + std::string(497, 'w')});
-    EXPECT_EQ(PaneText(), "body");
-    ExpectUsable(script);
-}
-
 } // namespace
 } // namespace ls

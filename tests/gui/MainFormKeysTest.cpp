@@ -1,6 +1,7 @@
 // The keys of the main window, pressed in the real one.
 
 #include "gui/MainFormFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -48,18 +49,6 @@ TEST_F(MainFormKeysTest, items_doTheSame)
     EXPECT_EQ(PaneText(), "a");
     test::Press(form, "GoForwardItem");
     EXPECT_EQ(PaneText(), "b");
-}
-
-// The way back of the topics shown is one thing, the list another.
-TEST_F(MainFormKeysTest, backButton_staysThePreviousTopicOfTheList)
-{
-    Start(WriteThree());
-    Select(2);
-    test::Press(form, "GoToButton");
-    test::Press(form, "BackButton");
-    EXPECT_EQ(PaneText(), "b");
-    Key(Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(PaneText(), "c");
 }
 
 TEST_F(MainFormKeysTest, ctrlPageKeys_goAlongTheList)
@@ -127,7 +116,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, FormKeyTest,
                          testing::Values(FormKey{"open", Qt::Key_O, "form|FileForm|Lodestar Advisor Open"},
                                          FormKey{"save", Qt::Key_S, "form|FileForm|Lodestar Advisor Save"},
                                          FormKey{"print", Qt::Key_P, "form|PrtForm|LSAdvisor Print"}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         test::RowName());
 
 TEST_F(MainFormKeysTest, f1_showsTheHelpPage)
 {

@@ -1,6 +1,7 @@
 // The window at the limits of counts, sizes and paths.
 
 #include "gui/MainFormFixture.h"
+#include "support/LimitBooks.h"
 
 #include <sys/resource.h>
 
@@ -9,38 +10,27 @@
 
 #include <algorithm>
 #include <fstream>
-#include <functional>
 
 namespace ls {
 namespace {
 
+using test::BookHeader;
+using test::BookOfMany;
 using test::Find;
+using test::Limit;
 using test::ModalScript;
 using test::Press;
 
-constexpr int Limit = 32767;
-constexpr const char* Header = "LODESTAR BOOK V5.3\r\n";
 constexpr const char* TheFileForm = "form|FileForm|Lodestar Advisor Open";
 constexpr const char* TheAdvForm = "form|AdvForm|Lodestar Advisor - Questions and Answers";
 constexpr const char* Overflow = "critical|Lodestar Advisor|Overflow";
 
 struct MainFormLimitsTest : MainFormFixture
 {
-    // A book of a header, `before`, `count` times what `piece` gives for 1, 2, ..., and `behind`.
-    std::string WriteMany(int count, const std::string& before, const std::function<std::string(int)>& piece,
-                          const std::string& behind = {})
-    {
-        std::string bytes = Header + before;
-        for (int i = 1; i <= count; ++i) {
-            bytes += piece(i);
-        }
-        return Write("Many.IDA", bytes + behind);
-    }
-
     // A book of "A" and "B", and between them "Hole": 4 GiB of zero bytes that take no room on the disk.
     std::string WriteWithHole()
     {
-        const std::string path = Write("Hole.IDA", Header + std::string("[A]\r\na\r\n[Hole]\r\n"));
+        const std::string path = Write("Hole.IDA", BookHeader + std::string("[A]\r\na\r\n[Hole]\r\n"));
         EXPECT_TRUE(QFile::resize(QString::fromStdString(path), qint64{1} << 32));
         std::ofstream(path, std::ios::binary | std::ios::app) << "\r\n[B]\r\nb\r\n";
         return path;
@@ -53,39 +43,17 @@ struct MainFormLimitsTest : MainFormFixture
     }
 };
 
-std::string Topic(int number)
-{
-    return "[T" + std::to_string(number) + "]\r\nbody " + std::to_string(number) + "\r\n";
-}
-
 TEST_F(MainFormLimitsTest, allTopicsThatCanBeCounted_areListedAndReached)
 {
-    Start(WriteMany(Limit, "", Topic));
+    Start(Write("Many.IDA", BookOfMany(Limit, "", test::NthTopic)));
     EXPECT_EQ(Get<QComboBox>("TopicList").count(), Limit);
     GoTo(Limit - 1);
     EXPECT_EQ(PaneText(), "body 32767");
 }
 
-TEST_F(MainFormLimitsTest, oneTopicMore_isRefused)
-{
-    Start(WriteThree());
-    ModalScript script;
-    const std::string path = WriteMany(Limit + 1, "", Topic);
-    script.Do([path](QWidget& chooser) { ChooseFile(chooser, path); }).Answer(Reply::Ok);
-    Press(form, "OpenItem");
-    EXPECT_EQ(script.Seen(), (Strings{TheFileForm, Overflow}));
-    EXPECT_EQ(ItemTexts(), Strings{});
-    ExpectUsable(script);
-}
-
-std::string Reference(int number)
-{
-    return "<XREF TOPIC=B>note " + std::to_string(number) + "</XREF>\r\n";
-}
-
 TEST_F(MainFormLimitsTest, allReferencesThatCanBeCounted_areListed)
 {
-    Start(WriteMany(Limit, "[A]\r\n", Reference, "[B]\r\nb\r\n"));
+    Start(Write("Many.IDA", BookOfMany(Limit, "[A]\r\n", test::NthReference, "[B]\r\nb\r\n")));
     ModalScript script;
     int listed = 0;
     script.Do([&listed](QWidget& window) {
@@ -96,11 +64,15 @@ TEST_F(MainFormLimitsTest, allReferencesThatCanBeCounted_areListed)
     EXPECT_EQ(listed, Limit);
 }
 
-TEST_F(MainFormLimitsTest, oneReferenceMore_isRefused)
+struct OneMoreTest : MainFormLimitsTest, testing::WithParamInterface<std::string (*)(int)>
+{
+};
+
+TEST_P(OneMoreTest, oneTopicOrReferenceMore_isRefused)
 {
     Start(WriteThree());
     ModalScript script;
-    const std::string path = WriteMany(Limit + 1, "[A]\r\n", Reference, "[B]\r\nb\r\n");
+    const std::string path = Write("Many.IDA", BookOfMany(Limit + 1, "[A]\r\n", GetParam(), "[B]\r\nb\r\n"));
     script.Do([path](QWidget& chooser) { ChooseFile(chooser, path); }).Answer(Reply::Ok);
     Press(form, "OpenItem");
     EXPECT_EQ(script.Seen(), (Strings{TheFileForm, Overflow}));
@@ -108,15 +80,8 @@ TEST_F(MainFormLimitsTest, oneReferenceMore_isRefused)
     ExpectUsable(script);
 }
 
-std::string Rule(int number)
-{
-    return "G(" + std::to_string(number) + ")=X(" + std::to_string(number) + ")\r\n";
-}
-
-constexpr const char* LogicStart = "[A]\r\n<IXML>\r\n<LOGIC>\r\nTARGET G\r\n";
-constexpr const char* LogicEnd =
-    "</LOGIC>\r\n<DEFINITIONS>\r\n<Q ID=X>Which?</Q>\r\n<Q ID=G></Q>\r\n<AV ID=G(32767)>The last.</AV>\r\n"
-    "</DEFINITIONS>\r\n</IXML>\r\n";
+INSTANTIATE_TEST_SUITE_P(Pieces, OneMoreTest, testing::Values(test::NthTopic, test::NthReference),
+                         [](const auto& row) { return row.index == 0 ? "topic" : "reference"; });
 
 QString AdvisorText(const QWidget& window)
 {
@@ -125,7 +90,7 @@ QString AdvisorText(const QWidget& window)
 
 TEST_F(MainFormLimitsTest, allRulesThatCanBeCounted_areAskedAndAnswered)
 {
-    Start(WriteMany(Limit, LogicStart, Rule, LogicEnd));
+    Start(Write("Many.IDA", BookOfMany(Limit, test::RulesStart, test::NthRule, test::RulesEnd)));
     ModalScript script;
     script.Do([](QWidget& window) {
         EXPECT_EQ(AdvisorText(window), QStringLiteral("Which?"));
@@ -143,7 +108,7 @@ TEST_F(MainFormLimitsTest, allRulesThatCanBeCounted_areAskedAndAnswered)
 
 TEST_F(MainFormLimitsTest, oneRuleMoreThanCanBeCounted_isNoAdvisor)
 {
-    Start(WriteMany(Limit + 1, LogicStart, Rule, LogicEnd));
+    Start(Write("Many.IDA", BookOfMany(Limit + 1, test::RulesStart, test::NthRule, test::RulesEnd)));
     ModalScript script;
     QString told;
     script.Answer(Reply::Ok).Do([&told](QWidget& window) {
@@ -220,7 +185,7 @@ TEST_F(MainFormLimitsTest, titleOfTenThousandCharacters_isListedInShortAndFollow
 {
     const std::string title(10000, 'w');
     Start(Write("Long.IDA",
-                Header + ("[A]\r\n<XREF TOPIC=" + title) + ">n</XREF>\r\n[" + title + "]\r\nbody\r\n"));
+                BookHeader + ("[A]\r\n<XREF TOPIC=" + title) + ">n</XREF>\r\n[" + title + "]\r\nbody\r\n"));
     EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. " + std::string(497, 'w')}));
     ModalScript script;
     script.Do([](QWidget& window) {
@@ -240,7 +205,7 @@ TEST_F(MainFormLimitsTest, pathOfFourThousandBytes_isOpenedAndKeptAmongTheRecent
     }
     const std::string path = deep + "/a.IDA";
     ASSERT_EQ(path.size(), 4000U);
-    std::ofstream(path, std::ios::binary) << Header << "[A]\r\na\r\n";
+    std::ofstream(path, std::ios::binary) << BookHeader << "[A]\r\na\r\n";
     Start(WriteThree());
     ModalScript script;
     Open(script, path);

@@ -12,11 +12,7 @@ using test::Press;
 constexpr const char* NextAtEnd = "information|Lodestar Advisor|There are no more topics in the list.";
 constexpr const char* PreviousAtStart =
     "information|Lodestar Advisor|You are at the first topic in the list.";
-constexpr const char* NothingSelected = "warning|Lodestar Advisor|Select a topic before clicking Go.";
-constexpr const char* AskNew = "question|Lodestar Advisor|Start over?|OKCancel";
 constexpr const char* AskExit = "question|Lodestar Advisor|Exit without saving changes?|OKCancel";
-constexpr const char* AskOpen =
-    "question|Lodestar Advisor|Open another book without saving changes?|OKCancel";
 constexpr const char* AskPlain = "question|Lodestar Advisor|The file you opened is not a Lodestar Book or "
                                  "Advice file. Do you want to view "
                                  "it as a single topic text file?|OKCancel";
@@ -62,33 +58,6 @@ TEST_F(MainFormTest, firstShowing_bookOfTheCommandLine_showsItWithoutAsking)
     EXPECT_EQ(Get<QComboBox>("TopicList").itemData(2).toInt(), 3);
 }
 
-TEST_F(MainFormTest, firstShowing_startTopic_isShown)
-{
-    Start(WriteThree(), "B");
-    EXPECT_EQ(PaneText(), "b");
-    EXPECT_EQ(Get<QComboBox>("TopicList").currentIndex(), 1);
-}
-
-TEST_F(MainFormTest, firstShowing_startTopicNotInTheBook_isReportedOnce)
-{
-    ModalScript script;
-    script.Answer(Reply::Ok);
-    Start(WriteThree(), "Nowhere");
-    EXPECT_EQ(script.Seen(), Strings{"warning|Lodestar Advisor|Topic [Nowhere] was not found."});
-    EXPECT_EQ(PaneText(), "");
-    test::TakePicture(form, "main-empty");
-}
-
-TEST_F(MainFormTest, firstShowing_missingBook_saysSoAndThenOpensTheFileForm)
-{
-    ModalScript script;
-    script.Answer(Reply::Ok).Escape();
-    Start(Path("None.IDA"));
-    EXPECT_EQ(script.Seen(), (Strings{"critical|Lodestar Advisor|Error opening <<" + Path("None.IDA") +
-                                          ">> with code 53: File not found",
-                                      TheFileForm}));
-}
-
 TEST_F(MainFormTest, open_fileForm_opensTheChosenBook)
 {
     Start(WriteThree());
@@ -104,33 +73,6 @@ TEST_F(MainFormTest, open_fileForm_opensTheChosenBook)
     EXPECT_TRUE(QFile::exists(QString::fromStdString(Path("LSAdvisor.INI"))));
     Open(script, Path("Three.IDA"));
     EXPECT_FALSE(Visible("ExplainButton"));
-}
-
-TEST_F(MainFormTest, open_lockForEditing_keepsTheBookFromOthers)
-{
-    Start(WriteThree());
-    const std::string other = Write("Other.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[X]", "x"}));
-    ModalScript script;
-    script.Do([other](QWidget& chooser) {
-        test::Find<QAbstractButton>(chooser, "ExclusiveOption")->click();
-        ChooseFile(chooser, other);
-    });
-    Press(form, "OpenItem");
-    EXPECT_EQ(PaneText(), "x");
-    EXPECT_TRUE(global.book.LockBook);
-    std::unique_ptr<BookFile> elsewhere;
-    EXPECT_EQ(files.OpenForReading(other, Sharing::Shared, elsewhere).number, error::PermissionDenied);
-}
-
-TEST_F(MainFormTest, open_unsavedChanges_cancelKeepsTheBook)
-{
-    Start(WriteThree());
-    global.book.BookChanged = true;
-    ModalScript script;
-    script.Answer(Reply::Cancel);
-    Press(form, "OpenItem");
-    EXPECT_EQ(script.Seen(), Strings{AskOpen});
-    EXPECT_EQ(PaneText(), "a");
 }
 
 TEST_F(MainFormTest, goTo_listChanged_clearsThePaneUntilEnter)
@@ -167,25 +109,6 @@ TEST_F(MainFormTest, goTo_clickedByMouse_thenEnterCloses)
     EXPECT_EQ(PaneText(), "c");
     EnterInWindow();
     EXPECT_FALSE(form.isVisible());
-}
-
-TEST_F(MainFormTest, goTo_nothingSelected_asksToSelect)
-{
-    Start(WriteThree());
-    Get<QComboBox>("TopicList").setCurrentIndex(-1);
-    ModalScript script;
-    script.Answer(Reply::Ok);
-    Press(form, "GoToButton");
-    EXPECT_EQ(script.Seen(), Strings{NothingSelected});
-}
-
-TEST_F(MainFormTest, goTo_noBook_doesNothing)
-{
-    ModalScript script;
-    script.Escape();
-    Start("");
-    Press(form, "GoToButton");
-    EXPECT_EQ(script.Seen().size(), 1U);
 }
 
 TEST_F(MainFormTest, enter_otherButtonFocused_pressesThatButton)
@@ -325,27 +248,6 @@ TEST_F(MainFormTest, plainText_enterWithoutAVisibleDefaultButton_doesNothing)
     EXPECT_TRUE(form.isVisible());
 }
 
-TEST_F(MainFormTest, plainText_nextAndPrevious_tellThatThereIsNothingMore)
-{
-    ModalScript script;
-    script.Answer(Reply::Ok).Answer(Reply::Ok).Answer(Reply::Ok);
-    Start(Write("Note.TXT", "one\r\n"));
-    Press(form, "NextButton");
-    Press(form, "BackButton");
-    EXPECT_EQ(script.Seen(), (Strings{AskPlain, NextAtEnd, PreviousAtStart}));
-    EXPECT_EQ(PaneText(), "one");
-}
-
-TEST_F(MainFormTest, newItem_cancelled_changesNothing)
-{
-    Start(WriteThree());
-    ModalScript script;
-    script.Answer(Reply::Cancel);
-    Press(form, "NewItem");
-    EXPECT_EQ(script.Seen(), Strings{AskNew});
-    EXPECT_EQ(PaneText(), "a");
-}
-
 TEST_F(MainFormTest, newItem_accepted_clearsTheWindow)
 {
     Start(WriteThree());
@@ -357,13 +259,6 @@ TEST_F(MainFormTest, newItem_accepted_clearsTheWindow)
     EXPECT_FALSE(Visible("VScroll1"));
     EXPECT_EQ(Get<QScrollBar>("VScroll1").value(), 1);
     EXPECT_FALSE(global.book.IsOpen());
-}
-
-TEST_F(MainFormTest, leave_noChanges_closesAtOnce)
-{
-    Start(WriteThree());
-    Press(form, "DoneButton");
-    EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(MainFormTest, leave_changes_everyWayAsksAndFollowsTheAnswer)
@@ -398,19 +293,7 @@ TEST_F(MainFormTest, programEnd_readErrorWhileScanning_closesTheWindowWithoutAsk
     EXPECT_EQ(script.Seen(),
               (Strings{TheFileForm,
                        "critical|Lodestar Advisor|Error reading book file with code 57: Device I/O error"}));
-    EXPECT_TRUE(global.end.Ended());
-    EXPECT_FALSE(form.isVisible());
-}
-
-TEST_F(MainFormTest, programEnd_settingsFault_endsBeforeTheWindowIsShown)
-{
-    Write("LSAdvisor.INI", test::CrLf({"LSADVISOR V5.3 INI", "[TOP10FILES]", "*40000; NAME=Old.IDA"}));
-    ModalScript script;
-    script.Answer(Reply::Ok);
-    Start(WriteThree());
-    EXPECT_EQ(script.Seen(),
-              Strings{"critical|Lodestar Advisor|The input file contains too many records to load."});
-    EXPECT_TRUE(global.end.Ended());
+    EXPECT_EQ(global.end.Reason(), "error reading the book file");
     EXPECT_FALSE(form.isVisible());
 }
 

@@ -140,14 +140,5 @@ TEST_F(MainFormTypeSizeTest, tooLargeForThePane_stillBreaksLinesAt20)
     EXPECT_FALSE(global.end.Ended());
 }
 
-TEST_F(MainFormTypeSizeTest, nothingOnShow_staysSo)
-{
-    Start(WriteThree());
-    Select(1);
-    Press(form, "LargerItem");
-    EXPECT_EQ(PaneText(), "");
-    EXPECT_FALSE(Visible("VScroll1"));
-}
-
 } // namespace
 } // namespace ls

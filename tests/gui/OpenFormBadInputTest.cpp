@@ -13,12 +13,10 @@
 
 #include <QLineEdit>
 #include <QListView>
-#include <QPushButton>
 #include <QTest>
 
 #include <filesystem>
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace ls {
@@ -26,8 +24,6 @@ namespace {
 
 using Strings = std::vector<std::string>;
 using test::Find;
-
-constexpr uid_t Nobody = 65534;
 
 struct RootVolume : Volumes
 {
@@ -75,47 +71,6 @@ struct OpenFormBadInputTest : testing::Test
         return "exclamation|Lodestar Advisor|Sorry, you cannot choose " + path + " due to error " + error;
     }
 };
-
-std::string Lower(std::string text)
-{
-    for (char& c : text) {
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    }
-    return text;
-}
-
-TEST_F(OpenFormBadInputTest, folderWithoutPermission_isToldAndTheOldOneStays)
-{
-    const std::string closed = folder.MakeFolder("closed");
-    folder.Write("Guide.IDA", "");
-    ASSERT_EQ(::chmod(folder.Path().c_str(), 0755), 0);
-    ASSERT_EQ(::chmod(closed.c_str(), 0), 0);
-    const uid_t self = ::geteuid();
-    ASSERT_TRUE(self != 0 || ::seteuid(Nobody) == 0); // root may look into every folder
-    Open(folder / "*.IDA");
-    Enter(closed + "/*.IDA");
-    ASSERT_TRUE(self != 0 || ::seteuid(self) == 0);
-    EXPECT_EQ(messages.Take(), Strings{Refusal(Lower(closed) + "/", "70: Permission denied")});
-    EXPECT_EQ(Text().toStdString(), folder / "*.IDA");
-    EXPECT_EQ(FileCount(), 1);
-    EXPECT_TRUE(form->isVisible());
-    ::chmod(closed.c_str(), 0755);
-}
-
-TEST_F(OpenFormBadInputTest, folderRemovedWhileShown_isToldAndAnotherCanBeChosen)
-{
-    const std::string shown = folder.MakeFolder("shown");
-    folder.Write("shown/A.IDA", "");
-    folder.Write("B.IDA", "");
-    Open(shown + "/*.IDA");
-    std::filesystem::remove_all(shown);
-    ClickFile(0);
-    test::Press(*form, "OKButton");
-    EXPECT_EQ(messages.Take(), Strings{Refusal(Lower(shown), "76: Path not found")});
-    EXPECT_TRUE(form->isVisible());
-    Enter(folder / "B.IDA");
-    EXPECT_EQ(dialog.ChosenFullPath, folder / "B.IDA");
-}
 
 TEST_F(OpenFormBadInputTest, currentFolderRemoved_namesWithAWholePathStillWork)
 {

@@ -7,10 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListView>
-#include <QPushButton>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
@@ -83,8 +81,6 @@ TEST_F(OpenFormTest, load_showsPathAndLists)
     EXPECT_EQ(Rows("DirsBox"), (QStringList{QStringLiteral("\u25BE /"), QStringLiteral("\u25BE work"),
                                             QStringLiteral("\u25B8 Sub")}));
     EXPECT_EQ(Find<QComboBox>(*form, "DriveDropDown")->currentText(), QStringLiteral("/"));
-    EXPECT_EQ(Find<QPushButton>(*form, "OKButton")->text().remove(u'&'), QStringLiteral("O.K."));
-    EXPECT_EQ(Find<QPushButton>(*form, "CancelButton")->text().remove(u'&'), QStringLiteral("Cancel"));
     test::TakePicture(*form, "OpenForm");
 }
 
@@ -168,28 +164,6 @@ TEST_F(OpenFormTest, typePattern_enterListsAndStays)
     EXPECT_EQ(Text(), QStringLiteral("/work/*.txt"));
 }
 
-TEST_F(OpenFormTest, typeMissingFile_saysSoAndStays)
-{
-    Open("/work/*.IDA");
-    test::Type(*form, "TextBox", QStringLiteral("/work/Missing.IDA"));
-    test::Press(*form, "OKButton");
-    EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(world.messages.Take(),
-              (Strings{"exclamation|Lodestar Advisor|File does not exist: /work/missing.ida"}));
-}
-
-TEST_F(OpenFormTest, saveModeExistingFile_confirmedOverwriteIsTold)
-{
-    Open("/work/*.IDA", "W");
-    world.messages.replies = {Reply::Ok};
-    ClickRow("FileListBox", 0);
-    test::Press(*form, "OKButton");
-    EXPECT_EQ(form->result(), QDialog::Accepted);
-    EXPECT_TRUE(dialog.OverwriteConfirmed);
-    EXPECT_EQ(world.messages.Take(),
-              (Strings{"question|Lodestar Advisor|File already exists.  Overwrite?|OKCancel"}));
-}
-
 TEST_F(OpenFormTest, cancelAndEscape_emptyTheChosenPath)
 {
     Open("/work/*.IDA");
@@ -229,20 +203,6 @@ TEST_F(OpenFormTest, load_slowFolder_eventsGoOnMeanwhile)
     world.files.fail = nullptr;
     EXPECT_GE(beatsSeen, 3);
     EXPECT_EQ(Rows("FileListBox"), QStringList{QStringLiteral("Guide.IDA")});
-}
-
-TEST_F(OpenFormTest, tabOrder_goesAsTheEyeGoes)
-{
-    Open("/work/*.IDA");
-    Find<QLineEdit>(*form, "TextBox")->setFocus();
-    QStringList order;
-    for (int i = 0; i < 6; ++i) {
-        order.append(form->focusWidget()->objectName());
-        QTest::keyClick(form->windowHandle(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, (QStringList{QStringLiteral("TextBox"), QStringLiteral("DriveDropDown"),
-                                  QStringLiteral("DirsBox"), QStringLiteral("FileListBox"),
-                                  QStringLiteral("OKButton"), QStringLiteral("CancelButton")}));
 }
 
 } // namespace

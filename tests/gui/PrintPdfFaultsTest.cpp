@@ -2,6 +2,7 @@
 
 #include "gui/PrintPdfFixture.h"
 #include "support/MemoryFileSystem.h"
+#include "support/RowName.h"
 
 #include <csignal>
 
@@ -71,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Places, PrintPdfBadPlace,
                                          BadPlace{"aFolder", "folder.pdf", error::PathFileAccess},
                                          BadPlace{"fullDevice", "/dev/full", error::DeviceUnavailable},
                                          BadPlace{"systemFolder", "/proc/a.pdf", error::FileNotFound}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 TEST_F(PrintPdfTest, noRoomForTheWork_isAnErrorAndNotDone)
 {
@@ -173,7 +174,7 @@ TEST_P(PrintPdfStore, diskFullWhileTheFileIsStored_keepsTheOldOne)
 INSTANTIATE_TEST_SUITE_P(Steps, PrintPdfStore,
                          testing::Values(StoreFault{"create", "create"}, StoreFault{"write", "write"},
                                          StoreFault{"finish", "finish"}, StoreFault{"rename", "rename"}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 } // namespace
 } // namespace ls

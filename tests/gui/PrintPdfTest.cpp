@@ -1,6 +1,7 @@
 // Pages in real PDF files, looked at by other programs.
 
 #include "gui/PrintPdfFixture.h"
+#include "support/RowName.h"
 
 #include <QColor>
 #include <QImage>
@@ -127,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SheetCase{"letter_elite_sideways", 1, 12, true, 5, "792 x 612 pts (letter)"},
                     SheetCase{"legal_elite_sideways", 5, 12, true, 5, "1008 x 612 pts"},
                     SheetCase{"a4_elite_sideways", 9, 12, true, 5, "842 x 595 pts (A4)"}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 TEST_F(PrintPdfTest, everyTopicOfTheSamples_hasTheLines)
 {
@@ -201,9 +202,9 @@ TEST_F(PrintPdfTest, blackAndWhite_hasNoColour)
         }
         return count;
     };
-    printer.SetColour(false);
+    EXPECT_TRUE(printer.SetColour(false).Ok());
     EXPECT_EQ(coloured(Print(1)), 0);
-    printer.SetColour(true);
+    EXPECT_TRUE(printer.SetColour(true).Ok());
     settings.PrintInColour = true;
     EXPECT_GT(coloured(Print(1)), 20);
 }

@@ -4,8 +4,6 @@
 #include "gui/MainFormFixture.h"
 #include "support/PageText.h"
 
-#include <QGroupBox>
-#include <QLineEdit>
 #include <QRadioButton>
 
 namespace ls {
@@ -65,53 +63,21 @@ struct PrtFormTest : MainFormFixture
     }
 };
 
-TEST_F(PrtFormTest, captions_areAsDesigned)
+TEST_F(PrtFormTest, lists_areThoseOfThePrinter)
 {
     Start(WriteThree());
     ModalScript script;
     InDialog(script, [](QWidget& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("LSAdvisor Print"));
-        const auto plain = [](QString text) { return text.remove(QLatin1Char('&')).toStdString(); };
-        EXPECT_EQ(plain(Find<QLabel>(dialog, "Label1")->text()), "Printer");
-        EXPECT_EQ(plain(Find<QLabel>(dialog, "Label2")->text()), "Paper Size");
-        EXPECT_EQ(plain(Find<QLabel>(dialog, "Label3")->text()), "Type Size");
-        EXPECT_EQ(plain(Find<QGroupBox>(dialog, "Frame2")->title()), "Print Mode");
-        EXPECT_EQ(plain(Find<QRadioButton>(dialog, "ColourOption")->text()), "Colour");
-        EXPECT_EQ(plain(Find<QRadioButton>(dialog, "BWOption")->text()), "Black and White");
-        EXPECT_EQ(plain(Find<QPushButton>(dialog, "OKButton")->text()), "Print Topic");
-        EXPECT_EQ(plain(Find<QPushButton>(dialog, "CancelButton")->text()), "Cancel");
-        EXPECT_EQ(Find<QPushButton>(dialog, "HelpButton")->toolTip(), QStringLiteral("Show help page"));
-        EXPECT_TRUE(
-            Find<QGroupBox>(dialog, "Frame2")->isAncestorOf(Find<QRadioButton>(dialog, "ColourOption")));
-        EXPECT_TRUE(Find<QGroupBox>(dialog, "Frame2")->isAncestorOf(Find<QRadioButton>(dialog, "BWOption")));
         EXPECT_EQ(Entries(dialog, "PrinterCombo"), (Strings{"Office", "Attic", "Print to PDF"}));
         EXPECT_EQ(Entries(dialog, "PaperCombo"),
                   (Strings{"Letter 8.5 x 11 in.", "Legal 11 x 14 in.", "A4 Letter 21 x 29.7 cm"}));
         EXPECT_EQ(Entries(dialog, "TypeSizeCombo"),
                   (Strings{"Pica (10 chars/inch)", "Elite (12 chars/inch)"}));
         EXPECT_EQ(Shown(dialog), "Office|Letter 8.5 x 11 in.|Pica (10 chars/inch)|black");
-        EXPECT_TRUE(Find<QPushButton>(dialog, "OKButton")->isDefault());
         test::TakePicture(dialog, "PrtForm");
         Press(dialog, "CancelButton");
     });
     Press(form, "PrintItem");
-}
-
-TEST_F(PrtFormTest, labels_leadToTheirControls)
-{
-    Start(WriteThree());
-    ModalScript script;
-    InDialog(script, [](QWidget& dialog) {
-        for (const auto& [key, control] : {std::pair{Qt::Key_S, "PaperCombo"},
-                                           {Qt::Key_T, "TypeSizeCombo"},
-                                           {Qt::Key_P, "PrinterCombo"}}) {
-            QTest::keyClick(dialog.windowHandle(), key, Qt::AltModifier);
-            EXPECT_EQ(dialog.focusWidget(), Find<QComboBox>(dialog, control)) << control;
-        }
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-    Press(form, "PrintItem");
-    EXPECT_FALSE(global.print.PrintConfirmed);
 }
 
 TEST_F(PrtFormTest, printTopic_printsTheTopicOnShow)
@@ -179,29 +145,6 @@ TEST_F(PrtFormTest, refusedPaper_keepsTheDialogOpen)
     EXPECT_EQ(PrintedRows().back(), "      a");
 }
 
-TEST_F(PrtFormTest, smallPaper_isRefusedBeforeAnythingIsPrinted)
-{
-    printer.state.paperSize = 11;
-    printer.state.width = 8400;
-    Start(WriteThree());
-    ModalScript script;
-    InDialog(script, [](QWidget& dialog) {
-        EXPECT_EQ(Entries(dialog, "PaperCombo").back(), "Printer default (other)");
-        EXPECT_EQ(Find<QComboBox>(dialog, "PaperCombo")->currentText(),
-                  QStringLiteral("Printer default (other)"));
-        Press(dialog, "OKButton");
-        Press(dialog, "CancelButton");
-    });
-    script.Answer(Reply::Ok);
-    Press(form, "PrintItem");
-    ASSERT_EQ(script.Seen().size(), 2U);
-    EXPECT_EQ(
-        script.Seen()[1],
-        "warning|Lodestar Advisor|The paper selected for your printer is too small.  Put in larger paper and "
-        "choose a new size using the Windows control panel or using my paper selection list.");
-    EXPECT_EQ(printer.log, Strings{"choose Office"}) << "not even the printer's own paper was set";
-}
-
 TEST_F(PrtFormTest, pdf_asksForItsNameAndBeforeItReplacesAFile)
 {
     printer.fileTo = "Print to PDF";
@@ -223,61 +166,6 @@ TEST_F(PrtFormTest, pdf_asksForItsNameAndBeforeItReplacesAFile)
     EXPECT_EQ(printer.log, (Strings{"choose Attic", "choose Print to PDF", "choose Print to PDF", "paper 1",
                                     "grey", "choose Print to PDF", "paper 1", "grey",
                                     "file " + path + " replaced", "title A", "font Courier New 12", "end"}));
-}
-
-TEST_F(PrtFormTest, printerFailsAfterwards_isTold)
-{
-    printer.failEndDoc = MakeFileError(error::DiskFull);
-    Start(WriteThree());
-    ModalScript script;
-    InDialog(script, [](QWidget& dialog) { Press(dialog, "OKButton"); });
-    script.Answer(Reply::Ok);
-    Press(form, "PrintItem");
-    ASSERT_EQ(script.Seen().size(), 2U);
-    EXPECT_EQ(script.Seen()[1],
-              "critical|Lodestar Advisor|I cannot print the topic due to error #61: Disk full");
-}
-
-TEST_F(PrtFormTest, noBook_saysThatThereIsNothing)
-{
-    ModalScript script;
-    script.Escape(); // the file form of the first showing
-    Start("");
-    script.Answer(Reply::Ok);
-    Press(form, "PrintItem");
-    EXPECT_EQ(script.Seen().back(), "warning|Lodestar Advisor|There is nothing to print.");
-}
-
-TEST_F(PrtFormTest, noTopicOnShow_asksForOne)
-{
-    Start(WriteThree());
-    Select(1);
-    ModalScript script;
-    script.Answer(Reply::Ok);
-    Press(form, "PrintItem");
-    EXPECT_EQ(script.Seen(),
-              Strings{"warning|Lodestar Advisor|Please display the topic first by choosing it from the "
-                      "list and clicking Go."});
-}
-
-TEST_F(PrtFormTest, plainText_isPrinted)
-{
-    const std::string path = Write("Notes.TXT", "one\r\ntwo\r\n");
-    ModalScript script;
-    script.Answer(Reply::Ok);
-    Start(path);
-    InDialog(script, [](QWidget& dialog) { Press(dialog, "OKButton"); });
-    Press(form, "PrintItem");
-    EXPECT_EQ(PrintedRows(), (Strings{"", "", "", "      one", "      two"}));
-}
-
-TEST_F(PrtFormTest, keyOfTheMenu_opensTheDialog)
-{
-    Start(WriteThree());
-    ModalScript script;
-    InDialog(script, [](QWidget& dialog) { Press(dialog, "CancelButton"); });
-    QTest::keyClick(form.windowHandle(), Qt::Key_P, Qt::ControlModifier);
-    EXPECT_TRUE(test::WaitFor([&script] { return script.Seen().size() == 1; }));
 }
 
 TEST_F(PrtFormTest, help_noPageBesideTheProgram_isDisabled)
@@ -305,43 +193,6 @@ TEST_F(PrtFormTest, help_showsThePageOnPrinting)
     });
     Press(form, "PrintItem");
     EXPECT_EQ(processes.started, Strings{"/usr/bin/web " + page});
-}
-
-TEST_F(PrtFormTest, help_noBrowser_selectorFindsOne)
-{
-    processes.programFolder = Path("");
-    const std::string page = Write("LSIdeas_Print_Parameters.htm", "");
-    Write("web", "");
-    Start(WriteThree());
-    ModalScript script;
-    InDialog(script, [](QWidget& dialog) {
-        Press(dialog, "HelpButton");
-        Press(dialog, "CancelButton");
-    });
-    script.Answer(Reply::Ok).Answer(Reply::Yes).Do([this](QWidget& selector) {
-        test::Type(selector, "TextBox", QString::fromStdString(Path("web")));
-        Press(selector, "OKButton");
-    });
-    Press(form, "PrintItem");
-    EXPECT_EQ(processes.started, Strings{Path("web") + " " + page});
-}
-
-TEST_F(PrtFormTest, tabOrder_followsTheEye)
-{
-    Start(WriteThree());
-    ModalScript script;
-    InDialog(script, [](QWidget& dialog) {
-        Strings order;
-        Find<QComboBox>(dialog, "PrinterCombo")->setFocus();
-        for (int i = 0; i < 6; ++i) {
-            order.push_back(dialog.focusWidget()->objectName().toStdString());
-            QTest::keyClick(dialog.windowHandle(), Qt::Key_Tab);
-        }
-        EXPECT_EQ(order, (Strings{"PrinterCombo", "PaperCombo", "TypeSizeCombo", "BWOption", "OKButton",
-                                  "CancelButton"}));
-        Press(dialog, "CancelButton");
-    });
-    Press(form, "PrintItem");
 }
 
 } // namespace

@@ -66,7 +66,6 @@ int CountPixels(const QImage& image, QRgb colour)
     return count;
 }
 
-constexpr QRgb WhitePixel = qRgb(255, 255, 255);
 constexpr QRgb BlackPixel = qRgb(0, 0, 0);
 
 TEST_F(ReadingPaneTest, key_movesTheBar)
@@ -228,23 +227,6 @@ TEST_F(ReadingPaneTest, sizeHint_holdsEightyCharacters)
 {
     pane->resize(pane->sizeHint());
     EXPECT_EQ(CharsAcross(pane->InnerWidth(), pane->CharWidth()), 80);
-}
-
-TEST_F(ReadingPaneTest, darkDesktop_leavesBlackOnWhite)
-{
-    QPalette dark;
-    dark.setColor(QPalette::Window, QColor(30, 30, 30));
-    dark.setColor(QPalette::Base, QColor(20, 20, 20));
-    dark.setColor(QPalette::WindowText, Qt::white);
-    dark.setColor(QPalette::Text, Qt::white);
-    ShowActive(window);
-    bar->setFocus();
-    pane->Print("Black on white", true);
-    const QImage light = Look();
-    window.setPalette(dark);
-    EXPECT_EQ(Look(), light);
-    EXPECT_GT(CountPixels(light, WhitePixel), light.width() * light.height() * 9 / 10);
-    EXPECT_GT(CountPixels(light, BlackPixel), 20);
 }
 
 TEST_F(ReadingPaneTest, focus_isSeenAtTheBorder)

@@ -13,7 +13,6 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QElapsedTimer>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 
@@ -32,14 +31,6 @@ struct RecoveryTest : AuthorFixture
     OwnJournal journal{seams, state, [] { return "own"; }};
     JournalKeeper keeper{global.book, seams, journal, [this] { return form.Busy(); },
                          [this](const std::string& text) { ShowNotice(&form, text); }};
-
-    /// The journal's file.
-    QByteArray Bytes()
-    {
-        QFile file(QString::fromStdString(state + "/own.journal"));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
 
     /// What stands in the journal now.
     Journal Standing()
@@ -117,18 +108,6 @@ TEST_F(RecoveryTest, typedLogic_standsWhileTheEditorIsOpen)
     ASSERT_TRUE(seen.running.logic);
     EXPECT_EQ(seen.running.logic->name, "[A]");
     EXPECT_NE(seen.running.logic->utf8.find("TARGET GO"), std::string::npos);
-}
-
-TEST_F(RecoveryTest, editorOpenAndNothingTyped_writesNothing)
-{
-    Start(WriteThree());
-    test::ModalScript script;
-    script.Do([this](QWidget& editor) {
-        keeper.Keep();
-        EXPECT_FALSE(journal.Stands());
-        static_cast<QDialog&>(editor).done(QDialog::Rejected);
-    });
-    test::Press(form, "EdTextItem");
 }
 
 TEST_F(RecoveryTest, checkedForRemoval_standsWhileTheFormIsOpen)
@@ -239,22 +218,6 @@ TEST_F(RecoveryTest, typing_standsWithinTwoSeconds)
     EXPECT_LE(longest, JournalMaxAgeMilliseconds);
 }
 
-// Scrolling runs a command for every step.
-TEST_F(RecoveryTest, scrolling_writesNothing)
-{
-    Start(WriteThree());
-    EditTopicOnShow();
-    ASSERT_TRUE(journal.Stands());
-    const QByteArray before = Bytes();
-    global.book.TopicRecs(1).Text = "not told by the flag";
-    QWidget& pane = Get<QWidget>("VScroll1");
-    for (int step = 0; step < 20; ++step) {
-        QTest::keyClick(&pane, Qt::Key_Down);
-        Q_EMIT form.CommandDone();
-    }
-    EXPECT_EQ(Bytes(), before);
-}
-
 TEST_F(RecoveryTest, cannotBeWritten_isToldOnceWithoutStoppingTheWork)
 {
     Start(WriteThree());
@@ -280,23 +243,6 @@ TEST_F(RecoveryTest, cannotBeWritten_isToldOnceWithoutStoppingTheWork)
     test::Press(form, "EdTextItem");
 }
 
-TEST_F(RecoveryTest, saved_journalIsGone)
-{
-    StartWith(WriteThree());
-    EditTopicOnShow();
-    EXPECT_TRUE(journal.Stands());
-    Save("Three (001).IDA");
-    EXPECT_FALSE(journal.Stands());
-}
-
-TEST_F(RecoveryTest, finish_cleanEnd_removesTheJournal)
-{
-    Start(WriteThree());
-    EditTopicOnShow();
-    keeper.Finish();
-    EXPECT_FALSE(journal.Stands());
-}
-
 // No look came between the typing and the fault.
 TEST_F(RecoveryTest, faultInTheTextEditor_keepsWhatWasTypedUntilThen)
 {
@@ -313,22 +259,6 @@ TEST_F(RecoveryTest, faultInTheTextEditor_keepsWhatWasTypedUntilThen)
     ASSERT_TRUE(Standing().running.text);
     EXPECT_EQ(Standing().running.text->utf8, "typed");
     EXPECT_EQ(Standing().recs.size(), 1U);
-}
-
-TEST_F(RecoveryTest, faultInTheLogicEditor_keepsWhatWasTypedUntilThen)
-{
-    Start(WriteThree());
-    test::ModalScript script;
-    script.Do([this](QWidget& editor) {
-        test::Type(editor, "LogicTextbox", QStringLiteral("TARGET GO"));
-        EXPECT_FALSE(journal.Stands());
-        EndProgram(global.end, "a fault");
-        static_cast<QDialog&>(editor).done(QDialog::Rejected);
-    });
-    test::Press(form, "AdviceEdItem");
-    keeper.Finish();
-    ASSERT_TRUE(Standing().running.logic);
-    EXPECT_NE(Standing().running.logic->utf8.find("TARGET GO"), std::string::npos);
 }
 
 TEST_F(RecoveryTest, recoveryBox_eachButton_givesItsChoice)

@@ -2,8 +2,6 @@
 
 #include "gui/MainFormFixture.h"
 
-#include <QProgressDialog>
-
 namespace ls {
 namespace {
 
@@ -49,25 +47,9 @@ struct SaveItemFormTest : MainFormFixture
         global.book.BookChanged = true;
     }
 
-    std::string Read(const std::string& name)
-    {
-        QFile file(QString::fromStdString(Path(name)));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(none)";
-    }
-
     static constexpr const char* EditedBook =
         "LODESTAR BOOK V5.3\r\n[A]\r\na\r\n[B]\r\nedited\r\n\r\n[C]\r\nc\r\n";
 };
-
-TEST_F(SaveItemFormTest, save_nothingOpen_saysSo)
-{
-    ModalScript script;
-    script.Escape().Answer(Reply::Ok);
-    Start("");
-    Press(form, "SaveItem");
-    EXPECT_EQ(script.Seen(), (Strings{"form|FileForm|Lodestar Advisor Open",
-                                      "warning|Lodestar Advisor|I have nothing to save."}));
-}
 
 TEST_F(SaveItemFormTest, save_proposedName_isSavedAndOpen)
 {
@@ -117,48 +99,6 @@ TEST_F(SaveItemFormTest, save_openedSharedAndNoType_asksBoth)
     EXPECT_TRUE(global.book.LockBook);
 }
 
-TEST_F(SaveItemFormTest, save_existingName_refusesAndKeepsBoth)
-{
-    StartEdited();
-    Write("Out.IDA", "kept");
-    ModalScript script;
-    script.Do([](QWidget& chooser) { ChooseFile(chooser, "Out.IDA"); }).Answer(Reply::Ok);
-    Press(form, "SaveItem");
-    EXPECT_EQ(script.Seen(), (Strings{TheFileForm, "warning|Lodestar Advisor|The output file already exists, "
-                                                   "so I cannot save your book with this filename."}));
-    EXPECT_EQ(Read("Out.IDA"), "kept");
-    EXPECT_EQ(global.book.BookPath, Path("Three.IDA"));
-    EXPECT_EQ(global.book.TopicRecs(2).Text, "edited\r\n");
-    EXPECT_TRUE(global.book.BookChanged);
-}
-
-TEST_F(SaveItemFormTest, save_cancelledForm_changesNothing)
-{
-    StartEdited();
-    ModalScript script;
-    script.Escape();
-    Press(form, "SaveItem");
-    EXPECT_EQ(script.Seen(), Strings{TheFileForm});
-    EXPECT_TRUE(global.book.BookChanged);
-    EXPECT_EQ(PaneText(), "a");
-}
-
-TEST_F(SaveItemFormTest, save_readError_namesItAndTheEditsStay)
-{
-    StartEdited();
-    files.failure = error::DeviceIo;
-    files.readsBefore = 0;
-    ModalScript script;
-    script.Do([](QWidget& chooser) { ChooseFile(chooser, "Out.IDA"); }).Answer(Reply::Ok);
-    Press(form, "SaveItem");
-    EXPECT_EQ(script.Seen(),
-              (Strings{TheFileForm, "warning|Lodestar Advisor|Failed to read original text due to error #57: "
-                                    "Device I/O error"}));
-    EXPECT_EQ(Read("Out.IDA"), "(none)");
-    EXPECT_EQ(global.book.TopicRecs(2).Text, "edited\r\n");
-    EXPECT_TRUE(global.book.BookChanged);
-}
-
 TEST_F(SaveItemFormTest, save_slowDisk_showsABoxWhoseCancelRemovesThePart)
 {
     StartLong();
@@ -202,17 +142,6 @@ TEST_F(SaveItemFormTest, save_slowDiskWaitedFor_isSavedAndTheBoxGoes)
     EXPECT_EQ(script.Seen(), (Strings{TheFileForm, "form|ProgressBox|Lodestar Advisor", Saved}));
     EXPECT_EQ(Read("Out.IDA"), Read("Long.IDA"));
     EXPECT_FALSE(global.book.BookChanged);
-}
-
-TEST_F(SaveItemFormTest, save_missingFolder_saysSo)
-{
-    StartEdited();
-    ModalScript script;
-    script.Do([](QWidget& chooser) { ChooseFile(chooser, "none/Out.IDA"); }).Answer(Reply::Ok);
-    Press(form, "SaveItem");
-    EXPECT_EQ(script.Seen(),
-              (Strings{TheFileForm, "warning|Lodestar Advisor|Can't test for presence of output "
-                                    "file due to error #76: Path not found"}));
 }
 
 } // namespace

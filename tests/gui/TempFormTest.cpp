@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTest>
 
 #include <memory>
@@ -55,7 +54,6 @@ TEST_F(TempFormTest, load_showsTextReadOnlyAndFindings)
     EXPECT_TRUE(QFontInfo(Text().font()).fixedPitch());
     EXPECT_EQ(Find<QLabel>(*form, "FindingsLabel")->text().remove(u'&'),
               QStringLiteral("What the book check finds in this block:"));
-    EXPECT_EQ(Find<QPushButton>(*form, "CloseButton")->text().remove(u'&'), QStringLiteral("Close"));
     ASSERT_EQ(Findings().count(), 2);
     EXPECT_EQ(Findings().item(0)->text().toStdString(), "Line 1, error: First \xC3\xA9.");
     EXPECT_EQ(Findings().item(1)->text().toStdString(), "Line 2, warning: Second.");
@@ -101,18 +99,6 @@ TEST_F(TempFormTest, closeButtonEnterAndEscape_unloadIt)
         Key(key);
         EXPECT_FALSE(form->isVisible()) << key;
     }
-}
-
-TEST_F(TempFormTest, tabOrder_goesAsTheEyeGoes)
-{
-    Load("x", TwoFindings());
-    Text().setFocus();
-    Strings order;
-    for (int i = 0; i < 4; ++i) {
-        order.push_back(form->focusWidget()->objectName().toStdString());
-        Key(Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, (Strings{"Text1", "FindingsList", "CloseButton", "Text1"}));
 }
 
 TEST_F(TempFormTest, resize_textTakesTheHeight)

@@ -3,14 +3,12 @@
 #include "book/Book.h"
 #include "gui/Controls.h"
 #include "gui/MainFormFixture.h"
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <QClipboard>
 #include <QFontInfo>
-#include <QLabel>
-#include <QMenu>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -70,33 +68,14 @@ struct TxEdFormTest : testing::Test
     Strings Boxes() { return world.messages.Take(); }
 };
 
-TEST_F(TxEdFormTest, load_showsCaptionsItemsAndTheText)
+TEST_F(TxEdFormTest, load_showsTheText)
 {
     Load("caf\xE9 <B>b</B>\r\n\r\n[x\xA0y\r\n");
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Topic Text Edit"));
     EXPECT_EQ(Text(), "caf\xC3\xA9 <B>b</B>\n\n[x y\n"); // the box gives a hard blank as an ordinary one
-    EXPECT_EQ(Find<QLabel>(*form, "Label1")->text().remove(u'&'),
-              QStringLiteral("Edit text and markup. CTRL/C = copy, CTRL/X = cut, CTRL/V = paste"));
-    EXPECT_EQ(Find<QLabel>(*form, "Label2")->text(), QStringLiteral("Insert markup around selected text..."));
-    const std::pair<const char*, const char*> captions[] = {
-        {"H1Button", "H1"}, {"H2Button", "H2"},     {"BButton", "B"},           {"IButton", "I"},
-        {"UButton", "U"},   {"SaveButton", "Done"}, {"CancelButton", "Cancel"}, {"InsertButton", "Insert"},
-    };
-    for (const auto& [name, caption] : captions) {
-        EXPECT_EQ(Find<QPushButton>(*form, name)->text().remove(u'&').toStdString(), caption) << name;
-    }
-    EXPECT_EQ(Find<QPushButton>(*form, "H1Button")->toolTip(), QStringLiteral("Insert markup for Heading1"));
     ASSERT_EQ(Symbols().count(), 3);
     EXPECT_EQ(Symbols().itemText(0) + Symbols().itemText(1) + Symbols().itemText(2), QStringLiteral("<>&"));
     EXPECT_EQ(Symbols().currentText(), QString());
-    auto* menu = Find<QMenu>(*form, "InsertMenu");
-    EXPECT_EQ(menu->title().remove(u'&'), QStringLiteral("Insert"));
-    Strings items;
-    for (const QAction* action : menu->actions()) {
-        items.push_back((action->objectName() + u' ' + action->text().remove(u'&')).toStdString());
-    }
-    EXPECT_EQ(items, (Strings{"H1Item Heading1", "H2Item Heading2", "BItem Bold", "UItem Underline",
-                              "IItem Italic"}));
     EXPECT_TRUE(QFontInfo(Box().font()).fixedPitch());
     EXPECT_EQ(form->focusWidget(), &Box());
     test::TakePicture(*form, "TxEdForm");
@@ -198,12 +177,7 @@ const WrapCase WrapCases[] = {
     {"IItem", "IItem", "<I>", "</I>"},         {"UItem", "UItem", "<U>", "</U>"},
 };
 
-std::string WrapName(const testing::TestParamInfo<WrapCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Markup, WrapSelection, testing::ValuesIn(WrapCases), WrapName);
+INSTANTIATE_TEST_SUITE_P(Markup, WrapSelection, testing::ValuesIn(WrapCases), test::RowName());
 
 TEST_F(TxEdFormTest, wrap_isOneStepToUndoAndRedo)
 {
@@ -218,14 +192,6 @@ TEST_F(TxEdFormTest, wrap_isOneStepToUndoAndRedo)
     test::Press(*form, "UndoItem");
     EXPECT_EQ(Text(), "one two");
     EXPECT_FALSE(Find<QAction>(*form, "UndoItem")->isEnabled()) << "the text it came up with is no step";
-}
-
-TEST_F(TxEdFormTest, wrapOverLines_keepsThem)
-{
-    Load("a\r\nb\r\n");
-    test::Press(*form, "SelectAllItem");
-    test::Press(*form, "UButton");
-    EXPECT_EQ(Text(), "<U>a\nb\n</U>");
 }
 
 TEST_F(TxEdFormTest, symbol_isInsertedAtTheCaretWithoutSemicolon)
@@ -399,32 +365,11 @@ TEST_F(TxEdFormTest, resize_boxKeepsItsDistancesAndTheButtonsTheirs)
     EXPECT_EQ(distances(), before);
 }
 
-TEST_F(TxEdFormTest, tabOrder_goesAsTheEyeGoes)
+TEST_F(TxEdFormTest, tabKeyInTheBox_isText)
 {
     Load("");
     Key(Qt::Key_Tab);
-    EXPECT_EQ(Text(), "\t") << "a TAB is text";
-    Strings order;
-    Find<QWidget>(*form, "H1Button")->setFocus();
-    for (int i = 0; i < 10; ++i) {
-        order.push_back(form->focusWidget()->objectName().toStdString());
-        Key(Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, (Strings{"H1Button", "H2Button", "BButton", "IButton", "UButton", "SymCombo",
-                              "InsertButton", "SaveButton", "CancelButton", "MainTxBox"}));
-}
-
-TEST_F(TxEdFormTest, thousandsOfLines_areTakenWhole)
-{
-    std::string text;
-    for (int i = 1; i <= 10000; ++i) {
-        text += "Line " + std::to_string(i) + " <B>bold</B> of a long topic\r\n";
-    }
-    Load(text);
-    Key(Qt::Key_End, Qt::ControlModifier);
-    Key(Qt::Key_X);
-    test::Press(*form, "SaveButton");
-    EXPECT_EQ(book.TopicRecs(1).Text, text + "x");
+    EXPECT_EQ(Text(), "\t");
 }
 
 struct EdTextItemTest : MainFormFixture
@@ -444,20 +389,6 @@ TEST_F(EdTextItemTest, editThroughTheMainWindow_showsTheNewText)
     EXPECT_TRUE(global.book.BookChanged);
     EXPECT_EQ(script.Seen(), Strings{"form|TxEdForm|Topic Text Edit"});
     global.book.BookChanged = false;
-}
-
-TEST_F(EdTextItemTest, cancelInTheMainWindow_leavesTheTopic)
-{
-    Start(WriteThree());
-    test::ModalScript script;
-    script.Do([](QWidget& editor) {
-        test::Type(editor, "MainTxBox", QStringLiteral("new"));
-        test::Press(editor, "CancelButton");
-    });
-    test::Press(form, "EdTextItem");
-    EXPECT_EQ(PaneText(), "a");
-    EXPECT_FALSE(global.book.BookChanged);
-    EXPECT_EQ(global.book.TopicRecs(1).Text, "");
 }
 
 } // namespace

@@ -61,8 +61,7 @@ TEST_P(WholeWay, edit_firstMiddleAndLastTopic_areSavedAndAllOthersAreTheSameByte
         Strings expected = before;
         expected.insert(expected.begin(), "[" + std::string(TypedLine) + "]");
         EXPECT_EQ(shown.back(), expected);
-        const auto number = static_cast<std::size_t>(index) + 1;
-        bytes[number - 1] = EditedBytes(number);
+        bytes[static_cast<std::size_t>(index)] = EditedBytes(index + 1);
     }
     EXPECT_TRUE(global.book.BookChanged);
     EXPECT_EQ(Read(Path("Book.IDA")), Read(GetParam())) << "the old file is never touched";
@@ -116,17 +115,38 @@ TEST_P(WholeWay, topicsAddedRemovedRestoredAndMoved_areSavedSoAndTheirBytesStay)
     }
 }
 
-TEST_P(WholeWay, unedited_savedTwice_isTheSameFileFromTheFirstSaveOn)
-{
-    StartWithSample();
-    const Strings bytes = TopicBytes();
-    Save("Book (001).IDA");
-    EXPECT_EQ(TopicBytes(), bytes);
-    Save("Book (002).IDA");
-    EXPECT_EQ(Read(Path("Book (002).IDA")), Read(Path("Book (001).IDA")));
-}
-
 INSTANTIATE_TEST_SUITE_P(Samples, WholeWay, testing::ValuesIn(SampleBooks()), BookName);
+
+struct NewBook : AuthorFixture
+{
+};
+
+TEST_F(NewBook, beginFromNothing_isSavedAsIdeasAndReadsTheSame)
+{
+    StartWithoutBook();
+    {
+        test::ModalScript script;
+        script.Answer(Reply::Ok);
+        test::Press(form, "NewItem");
+    }
+    Add("First", QStringLiteral("one &LT; two"));
+    Add("Second", QStringLiteral("<B>three</B>"));
+    EXPECT_EQ(ItemTexts(), (Strings{"1. First", "2. Second"}));
+    EXPECT_EQ(ShownText(), Strings{"[three]"});
+    Save("Ideas (001).ida");
+    EXPECT_EQ(Read(Path("Ideas (001).ida")),
+              "LODESTAR BOOK V5.3\r\n[First]\r\none &LT; two\r\n[Second]\r\n<B>three</B>\r\n");
+    for (int pass = 0; pass < 2; ++pass) {
+        SCOPED_TRACE(pass == 0 ? "in the new file" : "opened again");
+        EXPECT_EQ(ItemTexts(), (Strings{"1. First", "2. Second"}));
+        EXPECT_EQ(ShownText(), Strings{"one < two"});
+        GoTo(1);
+        EXPECT_EQ(ShownText(), Strings{"[three]"});
+        if (pass == 0) {
+            OpenAgain();
+        }
+    }
+}
 
 } // namespace
 } // namespace ls
