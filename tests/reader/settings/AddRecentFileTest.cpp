@@ -1,4 +1,5 @@
 #include "reader/settings/SettingsFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -54,8 +55,7 @@ const AddCase AddCases[] = {
     {"lettersThatTheCodePageLacks", {"x", "\xD0\x9A.IDA"}, "\xD0\x9A.ida", {"\xD0\x9A.ida", "x"}},
 };
 
-INSTANTIATE_TEST_SUITE_P(Lists, AddRecentFileTest, testing::ValuesIn(AddCases),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Lists, AddRecentFileTest, testing::ValuesIn(AddCases), test::RowName());
 
 TEST_F(SettingsTest, add_entryOfItsOwnList_isTakenWhole)
 {

@@ -1,5 +1,6 @@
 #include "reader/settings/CommandLine.h"
 
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -61,8 +62,7 @@ const StringCase StringCases[] = {
     {"pathWithOneQuote_takesTheRest", R"("Guide.IDA)", "Guide.IDA|||valid"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Lines, CommandLineStringTest, testing::ValuesIn(StringCases),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Lines, CommandLineStringTest, testing::ValuesIn(StringCases), test::RowName());
 
 struct ArgumentsCase
 {
@@ -123,8 +123,7 @@ const ArgumentsCase ArgumentsCases[] = {
     {"fileThatReadsLikeTheClassicForm", {"/books/odd /TOPIC=x.IDA"}, "/books/odd /TOPIC=x.IDA|||valid"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Lines, CommandLineArgumentsTest, testing::ValuesIn(ArgumentsCases),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Lines, CommandLineArgumentsTest, testing::ValuesIn(ArgumentsCases), test::RowName());
 
 TEST(CommandLine, topic_isTurnedIntoBookText)
 {

@@ -1,4 +1,5 @@
 #include "reader/settings/SettingsFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -115,8 +116,7 @@ const StatementCase StatementCases[] = {
     {"bytesThatAreNoUtf8", Section + "NAME=/\xFF\r\n\xFF", {"/\xFF"}, {InvalidAssignment("\xEF\xBF\xBD")}},
 };
 
-INSTANTIATE_TEST_SUITE_P(Bodies, SettingsStatementTest, testing::ValuesIn(StatementCases),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Bodies, SettingsStatementTest, testing::ValuesIn(StatementCases), test::RowName());
 
 struct SignatureCase
 {
@@ -153,8 +153,7 @@ const SignatureCase SignatureCases[] = {
     {"empty", "", false},
 };
 
-INSTANTIATE_TEST_SUITE_P(Lines, SettingsSignatureTest, testing::ValuesIn(SignatureCases),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Lines, SettingsSignatureTest, testing::ValuesIn(SignatureCases), test::RowName());
 
 TEST_F(SettingsTest, load_noFile_saysNothing)
 {
@@ -168,17 +167,6 @@ TEST_F(SettingsTest, load_emptyFile_isRefused)
     world.files[Ini] = "";
     Load();
     EXPECT_EQ(world.messages.Take(), Strings{FormatBox});
-}
-
-TEST_F(SettingsTest, load_unreadableFile_saysNothing)
-{
-    for (const char* operation : {"open", "read"}) {
-        world.files[Ini] = CrLf({Signature, "[TOP10FILES]", "NAME=a"});
-        FailAt(operation, error::DeviceIo);
-        Load();
-        EXPECT_EQ(Recent(settings), Strings{}) << operation;
-        EXPECT_EQ(world.messages.Take(), Strings{}) << operation;
-    }
 }
 
 TEST_F(SettingsTest, load_noFolderGiven_readsFromTheCurrentOne)
@@ -230,7 +218,7 @@ INSTANTIATE_TEST_SUITE_P(Bodies, SettingsTooManyTest,
                          testing::Values(TooManyCase{"numberAboveTheLimit", "*32768; NAME=b"},
                                          TooManyCase{"hugeNumber", "*99999999999999999999; NAME=b"},
                                          TooManyCase{"nextBehindTheLast", "*32767; *; NAME=b"}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 } // namespace
 } // namespace ls

@@ -5,9 +5,6 @@ namespace {
 
 using test::CrLf;
 
-const std::string SaveBox = "warning|Lodestar Advisor|Failed to save configuration and preferences to "
-                            "LSADVISOR.INI due to error #";
-
 TEST_F(SettingsTest, save_noRecentFiles_writesTheSignatureOnly)
 {
     Save();
@@ -120,16 +117,6 @@ TEST_F(SettingsTest, save_refusedFileAndAnEarlierBackup_keepsBoth)
     EXPECT_EQ(world.files[Ini], CrLf({Signature}));
 }
 
-TEST_F(SettingsTest, save_backupFails_leavesTheRefusedFile)
-{
-    world.files[Ini] = "precious";
-    FailAt("rename", error::PermissionDenied);
-    Save();
-    EXPECT_EQ(world.files[Ini], "precious");
-    EXPECT_FALSE(world.files.Has("/ini/LSAdvisor.INI.new"));
-    EXPECT_EQ(world.messages.Take(), Strings{SaveBox + "70: Permission denied"});
-}
-
 TEST_F(SettingsTest, save_fileThatCannotBeOpened_isKeptBeside)
 {
     world.files[Ini] = CrLf({Signature, "[TOP10FILES]", "*1; NAME=unseen"});
@@ -138,45 +125,6 @@ TEST_F(SettingsTest, save_fileThatCannotBeOpened_isKeptBeside)
     EXPECT_EQ(world.files["/ini/LSAdvisor.INI.bak"], CrLf({Signature, "[TOP10FILES]", "*1; NAME=unseen"}));
     EXPECT_EQ(world.files[Ini], CrLf({Signature}));
 }
-
-TEST_F(SettingsTest, save_newFileLeftByACrash_isNotInTheWay)
-{
-    world.files["/ini/LSAdvisor.INI.new"] = "half a";
-    Save();
-    EXPECT_EQ(world.files[Ini], CrLf({Signature}));
-    EXPECT_EQ(world.messages.Take(), Strings{});
-}
-
-struct SaveFaultCase
-{
-    const char* name;
-    const char* operation;
-    int number;
-    const char* end; ///< of the box
-};
-
-struct SettingsSaveFaultTest : SettingsTest, testing::WithParamInterface<SaveFaultCase>
-{
-};
-
-TEST_P(SettingsSaveFaultTest, save_fault_isShownAndTheOldFileStays)
-{
-    const std::string old = CrLf({Signature, "[TOP10FILES]", "*1; NAME=old"});
-    world.files[Ini] = old;
-    SetRecent({"new"});
-    FailAt(GetParam().operation, GetParam().number);
-    Save();
-    EXPECT_EQ(world.messages.Take(), Strings{SaveBox + GetParam().end});
-    EXPECT_EQ(world.files[Ini], old);
-    EXPECT_FALSE(world.files.Has("/ini/LSAdvisor.INI.new"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Operations, SettingsSaveFaultTest,
-                         testing::Values(SaveFaultCase{"create", "create", 70, "70: Permission denied"},
-                                         SaveFaultCase{"write", "write", 61, "61: Disk full"},
-                                         SaveFaultCase{"finish", "finish", 57, "57: Device I/O error"},
-                                         SaveFaultCase{"rename", "rename", 75, "75: Path/File access error"}),
-                         [](const auto& row) { return row.param.name; });
 
 } // namespace
 } // namespace ls

@@ -194,15 +194,6 @@ TEST_F(BookCommandsTest, open_unixLineEnds_opensTheConvertedCopy)
     EXPECT_EQ(RecentFile(1), "/work/Book (001).IDA");
 }
 
-TEST_F(BookCommandsTest, open_unixLineEndsDeclined_opensTheFileAsItIs)
-{
-    world.messages.replies = {Reply::No};
-    Open("LODESTAR BOOK V5.3\n[A]\na\n");
-    EXPECT_EQ(book.BookPath, "/work/Book.IDA");
-    EXPECT_FALSE(world.files.Has("/work/Book (001).IDA"));
-    Boxes();
-}
-
 TEST_F(BookCommandsTest, open_unsavedChanges_asksFirstAndCancelKeepsThem)
 {
     OpenThree();
@@ -246,36 +237,6 @@ TEST_F(BookCommandsTest, open_failureAfterUnsavedChanges_clearsTheMark)
     commands.OpenItem_Click();
     EXPECT_FALSE(book.BookChanged);
     EXPECT_EQ(Boxes().size(), 2U);
-}
-
-TEST_F(BookCommandsTest, open_tooManyTopics_tellsOnceAndLeavesNothingOpen)
-{
-    std::string bytes = "LODESTAR BOOK V5.3\r\n";
-    for (int i = 0; i < 32768; ++i) {
-        bytes += "[T]\r\n";
-    }
-    Open(bytes);
-    EXPECT_EQ(Boxes(), Strings{"critical|Lodestar Advisor|Overflow"});
-    EXPECT_FALSE(book.IsOpen());
-    EXPECT_EQ(view.ItemTexts(), Strings{});
-    EXPECT_EQ(view.showings, 0);
-    OpenThree();
-    EXPECT_EQ(OnShow(), "[A]|a");
-}
-
-TEST_F(BookCommandsTest, open_readErrorWhileScanning_endsTheProgram)
-{
-    world.files["/work/Book.IDA"] = "LODESTAR BOOK V5.3\r\n" + std::string(200000, 'x');
-    Choose("/work/Book.IDA");
-    int reads = 0;
-    world.files.fail = [&reads](const std::string& operation) {
-        return operation.starts_with("read /work/Book.IDA") && ++reads > 2 ? error::DeviceIo : 0;
-    };
-    commands.OpenItem_Click();
-    EXPECT_EQ(Boxes(), Strings{"critical|Lodestar Advisor|Error reading book file with code 57: Device I/O "
-                               "error"});
-    EXPECT_TRUE(world.end.Ended());
-    EXPECT_EQ(view.showings, 0);
 }
 
 TEST_F(BookCommandsTest, open_programEndsInTheFileForm_opensNothing)

@@ -1,8 +1,8 @@
 #include "reader/window/CheckItem.h"
 
-#include "base/Progress.h"
 #include "check/CheckBook.h"
 #include "reader/window/MainFixture.h"
+#include "support/StepProgress.h"
 
 namespace ls {
 namespace {
@@ -173,35 +173,13 @@ TEST_F(CheckItemTest, chosenFindingInARemovedTopic_isNotFound)
     EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|Topic [B] was not found."});
 }
 
-class Cancel : public Progress
-{
-public:
-    bool Step(std::int64_t /*done*/, std::int64_t /*total*/) override { return false; }
-};
-
 TEST_F(CheckItemTest, cancelled_showsWhatWasFoundAndSaysSo)
 {
     OpenThree();
-    view.checkProgress = [] { return std::make_unique<Cancel>(); };
+    view.checkProgress = [] { return std::make_unique<test::StepProgress>(1); };
     Check();
     EXPECT_EQ(shown.summary, "Nothing was found so far in Book.IDA.");
     EXPECT_EQ(shown.notes, "The check was cancelled: this is what was found until then.\n");
-}
-
-TEST_F(CheckItemTest, readError_isToldAndTheListSaysThatItIsCut)
-{
-    OpenFaulty();
-    for (const bool changed : {false, true}) {
-        book.BookChanged = changed;
-        world.files.fail = [](const std::string& operation) {
-            return operation.starts_with("read") ? error::DeviceIo : 0;
-        };
-        Check();
-        EXPECT_EQ(Boxes(), Strings{"critical|Lodestar Advisor|Error reading <</work/Book.IDA>> with code 57: "
-                                   "Device I/O error"});
-        EXPECT_TRUE(shown.notes.starts_with("The file could not be read to its end.\n")) << shown.notes;
-        EXPECT_FALSE(world.end.Ended()) << "the program goes on, with the edits";
-    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "reader/window/EditCommands.h"
 
 #include "authoring/TextEditing.h"
-#include "book/WriteBook.h"
+#include "book/SavedBytes.h"
 #include "reader/window/MainFixture.h"
 
 namespace ls {
@@ -36,16 +36,6 @@ struct EditCommandsTest : MainFixture
     }
 
     [[nodiscard]] const TopicRec& Rec(int number) const { return book.TopicRecs(number); }
-
-    /// The bytes of the book if it were saved now.
-    std::string Saved()
-    {
-        std::unique_ptr<OutputFile> file;
-        EXPECT_TRUE(world.files.CreateNew("/work/Out.IDA", file).Ok());
-        EXPECT_EQ(WriteBook(book, world.Get(), *file), WriteOutcome::Written);
-        EXPECT_TRUE(file->Finish().Ok());
-        return world.files["/work/Out.IDA"];
-    }
 };
 
 TEST_F(EditCommandsTest, noBook_hasNothingToEdit)
@@ -127,7 +117,8 @@ TEST_F(EditCommandsTest, emptied_staysEmpty)
     TypeAndDone("");
     EXPECT_EQ(Rec(1).Text, "\r\n");
     EXPECT_EQ(OnShow(), "[A]|");
-    EXPECT_EQ(Saved(), test::CrLf({"LODESTAR BOOK V5.3", "[A]", "", "", "[B]", "b", "[C]", "c"}));
+    EXPECT_EQ(test::SavedBytes(book, world),
+              test::CrLf({"LODESTAR BOOK V5.3", "[A]", "", "", "[B]", "b", "[C]", "c"}));
 }
 
 TEST_F(EditCommandsTest, logicBlock_isKeptBesideTheEditedText)
@@ -138,8 +129,8 @@ TEST_F(EditCommandsTest, logicBlock_isKeptBesideTheEditedText)
     EXPECT_EQ(Rec(1).Logic, test::CrLf({"<IXML>", "<LOGIC>", "x", "</IXML>"}));
     EXPECT_TRUE(view.advisorButton) << "the saved block runs until the book is saved";
     EXPECT_NE(book.LogicPos, 0);
-    EXPECT_EQ(Saved(), test::CrLf({"LODESTAR BOOK V5.3", "[A]", "new", "", "<IXML>", "<LOGIC>", "x",
-                                   "</IXML>", "", "[B]", "b"}));
+    EXPECT_EQ(test::SavedBytes(book, world), test::CrLf({"LODESTAR BOOK V5.3", "[A]", "new", "", "<IXML>",
+                                                         "<LOGIC>", "x", "</IXML>", "", "[B]", "b"}));
 }
 
 TEST_F(EditCommandsTest, blockThatTheEditorsDoNotTake_isKept)
@@ -148,7 +139,7 @@ TEST_F(EditCommandsTest, blockThatTheEditorsDoNotTake_isKept)
     TypeAndDone("new");
     EXPECT_EQ(Rec(1).Logic, "");
     EXPECT_TRUE(view.advisorButton);
-    EXPECT_EQ(Saved(),
+    EXPECT_EQ(test::SavedBytes(book, world),
               test::CrLf({"LODESTAR BOOK V5.3", "[A]", "new", "<IXML>", "<OTHER>", "x", "[B]", "b"}));
 }
 

@@ -87,16 +87,6 @@ TEST_F(HistoryTest, alphabeticOrder_selectsTheTopicThere)
     EXPECT_EQ(view.selected, 1);
 }
 
-TEST_F(HistoryTest, topicShownAgainAfterAnEdit_isNoStep)
-{
-    OpenThree();
-    Pick(1);
-    navigation.ShowTopicAgain();
-    navigation.ShowAgain();
-    navigation.GoBackItem_Click();
-    EXPECT_EQ(OnShow(), "[A]|a");
-}
-
 TEST_F(HistoryTest, crossReference_isAStep)
 {
     OpenThree();
@@ -105,30 +95,6 @@ TEST_F(HistoryTest, crossReference_isAStep)
     EXPECT_EQ(OnShow(), "[C]|c");
     navigation.GoBackItem_Click();
     EXPECT_EQ(OnShow(), "[A]|a");
-}
-
-TEST_F(HistoryTest, movedTopics_areShownByTheirTitles)
-{
-    OpenThree();
-    Pick(1);
-    MoveTopics(book, {1}, 3); // the order is now B C A
-    navigation.FillTopicList();
-    navigation.GoBackItem_Click();
-    EXPECT_EQ(OnShow(), "[A]|a");
-    EXPECT_EQ(view.selected, 2);
-    EXPECT_EQ(book.CurrentTopicNo, 3);
-}
-
-TEST_F(HistoryTest, removedTopic_isPassedOver)
-{
-    OpenThree();
-    Pick(1);
-    Pick(2);
-    SetRemoved(book, {{2, true}});
-    navigation.FillTopicList();
-    navigation.GoBackItem_Click();
-    EXPECT_EQ(OnShow(), "[A]|a");
-    EXPECT_EQ(Ways(), ">");
 }
 
 TEST_F(HistoryTest, anotherBook_beginsAnew)

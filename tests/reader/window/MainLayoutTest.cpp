@@ -39,42 +39,29 @@ void ExpectPositions(const MainPositions& got, const MainPositions& expected)
     EXPECT_EQ(got.buttonTop, expected.buttonTop);
 }
 
-TEST(MainLayoutTest, resize_atDesignSize_restoresTheDesign)
+// Right gap 600 - 560 - 16 = 24, and 2 before the scroll bar, which the pane loses only while the form is
+// wider than designed. Under the pane 400 - 60 - 300 = 40 stay; the buttons keep 368 - 60 - 300 = 8 from it.
+TEST(MainLayoutTest, resize_controlsFollowTheRightAndLowerEdge)
 {
-    ExpectPositions(MainLayout(Designed()).Form_Resize(600, 400), AtDesign);
-}
-
-TEST(MainLayoutTest, resize_smaller_neverNarrowerOrLowerThanDesigned)
-{
-    ExpectPositions(MainLayout(Designed()).Form_Resize(599, 399), AtDesign);
-    ExpectPositions(MainLayout(Designed()).Form_Resize(0, 0), AtDesign);
-}
-
-TEST(MainLayoutTest, resize_wider_paneListAndButtonsFollowTheRightEdge)
-{
-    // Right gap 600 - 560 - 16 = 24; the pane gets 1000 - 16 - 2 - 24.
-    ExpectPositions(MainLayout(Designed()).Form_Resize(1000, 400),
-                    {958, 300, 968, 300, 800, 820, 900, 950, 368});
-}
-
-TEST(MainLayoutTest, resize_onePixelWider_paneLosesTheScrollGap)
-{
-    // The gap of 2 before the scroll bar is taken from the pane only while the form is wider than designed.
-    ExpectPositions(MainLayout(Designed()).Form_Resize(601, 400),
-                    {559, 300, 569, 300, 401, 421, 501, 551, 368});
-}
-
-TEST(MainLayoutTest, resize_higher_marginsUnderThePaneStay)
-{
-    // 400 - 60 - 300 = 40 are left below the pane; the buttons stay 368 - 60 - 300 = 8 away from it.
-    ExpectPositions(MainLayout(Designed()).Form_Resize(600, 700),
-                    {560, 600, 570, 600, 400, 420, 500, 550, 668});
-}
-
-TEST(MainLayoutTest, resize_widerAndHigher_bothDirections)
-{
-    ExpectPositions(MainLayout(Designed()).Form_Resize(700, 500),
-                    {658, 400, 668, 400, 500, 520, 600, 650, 468});
+    const struct
+    {
+        const char* name;
+        double width;
+        double height;
+        MainPositions positions;
+    } rows[] = {
+        {"as designed", 600, 400, AtDesign},
+        {"smaller", 599, 399, AtDesign},
+        {"nothing", 0, 0, AtDesign},
+        {"wider", 1000, 400, {958, 300, 968, 300, 800, 820, 900, 950, 368}},
+        {"one pixel wider", 601, 400, {559, 300, 569, 300, 401, 421, 501, 551, 368}},
+        {"higher", 600, 700, {560, 600, 570, 600, 400, 420, 500, 550, 668}},
+        {"wider and higher", 700, 500, {658, 400, 668, 400, 500, 520, 600, 650, 468}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ExpectPositions(MainLayout(Designed()).Form_Resize(row.width, row.height), row.positions);
+    }
 }
 
 TEST(MainLayoutTest, resize_fractionalDesign_remembersHalvesToEven)

@@ -62,21 +62,6 @@ TEST_F(NavigationTest, goTo_selectedItem_showsItAndEnterCloses)
     EXPECT_EQ(view.defaultButton, DefaultButton::Done);
 }
 
-TEST_F(NavigationTest, goTo_titleWithFullStop_cutsOnlyTheNumber)
-{
-    Open(test::CrLf({"LODESTAR BOOK V5.3", "[1. First. Second]", "text"}));
-    EXPECT_EQ(view.ItemTexts(), Strings{"1. 1. First. Second"});
-    EXPECT_EQ(OnShow(), "[1. First. Second]|text");
-}
-
-TEST_F(NavigationTest, goTo_titleWithFullStopInAlphabeticOrder_isNotCut)
-{
-    view.alphabetic = true;
-    Open(test::CrLf({"LODESTAR BOOK V5.3", "[Mr. Smith]", "text"}));
-    EXPECT_EQ(view.ItemTexts(), Strings{"Mr. Smith"});
-    EXPECT_EQ(OnShow(), "[Mr. Smith]|text");
-}
-
 TEST_F(NavigationTest, goTo_topicMovedInTheFile_clearsTheDisplayAndKeepsGoToTheDefault)
 {
     OpenThree();
@@ -107,27 +92,6 @@ TEST_F(NavigationTest, goTo_twoTopicsOfOneName_followsTheItemsNumber)
     navigation.GoToButton_Click();
     EXPECT_EQ(OnShow(), "[Same]|second");
     EXPECT_EQ(book.CurrentTopicNo, 2);
-}
-
-TEST_F(NavigationTest, goToCurrentTopic_nameNotInTheList_isLookedUpAndReportedOnce)
-{
-    OpenThree();
-    book.CurrentTopicName = "Nowhere";
-    navigation.FillTopicList();
-    navigation.GoToCurrentTopic();
-    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|Topic [Nowhere] was not found."});
-    EXPECT_EQ(OnShow(), "");
-    EXPECT_EQ(book.CurrentTopicName, "");
-}
-
-TEST_F(NavigationTest, goToCurrentTopic_nameInTheList_showsIt)
-{
-    OpenThree();
-    book.CurrentTopicName = "C";
-    navigation.FillTopicList();
-    navigation.GoToCurrentTopic();
-    EXPECT_EQ(OnShow(), "[C]|c");
-    EXPECT_EQ(view.selected, 2);
 }
 
 TEST_F(NavigationTest, next_inTheMiddle_showsTheNextOfTheList)
@@ -178,17 +142,6 @@ TEST_F(NavigationTest, next_alphabeticOrder_followsTheListAsShown)
     EXPECT_EQ(OnShow(), "[Apple]|a");
 }
 
-TEST_F(NavigationTest, next_topicThatCannotBeShown_leavesTheDisplayClear)
-{
-    OpenThree();
-    world.files["/work/Book.IDA"] = test::CrLf({"LODESTAR BOOK V5.3", "[A]", "changed", "[B]", "b"});
-    navigation.NextItem_Click();
-    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|Error looking up topic: [B]"});
-    EXPECT_EQ(OnShow(), "");
-    EXPECT_EQ(view.selected, 1);
-    EXPECT_EQ(view.defaultButton, DefaultButton::GoTo);
-}
-
 TEST_F(NavigationTest, previous_inTheMiddle_showsTheOneBefore)
 {
     OpenThree();
@@ -214,12 +167,6 @@ TEST_F(NavigationTest, previous_nothingSelected_givesTheFirstTopicMessage)
     navigation.PrevTopic_Click();
     EXPECT_EQ(Boxes(), Strings{FirstTopic});
     EXPECT_EQ(view.selected, -1);
-}
-
-TEST_F(NavigationTest, previous_emptyList_givesTheFirstTopicMessage)
-{
-    navigation.PrevTopic_Click();
-    EXPECT_EQ(Boxes(), Strings{FirstTopic});
 }
 
 TEST_F(NavigationTest, listChange_clearsTheDisplayAndMakesGoToTheDefault)
@@ -257,20 +204,6 @@ TEST_F(NavigationTest, list_deletedTopic_leavesNoGapAndKeepsItemData)
     navigation.NextItem_Click();
     EXPECT_EQ(OnShow(), "[C]|c");
     EXPECT_EQ(book.CurrentTopicNo, 3);
-}
-
-TEST_F(NavigationTest, list_nineAndTenTopics_numberWidths)
-{
-    std::string bytes = "LODESTAR BOOK V5.3\r\n";
-    for (char c = 'A'; c < 'A' + 9; ++c) {
-        bytes += std::string("[") + c + "]\r\n";
-    }
-    Open(bytes);
-    EXPECT_EQ(view.ItemTexts().front(), "1. A");
-    EXPECT_EQ(view.ItemTexts().back(), "9. I");
-    Open(bytes + "[J]\r\n");
-    EXPECT_EQ(view.ItemTexts().front(), "01. A");
-    EXPECT_EQ(view.ItemTexts().back(), "10. J");
 }
 
 TEST_F(NavigationTest, showAgain_newWidth_wrapsTheTopicOnShow)
@@ -320,19 +253,6 @@ TEST_F(NavigationTest, showAgain_fileChanged_keepsWhatIsOnShowWithoutMessage)
     EXPECT_EQ(Boxes(), Strings{});
     EXPECT_EQ(OnShow(), "[A]|a");
     EXPECT_EQ(book.CurrentTopicName, "[A]");
-}
-
-TEST_F(NavigationTest, goTo_moreLinesThanCanBeCounted_cutsThemAndTellsOnce)
-{
-    std::string bytes = "LODESTAR BOOK V5.3\r\n[A]\r\n";
-    for (int i = 0; i < 32768; ++i) {
-        bytes += "x\r\n";
-    }
-    Open(bytes);
-    EXPECT_EQ(Boxes(), Strings{"critical|Lodestar Advisor|Overflow"});
-    EXPECT_EQ(view.lines.size(), 32767U);
-    navigation.ShowAgain();
-    EXPECT_EQ(Boxes(), Strings{});
 }
 
 TEST_F(NavigationTest, advisor_topicWithABlock_runsIt)

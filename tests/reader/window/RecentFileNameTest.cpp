@@ -1,64 +1,46 @@
 // The name that the recent files get for an opened book.
 
 #include "reader/window/MainFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
 
-struct RecentFileNameTest : MainFixture
+struct NameCase
+{
+    const char* name;
+    const char* iniDir;
+    const char* workDir;
+    const char* file; ///< where the book lies
+    const char* chosen;
+    const char* recent;
+};
+
+struct RecentFileNameTest : MainFixture, testing::WithParamInterface<NameCase>
 {
 };
 
-TEST_F(RecentFileNameTest, recentName_relativePath_staysAsGivenWithoutIniDir)
+TEST_P(RecentFileNameTest, openedBook_entersTheRecentFilesAs)
 {
-    world.files["/work/Guide.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n";
-    Choose("Guide.IDA");
+    world.files.AddFolder("/ini");
+    global.settings.IniDir = GetParam().iniDir;
+    book.WorkDir = GetParam().workDir;
+    world.files[GetParam().file] = "LODESTAR BOOK V5.3\r\n[A]\r\n";
+    Choose(GetParam().chosen);
     commands.OpenItem_Click();
-    EXPECT_EQ(global.settings.RecentFiles[0], "Guide.IDA");
+    EXPECT_EQ(global.settings.RecentFiles[0], GetParam().recent);
+    EXPECT_EQ(book.BookPath, GetParam().chosen);
 }
 
-TEST_F(RecentFileNameTest, recentName_relativePathWithIniDir_isTheFullPath)
-{
-    global.settings.IniDir = "/ini";
-    world.files.AddFolder("/ini");
-    world.files["/work/Guide.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n";
-    Choose("Guide.IDA");
-    commands.OpenItem_Click();
-    EXPECT_EQ(global.settings.RecentFiles[0], "/work/Guide.IDA");
-    EXPECT_EQ(book.BookPath, "Guide.IDA");
-}
-
-TEST_F(RecentFileNameTest, recentName_fullPathWithIniDir_staysAsGiven)
-{
-    global.settings.IniDir = "/ini";
-    world.files.AddFolder("/ini");
-    world.files["/work/Guide.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n";
-    Choose("/WORK/guide.ida");
-    commands.OpenItem_Click();
-    EXPECT_EQ(book.OpenPath, "/work/Guide.IDA");
-    EXPECT_EQ(global.settings.RecentFiles[0], "/WORK/guide.ida");
-}
-
-TEST_F(RecentFileNameTest, recentName_workDirAndIniDir_isThePathThatWasOpened)
-{
-    global.settings.IniDir = "/ini";
-    world.files.AddFolder("/ini");
-    book.WorkDir = "/books";
-    world.files["/books/Guide.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n";
-    Choose("Guide.IDA");
-    commands.OpenItem_Click();
-    EXPECT_EQ(global.settings.RecentFiles[0], "/books/Guide.IDA");
-}
-
-TEST_F(RecentFileNameTest, recentName_bookBesideTheProgram_keepsItsPrefix)
-{
-    global.settings.IniDir = "/ini";
-    world.files.AddFolder("/ini");
-    world.files["/program/Help.ida"] = "LODESTAR BOOK V5.3\r\n[A]\r\n";
-    Choose("LS:Help.ida");
-    commands.OpenItem_Click();
-    EXPECT_EQ(global.settings.RecentFiles[0], "LS:Help.ida");
-}
+INSTANTIATE_TEST_SUITE_P(
+    Names, RecentFileNameTest,
+    testing::Values(
+        NameCase{"relativePath", "", "", "/work/Guide.IDA", "Guide.IDA", "Guide.IDA"},
+        NameCase{"relativePathWithIniDir", "/ini", "", "/work/Guide.IDA", "Guide.IDA", "/work/Guide.IDA"},
+        NameCase{"fullPathWithIniDir", "/ini", "", "/work/Guide.IDA", "/WORK/guide.ida", "/WORK/guide.ida"},
+        NameCase{"workDirAndIniDir", "/ini", "/books", "/books/Guide.IDA", "Guide.IDA", "/books/Guide.IDA"},
+        NameCase{"besideTheProgram", "/ini", "", "/program/Help.ida", "LS:Help.ida", "LS:Help.ida"}),
+    test::RowName());
 
 } // namespace
 } // namespace ls

@@ -1,6 +1,7 @@
 #include "base/ProgramEnd.h"
-#include "base/Progress.h"
 #include "reader/window/SaveCommandFixture.h"
+#include "support/RowName.h"
+#include "support/StepProgress.h"
 
 #include <algorithm>
 
@@ -46,15 +47,6 @@ TEST_F(SaveItemTest, save_openedShared_warnsAndCancelStops)
     SaveAs("Out.IDA");
     EXPECT_EQ(Boxes(), Strings{AskShared});
     EXPECT_EQ(view.fileForms, 1) << "the form was shown only to open the book";
-}
-
-TEST_F(SaveItemTest, save_openedShared_okGoesOn)
-{
-    OpenThree();
-    world.messages.replies = {Reply::Ok};
-    SaveAs("Out.IDA");
-    EXPECT_EQ(Boxes(), (Strings{AskShared, Saved}));
-    EXPECT_EQ(world.files["/work/Out.IDA"], world.files["/work/Book.IDA"]);
 }
 
 TEST_F(SaveItemTest, save_newBook_isNotWarnedAboutSharing)
@@ -235,11 +227,6 @@ struct TestFailure
     const char* box;
 };
 
-void PrintTo(const TestFailure& row, std::ostream* out)
-{
-    *out << row.name;
-}
-
 struct TestFailureTable : SaveItemTest, testing::WithParamInterface<TestFailure>
 {
 };
@@ -270,77 +257,13 @@ const TestFailure TestFailures[] = {
      "number"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Failures, TestFailureTable, testing::ValuesIn(TestFailures),
-                         [](const testing::TestParamInfo<TestFailure>& row) {
-                             return std::string(row.param.name);
-                         });
-
-TEST_F(SaveItemTest, save_cannotCreate_namesTheErrorAndKeepsAll)
-{
-    OpenEdited();
-    world.files.fail = [](const std::string& operation) {
-        return operation.starts_with("create /work/Out") ? error::PathFileAccess : 0;
-    };
-    SaveAs("Out.IDA");
-    EXPECT_EQ(
-        Boxes(),
-        Strings{
-            "warning|Lodestar Advisor|Failed to open output file due to error #75: Path/File access error"});
-    world.files.fail = nullptr;
-    ExpectNothingLost();
-}
-
-TEST_F(SaveItemTest, save_cannotWrite_namesTheErrorAndKeepsAll)
-{
-    OpenEdited();
-    world.files.fail = [](const std::string& operation) {
-        return operation.starts_with("write /work/Out") ? error::DiskFull : 0;
-    };
-    SaveAs("Out.IDA");
-    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|Failed to write due to error #61: Disk full"});
-    EXPECT_FALSE(world.files.Has("/work/Out.IDA"));
-    EXPECT_TRUE(world.files.Has("/work/Out.IDA.part"));
-    EXPECT_EQ(global.settings.RecentFiles[0], "/work/Book.IDA");
-    world.files.fail = nullptr;
-    ExpectNothingLost();
-}
-
-TEST_F(SaveItemTest, save_cannotReadTheInput_namesTheErrorAndKeepsAll)
-{
-    OpenEdited();
-    world.files.fail = [](const std::string& operation) {
-        return operation.starts_with("read /work/Book") ? error::DeviceIo : 0;
-    };
-    SaveAs("Out.IDA");
-    EXPECT_EQ(
-        Boxes(),
-        Strings{"warning|Lodestar Advisor|Failed to read original text due to error #57: Device I/O error"});
-    EXPECT_FALSE(world.files.Has("/work/Out.IDA"));
-    world.files.fail = nullptr;
-    ExpectNothingLost();
-}
-
-TEST_F(SaveItemTest, save_inputChangedByOthers_isNoticed)
-{
-    OpenEdited();
-    world.files["/work/Book.IDA"] = "LODESTAR BOOK V5.3\r\nmore\r\n[A]\r\na\r\n[B]\r\nb\r\n[C]\r\nc\r\n";
-    SaveAs("Out.IDA");
-    EXPECT_EQ(Boxes(), Strings{"warning|Lodestar Advisor|Error looking up topic: [A]"});
-    EXPECT_FALSE(world.files.Has("/work/Out.IDA"));
-    EXPECT_TRUE(book.BookChanged);
-    EXPECT_EQ(book.TopicRecs(2).Text, "edited\r\n");
-}
-
-struct Cancelling : Progress
-{
-    bool Step(std::int64_t /*done*/, std::int64_t /*total*/) override { return false; }
-};
+INSTANTIATE_TEST_SUITE_P(Failures, TestFailureTable, testing::ValuesIn(TestFailures), test::RowName());
 
 TEST_F(SaveItemTest, save_cancelledWhileWriting_removesThePartAndKeepsAll)
 {
     OpenEdited();
     book.TopicRecs(2).Text = std::string(1000000, 'x') + "\r\n";
-    view.saveProgress = [] { return std::make_unique<Cancelling>(); };
+    view.saveProgress = [] { return std::make_unique<test::StepProgress>(1); };
     SaveAs("Out.IDA");
     EXPECT_EQ(Boxes(), Strings{});
     EXPECT_EQ(view.saved, "/work/Out.IDA");
@@ -378,7 +301,7 @@ TEST_F(SaveItemTest, save_openedShared_isOpenLockedAfterwards)
     ASSERT_FALSE(book.LockBook);
     world.messages.replies = {Reply::Ok};
     SaveAs("Out.IDA");
-    Boxes();
+    EXPECT_EQ(Boxes(), (Strings{AskShared, Saved}));
     EXPECT_TRUE(book.LockBook);
     EXPECT_EQ(world.files.opened.back(), "/work/Out.IDA locked");
     SaveAs("Out 2.IDA");
@@ -396,42 +319,6 @@ TEST_F(SaveItemTest, save_done_entersTheRecentFilesAndSavesTheSettingsOnce)
     EXPECT_EQ(std::count(world.files.log.begin(), world.files.log.end(), "create LSAdvisor.INI.new"), 1);
 }
 
-TEST_F(SaveItemTest, save_settingsFail_saysSoAndTheBookIsSavedAllTheSame)
-{
-    OpenEdited();
-    world.files.fail = [](const std::string& operation) {
-        return operation.starts_with("create LSAdvisor") ? error::PermissionDenied : 0;
-    };
-    SaveAs("Out.IDA");
-    EXPECT_EQ(Boxes(),
-              (Strings{Saved, "warning|Lodestar Advisor|Failed to save configuration and preferences "
-                              "to LSADVISOR.INI due to error #70: Permission denied"}));
-    EXPECT_EQ(book.BookPath, "/work/Out.IDA");
-    EXPECT_EQ(OnShow(), "[A]|a");
-    EXPECT_FALSE(book.BookChanged);
-}
-
-TEST_F(SaveItemTest, save_newFileCannotBeOpened_leavesNothingOpen)
-{
-    OpenEdited();
-    bool written = false;
-    world.files.fail = [&written](const std::string& operation) {
-        written = written || operation.starts_with("rename");
-        return written && operation == "open /work/Out.IDA" ? error::PermissionDenied : 0;
-    };
-    SaveAs("Out.IDA");
-    EXPECT_EQ(
-        Boxes(),
-        (Strings{
-            Saved,
-            "critical|Lodestar Advisor|Error opening <</work/Out.IDA>> with code 70: Permission denied"}));
-    EXPECT_EQ(book.BookPath, "");
-    EXPECT_FALSE(book.IsOpen());
-    EXPECT_EQ(view.ItemTexts(), Strings{});
-    EXPECT_EQ(OnShow(), "");
-    EXPECT_EQ(world.files["/work/Out.IDA"], EditedBook);
-}
-
 TEST_F(SaveItemTest, save_explainButton_followsTheSavedHeader)
 {
     OpenEdited();
@@ -440,27 +327,6 @@ TEST_F(SaveItemTest, save_explainButton_followsTheSavedHeader)
     SaveAs("Out.IDA");
     EXPECT_TRUE(view.explainButton);
     EXPECT_EQ(book.BookUrl, "http://a.example");
-}
-
-TEST_F(SaveItemTest, save_deletedTopic_isInTheOldFileOnly)
-{
-    OpenEdited();
-    book.TopicRecs(1).Deleted = true;
-    SaveAs("Out.IDA");
-    EXPECT_EQ(view.ItemTexts(), (Strings{"1. B", "2. C"}));
-    EXPECT_EQ(OnShow(), "[B]|edited|");
-    EXPECT_EQ(world.files["/work/Book.IDA"],
-              test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "[B]", "b", "[C]", "c"}));
-}
-
-TEST_F(SaveItemTest, save_againAndAgain_countsUp)
-{
-    OpenEdited();
-    EXPECT_EQ(SaveAsProposed(), "/work/Book (001).IDA");
-    EXPECT_EQ(SaveAsProposed(), "/work/Book (002).IDA");
-    EXPECT_EQ(SaveAsProposed(), "/work/Book (003).IDA");
-    EXPECT_EQ(Boxes(), (Strings{Saved, Saved, Saved}));
-    EXPECT_EQ(world.files["/work/Book (003).IDA"], EditedBook);
 }
 
 struct ProposalCase
@@ -472,11 +338,6 @@ struct ProposalCase
     const char* proposal;
     const char* saved;
 };
-
-void PrintTo(const ProposalCase& row, std::ostream* out)
-{
-    *out << row.name;
-}
 
 struct ProposalTable : SaveItemTest, testing::WithParamInterface<ProposalCase>
 {
@@ -518,10 +379,7 @@ const ProposalCase Proposals[] = {
      "/work/v1.2/Guide (001).IDA"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Proposals, ProposalTable, testing::ValuesIn(Proposals),
-                         [](const testing::TestParamInfo<ProposalCase>& row) {
-                             return std::string(row.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(Proposals, ProposalTable, testing::ValuesIn(Proposals), test::RowName());
 
 } // namespace
 } // namespace ls

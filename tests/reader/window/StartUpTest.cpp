@@ -70,13 +70,6 @@ TEST_F(StartUpTest, start_topicNotInTheBook_isReportedByTheLookUpOnce)
     EXPECT_TRUE(book.IsOpen());
 }
 
-TEST_F(StartUpTest, start_topicInABookWithoutTopics_saysThereAreNone)
-{
-    world.files["/work/Guide.IDA"] = "LODESTAR BOOK V5.3\r\n";
-    Start("Guide.IDA", "A");
-    EXPECT_EQ(Boxes(), Strings{"information|Lodestar Advisor|There are no topics in this file."});
-}
-
 TEST_F(StartUpTest, start_missingBook_leavesTheWayOpenForTheFileForm)
 {
     Start("/work/None.IDA", "A");
@@ -86,16 +79,6 @@ TEST_F(StartUpTest, start_missingBook_leavesTheWayOpenForTheFileForm)
     EXPECT_EQ(book.BookPath, "");
     EXPECT_EQ(book.StartTopic, "");
     EXPECT_EQ(global.settings.RecentFileCount, 0);
-}
-
-TEST_F(StartUpTest, start_plainText_isShownAsOpenShowsIt)
-{
-    world.files["/work/Note.TXT"] = "plain\r\n";
-    world.messages.replies = {Reply::Ok};
-    Start("/work/Note.TXT", "");
-    EXPECT_EQ(OnShow(), "|plain");
-    EXPECT_FALSE(view.topicControls);
-    Boxes();
 }
 
 TEST_F(StartUpTest, start_workDirOfTheEnvironment_isTheDefaultFolder)

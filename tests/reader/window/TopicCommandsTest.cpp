@@ -272,14 +272,6 @@ TEST_F(TopicCommandsTest, restore_isListedAndShownAgain)
     EXPECT_EQ(OnShow(), "[A]|a");
 }
 
-TEST_F(TopicCommandsTest, remove_isLeftOutOfTheSavedBook)
-{
-    OpenThree();
-    Remove({2});
-    ASSERT_EQ(SaveBook(book, world.Get(), "/work/New.IDA"), WriteOutcome::Written);
-    EXPECT_EQ(world.files["/work/New.IDA"], test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "[C]", "c"}));
-}
-
 TEST_F(TopicCommandsTest, remove_noTopics_saysThatThereIsNothing)
 {
     topics.DelTopicItem_Click();
@@ -358,15 +350,6 @@ TEST_F(TopicCommandsTest, move_nothingOnShow_selectsNothing)
     Move({1}, 3);
     EXPECT_EQ(view.selected, -1);
     EXPECT_EQ(OnShow(), "");
-}
-
-TEST_F(TopicCommandsTest, move_isTheOrderOfTheSavedBook)
-{
-    OpenThree();
-    Move({2, 3}, 0);
-    ASSERT_EQ(SaveBook(book, world.Get(), "/work/New.IDA"), WriteOutcome::Written);
-    EXPECT_EQ(world.files["/work/New.IDA"],
-              test::CrLf({"LODESTAR BOOK V5.3", "[B]", "b", "[C]", "c", "[A]", "a"}));
 }
 
 } // namespace

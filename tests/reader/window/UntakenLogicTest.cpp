@@ -1,6 +1,6 @@
 #include "authoring/LogicEditor.h"
 #include "authoring/RecordingLogicView.h"
-#include "book/WriteBook.h"
+#include "book/SavedBytes.h"
 #include "reader/window/EditCommands.h"
 #include "reader/window/MainFixture.h"
 
@@ -30,15 +30,6 @@ struct UntakenLogicTest : MainFixture
         Open("LODESTAR BOOK V5.3\r\n[A]\r\na\r\n" + block + "[B]\r\nb\r\n");
     }
 
-    std::string Saved()
-    {
-        std::unique_ptr<OutputFile> file;
-        EXPECT_TRUE(world.files.CreateNew("/work/Out.IDA", file).Ok());
-        EXPECT_EQ(WriteBook(book, world.Get(), *file), WriteOutcome::Written);
-        EXPECT_TRUE(file->Finish().Ok());
-        return world.files["/work/Out.IDA"];
-    }
-
     const std::string BlankBetween =
         test::CrLf({"<IXML>", "", "<LOGIC>", "TARGET R", "<DEFINITIONS>", "<Q ID=A>a?</Q>"});
 };
@@ -52,9 +43,10 @@ TEST_F(UntakenLogicTest, blankLineInFront_comesUpWithItsLogic)
         return editor.SaveButton_Click();
     });
     Boxes();
-    EXPECT_EQ(Saved(), test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "", "<IXML>", "<LOGIC>", "TARGET R",
-                                   "</LOGIC>", "<DEFINITIONS>", "", "<Q ID=A>a?</Q>", "", "</DEFINITIONS>",
-                                   "</IXML>", "", "[B]", "b"}));
+    EXPECT_EQ(
+        test::SavedBytes(book, world),
+        test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "", "<IXML>", "<LOGIC>", "TARGET R", "</LOGIC>",
+                    "<DEFINITIONS>", "", "<Q ID=A>a?</Q>", "", "</DEFINITIONS>", "</IXML>", "", "[B]", "b"}));
 }
 
 TEST_F(UntakenLogicTest, cancel_leavesItInTheFile)
@@ -64,7 +56,8 @@ TEST_F(UntakenLogicTest, cancel_leavesItInTheFile)
     EXPECT_EQ(editors, 1);
     EXPECT_EQ(book.TopicRecs(1).Text, "");
     EXPECT_EQ(book.TopicRecs(1).Logic, "");
-    EXPECT_EQ(Saved(), "LODESTAR BOOK V5.3\r\n[A]\r\na\r\n" + BlankBetween + "[B]\r\nb\r\n");
+    EXPECT_EQ(test::SavedBytes(book, world),
+              "LODESTAR BOOK V5.3\r\n[A]\r\na\r\n" + BlankBetween + "[B]\r\nb\r\n");
 }
 
 TEST_F(UntakenLogicTest, editedText_isKeptBesideIt)
