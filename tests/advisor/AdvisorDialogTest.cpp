@@ -196,21 +196,6 @@ TEST_F(AdvisorDialogTest, circularDefinition_endsProgramAfterItsBox)
     EXPECT_EQ(world.Next("X"), Texts{});
 }
 
-TEST_F(AdvisorDialogTest, answerWhileRuleTableIsEmpty_endsProgram)
-{
-    Open({"AV(1)=A(X)", "AV(2)=A(Y)"}, {"<Q ID=A>a?</Q>"});
-    world.tables.RuleCount = 0;
-    EXPECT_EQ(world.Next("X"), Texts{});
-    EXPECT_EQ(world.seams.end.Reason(), "answer given while the rule table is empty");
-}
-
-TEST_F(AdvisorDialogTest, unsureForUnconcludedVariable_endsProgram)
-{
-    Open({"AV(1)=A(X)", "AV(2)=A(Y)"}, {"<Q ID=A>a?</Q>"});
-    EXPECT_EQ(world.Next("? - unsure"), Texts{});
-    EXPECT_EQ(world.seams.end.Reason(), "unsure for a variable that no rule concludes");
-}
-
 TEST_F(AdvisorDialogTest, reusedAnswers_openOnTheAdvice)
 {
     Open({"TARGET R", "R(1)=A(X)", "R(2)=A(Y)"}, {"<Q ID=A>a?</Q>", "<Q ID=R>", "<AV ID=R(2)>Two.</AV>"});

@@ -1,5 +1,6 @@
 #include "AdvisorWorld.h"
 #include "advisor/AdvisorRunner.h"
+#include "support/RowName.h"
 
 #include <algorithm>
 #include <functional>
@@ -207,7 +208,7 @@ INSTANTIATE_TEST_SUITE_P(
                            {"button Close", "text I can't find a question to ask for target AV."},
                            {},
                            ""}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 } // namespace
 } // namespace ls

@@ -1,4 +1,5 @@
 #include "AdvisorWorld.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -66,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(
         TextRow{"emptyEntry", "<Q ID=AGE></Q>", ""}, TextRow{"emptyLinesOnly", "<Q ID=AGE>|||</Q>", ""},
         TextRow{"tabsAreText", "<Q ID=AGE>\tHow\t</Q>", "\tHow\t"},
         TextRow{"accentsStay", "<Q ID=AGE>\xE9t\xE9</Q>", "\xE9t\xE9"}, TextRow{"nothing", "", ""}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 std::string TextOf(const std::string& entry)
 {
@@ -208,22 +209,6 @@ TEST_F(DefinitionsTest, topicWithoutPlaceInFile_givesErrors)
         world.seams.messages.Take(),
         (Texts{"critical|Lodestar Advisor|Error accessing idea file due to error: 5",
                "critical|Lodestar Advisor|Lodestar Advisor: 5Error accessing idea file <</case.IDA>> due to "
-               "error"}));
-}
-
-TEST_F(DefinitionsTest, readErrorWhileSeeking_isReported)
-{
-    Goto("FAR");
-    world.seams.files.fail = [](const std::string& operation) {
-        return operation.rfind("read", 0) == 0 ? error::DeviceIo : 0;
-    };
-    EXPECT_EQ(Goto("FAR"), 2);
-    EXPECT_EQ(reader->definitions.ReadTaggedText("<Q ID=FAR>"), "");
-    EXPECT_EQ(
-        world.seams.messages.Take(),
-        (Texts{"critical|Lodestar Advisor|Lodestar Advisor: 57Error accessing idea file <</case.IDA>> due to "
-               "error",
-               "critical|Lodestar Advisor|Lodestar Advisor: 57Error reading idea file <</case.IDA>> due to "
                "error"}));
 }
 

@@ -281,19 +281,6 @@ TEST_F(InferenceTest, pickNextVariable_circularCandidateBeatenLater_isSeen)
     seams.messages.boxes.clear();
 }
 
-TEST_F(InferenceTest, pickNextVariable_levelPassesLimit_showsOverflowOnce)
-{
-    std::string rule = "AV(1)=";
-    for (int i = 0; i <= Count16::Max; ++i) {
-        rule += "X(A)";
-    }
-    Set({rule}, {"AV"});
-    EXPECT_EQ(engine.PickNextVariable(), "");
-    EXPECT_EQ(engine.PickNextVariable(), "");
-    EXPECT_TRUE(engine.Overflowed());
-    EXPECT_EQ(seams.messages.Take(), (Texts{"critical|Lodestar Advisor|Overflow"}));
-}
-
 TEST_F(InferenceTest, recordAnswer_fullAnswerTable_showsOverflow)
 {
     Set({"AV(GO)=X(1)"}, {"AV"});

@@ -1,4 +1,5 @@
 #include "AdvisorWorld.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -94,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, RuleLines,
                                          RuleRow{"indentedComment", "  *AV(GO)=A(B)", nullptr},
                                          RuleRow{"empty", "    ", nullptr},
                                          RuleRow{"closingTag", " </logic> ", nullptr}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 TEST_F(LogicLoaderTest, assume_isInsertedUntilCleared)
 {
@@ -110,28 +111,16 @@ TEST_F(LogicLoaderTest, assume_startsEmptyAtEachLoad)
     EXPECT_EQ(Rules(tables), (Texts{"R(1)=A(B)"}));
 }
 
-TEST_F(LogicLoaderTest, target_lastLineWins)
+TEST_F(LogicLoaderTest, target_isTheLastOneWithItsBlanks_elseAdvice)
 {
     ASSERT_TRUE(Load({"TARGET ONE", "target two "}));
-    EXPECT_EQ(Targets(tables), (Texts{"TWO"}));
-}
-
-TEST_F(LogicLoaderTest, target_argumentKeepsItsBlanks)
-{
+    EXPECT_EQ(Targets(tables), Texts{"TWO"});
     ASSERT_TRUE(Load({"TARGET  MY GOAL"}));
-    EXPECT_EQ(Targets(tables), (Texts{" MY GOAL"}));
-}
-
-TEST_F(LogicLoaderTest, target_withoutName_isEmptyGoal)
-{
+    EXPECT_EQ(Targets(tables), Texts{" MY GOAL"});
     ASSERT_TRUE(Load({"TARGET"}));
-    EXPECT_EQ(Targets(tables), (Texts{""}));
-}
-
-TEST_F(LogicLoaderTest, target_missing_isAdvice)
-{
+    EXPECT_EQ(Targets(tables), Texts{""});
     ASSERT_TRUE(Load({}));
-    EXPECT_EQ(Targets(tables), (Texts{"AV"}));
+    EXPECT_EQ(Targets(tables), Texts{"AV"});
 }
 
 TEST_F(LogicLoaderTest, define_findsFirstTopicOfThatTitle)
@@ -175,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(
         FailRow{"defineWithoutAt", "define age", "Invalid command <<DEFINE AGE>>; can't load logic."},
         FailRow{"defineAlone", "DEFINE", "Invalid command <<DEFINE>>; can't load logic."},
         FailRow{"defineAtLast", "define \xE9@", "Invalid command <<DEFINE \xC3\x89@>>; can't load logic."}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 TEST_F(LogicLoaderTest, define_bookWithoutTopics_fails)
 {

@@ -1,4 +1,5 @@
 #include "advisor/RuleText.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -49,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ReduceRow{"noClosingBracket", "AV(GO)=X(A", "X", "A", ""},
                     ReduceRow{"bracketInsideName", "AV(GO)=P)Q(R)S(T)", "P)Q", "R", "AV(GO)=Q(R)S(T)"},
                     ReduceRow{"secondEqualsSign", "AV(GO)=X(A)=Y(B)", "=Y", "B", "AV(GO)=X(A)"}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 struct LeftRow
 {
@@ -79,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, LeftHandSideTable,
                                          LeftRow{"nested", "AV(A(B))=", "AV|A(B"},
                                          LeftRow{"openingInCondition", "AV=X(A)", "AV=X|A"},
                                          LeftRow{"empty", "()=", "|"}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 TEST(HasFired, rule_isFiredWhenItsEqualsSignIsLast)
 {
@@ -132,7 +133,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, ConditionWalk,
                                          WalkRow{"nested", "AV(GO)=A(B(X))C(Y)", {"A", ")C"}},
                                          WalkRow{"tab", "AV(GO)=A(X)\tB(Y)", {"A", "\tB"}},
                                          WalkRow{"secondEqualsSign", "AV(GO)=A(X)=B(Y)", {"A", "=B"}}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 } // namespace
 } // namespace ls

@@ -1,7 +1,7 @@
 // Dialogues worked out by hand: the events of each that lsbook writes as JSON.
 
 #include "CliFixture.h"
-#include "advisor/EventLines.h"
+#include "EventLines.h"
 #include "cli/JsonWriter.h"
 #include "support/Cases.h"
 

@@ -1,5 +1,5 @@
 #include "CliFixture.h"
-#include "advisor/EventLines.h"
+#include "EventLines.h"
 #include "support/TestSeams.h"
 
 namespace ls {
@@ -140,40 +140,6 @@ TEST_F(Advise, unknownTopic_isTold)
                    "]\n");
 }
 
-TEST_F(Advise, titleThatNoBookCanHold_isToldAsItWasGiven)
-{
-    EXPECT_EQ(Run({"advise", "a.IDA", "\xE6\x97\xA5"}), 1);
-    EXPECT_EQ(err, "warning: Topic [\xE6\x97\xA5] was not found.\n");
-    EXPECT_EQ(out, "Advisor: \xE6\x97\xA5\nThe topic has no advisor.\n");
-}
-
-TEST_F(Advise, readErrorAtAnyMoment_endsWithThree)
-{
-    int reads = 0;
-    int failing = 0; // number of the first read that fails
-    files.fail = [&](const std::string& operation) {
-        const bool isRead = operation.rfind("read", 0) == 0;
-        reads += isRead ? 1 : 0;
-        return isRead && failing != 0 && reads >= failing ? error::DeviceIo : 0;
-    };
-    EXPECT_EQ(Run({"advise", "a.IDA", "Car Trouble", "--answers", "NO"}), 0);
-    const int all = reads;
-    ASSERT_GT(all, 3);
-    for (failing = 1; failing <= all; ++failing) {
-        reads = 0;
-        EXPECT_EQ(Run({"advise", "a.IDA", "Car Trouble", "--answers", "NO"}), 3) << failing;
-        EXPECT_NE(err.find("57"), std::string::npos) << failing << ": " << err;
-    }
-}
-
-TEST_F(Advise, failedLoad_endsWithOne)
-{
-    EXPECT_EQ(Run({"advise", "a.IDA", "Broken"}), 1);
-    EXPECT_EQ(err, "critical: Invalid command in <LOGIC> section for the current topic\n");
-    EXPECT_EQ(out, "Advisor: Broken\n\nFailure loading logic section for topic <<[Broken]>>; I can't "
-                   "proceed.\n");
-}
-
 TEST_F(Advise, faultOfTheRules_endsWithFourAndStopsTheRuns)
 {
     EXPECT_EQ(Run({"advise", "a.IDA", "Circle", "Plain", "--json"}), 4);
@@ -220,15 +186,6 @@ TEST_F(Advise, wrongUsage_isTold)
     EXPECT_EQ(Run({"advise", "a.IDA", "Plain", "--answers-json", "x"}), 2);
     EXPECT_EQ(err, "lsbook advise: \"x\" holds no list of lists of texts\nTry \"lsbook help advise\".\n");
     EXPECT_EQ(Run({"advise", "a.IDA", "Plain", "--answers-json", "missing"}), 3);
-}
-
-TEST_F(Advise, answersThatCannotBeRead_areToldInJsonToo)
-{
-    EXPECT_EQ(Run({"advise", "a.IDA", "Plain", "--answers-json", "missing", "--json"}), 3);
-    EXPECT_EQ(err, "critical: Error reading <<missing>> with code 53: File not found\n");
-    const std::vector<Json> messages = Json::Parse(out)["messages"].Items();
-    ASSERT_EQ(messages.size(), 1U);
-    EXPECT_EQ(messages[0]["text"].String(), "Error reading <<missing>> with code 53: File not found");
 }
 
 TEST_F(Advise, atATerminal_asksUntilAChoiceIsGiven)

@@ -1,4 +1,5 @@
 #include "cli/Arguments.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -79,11 +80,6 @@ struct WrongRow
     const char* expected;
 };
 
-void PrintTo(const WrongRow& row, std::ostream* stream)
-{
-    *stream << row.name;
-}
-
 class WrongArguments : public testing::TestWithParam<WrongRow>
 {
 };
@@ -123,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(
                  {"a", "--page", "1", "101"},
                  "--page needs a whole number from 0 to 100, not \"101\""},
         WrongRow{"bytesThatAreNoUtf8", {"a", "--\xFF"}, "unknown option \"--\xEF\xBF\xBD\""}),
-    [](const testing::TestParamInfo<WrongRow>& row) { return std::string(row.param.name); });
+    test::RowName());
 
 } // namespace
 } // namespace ls

@@ -119,29 +119,5 @@ TEST_F(Check, onATerminal_progressIsShownAndTakenAway)
     EXPECT_TRUE(err.ends_with("\rReading 100%\r\033[K")) << err;
 }
 
-TEST_F(Check, everyBadBookInJson_itsFindingsAndTheStatusOfTheWorst)
-{
-    int bad = 0;
-    for (const test::CheckCase& one : test::ReadCheckCases()) {
-        SCOPED_TRACE(one.name);
-        files["/work/x.IDA"] = one.book;
-        const bool error = std::any_of(one.findings.begin(), one.findings.end(), [](const std::string& line) {
-            return line.find(": error: ") != std::string::npos;
-        });
-        EXPECT_EQ(Run({"check", "x.IDA", "--json"}), error ? 1 : 0);
-        std::vector<std::string> found;
-        const test::Json json = test::Json::Parse(out);
-        for (const test::Json& finding : json["findings"].Items()) {
-            EXPECT_EQ(finding["file"].String(), "x.IDA");
-            EXPECT_EQ(finding["topic"].GetKind(), test::Json::Kind::String);
-            found.push_back(std::to_string(finding["line"].Int()) + ": " + finding["severity"].String() +
-                            ": " + finding["rule"].String() + ": " + finding["text"].String());
-        }
-        EXPECT_EQ(found, one.findings);
-        bad += one.findings.empty() ? 0 : 1;
-    }
-    EXPECT_GT(bad, 80);
-}
-
 } // namespace
 } // namespace ls

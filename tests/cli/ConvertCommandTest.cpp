@@ -24,11 +24,6 @@ TEST_F(Convert, json_hasTheTwoCounts)
     EXPECT_EQ(Out({"convert", "a.txt", "b.IDA", "--json"}), "{\n  \"lines\": 3,\n  \"converted\": 2\n}\n");
 }
 
-TEST_F(Convert, inputInAnotherCase_isFound)
-{
-    EXPECT_EQ(Out({"convert", "A.TXT", "b.IDA"}), "File saved: 3 lines, 2 converted\n");
-}
-
 TEST_F(Convert, convertedText_needsNoMore)
 {
     files["/work/c.IDA"] = Converted;
@@ -86,31 +81,6 @@ TEST_F(Convert, existingNameForced_isReplaced)
     EXPECT_FALSE(files.Has("/work/b.IDA.new"));
 }
 
-TEST_F(Convert, forcedWriteThatFails_keepsTheOldFile)
-{
-    files["/work/b.IDA"] = "old";
-    files.fail = [](const std::string& operation) {
-        return operation.starts_with("finish") ? error::DiskFull : 0;
-    };
-    EXPECT_EQ(Run({"convert", "a.txt", "b.IDA", "--force"}), 3);
-    EXPECT_EQ(err, "warning: Failed to write due to error #61: Disk full\n");
-    EXPECT_EQ(files["/work/b.IDA"], "old");
-    EXPECT_FALSE(files.Has("/work/b.IDA.new"));
-}
-
-TEST_F(Convert, nameTakenInTheMeantime_isKept)
-{
-    files.fail = [this](const std::string& operation) {
-        if (operation.starts_with("finish")) {
-            files["/work/b.IDA"] = "other";
-        }
-        return 0;
-    };
-    EXPECT_EQ(Run({"convert", "a.txt", "b.IDA"}), 3);
-    EXPECT_EQ(err, "warning: Failed to write due to error #58: File already exists\n");
-    EXPECT_EQ(files["/work/b.IDA"], "other");
-}
-
 TEST_F(Convert, inputItself_isNeverWrittenOver)
 {
     for (const char* option : {"--json", "--force"}) {
@@ -118,21 +88,6 @@ TEST_F(Convert, inputItself_isNeverWrittenOver)
         EXPECT_EQ(err, "warning: Failed to open output file due to error #55: File already open\n");
         EXPECT_EQ(files["/work/a.txt"], "caf\xC3\xA9\nb\r\nc\n");
     }
-}
-
-TEST_F(Convert, missingInput_isError53)
-{
-    EXPECT_EQ(Run({"convert", "none.txt", "b.IDA"}), 3);
-    EXPECT_EQ(err, "critical: Error opening <<none.txt>> with code 53: File not found\n");
-}
-
-TEST_F(Convert, missingFolderOfTheOutput_isError76)
-{
-    files.fail = [](const std::string& operation) {
-        return operation.starts_with("create") ? error::PathNotFound : 0;
-    };
-    EXPECT_EQ(Run({"convert", "a.txt", "/none/b.IDA"}), 3);
-    EXPECT_EQ(err, "warning: Failed to open output file due to error #76: Path not found\n");
 }
 
 TEST_F(Convert, utf16_isRefused)

@@ -112,13 +112,6 @@ TEST_F(Explore, topicWithoutAnAdvisor_isAFault)
     EXPECT_EQ(out, "");
 }
 
-TEST_F(Explore, topicThatIsNotThere_isTheUsualMessageAlsoInJson)
-{
-    EXPECT_EQ(Run({"advise", "a.IDA", "None", "--explore", "--json"}), 1);
-    EXPECT_EQ(err, "warning: Topic [None] was not found.\n");
-    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
-}
-
 TEST_F(Explore, logicThatCannotBeLoaded_isAFault)
 {
     EXPECT_EQ(

@@ -99,28 +99,6 @@ TEST_F(Export, inputItself_isNeverWrittenOver)
     }
 }
 
-TEST_F(Export, forcedWriteThatFails_keepsTheOldFile)
-{
-    files["/work/x.htm"] = "old";
-    files.fail = [](const std::string& operation) {
-        return operation.starts_with("write") ? error::DiskFull : 0;
-    };
-    EXPECT_EQ(Run({"export", "a.IDA", "Café", "-o", "x.htm", "--force"}), 3);
-    EXPECT_EQ(err, "warning: Failed to write due to error #61: Disk full\n");
-    EXPECT_EQ(files["/work/x.htm"], "old");
-    EXPECT_FALSE(files.Has("/work/x.htm.new"));
-    EXPECT_EQ(out, "");
-}
-
-TEST_F(Export, folderThatMayNotBeWritten_isToldWithTheFilesName)
-{
-    files.fail = [](const std::string& operation) {
-        return operation.starts_with("create") ? error::PermissionDenied : 0;
-    };
-    EXPECT_EQ(Run({"export", "a.IDA", "Café", "-o", "x.htm"}), 3);
-    EXPECT_EQ(err, "warning: Failed to open <<x.htm>> due to error #70: Permission denied.\n");
-}
-
 TEST_F(Export, unknownTitle_isToldAndMakesNoFile)
 {
     EXPECT_EQ(Run({"export", "a.IDA", "cafe", "-o", "x.htm"}), 1);
@@ -128,12 +106,6 @@ TEST_F(Export, unknownTitle_isToldAndMakesNoFile)
     EXPECT_FALSE(files.Has("/work/x.htm"));
     EXPECT_EQ(Run({"export", "a.IDA", "cafe", "--json"}), 1);
     EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
-}
-
-TEST_F(Export, numberBehindTheLastTopic_isTold)
-{
-    EXPECT_EQ(Run({"export", "a.IDA", "--number", "4"}), 1);
-    EXPECT_EQ(err, "exclamation: There is no topic number 4: the book has 3 topics.\n");
 }
 
 TEST_F(Export, fileThatIsNoBook_isAFaultAndNoOptionIsPromised)

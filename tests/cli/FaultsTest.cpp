@@ -45,105 +45,15 @@ TEST_F(Faults, missingFile_isError53)
     ExpectAll(3, "critical: Error opening <<x>> with code 53: File not found\n");
 }
 
-TEST_F(Faults, missingFolder_isError76)
+TEST_F(Faults, fileThatIsNoBook_isDeclined)
 {
-    EXPECT_EQ(Run({"info", "/nowhere/x"}), 3);
-    EXPECT_EQ(err, "critical: Error opening <</nowhere/x>> with code 76: Path not found\n");
-}
-
-TEST_F(Faults, folder_isError75)
-{
-    files.AddFolder("/work/x");
-    ExpectAll(3, "critical: Error opening <<x>> with code 75: Path/File access error\n");
-}
-
-TEST_F(Faults, noPermission_isError70)
-{
-    files["/work/x"] = test::SmallBook();
-    files.fail = [](const std::string& operation) { return operation == "open x" ? 70 : 0; };
-    ExpectAll(3, "critical: Error opening <<x>> with code 70: Permission denied\n");
-}
-
-TEST_F(Faults, emptyFile_isNoBook)
-{
-    files["/work/x"] = "";
-    ExpectAll(1, NoBook);
-}
-
-TEST_F(Faults, oneByte_isNoBook)
-{
-    for (const char byte : {'\0', '\r', '\n', '[', '<', '\x1A', '\xFF'}) {
-        files["/work/x"] = std::string(1, byte);
+    for (const std::string& bytes :
+         {std::string(), std::string(1, '\0'), std::string("\r"), std::string("\n"), std::string("["),
+          std::string("<"), std::string("\x1A"), std::string("\xFF"), std::string(5000, '\0'),
+          std::string(3'000'000, '[')}) {
+        files["/work/x"] = bytes;
         ExpectAll(1, NoBook);
     }
-}
-
-TEST_F(Faults, nulBytes_areNoBook)
-{
-    files["/work/x"] = std::string(5000, '\0');
-    ExpectAll(1, NoBook);
-}
-
-TEST_F(Faults, hugeFirstLine_isNoBook)
-{
-    files["/work/x"] = std::string(3'000'000, '[');
-    ExpectAll(1, NoBook);
-}
-
-TEST_F(Faults, readErrorInTheHeader_isToldAsOpening)
-{
-    files["/work/x"] = test::SmallBook();
-    files.fail = [](const std::string& operation) { return operation == "read x 1" ? 57 : 0; };
-    ExpectAll(3, "critical: Error opening <<x>> with code 57: Device I/O error\n");
-}
-
-TEST_F(Faults, readErrorWhileScanning_isAFaultOfTheFile)
-{
-    files["/work/x"] = test::SmallBook();
-    files.fail = [](const std::string& operation) { return operation == "read x 73" ? 57 : 0; };
-    ExpectAll(3, "critical: Error reading book file with code 57: Device I/O error\n");
-}
-
-TEST_F(Faults, readErrorInTheTopic_isToldWithItsName)
-{
-    files["/work/x"] = test::SmallBook();
-    files.fail = [](const std::string& operation) { return operation == "read x 292" ? 57 : 0; };
-    for (const Strings& command :
-         {Strings{"show", "x", "Advice"}, {"text", "x", "Advice"}, {"xrefs", "x", "Advice"}}) {
-        EXPECT_EQ(Run(command), 3);
-        EXPECT_EQ(err, "warning: Failed to fetch topic [Advice] due to error #57: Device I/O error\n");
-    }
-}
-
-TEST_F(Faults, readErrorInAPlainTextFile_isToldAndGivesNoHalf)
-{
-    files["/work/x"] = "plain\r\n" + std::string(40000, 'x') + "\r\n";
-    int reads = 0;
-    files.fail = [&reads](const std::string& operation) {
-        return operation.starts_with("read x") && ++reads > 2 ? 57 : 0;
-    };
-    EXPECT_EQ(Run({"text", "x", "--plain"}), 3);
-    EXPECT_NE(err.find("warning: Failed to fetch topic x due to error #57: Device I/O error\n"),
-              std::string::npos)
-        << err;
-    EXPECT_EQ(out, "");
-    reads = 0;
-    EXPECT_EQ(Run({"text", "x", "--plain", "--json"}), 3);
-    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 2U) << "the question and the error";
-}
-
-TEST_F(Faults, readErrorThatNoBoxTells_isToldByTheProgram)
-{
-    files["/work/x"] = test::SmallBook();
-    int reads = 0;
-    files.fail = [&reads](const std::string& operation) {
-        return operation == "read x 1" && ++reads > 1 ? 57 : 0;
-    };
-    EXPECT_EQ(Run({"info", "x"}), 3);
-    EXPECT_EQ(err, "critical: Error reading <<x>> with code 57: Device I/O error\n");
-    reads = 0;
-    EXPECT_EQ(Run({"info", "x", "--json"}), 3);
-    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
 }
 
 TEST_F(Faults, plainFilesOfAnyKind_areTakenByEveryCommand)

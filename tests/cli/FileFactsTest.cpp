@@ -95,15 +95,5 @@ TEST(FileFacts, nulBytes_areCounted)
     EXPECT_EQ(FactsOf(std::string("a\0b\0", 4)).nul, 2);
 }
 
-TEST(FileFacts, readError_isHandedOn)
-{
-    test::MemoryFileSystem files;
-    files["/f"] = "abc";
-    files.fail = [](const std::string& operation) { return operation == "read /f 1" ? 57 : 0; };
-    FileFacts facts;
-    EXPECT_EQ(GatherFacts(files, "/f", nullptr, facts), MakeFileError(57));
-    EXPECT_EQ(GatherFacts(files, "/g", nullptr, facts), MakeFileError(53));
-}
-
 } // namespace
 } // namespace ls

@@ -104,16 +104,6 @@ TEST_F(Info, noBookTakenAsPlainText_isDone)
         << out;
 }
 
-TEST_F(Info, oldVersion_isNoBook)
-{
-    files["/work/a.IDA"] = "LODESTAR BOOK V3.9\r\n";
-    EXPECT_EQ(Run({"info", "a.IDA", "--json"}), 1);
-    const test::Json info = test::Json::Parse(out);
-    EXPECT_FALSE(info["is_book"].Bool());
-    EXPECT_EQ(info["magic"].String(), "LODESTAR BOOK");
-    EXPECT_NEAR(info["version"].Number(), 3.9, 1e-9);
-}
-
 TEST_F(Info, codePageNotes_nameBytesAndUtf8)
 {
     files["/work/a.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n\x81 \x9D\x9D\r\n";
@@ -139,18 +129,6 @@ TEST_F(Info, emptyFileAsPlainText_isDescribed)
                    "Size              0 bytes\n"
                    "Line ends         none\n"
                    "Code page         Windows-1252, ASCII only\n");
-}
-
-TEST_F(Info, programFolderPrefix_opensBesideTheProgram)
-{
-    files["/program/Guide.IDA"] = test::SmallBook();
-    EXPECT_EQ(OutJson({"info", "LS:Guide.IDA"})["topic_count"].Int(), 3);
-}
-
-TEST_F(Info, nameInAnotherCase_isFound)
-{
-    files["/work/Guide.IDA"] = test::SmallBook();
-    EXPECT_EQ(OutJson({"info", "guide.ida"})["topic_count"].Int(), 3);
 }
 
 TEST_F(Info, longBookOnATerminal_showsProgressAndTakesItAway)

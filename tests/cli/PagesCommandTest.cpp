@@ -116,12 +116,6 @@ TEST_F(Pages, unknownTitle_writesThePageThatSaysSoAndEndsWithAFault)
     EXPECT_EQ(err, "warning: Topic [Nowhere] was not found.\n");
 }
 
-TEST_F(Pages, paperSmallerThanItsMargins_hasNoPages)
-{
-    EXPECT_EQ(Out({"pages", "a.IDA", "Start", "--page", "1000", "1000"}), "");
-    EXPECT_EQ(OutJson({"pages", "a.IDA", "Start", "--page", "1000", "1000"})["pages"].Items().size(), 0U);
-}
-
 TEST_F(Pages, wrongUsage_isNamed)
 {
     struct Row
@@ -144,12 +138,6 @@ TEST_F(Pages, wrongUsage_isNamed)
     }
     EXPECT_EQ(Run({"pages", "a.IDA", "Start", "--page", "0", "100"}), 2);
     EXPECT_EQ(Run({"pages", "a.IDA", "Start", "--page", "100"}), 2);
-}
-
-TEST_F(Pages, missingBook_isAFileFault)
-{
-    EXPECT_EQ(Run({"pages", "none.IDA", "A"}), 3);
-    EXPECT_EQ(out, "");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // place of files.
 
 #include "platform/ChildProcess.h"
+#include "support/RowName.h"
 #include "support/ScratchFolder.h"
 #include "support/TestSeams.h"
 
@@ -115,8 +116,7 @@ const Row Rows[] = {
      "warning: Failed to open output file due to error #76: Path not found"},
 };
 
-INSTANTIATE_TEST_SUITE_P(System, Refusals, testing::ValuesIn(Rows),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(System, Refusals, testing::ValuesIn(Rows), test::RowName());
 
 TEST_F(ProgramFaults, inputThatIsNoTerminal_isNotRead)
 {

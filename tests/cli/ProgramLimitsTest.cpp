@@ -4,42 +4,33 @@
 #include "ProgramFixture.h"
 
 #include "support/Json.h"
+#include "support/LimitBooks.h"
 #include "support/TestSeams.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 
 namespace ls {
 namespace {
 
-constexpr int Limit = 32767;
-constexpr const char* Header = "LODESTAR BOOK V5.3\r\n";
 constexpr const char* Overflow = "critical: Overflow\n";
 
 // A program that takes far more memory fails here and does not fill the machine's memory.
 constexpr const char* OneGibibyte = "ulimit -v 1048576; ";
 
+using test::BookHeader;
+using test::BookOfMany;
+using test::Limit;
+
 class ProgramLimits : public test::ProgramFixture
 {
 protected:
-    // Writes a book: the header, `before`, the pieces 1 to `count` from `piece`, `behind`.
-    void WriteMany(int count, const std::string& before, const std::function<std::string(int)>& piece,
-                   const std::string& behind = {})
-    {
-        std::string bytes = Header + before;
-        for (int i = 1; i <= count; ++i) {
-            bytes += piece(i);
-        }
-        scratch.Write("a.IDA", bytes + behind);
-    }
-
     // Writes a book: `before`, a hole of zeros, and `behind`, which begins at byte `size`. The hole takes no
     // room on the disk.
     void WriteWithHole(const std::string& before, std::uintmax_t size, const std::string& behind)
     {
-        const std::string path = scratch.Write("a.IDA", Header + before);
+        const std::string path = scratch.Write("a.IDA", BookHeader + before);
         std::filesystem::resize_file(path, size);
         std::ofstream(path, std::ios::binary | std::ios::app) << behind;
     }
@@ -54,14 +45,9 @@ protected:
     }
 };
 
-std::string Topic(int number)
-{
-    return "[T" + std::to_string(number) + "]\r\nbody " + std::to_string(number) + "\r\n";
-}
-
 TEST_F(ProgramLimits, allTopicsThatCanBeCounted_areListedShownAndSaved)
 {
-    WriteMany(Limit, "", Topic);
+    scratch.Write("a.IDA", BookOfMany(Limit, "", test::NthTopic));
     EXPECT_EQ(Run("topics a.IDA"), 0);
     EXPECT_EQ(Lines(), Limit);
     EXPECT_EQ(LastLine(), "32767. T32767\n");
@@ -77,7 +63,7 @@ TEST_F(ProgramLimits, allTopicsThatCanBeCounted_areListedShownAndSaved)
 
 TEST_F(ProgramLimits, oneTopicMore_isRefusedByEveryCommand)
 {
-    WriteMany(Limit + 1, "", Topic);
+    scratch.Write("a.IDA", BookOfMany(Limit + 1, "", test::NthTopic));
     for (const char* command : {"info a.IDA", "topics a.IDA", "xrefs a.IDA", "show a.IDA T1", "check a.IDA",
                                 "text a.IDA --number 32767", "save a.IDA b.IDA"}) {
         SCOPED_TRACE(command);
@@ -88,14 +74,9 @@ TEST_F(ProgramLimits, oneTopicMore_isRefusedByEveryCommand)
     EXPECT_FALSE(scratch.Has("b.IDA")) << "saving a cut table would lose topics";
 }
 
-std::string Reference(int number)
-{
-    return "<XREF TOPIC=B>note " + std::to_string(number) + "</XREF>\r\n";
-}
-
 TEST_F(ProgramLimits, allReferencesThatCanBeCounted_areTold)
 {
-    WriteMany(Limit, "[A]\r\n", Reference, "[B]\r\nb\r\n");
+    scratch.Write("a.IDA", BookOfMany(Limit, "[A]\r\n", test::NthReference, "[B]\r\nb\r\n"));
     EXPECT_EQ(Run("info a.IDA --json"), 0);
     EXPECT_EQ(test::Json::Parse(out)["xref_count"].Int(), Limit);
     EXPECT_EQ(Run("xrefs a.IDA --json"), 0);
@@ -106,7 +87,7 @@ TEST_F(ProgramLimits, allReferencesThatCanBeCounted_areTold)
 
 TEST_F(ProgramLimits, oneReferenceMore_isRefused)
 {
-    WriteMany(Limit + 1, "[A]\r\n", Reference, "[B]\r\nb\r\n");
+    scratch.Write("a.IDA", BookOfMany(Limit + 1, "[A]\r\n", test::NthReference, "[B]\r\nb\r\n"));
     for (const char* command : {"info a.IDA", "xrefs a.IDA", "xrefs a.IDA B", "show a.IDA B"}) {
         SCOPED_TRACE(command);
         EXPECT_EQ(Run(command), 1);
@@ -122,7 +103,7 @@ std::string Line(int number)
 
 TEST_F(ProgramLimits, allLinesThatCanBeCounted_areShown)
 {
-    WriteMany(Limit, "[A]\r\n", Line, "[B]\r\nb\r\n");
+    scratch.Write("a.IDA", BookOfMany(Limit, "[A]\r\n", Line, "[B]\r\nb\r\n"));
     EXPECT_EQ(Run("show a.IDA A"), 0);
     EXPECT_EQ(err, "");
     EXPECT_EQ(Lines(), Limit);
@@ -131,7 +112,7 @@ TEST_F(ProgramLimits, allLinesThatCanBeCounted_areShown)
 
 TEST_F(ProgramLimits, oneLineMore_isCutFromTheDisplayAndKeptInTheText)
 {
-    WriteMany(Limit + 1, "[A]\r\n", Line, "[B]\r\nb\r\n");
+    scratch.Write("a.IDA", BookOfMany(Limit + 1, "[A]\r\n", Line, "[B]\r\nb\r\n"));
     EXPECT_EQ(Run("show a.IDA A"), 1);
     EXPECT_EQ(err, Overflow);
     EXPECT_EQ(Lines(), Limit);
@@ -145,18 +126,9 @@ TEST_F(ProgramLimits, oneLineMore_isCutFromTheDisplayAndKeptInTheText)
     EXPECT_EQ(scratch.Read("b.IDA"), scratch.Read("a.IDA"));
 }
 
-std::string Rule(int number)
-{
-    return "G(" + std::to_string(number) + ")=X(" + std::to_string(number) + ")\r\n";
-}
-
-constexpr const char* LogicEnd =
-    "</LOGIC>\r\n<DEFINITIONS>\r\n<Q ID=X>Which?</Q>\r\n<Q ID=G></Q>\r\n<AV ID=G(32767)>The last.</AV>\r\n"
-    "</DEFINITIONS>\r\n</IXML>\r\n";
-
 TEST_F(ProgramLimits, allRulesThatCanBeCounted_areAsked)
 {
-    WriteMany(Limit, "[A]\r\n<IXML>\r\n<LOGIC>\r\nTARGET G\r\n", Rule, LogicEnd);
+    scratch.Write("a.IDA", BookOfMany(Limit, test::RulesStart, test::NthRule, test::RulesEnd));
     EXPECT_EQ(Run("advise a.IDA A --answers 32767"), 0);
     EXPECT_EQ(err, "");
     EXPECT_EQ(LastLine(), "The last.\n");
@@ -164,7 +136,7 @@ TEST_F(ProgramLimits, allRulesThatCanBeCounted_areAsked)
 
 TEST_F(ProgramLimits, oneRuleMore_isNoAdvisor)
 {
-    WriteMany(Limit + 1, "[A]\r\n<IXML>\r\n<LOGIC>\r\nTARGET G\r\n", Rule, LogicEnd);
+    scratch.Write("a.IDA", BookOfMany(Limit + 1, test::RulesStart, test::NthRule, test::RulesEnd));
     EXPECT_EQ(Run("advise a.IDA A --answers 32767"), 1);
     EXPECT_EQ(err, Overflow);
     EXPECT_EQ(LastLine(), "Failure loading logic section for topic <<[A]>>; I can't proceed.\n");
@@ -242,7 +214,7 @@ TEST_F(ProgramLimits, lineThatDoesNotBreak_isShownWhereItFitsIntoMemoryTwice)
     EXPECT_EQ(Run("show a.IDA A"), 0);
     EXPECT_EQ(err, "");
     EXPECT_TRUE(limited == out);
-    const std::size_t row = size - std::string(Header + std::string("[A]\r\n")).size();
+    const std::size_t row = size - std::string(BookHeader + std::string("[A]\r\n")).size();
     ASSERT_EQ(out.size(), row + 1);
     EXPECT_EQ(out.substr(0, start.size()), start);
     EXPECT_EQ(out.find_first_not_of('\0', start.size()), row) << "what follows is the hole, then a line end";
@@ -252,7 +224,7 @@ TEST_F(ProgramLimits, titleOfTenThousandCharacters_isATitle)
 {
     const std::string title(10000, 'w');
     scratch.Write("a.IDA",
-                  Header + ("[" + title + "]\r\nbody\r\n[B]\r\n<XREF TOPIC=") + title + ">n</XREF>\r\n");
+                  BookHeader + ("[" + title + "]\r\nbody\r\n[B]\r\n<XREF TOPIC=") + title + ">n</XREF>\r\n");
     EXPECT_EQ(Run("topics a.IDA"), 0);
     EXPECT_EQ(out, "1. " + title + "\n2. B\n");
     EXPECT_EQ(Run("show a.IDA " + title), 0);

@@ -19,16 +19,6 @@ struct ProgramStreams : testing::Test
     test::ScratchFolder scratch;
 };
 
-TEST_F(ProgramStreams, fullOutput_endsWithThree)
-{
-    scratch.Write("a.IDA", test::CrLf({"LODESTAR BOOK V5.3", "[A]", "x"}));
-    const std::string command =
-        "'" LS_LSBOOK "' topics '" + scratch.Path() + "/a.IDA' >/dev/full 2>'" + scratch.Path() + "/stderr'";
-    const int status = std::system(command.c_str());
-    EXPECT_EQ(WEXITSTATUS(status), 3);
-    EXPECT_EQ(scratch.Read("stderr"), "lsbook: standard output cannot be written\n");
-}
-
 // Runs `lsbook show a.IDA A` in a folder, on a terminal 20 characters wide; returns the terminal's content.
 std::string ShowOnTerminal(const std::string& folder)
 {

@@ -50,12 +50,6 @@ TEST_F(Program, missingFile_endsWithThree)
     EXPECT_EQ(err, "critical: Error opening <<no such.IDA>> with code 53: File not found\n");
 }
 
-TEST_F(Program, folder_endsWithThree)
-{
-    EXPECT_EQ(Run({"topics", "."}), 3);
-    EXPECT_EQ(err, "critical: Error opening <<.>> with code 75: Path/File access error\n");
-}
-
 TEST_F(Program, noBook_endsWithOne)
 {
     scratch.Write("a.txt", "Hello\r\n");

@@ -52,16 +52,19 @@ using BookOnPaper = std::tuple<const char*, Paper>;
 class SamplePrints : public test::CliFixture, public testing::WithParamInterface<BookOnPaper>
 {
 protected:
-    void Add(const Json& topic)
+    // The topic of that number, or the plain text file.
+    void Add(const std::string& title, const Strings& which)
     {
-        const Paper& paper = std::get<1>(GetParam());
-        Strings arguments{"pages", "sample.IDA", "--number", std::to_string(topic["number"].Int())};
-        arguments.insert(arguments.end(), paper.options.begin(), paper.options.end());
-        const Json printed = OutJson(arguments);
+        Strings arguments{"pages", "sample.IDA", "--json"};
+        for (const Strings& options : {which, std::get<1>(GetParam()).options}) {
+            arguments.insert(arguments.end(), options.begin(), options.end());
+        }
+        EXPECT_EQ(Run(arguments), 0) << err;
+        const Json printed = Json::Parse(out);
         if (lines.empty()) {
             lines.push_back(SetupLine(printed["setup"]));
         }
-        lines.push_back("== " + topic["title"].String());
+        lines.push_back("== " + title);
         int number = 0;
         for (const Json& page : printed["pages"].Items()) {
             lines.push_back("-- page " + std::to_string(++number));
@@ -88,11 +91,16 @@ protected:
 
 TEST_P(SamplePrints, everyTopic_asExpected)
 {
-    files["/work/sample.IDA"] =
-        test::ReadWholeFile(std::string(LS_SAMPLES) + "/" + std::get<0>(GetParam()) + ".IDA");
-    const Json topics = OutJson({"topics", "sample.IDA"});
-    for (const Json& topic : topics["topics"].Items()) {
-        Add(topic);
+    const std::string name = std::get<0>(GetParam());
+    const bool plain = name == "Tides";
+    files["/work/sample.IDA"] = test::ReadWholeFile(LS_SAMPLES "/" + name + (plain ? ".TXT" : ".IDA"));
+    if (plain) {
+        Add("", {"--plain"});
+    } else {
+        const Json topics = OutJson({"topics", "sample.IDA"});
+        for (const Json& topic : topics["topics"].Items()) {
+            Add(topic["title"].String(), {"--number", std::to_string(topic["number"].Int())});
+        }
     }
     const Strings golden = Golden();
     ASSERT_GT(golden.size(), 20U);
@@ -103,7 +111,7 @@ TEST_P(SamplePrints, everyTopic_asExpected)
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, SamplePrints,
-                         testing::Combine(testing::Values("Guide", "Advice"),
+                         testing::Combine(testing::Values("Guide", "Advice", "Tides"),
                                           testing::Values(Letter, A4Sideways)),
                          [](const auto& row) {
                              std::string name =

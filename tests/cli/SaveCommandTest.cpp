@@ -39,54 +39,6 @@ TEST_F(Save, existingNameForced_isReplaced)
     EXPECT_FALSE(files.Has("/work/b.IDA.new"));
 }
 
-TEST_F(Save, forcedWriteThatFails_keepsTheOldFile)
-{
-    files["/work/b.IDA"] = "old";
-    files.fail = [](const std::string& operation) {
-        return operation.starts_with("finish") ? error::DiskFull : 0;
-    };
-    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 3);
-    EXPECT_EQ(err, "warning: Failed to write due to error #61: Disk full\n");
-    EXPECT_EQ(files["/work/b.IDA"], "old");
-}
-
-TEST_F(Save, forcedNameThatCannotBeReplaced_saysSoAndKeepsTheOldFile)
-{
-    files["/work/b.IDA"] = "old";
-    files.fail = [](const std::string& operation) {
-        return operation == "rename b.IDA.new b.IDA" ? error::PermissionDenied : 0;
-    };
-    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 3);
-    EXPECT_EQ(err, "warning: Failed to write due to error #70: Permission denied\n");
-    EXPECT_EQ(files["/work/b.IDA"], "old");
-    EXPECT_FALSE(files.Has("/work/b.IDA.new"));
-    files.fail = nullptr;
-    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 0) << "the next save succeeds";
-    EXPECT_EQ(files["/work/b.IDA"], Book);
-}
-
-TEST_F(Save, forcedReadOnlyFile_isRefused)
-{
-    files["/work/b.IDA"] = "old";
-    files.fail = [](const std::string& operation) {
-        return operation == "writable b.IDA" ? error::PermissionDenied : 0;
-    };
-    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--force"}), 3);
-    EXPECT_EQ(err, "warning: Failed to open output file due to error #70: Permission denied\n");
-    EXPECT_EQ(files["/work/b.IDA"], "old");
-}
-
-TEST_F(Save, savedFileThatCannotBeRead_isToldAlsoAsJson)
-{
-    files.fail = [](const std::string& operation) {
-        return operation == "open b.IDA" ? error::PermissionDenied : 0;
-    };
-    EXPECT_EQ(Run({"save", "a.IDA", "b.IDA", "--json"}), 3);
-    EXPECT_EQ(err, "critical: Error reading <<b.IDA>> with code 70: Permission denied\n");
-    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
-    EXPECT_EQ(files["/work/b.IDA"], Book);
-}
-
 TEST_F(Save, inputItself_isNeverWrittenOver)
 {
     for (const char* force : {"--json", "--force"}) {

@@ -76,12 +76,6 @@ TEST_F(Show, width_comesFromTheTerminalElseEighty)
     EXPECT_EQ(Out({"show", "b.IDA", "A"}), std::string(80, 'x') + "\n" + std::string(20, 'x') + "\n");
 }
 
-TEST_F(Show, terminalNarrowerThanAnyIndent_isTakenAsEleven)
-{
-    columns = 3;
-    EXPECT_EQ(Out({"show", "a.IDA", "Café"}), "- one two\n  three\n  four five\n  six\n");
-}
-
 TEST_F(Show, json_hasTheWrappedLinesWithTheirMarkup)
 {
     EXPECT_EQ(Out({"show", "a.IDA", "Start", "--json"}), "{\n"
@@ -161,58 +155,11 @@ TEST_F(Show, widthBelowEleven_isWrongUsage)
                    "Try \"lsbook help show\".\n");
 }
 
-TEST_F(Show, lineOfTagsOnly_sharesItsRow)
-{
-    files["/work/b.IDA"] = "LODESTAR BOOK V5.3\r\n[A]\r\n<B>\r\nx\r\n<I>\r\n";
-    EXPECT_EQ(Out({"show", "b.IDA", "A"}), "x\n");
-    EXPECT_EQ(OutJson({"show", "b.IDA", "A"})["count"].Int(), 3);
-}
-
-TEST_F(Show, olderBook_isDrawnAsItStands)
-{
-    files["/work/b.IDA"] = "LODESTAR BOOK V4.0\r\n[A]\r\n<B>x</B> &LT;\r\n";
-    EXPECT_EQ(Out({"show", "b.IDA", "A"}), "<B>x</B> &LT;\n");
-}
-
 TEST_F(Show, plainTextFile_isShownWhole)
 {
     files["/work/a.txt"] = "[A]\r\n<B>x</B>\r\n<IXML>\r\n";
     EXPECT_EQ(Run({"show", "a.txt", "--plain"}), 0);
     EXPECT_EQ(out, "[A]\n<B>x</B>\n<IXML>\n");
-}
-
-TEST_F(Show, titleOfAPlainTextFile_isAFault)
-{
-    files["/work/a.txt"] = "A\r\n";
-    EXPECT_EQ(Run({"show", "a.txt", "A", "--plain"}), 1);
-    EXPECT_TRUE(err.ends_with("\nexclamation: A plain text file has no topics to choose from.\n")) << err;
-}
-
-TEST_F(Show, unknownTitle_isToldOnceAndInJson)
-{
-    EXPECT_EQ(Run({"show", "a.IDA", "Nowhere", "--json"}), 1);
-    EXPECT_EQ(err, "warning: Topic [Nowhere] was not found.\n");
-    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().size(), 1U);
-}
-
-TEST_F(Show, bookWithoutTopics_hasNoneToShow)
-{
-    files["/work/b.IDA"] = "LODESTAR BOOK V5.3\r\n";
-    EXPECT_EQ(Run({"show", "b.IDA", "A"}), 1);
-    EXPECT_EQ(err, "warning: Topic [A] was not found.\n");
-}
-
-TEST_F(Show, topicOfTooManyLines_isCutAndToldAsAFault)
-{
-    std::string book = "LODESTAR BOOK V5.3\r\n[A]\r\n";
-    for (int i = 0; i < 32768; ++i) {
-        book += "x\r\n";
-    }
-    files["/work/b.IDA"] = book;
-    EXPECT_EQ(Run({"show", "b.IDA", "A", "--json"}), 1);
-    EXPECT_EQ(err, "critical: Overflow\n");
-    EXPECT_EQ(test::Json::Parse(out)["count"].Int(), 32767);
-    EXPECT_EQ(test::Json::Parse(out)["messages"].Items().front()["text"].String(), "Overflow");
 }
 
 } // namespace

@@ -31,17 +31,6 @@ TEST_F(Topics, json_keepsTheListsOrderAndTheTablesNumbers)
               "}\n");
 }
 
-TEST_F(Topics, moreThanNineTopics_haveZeroPaddedNumbers)
-{
-    std::string book = "LODESTAR BOOK V5.3\r\n";
-    for (int i = 1; i <= 10; ++i) {
-        book += "[T" + std::to_string(i) + "]\r\n";
-    }
-    files["/work/b.IDA"] = book;
-    EXPECT_TRUE(Out({"topics", "b.IDA"}).starts_with("01. T1\n02. T2\n")) << out;
-    EXPECT_TRUE(out.ends_with("10. T10\n")) << out;
-}
-
 TEST_F(Topics, plainTextFile_hasNone)
 {
     files["/work/a.txt"] = "[A]\r\n";
@@ -55,18 +44,6 @@ TEST_F(Topics, escapeInATitleOnATerminal_isShownAndNotSent)
     EXPECT_EQ(Out({"topics", "b.IDA"}), "1. A\033[2J\xC2\x81\n");
     outIsTerminal = true;
     EXPECT_EQ(Out({"topics", "b.IDA"}), "1. A\xE2\x90\x9B[2J\xEF\xBF\xBD\n");
-}
-
-TEST_F(Topics, tooManyTopics_overflowIsAFaultOfTheBook)
-{
-    std::string book = "LODESTAR BOOK V5.3\r\n";
-    for (int i = 0; i < 32768; ++i) {
-        book += "[T]\r\n";
-    }
-    files["/work/b.IDA"] = book;
-    EXPECT_EQ(Run({"topics", "b.IDA"}), 1);
-    EXPECT_EQ(err, "critical: Overflow\n");
-    EXPECT_EQ(out, "");
 }
 
 } // namespace

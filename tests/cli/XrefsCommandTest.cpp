@@ -73,11 +73,6 @@ TEST_F(Xrefs, ofATopicWithoutAny_hasEmptyLists)
     EXPECT_EQ(Out({"xrefs", "a.IDA", "Advice"}), "Cross Reference Topics for: Advice\n");
 }
 
-TEST_F(Xrefs, titleWithBrackets_isTheSameTopic)
-{
-    EXPECT_EQ(OutJson({"xrefs", "a.IDA", "[Start]"})["to"].Items().size(), 1U);
-}
-
 TEST_F(Xrefs, unknownTopic_isToldAndIsAFault)
 {
     EXPECT_EQ(Run({"xrefs", "a.IDA", "start", "--json"}), 1);

@@ -78,44 +78,5 @@ TEST_F(ExportFaults, deletedTopic_isStillInTheFile)
     world.messages.Take();
 }
 
-TEST_F(ExportFaults, headerThatCannotBeRead_isToldAndNothingFinished)
-{
-    ASSERT_TRUE(Scan(BookHeaderLine + "[A]\r\na\r\n"));
-    world.files.fail = [](const std::string& o) { return o.starts_with("read ") ? error::DeviceIo : 0; };
-    EXPECT_FALSE(Export("[A]", 1));
-    EXPECT_EQ(world.messages.Take(),
-              Strings{"warning|Lodestar Advisor|Failed to fetch topic [A] due to error "
-                      "#57: Device I/O error"});
-    EXPECT_EQ(file.finished, 0);
-}
-
-TEST_F(ExportFaults, bodyThatCannotBeRead_isToldAndNothingFinished)
-{
-    ASSERT_TRUE(Scan(BookHeaderLine + "[A]\r\n" + std::string(3'000'000, 'x') + "\r\n"));
-    int reads = 0;
-    world.files.fail = [&reads](const std::string& o) {
-        return o.starts_with("read ") && ++reads > 1 ? error::DeviceIo : 0;
-    };
-    EXPECT_FALSE(Export("[A]", 1));
-    EXPECT_EQ(world.messages.Take(),
-              Strings{"warning|Lodestar Advisor|Failed to fetch topic [A] due to error "
-                      "#57: Device I/O error"});
-    EXPECT_EQ(file.finished, 0);
-}
-
-TEST_F(ExportFaults, fullDisk_isToldOnceAndNothingFinished)
-{
-    for (const std::size_t room : {std::size_t(0), std::size_t(100'000)}) {
-        ASSERT_TRUE(Scan(BookHeaderLine + "[A]\r\n" + std::string(1'000'000, 'x') + "\r\n"));
-        file = KeptFile{};
-        file.room = room;
-        EXPECT_FALSE(Export("[A]", 1));
-        EXPECT_EQ(world.messages.Take(),
-                  Strings{"warning|Lodestar Advisor|Failed to write due to error #61: Disk full"});
-        EXPECT_EQ(file.finished, 0);
-        EXPECT_LT(file.text.size(), room + 200'000) << "nothing more is written after the error";
-    }
-}
-
 } // namespace
 } // namespace ls

@@ -1,4 +1,5 @@
 #include "render/pane/FindInText.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"gapAtTheEnd", "a ab", "a ", {{0, 2}}},
                     Row{"gapThatDoesNotMatch", "   b   a", " a", {{4, 8}}},
                     Row{"startAgainInAMatchBegun", "aab", "ab", {{1, 3}}}),
-    [](const auto& row) { return std::string(row.param.name); });
+    test::RowName());
 
 TEST(FindAll, longGaps_areWalkedOnce)
 {

@@ -2,6 +2,7 @@
 
 #include "render/text/DisplayLines.h"
 #include "render/text/TopicText.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -92,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(
                     KeptRow{"blanksOnly", 9, 12, 9, 9}, KeptRow{"start", 0, 0, 0, 0},
                     KeptRow{"end", 24, 24, 19, 19}, KeptRow{"caretBeforeAWord", 14, 14, 9, 9},
                     KeptRow{"caretBehindAWord", 8, 8, 8, 8}, KeptRow{"caretInAWord", 15, 15, 10, 10}),
-    [](const auto& row) { return std::string(row.param.name); });
+    test::RowName());
 
 TEST(KeptSelection, in_anEmptyText_isEmpty)
 {

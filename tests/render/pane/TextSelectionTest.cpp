@@ -1,6 +1,7 @@
 #include "render/pane/TextSelection.h"
 
 #include "render/text/DisplayLines.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -71,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(
         Step{"pageDownBeyondTheEnd", 13, CaretMove::PageDown, 34},
         Step{"rowStart", 13, CaretMove::RowStart, 11}, Step{"rowEnd", 13, CaretMove::RowEnd, 16},
         Step{"textStart", 13, CaretMove::TextStart, 0}, Step{"textEnd", 13, CaretMove::TextEnd, 34}),
-    [](const auto& row) { return std::string(row.param.name); });
+    test::RowName());
 
 TEST(TextSelection, moveUpAndDown_overShortRows_keepToTheColumn)
 {

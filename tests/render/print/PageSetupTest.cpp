@@ -2,6 +2,7 @@
 
 #include "render/print/PageRecorder.h"
 #include "render/print/PrintSettings.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -26,11 +27,6 @@ struct SetupCase
     int leftMarginChars;
     int topMarginLines;
 };
-
-void PrintTo(const SetupCase& setup, std::ostream* stream)
-{
-    *stream << setup.name;
-}
 
 PageRecorder RecorderFor(const SetupCase& setup)
 {
@@ -91,12 +87,7 @@ const SetupCase Cases[] = {
     {"sheet_smallerThanItsMargins", 1000, 1000, 1000, 1000, false, 10, 272, -872, -728, -7, -3, 6, 3},
 };
 
-std::string TestName(const testing::TestParamInfo<SetupCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Sheets, PageSetupCase, testing::ValuesIn(Cases), TestName);
+INSTANTIATE_TEST_SUITE_P(Sheets, PageSetupCase, testing::ValuesIn(Cases), test::RowName());
 
 // A page on which "_" has the height of a line, and "|" twice that.
 class UnevenPage : public PageRuns

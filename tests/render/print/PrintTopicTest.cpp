@@ -4,6 +4,7 @@
 #include "render/text/ShowTopicFixture.h"
 #include "support/PageText.h"
 #include "support/RecordingPrinter.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -241,7 +242,7 @@ INSTANTIATE_TEST_SUITE_P(Lines, PrintEnd,
                                          EndCase{"referenceInSmallLetters", "<xref topic=A>t</xref>"},
                                          EndCase{"logic", "<IXML>"}, EndCase{"logicWithBlanks", "  <ixml>  "},
                                          EndCase{"nextTopic", "[B]"}, EndCase{"bracketAlone", "["}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 TEST_F(PrintTopicTest, logicOpeningWithTextBehindIt_isText)
 {
@@ -376,23 +377,6 @@ TEST_F(PrintTopicTest, topicOfANewBook_isNotInAnyFile)
     Print("[A]", 1);
     EXPECT_EQ(world.messages.Take(), Strings{"warning|Lodestar Advisor|Topic [A] was not found."});
     EXPECT_EQ(Rows(), Strings{"Error on lookup of topic."});
-}
-
-TEST_F(PrintTopicTest, readErrorInTheBody_printsWhatWasReadAndSaysSo)
-{
-    ASSERT_TRUE(Scan(Header + "[A]\r\n" + NumberedLines(20000)));
-    int reads = 0;
-    world.files.fail = [&reads](const std::string& operation) {
-        return operation.starts_with("read") && ++reads > 2 ? error::DeviceIo : 0;
-    };
-    Print("[A]", 1);
-    world.files.fail = nullptr;
-    EXPECT_EQ(
-        world.messages.Take(),
-        Strings{"warning|Lodestar Advisor|Failed to fetch topic [A] due to error #57: Device I/O error"});
-    EXPECT_TRUE(printed.error.Ok());
-    EXPECT_GT(printer.Pages().size(), 2U);
-    EXPECT_EQ(printer.log.back(), "end");
 }
 
 TEST_F(PrintTopicTest, printerFailsAtANewPage_endsThePrintAtOnce)

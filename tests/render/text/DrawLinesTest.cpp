@@ -2,6 +2,7 @@
 
 #include "render/text/DisplayLines.h"
 #include "render/text/RunList.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -86,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"beginsBeforeATag", {"&<B>LT;x"}, {"1 1:1 {?}", "1 1:2 {x} /"}},
                     Row{"insideATag", {"a<A&LT;>b"}, {"1 1:1 {a}", "1 1:2 {b} /"}},
                     Row{"semicolonOnlyBefore", {"a;b&c"}, {"1 1:1 {a;b&c} /"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Tags, DrawTable,
@@ -111,7 +112,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"tagOverOpening", {"<B<I>x"}, {"1 1:1 {x} /"}},
         Row{"endsTheLine", {"x</B>", "y"}, {"1 1:1 {x} /", "2 2:1 {y} /"}},
         Row{"twoTagsEndTheLine", {"<B>x</B></I>", "y"}, {"1 1:1 {x} b", "2 1:2 {y} /"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, DrawTable,
@@ -121,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"stylesGoOnOverLines",
                         {"<I>a", "b", "c</I>"},
                         {"1 1:1 {a} i /", "2 2:1 {b} i /", "3 3:1 {c} i /"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 TEST(DrawRows, drawRows_versionBelow5_printsLinesAsTheyStand)
 {

@@ -1,4 +1,5 @@
 #include "render/text/ListIndent.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"dashBehindTag", "<H1>- x", 2}, Row{"indentedDashBehindTag", "<B> - x", 3},
                     Row{"dashBehindLongTag", "<BOLD>- x", 0}, Row{"dashBehindSecondTag", "<B><I>- x", 0},
                     Row{"asterisk", "* x", 0}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, ListIndentTable,
@@ -42,7 +43,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"pointAtNinthBehindTag", "<H1>1234. x", 6},
                     Row{"pointAtTenthBehindTag", "<H1>12345. x", 0}, Row{"firstPointDecides", "a. 1. x", 0},
                     Row{"abbreviation", "e.g. 1. x", 0}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(Brackets, ListIndentTable,
                          testing::Values(Row{"letter", "a) item", 3}, Row{"digit", "1) item", 3},
@@ -54,7 +55,7 @@ INSTANTIATE_TEST_SUITE_P(Brackets, ListIndentTable,
                                          Row{"behindShortHeading", "<H1>a) x", 3},
                                          Row{"pointWithoutDigitBehind", "a) x. y", 3},
                                          Row{"numberBehindBracketWins", "a) 1. y", 6}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(LeadingTags, ListIndentTable,
                          testing::Values(Row{"tagOfFourCharacters", "<H1>1. x", 3},
@@ -63,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(LeadingTags, ListIndentTable,
                                          Row{"tagWithoutEnd", "<- x", 0},
                                          Row{"numberInTagWithoutEnd", "<1. x", 4},
                                          Row{"emptyTag", "<>- x", 2}, Row{"tagOnly", "<B>", 0}),
-                         [](const auto& row) { return row.param.name; });
+                         test::RowName());
 
 } // namespace
 } // namespace ls

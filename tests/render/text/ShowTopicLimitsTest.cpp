@@ -45,15 +45,6 @@ TEST_F(ShowTopicLimitsTest, show_plainTextWithoutFile_nothing)
 
 // Faults and limits
 
-// Reading fails from about the 100,000th byte of the file on.
-void FailFurtherOn(test::MemoryFileSystem& files, int errorNumber)
-{
-    files.fail = [errorNumber](const std::string& operation) {
-        const bool reads = operation.starts_with("read ");
-        return reads && std::stol(operation.substr(operation.rfind(' '))) > 100000 ? errorNumber : 0;
-    };
-}
-
 std::string ManyLines(int count, const std::string& line)
 {
     std::string text;
@@ -61,34 +52,6 @@ std::string ManyLines(int count, const std::string& line)
         text += line + "\r\n";
     }
     return text;
-}
-
-TEST_F(ShowTopicLimitsTest, show_readErrorInTheMiddle_showsWhatWasReadAndSaysSo)
-{
-    ASSERT_TRUE(Scan(Header + "[A\xE9]\r\n" + ManyLines(40000, "some words of a line") + "<IXML>\r\n"));
-    FailFurtherOn(world.files, error::DeviceIo);
-    EXPECT_EQ(Show("A\xE9", 1), ShowResult::Shown);
-    EXPECT_GT(shown.lines.Count, 4000);
-    EXPECT_LT(shown.lines.Count, 20000);
-    EXPECT_EQ(shown.lines(shown.lines.Count), "some words of a line");
-    EXPECT_EQ(name, "[A\xE9]");
-    EXPECT_FALSE(shown.advisorButton);
-    EXPECT_EQ(
-        world.messages.Take(),
-        Strings{"warning|Lodestar Advisor|Failed to fetch topic [A\xC3\xA9] due to error #57: Device I/O "
-                "error"});
-}
-
-TEST_F(ShowTopicLimitsTest, show_readErrorInPlainText_namesTheFile)
-{
-    OpenPlain(ManyLines(40000, "some words of a line"));
-    FailFurtherOn(world.files, error::DeviceIo);
-    EXPECT_EQ(Show(""), ShowResult::Shown);
-    EXPECT_GT(shown.lines.Count, 4000);
-    EXPECT_EQ(
-        world.messages.Take(),
-        Strings{"warning|Lodestar Advisor|Failed to fetch topic /work/Book.IDA due to error #57: Device "
-                "I/O error"});
 }
 
 TEST_F(ShowTopicLimitsTest, show_32767Lines_areShownWithoutMessage)

@@ -1,4 +1,5 @@
 #include "render/text/ShowTopicFixture.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -66,15 +67,6 @@ TEST_F(ShowTopicTest, show_newTopicOfABookWithoutFile_isShownFromMemory)
     EXPECT_FALSE(shown.advisorButton);
 }
 
-TEST_F(ShowTopicTest, show_unknownNameOfABookWithoutFile_wasNotFound)
-{
-    book.TopicCount = 1;
-    book.TopicNames(1) = "[New]";
-    book.TopicRecs(1).Text = "x";
-    EXPECT_EQ(Show("Other"), ShowResult::Cleared);
-    EXPECT_EQ(world.messages.Take(), Strings{"warning|Lodestar Advisor|Topic [Other] was not found."});
-}
-
 // Bodies
 
 struct BodyRow
@@ -118,7 +110,7 @@ INSTANTIATE_TEST_SUITE_P(
                     BodyRow{"accentsAreOneColumn",
                             std::string(39, '\xE9') + "\xE4 x\r\n",
                             {std::string(39, '\xE9') + "\xE4", "x"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 TEST_F(ShowTopicTest, show_again_startsAnew)
 {
@@ -221,7 +213,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LogicRow{"mixedCase", "<iXmL>", true}, LogicRow{"blanksAround", "   <IXML>  ", true},
                     LogicRow{"textBehind", "<IXML> x", false}, LogicRow{"textBefore", "x <IXML>", false},
                     LogicRow{"tabBefore", "<IXML\t>", false}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 TEST_F(ShowTopicTest, show_logicBehindReferences_isFound)
 {

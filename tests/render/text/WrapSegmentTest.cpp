@@ -1,6 +1,7 @@
 #include "render/text/WrapSegment.h"
 
 #include "render/text/PlainWrap.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"blankFirstAndLater", " abc defghijklmnop q", 10, 0, {" abc", "defghijklm", "nop q"}},
         Row{"twoBlanksFirst", "  abcdefghijklmnop", 10, 0, {" ", "abcdefghij", "klmnop"}},
         Row{"blankFirstInRemainder", "1234567890  bcdefghijklm", 10, 0, {"1234567890", "bcdefghijklm"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Indents, WrapTable,
@@ -77,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(
                         2,
                         {"1234567890", "  ", "  bcdefghijk", "  lm"}},
                     Row{"widthOfOne", "ab c", 1, 0, {"a", "b", "c"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Tabs, WrapTable,
@@ -89,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"tabOfARemainder", "1234567890 \tab", 10, 0, {"1234567890", "     ab"}},
                     Row{"wordBehindTabTooLong", "\tabcdefghij", 10, 0, {"    ", "abcdefghij"}},
                     Row{"tabWiderThanTheWidth", "\tab", 3, 0, {"   ", " ab"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Tags, WrapTable,
@@ -103,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"openingInTag", "<A<B>1234567890 x", 10, 0, {"<A<B>1234567890", "x"}},
         Row{"tagBehindTheWidthStays", "1234567890</B> x", 10, 0, {"1234567890</B>", "x"}},
         Row{"openingAtTheEdgeThenAmpersand", "12 4567890<B &c", 10, 0, {"12", "4567890<B &c"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Entities, WrapTable,
@@ -118,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"tagInEntity", "&<B>LT;234567890 x", 10, 0, {"&<B>LT;234567890", "x"}},
         Row{"entityInTag", "<A&LT;>234567890 x", 10, 0, {"<A&LT;>234567890", "x"}},
         Row{"entityNotEndedInTag", "<A&LT>12345678901234 x", 10, 0, {"<A&LT>12345678901234 x"}}),
-    [](const auto& row) { return row.param.name; });
+    test::RowName());
 
 TEST(WrapSegment, wrap_secondAmpersandInFullRow_breaksThere)
 {
