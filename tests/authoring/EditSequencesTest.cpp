@@ -240,7 +240,7 @@ private:
             ASSERT_EQ(m_book.TopicRecs(number).Deleted, topic.removed);
             ASSERT_EQ(m_book.TopicRecs(number).Text, topic.edited ? topic.text : "");
             if (&topic == m_model.current) {
-                ASSERT_EQ(static_cast<std::size_t>(m_book.CurrentTopicNo), number);
+                ASSERT_EQ(m_book.CurrentTopicNo, number);
             }
         }
     }

@@ -1,6 +1,7 @@
 #include "authoring/LogicBlock.h"
 
 #include "LogicMeaning.h"
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -148,7 +149,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, LogicTexts,
                                          TextRow{"onlyLineEnd", "\r\n", "\r\n</LOGIC>\r\n"},
                                          TextRow{"endsInLf", "abc\n", "abc\n\r\n</LOGIC>\r\n"},
                                          TextRow{"blanksStay", "  abc  ", "  abc  \r\n</LOGIC>\r\n"}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         test::RowName());
 
 struct EntryRow
 {
@@ -181,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, EntryTexts,
                                          EntryRow{"twoLines", "a\r\nb", true},
                                          EntryRow{"lineEndOnly", "\r\n", true},
                                          EntryRow{"loneLf", "a\nb", false}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         test::RowName());
 
 TEST(BuildLogicBlock, emptyLogicText_isRefused)
 {

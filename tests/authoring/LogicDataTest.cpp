@@ -1,14 +1,13 @@
 #include "LogicMeaning.h"
 #include "authoring/LogicFaults.h"
 #include "base/CodePage.h"
+#include "support/Json.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace ls {
 namespace {
@@ -26,17 +25,9 @@ struct Case
     std::string built;
 };
 
-std::string Bytes(const std::filesystem::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
-}
-
 Case ReadCase(const std::filesystem::path& path)
 {
-    const std::string text = Bytes(path);
+    const std::string text = test::ReadWholeFile(path.string());
     const std::size_t tables = text.find(TablesMark);
     const std::size_t built = text.find(BuiltMark);
     EXPECT_TRUE(text.starts_with(BlockMark) && tables < built && built != std::string::npos) << path;

@@ -2,6 +2,7 @@
 
 #include "LogicEditorFixture.h"
 #include "base/CodePage.h"
+#include "support/RowName.h"
 
 namespace ls {
 namespace {
@@ -178,7 +179,7 @@ INSTANTIATE_TEST_SUITE_P(Boxes, UnmappedRows,
                                                      "Line 1 of the question for \"AGE\"", 1, 0, 0},
                                          UnmappedRow{"advice", LogicBox::Advice, "\r\n\r\n\xE2\x86\x92",
                                                      "Line 3 of the advice for \"AGE(YOUNG)\"", 3, 0, 1}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         test::RowName());
 
 constexpr const char* LostQuestion =
     "question|Lodestar Advisor|Not everything in this topic's logic can be kept as it was read:\n\nLine 5 of "

@@ -67,58 +67,12 @@ TEST_F(LogicEditorLists, varAdd_characterOutsideTheCodePage_isNamed)
     EXPECT_EQ(view.variables, Strings());
 }
 
-TEST_F(LogicEditorLists, varAdd_nameOfADeletedOne_startsEmpty)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    editor.VarDelButton_Click();
-    AddVariable("AGE");
-    EXPECT_EQ(view.variables, (Strings{"RISK", "PLACE", "AGE"}));
-    EXPECT_EQ(view[LogicBox::Question], "");
-    EXPECT_EQ(view.choices, Strings());
-}
-
 TEST_F(LogicEditorLists, varDel_nonePicked_isRefused)
 {
     LoadThree();
     editor.VarDelButton_Click();
     EXPECT_EQ(Boxes(), Strings{Refusal("To delete a variable, first you must pick it from the list.")});
     EXPECT_EQ(view.variables.size(), 3U);
-}
-
-TEST_F(LogicEditorLists, varDel_movesTheSelectionToTheNextOrTheLast)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    editor.VarDelButton_Click();
-    EXPECT_EQ(view.variables, (Strings{"RISK", "PLACE"}));
-    EXPECT_EQ(view.variable, 0);
-    EXPECT_EQ(view[LogicBox::Question], "");
-    EXPECT_EQ(view.choices, Strings{"HIGH"}) << "the choices of the selected variable";
-    EXPECT_EQ(view.choice, 0);
-    EXPECT_EQ(view[LogicBox::Advice], "Stop.");
-    editor.VarCombo_Click(1);
-    editor.VarDelButton_Click();
-    EXPECT_EQ(view.variable, 0);
-    editor.VarDelButton_Click();
-    EXPECT_EQ(view.variables, Strings());
-    EXPECT_EQ(view.variable, -1);
-    EXPECT_EQ(view[LogicBox::Question], "");
-    EXPECT_EQ(view[LogicBox::Advice], "");
-    EXPECT_FALSE(view.Takes(LogicBox::Question));
-    EXPECT_EQ(Boxes(), Strings());
-}
-
-TEST_F(LogicEditorLists, varDel_takesItsChoicesOutOfWhatIsWritten)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    editor.VarDelButton_Click();
-    EXPECT_TRUE(editor.SaveButton_Click());
-    Boxes();
-    EXPECT_EQ(Logic(), CrLf({"<IXML>", "<LOGIC>", "TARGET RISK", "</LOGIC>", "<DEFINITIONS>", "",
-                             "<Q ID=RISK></Q>", "", "<AV ID=RISK(HIGH)>Stop.</AV>", "",
-                             "<Q ID=PLACE>Where?</Q>", "", "</DEFINITIONS>", "</IXML>"}));
 }
 
 TEST_F(LogicEditorLists, addAns_withoutVariable_isRefused)
@@ -150,14 +104,6 @@ TEST_F(LogicEditorLists, addAns_sameChoiceInAnyCase_isRefused)
     EXPECT_EQ(view.choices.size(), 2U);
     EXPECT_EQ(view.choice, 0);
     EXPECT_FALSE(editor.Changed());
-}
-
-TEST_F(LogicEditorLists, addAns_sameChoiceOfAnotherVariable_isTaken)
-{
-    LoadThree();
-    editor.VarCombo_Click(1);
-    AddChoice("OLD");
-    EXPECT_EQ(view.choices, (Strings{"HIGH", "OLD"}));
 }
 
 TEST_F(LogicEditorLists, addAns_characterOutsideTheCodePage_isNamed)
@@ -204,36 +150,6 @@ TEST_F(LogicEditorLists, delAns_nonePicked_isRefused)
     editor.DelAnsButton_Click();
     EXPECT_EQ(Boxes(), Strings{Refusal("To delete a choice, first you must pick it from the list.")});
     EXPECT_EQ(view.choices.size(), 2U);
-}
-
-TEST_F(LogicEditorLists, delAns_takesItOutOfWhatIsWrittenAndMovesTheSelection)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    editor.DelAnsButton_Click();
-    EXPECT_EQ(view.choices, Strings{"YOUNG"});
-    EXPECT_EQ(view.choice, 0);
-    EXPECT_EQ(view[LogicBox::Advice], "Run.") << "an emptied box would be stored as its advice";
-    editor.DelAnsButton_Click();
-    EXPECT_EQ(view.choices, Strings());
-    EXPECT_EQ(view.choice, -1);
-    EXPECT_EQ(view[LogicBox::Advice], "");
-    EXPECT_TRUE(editor.SaveButton_Click());
-    EXPECT_EQ(Logic(),
-              CrLf({"<IXML>", "<LOGIC>", "TARGET RISK", "</LOGIC>", "<DEFINITIONS>", "",
-                    "<Q ID=AGE>How old?</Q>", "", "<Q ID=RISK></Q>", "", "<AV ID=RISK(HIGH)>Stop.</AV>", "",
-                    "<Q ID=PLACE>Where?</Q>", "", "</DEFINITIONS>", "</IXML>"}));
-    EXPECT_EQ(Boxes(), Strings{NotUntilSaved});
-}
-
-TEST_F(LogicEditorLists, delAns_choiceMayBeAddedAgain)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    editor.DelAnsButton_Click();
-    AddChoice("OLD");
-    EXPECT_EQ(view.choices, (Strings{"YOUNG", "OLD"}));
-    EXPECT_EQ(view[LogicBox::Advice], "");
 }
 
 // A block with that many variables, "V1" and so on, each with a question.

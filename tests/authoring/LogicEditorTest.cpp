@@ -62,27 +62,6 @@ TEST_F(LogicEditorTest, varCombo_showsQuestionAndChoicesAndSelectsTheFirst)
     EXPECT_TRUE(view.Takes(LogicBox::Advice));
 }
 
-TEST_F(LogicEditorTest, varCombo_withoutChoices_emptiesAndBarsTheAdvice)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    editor.VarCombo_Click(2);
-    EXPECT_EQ(view[LogicBox::Question], "Where?");
-    EXPECT_EQ(view.choices, Strings());
-    EXPECT_EQ(view.choice, -1);
-    EXPECT_EQ(view[LogicBox::Advice], "");
-    EXPECT_FALSE(view.Takes(LogicBox::Advice));
-}
-
-TEST_F(LogicEditorTest, answerCombo_showsTheAdvice)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    editor.AnswerCombo_Click(1);
-    EXPECT_EQ(view.choice, 1);
-    EXPECT_EQ(view[LogicBox::Advice], "Run.");
-}
-
 TEST_F(LogicEditorTest, lostFocus_storesTheTexts)
 {
     LoadThree();
@@ -98,75 +77,6 @@ TEST_F(LogicEditorTest, lostFocus_storesTheTexts)
     EXPECT_EQ(view[LogicBox::Question], "New?");
     EXPECT_EQ(view[LogicBox::Advice], "new");
     EXPECT_TRUE(editor.Changed());
-}
-
-TEST_F(LogicEditorTest, anythingThatSwitches_storesTheTextsFirst)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    view[LogicBox::Question] = "Q0";
-    view[LogicBox::Advice] = "A0";
-    editor.AnswerCombo_Click(1);
-    view[LogicBox::Advice] = "A1";
-    editor.VarCombo_Click(1);
-    view[LogicBox::Question] = "Q1";
-    AddVariable("NEW");
-    view[LogicBox::Question] = "Q3";
-    editor.VarCombo_Click(2);
-    view[LogicBox::Question] = "Q2";
-    AddChoice("c");
-    view[LogicBox::Advice] = "A2";
-    EXPECT_TRUE(editor.SaveButton_Click());
-    Boxes();
-    EXPECT_EQ(Logic(), CrLf({"<IXML>",
-                             "<LOGIC>",
-                             "TARGET RISK",
-                             "</LOGIC>",
-                             "<DEFINITIONS>",
-                             "",
-                             "<Q ID=AGE>Q0</Q>",
-                             "",
-                             "<AV ID=AGE(OLD)>A0</AV>",
-                             "",
-                             "<AV ID=AGE(YOUNG)>A1</AV>",
-                             "",
-                             "<Q ID=RISK>Q1</Q>",
-                             "",
-                             "<AV ID=RISK(HIGH)>Stop.</AV>",
-                             "",
-                             "<Q ID=PLACE>Q2</Q>",
-                             "",
-                             "<AV ID=PLACE(c)>A2</AV>",
-                             "",
-                             "<Q ID=NEW>Q3</Q>",
-                             "",
-                             "</DEFINITIONS>",
-                             "</IXML>"}));
-}
-
-TEST_F(LogicEditorTest, deletionOfAnother_keepsWhatWasTyped)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    view[LogicBox::Question] = "Q0";
-    editor.AnswerCombo_Click(1);
-    editor.DelAnsButton_Click();
-    EXPECT_EQ(view[LogicBox::Question], "Q0");
-    view[LogicBox::Advice] = "A0";
-    editor.VarCombo_Click(1);
-    editor.VarDelButton_Click();
-    editor.VarCombo_Click(0);
-    EXPECT_EQ(view[LogicBox::Question], "Q0");
-    EXPECT_EQ(view[LogicBox::Advice], "A0");
-}
-
-TEST_F(LogicEditorTest, sameEntryChosenAgain_keepsTheChoice)
-{
-    LoadThree();
-    editor.VarCombo_Click(0);
-    editor.AnswerCombo_Click(1);
-    editor.VarCombo_Click(0);
-    EXPECT_EQ(view.choice, 1);
 }
 
 TEST_F(LogicEditorTest, insertKeyword_orItsRefusal)

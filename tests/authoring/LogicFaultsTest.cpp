@@ -2,6 +2,7 @@
 
 #include "LogicMeaning.h"
 #include "base/Text.h"
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -102,12 +103,7 @@ const FaultRow Faults[] = {
     {"textTag", "x", "a\n<IXML>", "<H1>b</H1>", nullptr},
 };
 
-std::string FaultName(const testing::TestParamInfo<FaultRow>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Lines, FaultRows, testing::ValuesIn(Faults), FaultName);
+INSTANTIATE_TEST_SUITE_P(Lines, FaultRows, testing::ValuesIn(Faults), test::RowName());
 
 TEST(LogicFaults, textOf60CharactersBeginningWithABracket_standsOnItsOwnLine)
 {
@@ -187,12 +183,7 @@ const NameRow Names[] = {
      {"The advice for \"A(B(1)\" would be read as that for a choice of \"A\", since \"(\" ends its name."}},
 };
 
-std::string NameOfNames(const testing::TestParamInfo<NameRow>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, NameRows, testing::ValuesIn(Names), NameOfNames);
+INSTANTIATE_TEST_SUITE_P(Rows, NameRows, testing::ValuesIn(Names), test::RowName());
 
 TEST(LogicFaults, question_namesTheFirstFive)
 {

@@ -1,26 +1,17 @@
 #include "LogicMeaning.h"
 #include "authoring/LogicFaults.h"
-#include "book/WriteBook.h"
+#include "book/SavedBytes.h"
+#include "support/Json.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace ls {
 namespace {
 
 using test::AdvisorWorld;
 using test::Meaning;
-
-std::string Bytes(const std::filesystem::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
-}
 
 /// Opens a book from memory.
 void OpenBytes(AdvisorWorld& world, const std::string& bytes)
@@ -29,15 +20,6 @@ void OpenBytes(AdvisorWorld& world, const std::string& bytes)
     world.book.BookPath = world.path;
     ASSERT_TRUE(OpenBook(world.book, world.seams.Get()));
     ASSERT_TRUE(ScanBook(world.book, world.seams.Get()));
-}
-
-std::string SavedBytes(AdvisorWorld& world)
-{
-    std::unique_ptr<OutputFile> file;
-    EXPECT_TRUE(world.seams.files.CreateNew("/out.IDA", file).Ok());
-    EXPECT_EQ(WriteBook(world.book, world.seams.Get(), *file), WriteOutcome::Written);
-    EXPECT_TRUE(file->Finish().Ok());
-    return world.seams.files["/out.IDA"];
 }
 
 /// Loads a topic's block into memory and returns it; empty if the topic has none.
@@ -81,7 +63,7 @@ void CheckBook(const std::string& bytes, Seen& seen)
         }
         ++seen.clean;
         AdvisorWorld reopened;
-        OpenBytes(reopened, SavedBytes(edited));
+        OpenBytes(reopened, test::SavedBytes(edited.book, edited.seams));
         const std::vector<std::string> tags = test::TagsOf(block);
         EXPECT_EQ(MeaningOfTopic(original, topic, tags),
                   WithoutPlaceholders(MeaningOfTopic(reopened, topic, tags), block))
@@ -97,7 +79,7 @@ TEST(BooksThroughTheLogicEditor, samples_meanTheSame)
     for (const auto& entry : std::filesystem::directory_iterator(LS_SAMPLES)) {
         if (entry.path().extension() == ".IDA") {
             SCOPED_TRACE(entry.path().filename().string());
-            CheckBook(Bytes(entry.path()), seen);
+            CheckBook(test::ReadWholeFile(entry.path().string()), seen);
         }
     }
     EXPECT_GT(seen.blocks, 3);
@@ -111,7 +93,7 @@ TEST(BooksThroughTheLogicEditor, cases_meanTheSameWhereNothingIsAsked)
     for (const auto& entry : std::filesystem::directory_iterator(LS_TEST_DATA "/cases/advisor")) {
         if (entry.path().extension() == ".IDA") {
             SCOPED_TRACE(entry.path().filename().string());
-            CheckBook(Bytes(entry.path()), seen);
+            CheckBook(test::ReadWholeFile(entry.path().string()), seen);
         }
     }
     EXPECT_GT(seen.blocks, 100);

@@ -1,6 +1,7 @@
 #include "authoring/Properties.h"
 
 #include "book/Book.h"
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -129,12 +130,7 @@ const MisreadCase MisreadCases[] = {
     {"carriageReturn", {"A\rB", "", "", false}, "\nBook Author(s): \"A\rB\" would become \"A\"."},
 };
 
-std::string MisreadName(const testing::TestParamInfo<MisreadCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Values, Misread, testing::ValuesIn(MisreadCases), MisreadName);
+INSTANTIATE_TEST_SUITE_P(Values, Misread, testing::ValuesIn(MisreadCases), test::RowName());
 
 } // namespace
 } // namespace ls

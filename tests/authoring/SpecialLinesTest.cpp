@@ -1,5 +1,6 @@
 #include "authoring/SpecialLines.h"
 
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -87,12 +88,7 @@ const LineCase Cases[] = {
      {"3 topic"}},
 };
 
-std::string CaseName(const testing::TestParamInfo<LineCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Lines, SpecialLines, testing::ValuesIn(Cases), CaseName);
+INSTANTIATE_TEST_SUITE_P(Lines, SpecialLines, testing::ValuesIn(Cases), test::RowName());
 
 TEST(SpecialLinesQuestion, everyMeaning_saysWhatItWouldDo)
 {

@@ -2,6 +2,7 @@
 
 #include "book/Book.h"
 #include "book/BookLoader.h"
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -85,12 +86,7 @@ const EndCase EndCases[] = {
     {"blanksStay", "  a  \n", "  a  \r\n"},
 };
 
-std::string EndCaseName(const testing::TestParamInfo<EndCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Ends, LineEndsOfText, testing::ValuesIn(EndCases), EndCaseName);
+INSTANTIATE_TEST_SUITE_P(Ends, LineEndsOfText, testing::ValuesIn(EndCases), test::RowName());
 
 TEST_F(TopicTextTest, characterOutsideTheCodePage_isNamedWithItsLine)
 {

@@ -21,13 +21,6 @@ struct TopicChoicesTest : testing::Test
             ASSERT_TRUE(AddTopic(book, name));
         }
     }
-
-    void AddMany(int count)
-    {
-        for (int i = 1; i <= count; ++i) {
-            ASSERT_TRUE(AddTopic(book, "T" + std::to_string(i)));
-        }
-    }
 };
 
 TEST_F(TopicChoicesTest, removal_contentsOrder_numbersEveryTopicByItsPlaceInTheTable)
@@ -44,31 +37,6 @@ TEST_F(TopicChoicesTest, removal_alphabeticOrder_sortsWithoutRegardToCaseAndNumb
     book.TopicRecs(1).Deleted = true;
     EXPECT_EQ(RemovalEntries(book, true),
               (std::vector<RemovalEntry>{{"A", 3, false}, {"B", 4, false}, {"b", 1, true}, {"C", 2, false}}));
-}
-
-TEST_F(TopicChoicesTest, removal_120Topics_areNumberedInThreeDigits)
-{
-    AddMany(120);
-    const std::vector<RemovalEntry> entries = RemovalEntries(book, false);
-    ASSERT_EQ(entries.size(), 120U);
-    EXPECT_EQ(entries[0].text, "001. T1");
-    EXPECT_EQ(entries[11].text, "012. T12");
-    EXPECT_EQ(entries[119].text, "120. T120");
-}
-
-TEST_F(TopicChoicesTest, removal_nineAndTenTopics_numberWidths)
-{
-    AddMany(9);
-    EXPECT_EQ(RemovalEntries(book, false).front().text, "1. T1");
-    Add({"T10"});
-    EXPECT_EQ(RemovalEntries(book, false).front().text, "01. T1");
-    EXPECT_EQ(RemovalEntries(book, false).back().text, "10. T10");
-}
-
-TEST_F(TopicChoicesTest, removal_noTopics_isEmpty)
-{
-    EXPECT_EQ(RemovalEntries(book, false).size(), 0U);
-    EXPECT_EQ(RemovalEntries(book, true).size(), 0U);
 }
 
 TEST_F(TopicChoicesTest, movable_topicsThatAreNotRemovedInContentsOrder)

@@ -214,13 +214,5 @@ TEST_F(TopicTableTest, move_changesWhatNumbersMean)
     EXPECT_NE(book.TopicOrder, before);
 }
 
-TEST_F(TopicTableTest, move_boundsStay)
-{
-    Fill({"A", "B"});
-    MoveTopics(book, {2}, 0);
-    EXPECT_EQ(book.TopicNames.UpperBound(), 100);
-    EXPECT_EQ(book.TopicRecs.UpperBound(), 100);
-}
-
 } // namespace
 } // namespace ls
