@@ -273,26 +273,6 @@ TEST_F(WebReferralTest, workDir_getsThePageWithOrWithoutItsSeparator)
     EXPECT_EQ(world.processes.started, (Strings{started, started}));
 }
 
-TEST_F(WebReferralTest, pageThatCannotBeWritten_isToldAndNothingStarted)
-{
-    book.WorkDir = "/pages";
-    world.files.AddFolder("/pages");
-    const auto failAt = [this](const std::string& operation, int number) {
-        world.files.fail = [operation, number](const std::string& o) {
-            return o.starts_with(operation) ? number : 0;
-        };
-        Show();
-        return world.messages.Take();
-    };
-    const std::string error = "exclamation|Lodestar Advisor|Failed to write temporary HTML file "
-                              "<</pages/Lodestar_Ideas_Temp.htm>> due to error #";
-    EXPECT_EQ(failAt("create", error::PathFileAccess), Strings{error + "75: Path/File access error"});
-    EXPECT_EQ(failAt("write", error::DiskFull), Strings{error + "61: Disk full"});
-    EXPECT_EQ(failAt("finish", error::DeviceIo), Strings{error + "57: Device I/O error"});
-    EXPECT_EQ(world.processes.started, Strings{});
-    EXPECT_FALSE(world.files.Has("/pages/Lodestar_Ideas_Temp.htm"));
-}
-
 TEST_F(WebReferralTest, noBrowserForThePage_namesTheProgramsSite)
 {
     registry.keys.clear();

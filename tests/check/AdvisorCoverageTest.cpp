@@ -181,26 +181,6 @@ TEST(ExploreAdvisor, limitMet_isToldAndWhatWasFoundIsKept)
     EXPECT_FALSE(world.Explore("Topic", 2).map.cut);
 }
 
-class CancelAt : public Progress
-{
-public:
-    explicit CancelAt(std::int64_t at) : m_at(at) {}
-    bool Step(std::int64_t done, std::int64_t /*total*/) override { return done < m_at; }
-
-private:
-    std::int64_t m_at;
-};
-
-TEST(ExploreAdvisor, cancelled_isCut)
-{
-    World world(Topic({"TARGET G", "G(1)=A(X)", "G(2)=A(Y)B(P)", "G(3)=A(Y)B(Q)"},
-                      {"<Q ID=G></Q>", "<Q ID=A>A?</Q>", "<Q ID=B>B?</Q>"}));
-    CancelAt cancel(2);
-    const AdvisorCoverage coverage = world.Explore("Topic", SearchLimits(), &cancel);
-    EXPECT_TRUE(coverage.map.cut);
-    EXPECT_EQ(EndLines(coverage), Strings{"advice G(1) after A=X: "});
-}
-
 // What a reader sees after these answers.
 struct Played
 {

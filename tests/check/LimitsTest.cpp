@@ -1,9 +1,9 @@
 #include "CheckCases.h"
 
-#include "base/Progress.h"
 #include "check/BlockRules.h"
 #include "check/BlockStore.h"
 #include "check/CheckBook.h"
+#include "support/StepProgress.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -119,44 +119,17 @@ TEST(CheckLimits, dialogueOfMoreThanAThousandStates_saysThatTheSearchWasCut)
     EXPECT_EQ(test::FindingsOf(Tree(9)), Texts());
 }
 
-/// Cancels at step number `stopAt` and counts the steps.
-class StoppingProgress : public Progress
-{
-public:
-    explicit StoppingProgress(int stopAt) : m_stopAt(stopAt) {}
-    bool Step(std::int64_t done, std::int64_t total) override
-    {
-        EXPECT_LE(done, total);
-        return ++steps != m_stopAt;
-    }
-    int steps = 0;
-
-private:
-    int m_stopAt;
-};
-
 TEST(CheckBook, progressThatCancels_givesWhatWasFoundSoFar)
 {
     const std::string block = "<IXML>\r\n</IXML>\r\n";
     test::CheckedBook world(Header + block + "[Two]\r\n" + block);
     FileError error;
-    StoppingProgress whole(0);
+    test::StepProgress whole;
     EXPECT_EQ(CheckBook(world.book, world.seams.Get(), &whole, error).size(), 2U);
     EXPECT_EQ(whole.steps, 3);
-    StoppingProgress cancelled(2);
+    test::StepProgress cancelled(2);
     EXPECT_EQ(CheckBook(world.book, world.seams.Get(), &cancelled, error).size(), 1U);
     EXPECT_EQ(cancelled.steps, 2);
-}
-
-TEST(CheckBook, fileThatFailsOnTheWay_tellsSoAndGivesWhatWasFound)
-{
-    test::CheckedBook world(Header + std::string("a <EM>word</EM>\r\n"));
-    world.seams.files.fail = [](const std::string& operation) {
-        return operation.starts_with("read") ? error::DeviceIo : 0;
-    };
-    FileError error;
-    EXPECT_EQ(CheckBook(world.book, world.seams.Get(), nullptr, error).size(), 0U);
-    EXPECT_EQ(error.number, error::DeviceIo);
 }
 
 } // namespace

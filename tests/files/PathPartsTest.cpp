@@ -1,4 +1,5 @@
 #include "files/PathParts.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -12,11 +13,6 @@ struct SplitCase
     const char* path;
     const char* expected; ///< "drive|folder|name|extension"
 };
-
-void PrintTo(const SplitCase& row, std::ostream* out)
-{
-    *out << row.name;
-}
 
 struct SplitTable : testing::TestWithParam<SplitCase>
 {
@@ -48,12 +44,7 @@ const SplitCase SplitCases[] = {
     {"empty", UnixPaths, "", "||*|.*"},
 };
 
-std::string SplitCaseName(const testing::TestParamInfo<SplitCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Paths, SplitTable, testing::ValuesIn(SplitCases), SplitCaseName);
+INSTANTIATE_TEST_SUITE_P(Paths, SplitTable, testing::ValuesIn(SplitCases), test::RowName());
 
 struct MatchCase
 {

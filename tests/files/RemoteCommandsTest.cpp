@@ -1,5 +1,6 @@
 #include "files/RemoteCommands.h"
 
+#include "support/RowName.h"
 #include "support/TestSeams.h"
 
 #include <gtest/gtest.h>
@@ -23,11 +24,6 @@ struct CommandCase
     Strings boxes;
     bool staysPending;
 };
-
-void PrintTo(const CommandCase& row, std::ostream* out)
-{
-    *out << row.name;
-}
 
 struct CommandTable : testing::TestWithParam<CommandCase>
 {
@@ -61,12 +57,7 @@ const CommandCase CommandCases[] = {
     {"empty_isNothing", "", Action::None, {}, false},
 };
 
-std::string CommandCaseName(const testing::TestParamInfo<CommandCase>& info)
-{
-    return info.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Commands, CommandTable, testing::ValuesIn(CommandCases), CommandCaseName);
+INSTANTIATE_TEST_SUITE_P(Commands, CommandTable, testing::ValuesIn(CommandCases), test::RowName());
 
 TEST(RemoteCommands, linkExecute_whileOnePends_isRefusedAndTheFirstStands)
 {

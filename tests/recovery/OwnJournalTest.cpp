@@ -155,33 +155,6 @@ TEST_F(OwnJournalTest, anyFault_isToldAndMadeGoodByTheNextCall)
     }
 }
 
-TEST_F(OwnJournalTest, laterWriteFails_olderJournalStands)
-{
-    ASSERT_TRUE(OpenThree());
-    book.BookChanged = true;
-    ASSERT_EQ(own.Update(book, {}, 1), FileError{});
-    book.BookAuthor = "Ben";
-    files.fail = [](const std::string& is) { return is.starts_with("write") ? error::DiskFull : 0; };
-    EXPECT_EQ(own.Update(book, {}, 2).number, error::DiskFull);
-    files.fail = nullptr;
-    EXPECT_EQ(Standing().header->author, "Ann");
-    EXPECT_EQ(own.Update(book, {}, 3), FileError{});
-    EXPECT_EQ(Standing().header->author, "Ben");
-}
-
-TEST_F(OwnJournalTest, takenAwayFromOutside_isWrittenAgain)
-{
-    ASSERT_TRUE(OpenThree());
-    book.BookChanged = true;
-    ASSERT_EQ(own.Update(book, {}, 1), FileError{});
-    EXPECT_TRUE(own.InPlace());
-    ASSERT_EQ(files.Remove(JournalPath()), FileError{});
-    EXPECT_FALSE(own.InPlace());
-    EXPECT_EQ(own.Update(book, {}, 2), FileError{});
-    EXPECT_TRUE(own.InPlace());
-    EXPECT_EQ(Standing(2).written, 2);
-}
-
 TEST_F(OwnJournalTest, adopted_isWrittenOnUnderItsName)
 {
     ASSERT_TRUE(OpenThree());

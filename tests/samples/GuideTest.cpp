@@ -43,28 +43,6 @@ TEST_F(GuideTest, bytes_lettersBeyondAscii_areOneByteEach)
     EXPECT_EQ(bytes.find("\xC3\xA9"), bytes.npos) << "the guide was saved as UTF-8";
 }
 
-TEST_F(GuideTest, topics_titles_areTwelveOrMoreAndDiffer)
-{
-    std::set<std::string> titles;
-    for (int i = 1; i <= book.TopicCount; ++i)
-        titles.insert(book.TopicNames(i));
-    EXPECT_GE(titles.size(), 12U);
-    EXPECT_EQ(titles.size(), static_cast<std::size_t>(book.TopicCount));
-}
-
-TEST_F(GuideTest, xrefs_every_leadsToATopicAndHasANote)
-{
-    std::set<std::string> titles;
-    for (int i = 1; i <= book.TopicCount; ++i)
-        titles.insert(book.TopicNames(i));
-    ASSERT_GT(book.XrefCount, 0);
-    for (int i = 1; i <= book.XrefCount; ++i) {
-        const XrefRec& xref = book.Xrefs(i);
-        EXPECT_EQ(titles.count("[" + xref.ToTopic + "]"), 1U) << xref.FromTopic << " -> " << xref.ToTopic;
-        EXPECT_FALSE(xref.Text.empty()) << xref.FromTopic << " -> " << xref.ToTopic;
-    }
-}
-
 TEST_F(GuideTest, topics_every_isShownWithoutAMessageAndWithItsReferences)
 {
     for (int i = 1; i <= book.TopicCount; ++i) {
@@ -76,29 +54,6 @@ TEST_F(GuideTest, topics_every_isShownWithoutAMessageAndWithItsReferences)
         EXPECT_EQ(shown.advisorButton, name == "[Where to Read On]") << name;
     }
     EXPECT_TRUE(world.messages.boxes.empty());
-}
-
-// Text after the first reference of a topic would never be shown, so every such line must belong to a note or
-// to the rules.
-TEST_F(GuideTest, topics_linesBehindTheFirstReference_areNotesOrRules)
-{
-    bool behind = false;
-    bool inNote = false;
-    bool inRules = false;
-    std::size_t at = 0;
-    while (at < bytes.size()) {
-        const std::size_t end = bytes.find("\r\n", at);
-        const std::string line = bytes.substr(at, end - at);
-        at = end + 2;
-        if (!line.empty() && line.front() == '[')
-            behind = inNote = inRules = false;
-        if (line.rfind("<XREF", 0) == 0)
-            behind = inNote = true;
-        inRules = inRules || line == "<IXML>";
-        EXPECT_TRUE(!behind || inNote || inRules) << line;
-        if (line.find("</XREF>") != line.npos)
-            inNote = false;
-    }
 }
 
 TEST_F(GuideTest, text_everyMarkListAndEntity_isUsed)
