@@ -1,8 +1,8 @@
 ; The installer for Windows. packaging/windows/build calls makensis with:
-;   VERSION, SIZE (in KB), FILES (what is put there and taken away), OUT, ICON, LICENSE
+;   VERSION, SIZE (in KB), FILES (the list of files to install and remove), OUT, ICON, LICENSE
 ;
-; It installs for the user who runs it, without any right of an administrator. So the menu's entries can name a folder for
-; the settings that is this user's own; the program itself would look for them in the current folder.
+; It installs for the user who runs it and needs no administrator. So the menu's entries can name a settings folder of this
+; user. Without that name the program would look for its settings in the current folder.
 
 Unicode true
 Target amd64-unicode
@@ -49,7 +49,7 @@ VIAddVersionKey LegalCopyright "Copyright (c) 2026 The Lodestar Advisor authors"
 
 !include "${FILES}"
 
-; Files of a running program cannot be replaced; half a change would be worse than none.
+; Windows cannot replace files of a running program, and half an update would be worse than none.
 !macro StopWhileRunning
   IfFileExists "$INSTDIR\lsadvisor.exe" 0 not_running
   ClearErrors
@@ -63,7 +63,7 @@ can_be_written:
 not_running:
 !macroend
 
-; The file manager shows changed types and icons at once.
+; Without this the file manager would show changed types and icons only later.
 !macro TellOfTypes
   System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
 !macroend
@@ -76,7 +76,8 @@ FunctionEnd
 Section "Install"
   !insertmacro StopWhileRunning
 
-  ; Files of an earlier version that this one lacks must not stay. The uninstaller runs in its own folder and is waited for.
+  ; Removes an earlier version first, so that none of its files stay. With _?= the uninstaller runs from its own folder, and
+  ; ExecWait waits for its end.
   ReadRegStr $1 HKCU "${KEY}" "Folder"
   IfFileExists "$1\uninstall.exe" 0 no_earlier
   ExecWait '"$1\uninstall.exe" /S _?=$1' $2
@@ -94,7 +95,7 @@ no_earlier:
   WriteRegStr HKCU "${KEY}" "Folder" "$INSTDIR"
   CreateDirectory "${SETTINGS}"
 
-  ; What opened such files before is kept for the day when this is uninstalled.
+  ; Remembers the earlier type of such files; the uninstaller restores it.
   ReadRegStr $0 HKCU "${CLASSES}\.IDA" ""
   StrCmp $0 "" +3
   StrCmp $0 "${CLASS}" +2
@@ -106,7 +107,7 @@ no_earlier:
   WriteRegStr HKCU "${CLASSES}\${CLASS}\shell\open\command" "" '"$INSTDIR\lsadvisor.exe" "%1" ${SETTINGS_PARAMETER}'
   !insertmacro TellOfTypes
 
-  ; The program begins in the folder where a user keeps documents: that is where books are looked for and saved.
+  ; The program starts in the user's documents folder, because it proposes its current folder to open and save books.
   SetOutPath "$DOCUMENTS"
   CreateDirectory "${MENU}"
   CreateShortCut "${MENU}\Lodestar Advisor.lnk" "$INSTDIR\lsadvisor.exe" '${SETTINGS_PARAMETER}' \
@@ -126,7 +127,7 @@ no_earlier:
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
-; Books and settings of the user's stay: only what was put there is deleted, and folders only when they are empty.
+; Books and settings of the user stay: this deletes only installed files, and only empty folders.
 Section "Uninstall"
   !insertmacro StopWhileRunning
 
@@ -138,10 +139,10 @@ Section "Uninstall"
   Delete "${MENU}\User's Guide.lnk"
   RMDir "${MENU}"
   RMDir "${SETTINGS}"
-  ; Edits that are not saved yet are kept here; none are left of a program that was closed.
+  ; The folder of unsaved edits. It is empty if the program was closed normally.
   RMDir "$LOCALAPPDATA\Lodestar Advisor"
 
-  ; A type that somebody else has taken since is left alone.
+  ; If another program has taken the type since, it stays.
   ReadRegStr $0 HKCU "${CLASSES}\.IDA" ""
   ReadRegStr $1 HKCU "${KEY}" "EarlierClass"
   StrCmp $0 "${CLASS}" 0 type_done

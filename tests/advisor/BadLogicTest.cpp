@@ -119,7 +119,8 @@ TEST(BadLogic, valuesOfCommasOnly_areRead)
     const std::string commas(100000, ',');
     world.OpenTopic({("AV(1)=A(" + commas + ")").c_str(), "AV(2)=A(X)"}, {"<Q ID=A>a?</Q>"});
     world.Advise();
-    // The first comma is dropped, as after an empty value. The rest counts as one value, which no rule has.
+    // Reading drops the first comma, as after an empty value. The other commas count as one value, which no
+    // rule has.
     EXPECT_EQ(world.view.Take(), Texts{});
     EXPECT_EQ(world.tables.RuleCount, 0);
     EXPECT_EQ(world.seams.end.Reason(), "no next variable after an automatic one-value answer");
@@ -127,8 +128,7 @@ TEST(BadLogic, valuesOfCommasOnly_areRead)
 
 TEST(BadLogic, loadThatFailsEachTime_growsTheRulesButEnds)
 {
-    // Each search for a question of "[Other]" reads that topic's rules again, until its bad line fails the
-    // load.
+    // Each search for a question of "[Other]" reads that topic's rules again and fails at its bad line.
     AdvisorWorld world;
     world.Open("[Topic]\r\n<IXML>\r\n<LOGIC>\r\nDEFINE X@Other\r\nDEFINE Y@Other\r\nAV(1)=X(A)Y(B),\r\n"
                "<DEFINITIONS>\r\n</DEFINITIONS>\r\n"

@@ -17,8 +17,8 @@ using test::Modelled;
 using test::Played;
 using test::Texts;
 
-// Makes books of one to three topics with logic that is good enough for dialogues, except that one of
-// `oddity` pieces is odd.
+// Makes books of one to three topics whose logic is good enough for dialogues. About one of `oddity` pieces
+// is odd.
 class BookMaker
 {
 public:
@@ -170,7 +170,7 @@ std::string KindOf(const std::string& line)
     return line;
 }
 
-// The kinds of lines that the random books must cause, and how many at least. If all dialogues failed to
+// The least number of log lines of each kind that the random books must cause. If all dialogues failed to
 // load, the test would compare little.
 const std::map<std::string, int> Wanted{
     {"question", 1000},

@@ -1,4 +1,4 @@
-// Rules that would fill the memory: the text that ASSUME puts before them takes more than 256 MiB in all.
+// Rules that would fill the memory: ASSUME puts a text before each rule, more than 256 MiB in all.
 
 #include "AdvisorWorld.h"
 

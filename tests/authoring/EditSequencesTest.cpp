@@ -158,7 +158,7 @@ private:
 
     void Add()
     {
-        // Sometimes takes a name that is in use, or was until the last save.
+        // Sometimes takes a name that is in use, or was in use before the last save.
         const std::string name = Pick(0, 2) > 0 ? NewName() : "Topic " + std::to_string(Pick(1, m_names + 1));
         const bool taken = std::any_of(m_model.topics.begin(), m_model.topics.end(),
                                        [&](const ModelTopic& topic) { return topic.name == name; });

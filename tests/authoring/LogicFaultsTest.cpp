@@ -213,8 +213,8 @@ std::string AsRead(const std::string& text)
 }
 
 /// The change that reading makes to logic lines: each gets a line end and loses its leading blanks. A text of
-/// one or two characters gets no line end, so "</LOGIC>" is part of its line; from a comment it is removed
-/// again.
+/// one or two characters gets no line end, so "</LOGIC>" joins its line. If that line is a comment, reading
+/// removes "</LOGIC>" again.
 std::string LogicAsRead(const std::string& text)
 {
     if (text.size() < 3 && text != "\r\n" && text.front() != '*') {

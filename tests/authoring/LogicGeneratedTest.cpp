@@ -17,7 +17,7 @@ using test::GeneratedBlock;
 using test::Meaning;
 using test::MeaningOf;
 
-/// How many blocks of a run were refused, asked about or stored. A run that always asks must not pass.
+/// How many blocks were refused, asked about or stored. The test fails if every block is asked about.
 struct Tally
 {
     int refused = 0;
@@ -42,7 +42,7 @@ bool Names(const std::vector<LostPart>& lost, const std::string& what)
                        [&what](const LostPart& part) { return part.what.find(what) != std::string::npos; });
 }
 
-// The beginning of the line with the word, in the shape of the messages, which cut long lines.
+// The beginning of the line with the word, cut as in messages.
 std::string LineOf(const std::string& text, const std::string& word)
 {
     const std::size_t from = text.find_last_of("\r\n", text.find(word)) + 1;
@@ -93,7 +93,7 @@ void CheckBlock(const GeneratedBlock& generated, Tally& tally)
     if (!faults) {
         const LogicBlock again = ParseLogicBlock(*built);
         EXPECT_EQ(Describe(Bare(read)), Describe(Bare(again)));
-        // Such an entry is written again, so reading asks about it again.
+        // An entry that holds another one is written unchanged, so the next reading asks about it again.
         if (!Names(read.lost, "holds another entry")) {
             EXPECT_EQ(again.lost, std::vector<LostPart>());
         }

@@ -11,7 +11,7 @@ namespace ls::test {
 struct GeneratedBlock
 {
     std::string text;
-    std::vector<std::string> words; ///< each is in the block once; none may be dropped silently
+    std::vector<std::string> words; ///< each is in the block once; losing one must give a message
 };
 
 class LogicGenerator

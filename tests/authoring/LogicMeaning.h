@@ -30,7 +30,7 @@ struct Meaning
 /// The same for a topic of the book that is open in `world`.
 [[nodiscard]] Meaning MeaningOfTopic(AdvisorWorld& world, int topic, const std::vector<std::string>& tags);
 
-/// Removes the variables that only writing added: a variable without an entry is written as a placeholder.
+/// Removes the placeholders that writing adds for variables without an entry.
 [[nodiscard]] Meaning WithoutPlaceholders(Meaning meaning, const LogicBlock& read);
 
 /// One line for each element of a block's tables; line ends within texts appear as "\n".

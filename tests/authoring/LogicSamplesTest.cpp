@@ -37,8 +37,8 @@ struct Seen
     int clean = 0;
 };
 
-/// Parses each block of a book, replaces it by the one built again, saves, and compares what the advisor
-/// loads from both files.
+/// Parses each block of a book, replaces it by the block built from the result, and saves. Then compares what
+/// the advisor loads from both files.
 void CheckBook(const std::string& bytes, Seen& seen)
 {
     AdvisorWorld original;
@@ -83,7 +83,7 @@ TEST(BooksThroughTheLogicEditor, samples_meanTheSame)
         }
     }
     EXPECT_GT(seen.blocks, 3);
-    // In one topic the advice depends on comments between the definitions, which are lost.
+    // In one topic the advice depends on comments between the definitions. Building the block loses them.
     EXPECT_EQ(seen.clean, seen.blocks - 1);
 }
 

@@ -72,7 +72,7 @@ TEST(CodePage, toBook_characterThatItLacks_isNamedWithItsLine)
 
 TEST(CodePage, toBook_controlOfAnAssignedByte_hasNoByte)
 {
-    EXPECT_EQ(ToBook("\xC2\x80"), std::nullopt); // U+0080: the byte 80 is the euro sign
+    EXPECT_EQ(ToBook("\xC2\x80"), std::nullopt); // U+0080 has no byte: the byte 80 is the euro sign
 }
 
 struct InvalidCase

@@ -82,7 +82,7 @@ TEST_F(LineCursorTest, appendLine_keepsWhatTheTextHas)
 
 TEST_F(LineCursorTest, readLine_veryLong_isWholeAndTakesNoMoreRoomThanItNeeds)
 {
-    // The first line is a little longer than the room that growing by itself would give it.
+    // At these lengths, growth by doubling would leave room for millions of characters more.
     for (const std::size_t length : {3'000'000U, 20'000'000U}) {
         SCOPED_TRACE(length);
         std::string bytes(length + 6, 'x');
@@ -158,8 +158,8 @@ TEST_F(LineCursorTest, readLineView_atTheEnd_isError62)
 
 constexpr std::size_t Block = 16 * 1024; ///< size of a cursor's first read
 
-// Line ends around the end of the first block, at every offset: a CR as its last byte, a CR LF across the
-// border, and so on.
+// Line ends at every offset around the end of the first block, such as a CR as its last byte, or a CR LF
+// across the border.
 TEST_F(LineCursorTest, readLine_lineEndsAroundABlockBorder_readTheSame)
 {
     for (const char* lineEnd : {"\r\n", "\r"}) {
@@ -344,7 +344,7 @@ TEST_F(LineCursorTest, skipToLineBeginning_passesOverLinesAndEndsAtTheMark)
     ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
     EXPECT_EQ(cursor.Position(), 9);
     ASSERT_TRUE(cursor.SkipToLineBeginning('[', '<').Ok());
-    EXPECT_EQ(cursor.Position(), 9); // only the position counts
+    EXPECT_EQ(cursor.Position(), 9); // already at such a line
     std::string line;
     ASSERT_TRUE(cursor.ReadLine(line).Ok());
     EXPECT_EQ(line, "<x");
@@ -468,7 +468,7 @@ TEST_F(LineCursorTest, readCrLfLines_anyBytes_givesTheLinesOfReadLine)
 {
     std::minstd_rand random(7);
     for (int round = 0; round < 60; ++round) {
-        const int bareIn = round % 3 == 0 ? 3 : 4000; // one in so many CRs has no LF
+        const int bareIn = round % 3 == 0 ? 3 : 4000; // one of this many CRs has no LF
         std::string bytes;
         while (bytes.size() < 60000) {
             bytes.append(random() % 200, 'x').append(random() % 9 == 0 ? "\n" : "").append("\r");

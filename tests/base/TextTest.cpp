@@ -37,7 +37,7 @@ TEST(Text, upperCase_lettersOfTheCodePage)
 
 TEST(Text, upperCase_otherHighBytes_stay)
 {
-    // Quotes, signs, the sharp s, and the signs of multiplication and division.
+    // Characters without an upper or lower case: quotes, signs, the sharp s, multiplication and division.
     const std::string others = "\x80\x91\x99\x9B\x9D\xA0\xAA\xB5\xBF\xD7\xDF\xF7";
     EXPECT_EQ(UpperCase(others), others);
 }

@@ -60,7 +60,7 @@ private:
         return chosen;
     }
 
-    // Draws the values; false when by chance all of them are the reader's.
+    // Draws the values. False if by chance all of them are the reader's answers.
     bool Disagree(std::vector<Setting>& conditions)
     {
         bool disagrees = false;
@@ -75,8 +75,9 @@ private:
     AdvisorBase m_base;
 };
 
-// A variable with one value left is settled without the reader, so a base may lead elsewhere although one of
-// its rules agrees with the reader. With this seed none of the sizes measured does.
+// The advisor does not ask about a variable with one value left, so a dialogue could end on another advice
+// than that of the rule that agrees with the reader. With this seed that happens at none of the measured
+// sizes.
 constexpr unsigned Seed = 2;
 
 } // namespace
@@ -99,7 +100,7 @@ std::string WriteAdvisorBook(const AdvisorBase& base, const std::string& folder)
     const std::string path = folder + "/advisor-" + std::to_string(base.rules.size()) + ".IDA";
     std::ofstream file(path, std::ios::binary);
     file << "LODESTAR BOOK V5.3 /AUTHOR=\"Nobody\"\r\n[Advice]\r\nAsk the advisor.\r\n<IXML>\r\n<LOGIC>\r\n"
-         << "TARGET ADVICE\r\nDEFINE ADVICE@Advice\r\n"; // so the text of an advice is searched in this topic
+         << "TARGET ADVICE\r\nDEFINE ADVICE@Advice\r\n"; // so the advice's text is searched in this topic
     for (const BaseRule& rule : base.rules) {
         file << "ADVICE(" << rule.advice << ") =";
         for (const Setting& condition : rule.conditions) {

@@ -12,7 +12,7 @@ namespace ls::bench {
 namespace {
 
 constexpr double AtLeast = 20;
-constexpr double GrowthLimit = 15; // of a question's time with ten times the rules; quadratic would be 100
+constexpr double GrowthLimit = 15; // for a question with ten times the rules; quadratic would be 100
 
 struct Series
 {
@@ -24,7 +24,7 @@ struct PeerSeries
 {
     const char* name;
     Peer run;
-    double questionAtLeast; // 0: it is only told
+    double questionAtLeast; // 0: no aim
     Series times{};
 };
 
@@ -41,9 +41,8 @@ void PrintPeer(const PeerSeries& peer, const std::string& rules, const Medians& 
                 peer.questionAtLeast);
 }
 
-// All engines in turns, so that they see the same machine. The time that a peer needs for the whole dialogue
-// is divided by the number of questions that the reader was asked, as this program's own. Gives this
-// program's own time for a question.
+// Runs all engines in turns, so that other load slows all of them. A question's time is the time of the whole
+// dialogue divided by the number of questions. Returns this program's time for a question.
 double BenchBase(int ruleCount, int rounds, const std::string& folder)
 {
     const AdvisorBase base = MakeAdvisorBase(ruleCount);

@@ -10,7 +10,7 @@ namespace ls::bench {
 
 namespace {
 
-// Both engines wait for input when their program ends too early, CLIPS in a loop that never ends.
+// If its program ends too early, an engine waits for input, CLIPS in an endless loop.
 constexpr const char* TimeLimit = "timeout 900 ";
 
 std::string Lower(std::string text)
@@ -20,7 +20,7 @@ std::string Lower(std::string text)
     return text;
 }
 
-// The engine prints "advice NAME", "load SECONDS" and "dialogue SECONDS" among other things.
+// Reads the lines "advice NAME", "load SECONDS" and "dialogue SECONDS" from an engine's output.
 PeerTimes TimesOf(const std::string& output, const AdvisorBase& base)
 {
     std::istringstream words(output);
@@ -42,7 +42,7 @@ PeerTimes TimesOf(const std::string& output, const AdvisorBase& base)
     return times;
 }
 
-// What both ways of CLIPS share: load, reset, then one answer after the other.
+// The common part of both ways to use CLIPS: load, reset, then one answer after the other.
 std::optional<PeerTimes> RunClips(const AdvisorBase& base, const std::vector<Setting>& answers,
                                   const std::string& path, const std::string& load,
                                   const std::string& answerHead)

@@ -8,17 +8,16 @@
 
 namespace ls::bench {
 
-/// What a rule engine measured of itself, in milliseconds by its own clock: CLIPS by (time), SWI-Prolog by
-/// its CPU time.
+/// The times that a rule engine measured itself, in milliseconds: CLIPS by (time), SWI-Prolog by its CPU
+/// time.
 struct PeerTimes
 {
-    double load = 0;     ///< until the rules are there
-    double dialogue = 0; ///< until the last answer has had its consequences
+    double load = 0;     ///< until the rules are loaded
+    double dialogue = 0; ///< until the engine has worked out the last answer
 };
 
-/// One run of a rule engine of Debian on the same base, given the same answers in the same order. It ends
-/// this program unless the engine comes to the base's advice; nothing when the engine is not installed.
-/// The engine's programs are written to `folder` and stay there.
+/// Runs a rule engine of Debian on the base with these answers in this order; nothing if it is not installed.
+/// Ends this program unless the engine finds the base's advice. The engine's programs stay in `folder`.
 using Peer = std::optional<PeerTimes> (*)(const AdvisorBase& base, const std::vector<Setting>& answers,
                                           const std::string& folder);
 
@@ -27,15 +26,15 @@ using Peer = std::optional<PeerTimes> (*)(const AdvisorBase& base, const std::ve
 std::optional<PeerTimes> ClipsRules(const AdvisorBase& base, const std::vector<Setting>& answers,
                                     const std::string& folder);
 
-/// CLIPS with a fact for each rule and three defrules that work on them as the advisor works on its rules:
-/// an answer removes the facts it contradicts and takes met conditions out of the others, and a fact without
-/// conditions is the advice. It chooses no question.
+/// CLIPS with a fact for each rule, and three defrules that treat these facts as the advisor treats its
+/// rules. An answer removes the facts that it contradicts, and removes met conditions from the others. A fact
+/// without conditions is the advice. The engine chooses no question.
 std::optional<PeerTimes> ClipsFacts(const AdvisorBase& base, const std::vector<Setting>& answers,
                                     const std::string& folder);
 
-/// SWI-Prolog with a clause for each rule, `av(r1) :- v01(low), ...`. Each answer is a fact added to the
-/// program, the goal av(X) is tried again, and the open variable that most of the clauses not yet
-/// contradicted wait for is chosen as the next to be asked.
+/// SWI-Prolog with a clause for each rule, `av(r1) :- v01(low), ...`. Each answer is added as a fact, and the
+/// goal av(X) is tried again. The next question is the open variable in most of the clauses that no answer
+/// contradicts.
 std::optional<PeerTimes> Prolog(const AdvisorBase& base, const std::vector<Setting>& answers,
                                 const std::string& folder);
 

@@ -13,7 +13,7 @@ namespace ls::bench {
 
 namespace {
 
-// Notes what a window would show.
+// Records what a window would show.
 class NotingView : public AdvisorView
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace ls::bench {
 
-/// The book of a base with its topic on show.
+/// The open book of a rule base, with its topic on show.
 class AdvisorWorld
 {
 public:
@@ -18,16 +18,15 @@ public:
     /// Milliseconds of processor time for reading the logic block from the open book file into empty tables.
     double Load();
 
-    /// Milliseconds of processor time for each answered question: from the reader's answer until the next
-    /// question is on show with its choices, or the advice with its text. `Answers` are those of the last
-    /// dialogue.
+    /// Holds a dialogue. Returns the milliseconds of processor time for each answered question: from the
+    /// reader's answer until the next question and its choices, or the advice and its text, are on show.
     double Question();
 
-    /// All that is found in the book by a check.
+    /// Runs all checks on the book.
     void Check();
 
-    /// The answers of the last dialogue in their order, also those to variables with one value left, for
-    /// which the reader is not asked. The other engines get them too.
+    /// The answers of the last dialogue in their order. They include variables with one value left, about
+    /// which the reader is not asked. The other engines get the same answers.
     [[nodiscard]] const std::vector<Setting>& Answers() const { return m_answers; }
     [[nodiscard]] int Questions() const { return m_questions; }
 

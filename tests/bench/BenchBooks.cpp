@@ -18,13 +18,13 @@ constexpr const char* Words[] = {"the",     "lock",        "of",      "a",      
                                  "shut",    "by",          "keepers", "[sluice]", "weir",  "in",    "two",
                                  "minutes", "(sometimes)", "more",    "slowly"};
 
-// The seed is fixed: every run measures the same bytes.
+// The seed is fixed, so every run measures the same bytes.
 class ProseMaker
 {
 public:
     std::string Line(std::size_t size)
     {
-        std::string line = "So "; // a bracket first would begin a topic
+        std::string line = "So "; // a bracket at the start would begin a topic
         while (line.size() < size) {
             line += Words[m_random() % std::size(Words)];
             line += ' ';

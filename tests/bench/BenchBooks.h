@@ -25,18 +25,18 @@ struct BookShape
     int topics = TopicsOfABook;
 };
 
-/// The path of such a book in `folder`; made when it is not there yet. The last topic of every book is of the
-/// same size.
+/// The path of such a book in `folder`; makes the book if it is missing. The last topics of all books have
+/// the same size.
 [[nodiscard]] std::string BookOf(const std::string& folder, BookShape shape);
 [[nodiscard]] std::string BookOfSize(const std::string& folder, std::size_t size);
 
-/// Real files and nobody to talk to: any box ends the program, since then something else was measured.
+/// Real files. A message box ends the program, because then the measured work was not the intended one.
 class BenchWorld
 {
 public:
     [[nodiscard]] Seams Get() { return {m_files, m_messages, m_processes, m_end, UnixPaths}; }
 
-    /// Opens and scans a book of so many topics with one reference each.
+    /// Opens and scans a book of that many topics with one reference each.
     void Load(Book& book, const std::string& path, int topics = TopicsOfABook);
 
 private:

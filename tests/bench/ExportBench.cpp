@@ -14,7 +14,7 @@ namespace {
 
 constexpr int Topics = 25000;
 
-// The same text twice: as a book, and in the marks that pandoc reads.
+// The same text twice: as a book, and in pandoc's markup.
 struct Texts
 {
     std::string book = "LODESTAR BOOK V5.3\r\n";
@@ -45,7 +45,7 @@ void AddTopic(Texts& texts, int number, const std::string& words)
     texts.Paragraph("Then " + words.substr(420, 50), words.substr(470, 20), words.substr(490, 150));
 }
 
-// Words that neither notation takes for a mark, with none cut and no blank at either end of a piece.
+// Whole words that neither notation takes for markup, without a blank at either end.
 std::string PlainWords()
 {
     std::string words = Prose(MiB);
@@ -67,7 +67,7 @@ Texts MakeTexts()
     return texts;
 }
 
-// A file that all topics are written to, one behind the other.
+// One file that receives all topics, one after the other.
 class OneFile : public OutputFile
 {
 public:
@@ -91,7 +91,7 @@ void ExportAll(const std::string& path, const std::string& html)
 {
     BenchWorld world;
     Seams seams = world.Get();
-    QuietMessages quiet(seams.end); // each export ends in a box that says so
+    QuietMessages quiet(seams.end); // each export ends with a box
     const Seams silent{seams.files, quiet, seams.processes, seams.end, seams.paths};
     Book book;
     book.BookPath = path;

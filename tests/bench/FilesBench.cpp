@@ -1,7 +1,7 @@
-// How long the file selector keeps events waiting in a folder of many files: the longest gap between two
-// beats of a timer while the form opens, lists another pattern and is filled with all files.
+// How long events wait while the file selector reads a folder of many files. A timer beats; the longest gap
+// between two beats is measured while the form opens, lists another pattern and lists all files.
 //
-//   bench_files FOLDER      (the files are made, and kept, there)
+//   bench_files FOLDER      (makes the files there and leaves them)
 
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
@@ -53,7 +53,7 @@ void MakeFiles(const QString& folder)
 {
     QDir().mkpath(folder);
     for (int i = 0; i < FileCount; ++i) {
-        // Every second one is a book; the numbers come in no order.
+        // Every second file is a book. The numbers are not in order.
         QFile file(folder + QStringLiteral("/Book %1.%2")
                                 .arg((i * 7919) % FileCount)
                                 .arg(i % 2 == 0 ? QStringLiteral("IDA") : QStringLiteral("txt")));
@@ -64,7 +64,7 @@ void MakeFiles(const QString& folder)
     }
 }
 
-/// Beats while the event loop runs, and knows the longest time that it did not.
+/// Beats while the event loop runs, and measures the longest gap between two beats.
 class Heart
 {
 public:
@@ -74,7 +74,7 @@ public:
         m_timer.start(BeatMilliseconds);
     }
 
-    /// Does something inside the event loop; prints the longest gap until all that it set off is done.
+    /// Runs `work` inside the event loop, lets its events settle, and prints the longest gap.
     void Measure(const char* what, const std::function<void()>& work)
     {
         QEventLoop loop;

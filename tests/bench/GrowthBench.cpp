@@ -34,7 +34,7 @@ public:
     std::size_t written = 0;
 };
 
-// An open book, with what its readers and its author do to it.
+// An open book and the actions of its readers and its author.
 class OpenedBook
 {
 public:
@@ -86,7 +86,7 @@ public:
         }
     }
 
-    /// The last topic, by its title alone, as a reference leads to it.
+    /// Shows the last topic by its title alone, as a reference does.
     void ShowByTitle()
     {
         ShownTopic shown;

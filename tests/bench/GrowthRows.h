@@ -7,9 +7,9 @@
 
 namespace ls::bench {
 
-/// Rows that compare ten times the work with the work, and miss when it takes more than 20 times as long;
-/// what is quadratic takes 100 times as long. The rest is for the processor's caches, which large tables
-/// outgrow, and for sorting, which takes 13 times as long.
+/// Rows that compare ten times the work with the work. A row misses its aim above 20 times the time;
+/// quadratic work would take 100 times as long. Linear work may take more than 10 times as long, because
+/// large tables outgrow the processor's caches; sorting takes 13 times as long.
 class GrowthRows
 {
 public:
@@ -18,7 +18,7 @@ public:
     void Measure(const std::string& name, int rounds, const std::function<void()>& large,
                  const std::function<void()>& small) const
     {
-        // Not in turns: what a large piece of work leaves of freed memory would be the small one's burden.
+        // Not in turns, because memory that the large work freed would slow the small work.
         const double smallTime = bench::Measure(rounds, small);
         const double largeTime = bench::Measure(rounds, large);
         PrintRow(m_what + name, Milliseconds(largeTime), largeTime / smallTime, Limit);
@@ -30,7 +30,7 @@ private:
     std::string m_what;
 };
 
-/// The parts of `BenchGrowth` that other files hold.
+/// Parts of `BenchGrowth` in other files.
 void BenchLineGrowth(const std::string& folder);
 void BenchRuleGrowth(const std::string& folder);
 

@@ -9,7 +9,7 @@ namespace ls::bench {
 
 namespace {
 
-// A book with one topic edited and an editor open on another one, and the journal of both.
+// A book with one edited topic, an editor open on another topic, and the journal of both.
 class EditedBook
 {
 public:
@@ -30,7 +30,7 @@ public:
     EditedBook& operator=(const EditedBook&) = delete;
     ~EditedBook() { Require(m_journal.Remove().Ok(), "the journal is removed"); }
 
-    /// A second later, with one more letter.
+    /// Types one more letter, a second later, and updates the journal.
     void TypeAndUpdate()
     {
         m_running.text->utf8 += 't';

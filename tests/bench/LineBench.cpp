@@ -9,7 +9,7 @@ namespace ls::bench {
 
 namespace {
 
-constexpr double Limit = 1.6; // a quadratic wrap would need four times as long for each MiB
+constexpr double Limit = 1.6; // a quadratic wrap would take four times as long for each MiB
 
 void WrapWhole(const std::string& line)
 {
@@ -52,7 +52,7 @@ void BenchLines()
 {
     BenchKind("with blanks", Prose);
     BenchKind("without blanks", [](std::size_t size) { return std::string(size, 'x'); });
-    // Hidden text that every segment looks through to its end before it breaks.
+    // Each segment looks through all this hidden text before it breaks.
     BenchKind("of tags", [](std::size_t size) { return Repeated("<B>", size) + std::string(100, 'x'); });
     BenchKind("of tags that never end",
               [](std::size_t size) { return Repeated(std::string(77, 'x') + "<yy", size) + "&"; });

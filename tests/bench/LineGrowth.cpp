@@ -14,7 +14,7 @@ namespace ls::bench {
 
 namespace {
 
-// A book of one topic of so many lines, none of which wraps at 80 characters.
+// A book of one topic with that many lines. None of them wraps at 80 characters.
 std::string WriteLines(const std::string& folder, int lines)
 {
     constexpr std::size_t length = 70;
@@ -35,7 +35,7 @@ public:
     FileError Finish() override { return {}; }
 };
 
-// Takes every box silently: an export ends in one, and stray brackets are asked about.
+// Answers every box silently: an export ends with one, and stray brackets cause a question.
 class LongTopic
 {
 public:

@@ -30,7 +30,7 @@ double MillisecondsOf(const timeval& time)
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
 }
 
-// Of this process and of the commands that it waited for.
+// Processor time of this process and of the commands that it waited for, in milliseconds.
 double ProcessorTime()
 {
     timespec own{};
@@ -52,7 +52,7 @@ double TimeOf(const std::function<void()>& work)
 std::vector<double> MeasureInTurns(int rounds, const std::vector<std::function<void()>>& works)
 {
     for (const auto& work : works) {
-        work(); // what is only slow once is not what is measured
+        work(); // the first run may be slower and does not count
     }
     std::vector<std::vector<double>> times(works.size());
     for (int round = 0; round < rounds; ++round) {
@@ -106,7 +106,7 @@ void WriteFile(const std::string& path, const std::string& text)
 
 long PeakMemory()
 {
-    // The kernel's count of this image; the one of getrusage begins with that of the process that started it.
+    // The kernel's count for this program. That of getrusage includes the process that started it.
     std::ifstream status("/proc/self/status");
     std::string word;
     while (status >> word) {

@@ -9,14 +9,15 @@ namespace ls::bench {
 
 [[nodiscard]] double MedianOf(std::vector<double> values);
 
-/// Milliseconds of processor time that one call takes, commands that it waits for included. Files are in the
-/// page cache, so nothing else is waited for; a clock on the wall would count what others do on the machine.
+/// The milliseconds of processor time of one call, with the commands that it waits for. Wall time would
+/// include other programs on the machine. Little is lost: files are in the page cache, so the call does not
+/// wait for the disk.
 [[nodiscard]] double TimeOf(const std::function<void()>& work);
 
-/// The medians of any number of pieces of work that are measured in turns, so that all see the same machine.
+/// The median times of several pieces of work. They run in turns, so that other load slows all of them.
 [[nodiscard]] std::vector<double> MeasureInTurns(int rounds, const std::vector<std::function<void()>>& works);
 
-/// The medians of two pieces of work that are measured in turns, so that both see the same machine.
+/// The median times of two pieces of work that run in turns.
 struct Medians
 {
     double first = 0;
@@ -31,26 +32,27 @@ struct Medians
 /// Whether the shell finds a program.
 [[nodiscard]] bool Installed(const std::string& program);
 
-/// Starts a command line of the shell and gives what it prints; ends the program when it fails.
+/// Runs a shell command and returns its output. Ends the program if the command fails.
 [[nodiscard]] std::string OutputOf(const std::string& command);
 
-/// Writes a file anew; ends the program when the disk does not take it.
+/// Writes or replaces a file. Ends the program if that fails.
 void WriteFile(const std::string& path, const std::string& text);
 
-/// The most memory that this process has had resident since it was started, in KiB.
+/// The largest resident memory of this process since its start, in KiB.
 [[nodiscard]] long PeakMemory();
 
-/// One row of a table in Markdown: this program's time by a peer's. A limit of 0 sets no aim.
+/// Prints a row of a Markdown table. `ratio` is this program's time divided by a peer's. A limit of 0 is no
+/// aim.
 void PrintRow(const std::string& what, const std::string& value, double ratio = 0, double limit = 0);
 
-/// The same where the ratio is the peer's time by this program's. A limit of 0 sets no aim.
+/// The same with the peer's time divided by this program's. A limit of 0 is no aim.
 void PrintFaster(const std::string& what, const std::string& value, double times, double atLeast);
 
-/// Begins a table: its heading, a few sentences on what is compared, and the heads of its columns.
+/// Begins a table: its heading, sentences that say what is compared, and the heads of its columns.
 void PrintHead(const std::string& title, const std::string& about);
 [[nodiscard]] std::string Milliseconds(double value);
 
-/// Ends the program when something that a measurement rests on is not so: a fast wrong result is none.
+/// Ends the program if the condition does not hold, because the time of a wrong result means nothing.
 void Require(bool condition, const char* what);
 
 } // namespace ls::bench

@@ -13,15 +13,15 @@
 #include <utility>
 #include <vector>
 
-// What a redraw of a full pane costs, as high as a 4K screen, next to the least that any painter could do:
-// one call that draws a row of text, for each row, into the same picture.
+// Compares a redraw of a full pane, as high as a 4K screen, with the least work of any painter: one call for
+// each row that draws its text into the same picture.
 namespace {
 
 using namespace ls;
 
 constexpr QSize Picture(3840, 2160);
 constexpr int Rounds = 41;
-constexpr double Limit = 3; ///< times what one call a row takes
+constexpr double Limit = 3; ///< times the time of one call for each row
 
 double MedianMilliseconds(const std::function<void()>& work)
 {
@@ -35,7 +35,7 @@ double MedianMilliseconds(const std::function<void()>& work)
     return bench::MedianOf(std::move(times));
 }
 
-// Prose of the given width: small letters, blanks, some capitals.
+// Prose of that width: small letters, blanks and some capitals.
 std::string Row(int number, int columns)
 {
     static constexpr std::string_view Text = "The advisor asks for what it needs, and explains its Answer. ";
@@ -104,7 +104,7 @@ void Measure(const Scene& scene)
     bench::PrintRow("  one call a row", bench::Milliseconds(plain));
 }
 
-// A line of 100 MiB must cost no more than the cells of it that are seen.
+// A line of 100 MiB must take no longer than its visible cells.
 void MeasureHugeRun()
 {
     QImage image(Picture, QImage::Format_RGB32);

@@ -14,7 +14,7 @@ namespace {
 constexpr int Width = 80;
 constexpr double Limit = 4;
 
-// One topic of paragraphs, a few rows each.
+// One topic of paragraphs that have a few rows each.
 void WriteLongTopic(const std::string& path)
 {
     constexpr std::size_t Paragraph = 500; // six or seven rows: its tags take no columns
@@ -23,7 +23,7 @@ void WriteLongTopic(const std::string& path)
     std::ofstream file(path, std::ios::binary);
     file << "LODESTAR BOOK V5.3\r\n[Long]\r\n";
     for (std::size_t at = 0; at < prose.size(); at += Paragraph) {
-        // The bracket would end the topic where it begins a paragraph.
+        // "So " goes first, as a bracket at the start of a line would end the topic.
         file << "So " << prose.substr(at, Paragraph) << "\r\n";
     }
     file.close();

@@ -16,7 +16,7 @@ constexpr std::size_t LargeBook = 200 * MiB;
 constexpr int Rounds = 5;
 constexpr double SaveLimit = 1.5;
 
-// Both wait for the disk, so this is the one measurement by the clock on the wall.
+// Wall time, because saving and copying wait for the disk.
 double WallTimeOf(const std::function<void()>& work)
 {
     const auto start = std::chrono::steady_clock::now();

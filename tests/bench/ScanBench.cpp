@@ -39,7 +39,7 @@ void ReportScanMemory(const std::string& path)
     std::printf("%ld\n", PeakMemory());
 }
 
-// Beside a search for the lines that begin a topic, and beside a count of all lines.
+// Compares with a search for the lines that begin a topic, and with a count of all lines.
 void BenchScan(const std::string& program, const std::string& folder)
 {
     const std::string path = BookOfSize(folder, LargeBook);

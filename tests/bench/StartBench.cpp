@@ -1,7 +1,7 @@
-// From the start of a program until the first topic of a document is painted, and the memory that it took:
-// this program beside viewers of help documents that Debian has, each with the same text.
+// The time from the start of a program until the first topic is painted, and its memory. Compares this
+// program with Debian's viewers of help documents; all show the same text.
 //
-//   bench_start FOLDER PROGRAM      (the documents are made in the folder)
+//   bench_start FOLDER PROGRAM      (makes the documents in FOLDER)
 
 #include "bench/Measure.h"
 #include "bench/StartDocuments.h"
@@ -19,7 +19,7 @@ namespace ls::bench {
 namespace {
 
 constexpr int Rounds = 7;
-constexpr int HeadingPixels = 50; // of the heading's colour: letters have a seam of other shades
+constexpr int HeadingPixels = 50; // in the heading's colour; the edges of letters have other shades
 constexpr auto Patience = std::chrono::seconds(30);
 constexpr auto Settling = std::chrono::milliseconds(700);
 
@@ -46,12 +46,12 @@ std::vector<std::string> EnvironmentOf(const Viewer& viewer, const VirtualScreen
             "QT_QPA_PLATFORM=xcb",
             "LANG=C.UTF-8",
             "NO_AT_BRIDGE=1",
-            "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent", // else one would be started on the way
-            "QTWEBENGINE_DISABLE_SANDBOX=1"};                  // it refuses to be run by root
+            "DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent", // otherwise a bus would start too
+            "QTWEBENGINE_DISABLE_SANDBOX=1"};                  // the sandbox refuses to run as root
 }
 
-// The clock on the wall, since what a start waits for is part of it: the display's server, other processes.
-// Negative when no topic comes.
+// Wall time, because a start includes its waits for the display's server and for other processes. Negative if
+// no topic appears.
 double MillisecondsToTopic(const VirtualScreen& screen, pid_t program, Clock::time_point start)
 {
     while (Clock::now() - start < Patience && Runs(program)) {
@@ -142,7 +142,7 @@ void Run(const std::string& folder, const std::string& program)
     for (int round = 0; round <= Rounds; ++round) {
         for (Viewer& viewer : viewers) {
             if (!viewer.error) {
-                RunOnce(viewer, screen, round > 0); // the first ones bring the files into the page cache
+                RunOnce(viewer, screen, round > 0); // the first runs bring the files into the page cache
             }
         }
     }

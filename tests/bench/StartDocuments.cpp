@@ -84,7 +84,7 @@ std::string MakeChm(const std::string& folder)
     return folder + "/bench.chm";
 }
 
-// A docset is a folder of pages with a database of their titles.
+// Makes a docset, which is a folder of pages with a database of their titles.
 std::string MakeZealHome(const Text& text, const std::string& home)
 {
     if (!Installed("sqlite3")) {

@@ -27,7 +27,7 @@ namespace {
         setenv(setting.substr(0, equals).c_str(), setting.substr(equals + 1).c_str(), 1);
     }
     if (const char* home = getenv("HOME"); home == nullptr || chdir(home) != 0) {
-        _exit(127); // it may write into the current folder
+        _exit(127); // elsewhere the program could write into the current folder
     }
     std::vector<char*> arguments;
     for (const std::string& word : words) {
@@ -38,7 +38,7 @@ namespace {
     _exit(127);
 }
 
-// "VmHWM:   1234 kB" of a process; 0 when it is gone.
+// Reads "VmHWM:   1234 kB" of a process; 0 if the process is gone.
 long PeakOf(const std::string& process)
 {
     std::ifstream status("/proc/" + process + "/status");
@@ -61,7 +61,7 @@ pid_t StartProgram(const std::vector<std::string>& words, const std::vector<std:
     if (program == 0) {
         Become(words, environment);
     }
-    setpgid(program, program); // whichever of the two comes first
+    setpgid(program, program); // both parent and child do this, as either may be first
     return program;
 }
 

@@ -7,22 +7,22 @@
 
 namespace ls::bench {
 
-/// Starts a program with these words, as the first of a group of its own; `environment` has "NAME=value"
-/// beside what this program has. It runs in the folder HOME; what it prints goes nowhere.
+/// Starts a program with these words, as the first of a new process group. `environment` adds "NAME=value"
+/// entries to this program's environment. The program runs in the folder HOME, and its output is discarded.
 [[nodiscard]] pid_t StartProgram(const std::vector<std::string>& words,
                                  const std::vector<std::string>& environment);
 
-/// Ends it, and whatever it started that is still in its group.
+/// Ends all processes of the program's group.
 void EndProgram(pid_t program);
 
 /// False once it has ended by itself.
 [[nodiscard]] bool Runs(pid_t program);
 
-/// The most memory that processes had resident, in KiB.
+/// The largest resident memory of a process group, in KiB.
 struct GroupMemory
 {
     long first = 0;    ///< of the process that was started
-    long all = 0;      ///< added up over the group; pages that they share count for each
+    long all = 0;      ///< the sum over the group; shared pages count for each process
     int processes = 0; ///< in the group
 };
 [[nodiscard]] GroupMemory PeakMemoryOf(pid_t program);

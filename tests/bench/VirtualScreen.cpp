@@ -20,7 +20,7 @@ namespace {
 constexpr int Width = 1280;
 constexpr int Height = 1024;
 
-// A number of the picture's header, which has the highest byte first.
+// A number of the picture's header, in big-endian order.
 std::uint32_t NumberAt(const unsigned char* header, std::size_t index)
 {
     const unsigned char* at = header + 4 * index;
@@ -57,7 +57,7 @@ VirtualScreen::VirtualScreen(const std::string& folder)
     m_display = ":" + WaitForNumber(number);
     MapPicture(folder + "/Xvfb_screen0");
     m_manager = StartProgram({"openbox", "--sm-disable"}, {"DISPLAY=" + m_display, "HOME=" + folder});
-    usleep(1000000); // it says nowhere that it is ready
+    usleep(1000000); // nothing reports that the window manager is ready
 }
 
 VirtualScreen::~VirtualScreen()
@@ -73,7 +73,7 @@ int VirtualScreen::CountOf(std::uint32_t colour) const
     }));
 }
 
-// The file is in the form of X window dumps: a header, a table of colours, the pixels.
+// The file is an X window dump: a header, a table of colours, the pixels.
 void VirtualScreen::MapPicture(const std::string& path)
 {
     constexpr std::size_t colourSize = 12;

@@ -8,18 +8,18 @@
 
 namespace ls::bench {
 
-/// A display without a screen (Xvfb) that keeps its picture in a file: what is painted can be seen without
-/// asking the display's server for anything. A window manager runs on it.
+/// A display without a screen (Xvfb), with a window manager. Its picture is a file, so this program sees what
+/// is painted without asking the display's server.
 class VirtualScreen
 {
 public:
-    /// Starts both; ends the program when they do not come up. The picture is kept below `folder`.
+    /// Starts both, or ends the program if they do not start. The picture is in `folder`.
     explicit VirtualScreen(const std::string& folder);
     ~VirtualScreen();
     VirtualScreen(const VirtualScreen&) = delete;
     VirtualScreen& operator=(const VirtualScreen&) = delete;
 
-    /// ":7", for the environment of programs that are to show windows on it.
+    /// Such as ":7": DISPLAY for programs that show their windows here.
     [[nodiscard]] const std::string& Display() const { return m_display; }
 
     /// How many pixels have exactly this colour (0xRRGGBB) now.

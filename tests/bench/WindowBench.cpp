@@ -1,6 +1,6 @@
-// What the windows do with ten times the topics, references and lines, beside the tenth of them.
+// Compares the windows' time for ten times the topics, references and lines with the time for one tenth.
 //
-//   bench_window FOLDER      (the books are made there)
+//   bench_window FOLDER      (makes the books there)
 
 #include "authoring/DelTopicForm.h"
 #include "authoring/MoveTopicsForm.h"
@@ -28,7 +28,8 @@
 namespace ls::bench {
 namespace {
 
-// Topics of one line, each with a reference to the first; the last one is as long as the book has topics.
+// Topics of one line, each with a reference to the first. The last topic has as many lines as the book has
+// topics.
 std::string WriteTopics(const std::string& folder, int topics)
 {
     std::string text = "LODESTAR BOOK V5.3\r\n";
@@ -44,7 +45,7 @@ std::string WriteTopics(const std::string& folder, int topics)
     return path;
 }
 
-// The main window with such a book, on the screen of the toolkit that has none.
+// The main window with such a book, on the toolkit's offscreen platform.
 class Window
 {
 public:

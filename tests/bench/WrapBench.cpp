@@ -14,11 +14,11 @@ namespace {
 
 constexpr int Width = 80;
 constexpr std::size_t TextSize = 64 * MiB;
-constexpr std::size_t PieceSize = 32 * 1024; // what a cache holds
+constexpr std::size_t PieceSize = 32 * 1024; // fits into a processor cache
 constexpr double AtLeast = 5;
 constexpr double AtLeastWithTags = 1;
 
-// Letters, blanks and commas only: where nothing is marked up, both programs have the same work.
+// Letters, blanks and commas only: without markup both programs have the same work.
 std::string PlainProse(std::size_t size)
 {
     std::string prose = Prose(size);
@@ -28,7 +28,7 @@ std::string PlainProse(std::size_t size)
     return prose;
 }
 
-// Cut into lines of `lineLength`, each ended by CR LF; made when it is not there yet.
+// The prose in lines of `lineLength` with CR LF line ends. Writes the file if it is missing.
 std::string TextOf(const std::string& path, const std::string& prose, std::size_t lineLength)
 {
     if (!std::filesystem::exists(path)) {
@@ -41,7 +41,7 @@ std::string TextOf(const std::string& path, const std::string& prose, std::size_
     return path;
 }
 
-// What fold does: reads the text and writes it wrapped, in pieces.
+// Does the work of fold: reads the text and writes it wrapped, in pieces.
 void WrapFile(const std::string& path)
 {
     LinuxFileSystem files;
@@ -91,7 +91,7 @@ void BenchWrap(const std::string& folder)
     const std::string plain = PlainProse(TextSize);
     BenchText("64 MiB, lines of 500", TextOf(folder + "/wrap-500.txt", plain, 500), AtLeast);
     BenchText("64 MiB, lines of 5,000", TextOf(folder + "/wrap-5000.txt", plain, 5000), AtLeast);
-    // The two do not have the same work: fold takes tags for text.
+    // Here the work differs, as fold treats tags as text.
     BenchText("64 MiB with tags, lines of 500", TextOf(folder + "/wrap-tags.txt", Prose(TextSize), 500),
               AtLeastWithTags);
     BenchText("64 MiB, one line", TextOf(folder + "/wrap-1.txt", plain, TextSize), AtLeast);

@@ -1,4 +1,5 @@
-// Measures what readers of large books wait for. The inputs are made, and kept, in a folder that is named.
+// Measures the times that readers of large books wait. Makes the inputs in the given folder and leaves them
+// there.
 
 #include "bench/Benchmarks.h"
 #include "bench/Measure.h"

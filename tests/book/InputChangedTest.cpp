@@ -1,4 +1,4 @@
-// Another program changes the open file between the scan and a save.
+// Another program changes the open book's file between the scan and a save.
 
 #include "book/BookFixture.h"
 #include "book/SaveBook.h"

@@ -119,7 +119,7 @@ struct FileLogicCase
 {
     const char* name;
     const char* body;  ///< of the topic "A", after its header line
-    const char* logic; ///< as read from the file; "before" if it does not change
+    const char* logic; ///< as read from the file; "before" if the load leaves it unchanged
 };
 
 struct FileLogicTable : LoadTopicRecTest, testing::WithParamInterface<FileLogicCase>

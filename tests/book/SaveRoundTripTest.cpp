@@ -1,4 +1,5 @@
-// Each sample book is saved and opened again. Its header, topics, texts, logic blocks and references stay.
+// Saves each sample book and opens it again. Its header, topics, texts, logic blocks and references stay the
+// same.
 
 #include "book/BookFixture.h"
 #include "book/SaveBook.h"

@@ -206,7 +206,7 @@ TEST_F(TopicHistoryTest, titleWithBracketsOfItsOwn_isFound)
 TEST_F(TopicHistoryTest, topicOutsideOfTheTable_isNotRemembered)
 {
     Show(1);
-    book.CurrentTopicNo = 0; // a title that was only found in the file
+    book.CurrentTopicNo = 0; // the title was found in the file, not in the table
     book.CurrentTopicName = "[hidden]";
     history.Visit(book);
     book.CurrentTopicNo = 5;

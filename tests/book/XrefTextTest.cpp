@@ -9,7 +9,7 @@
 namespace ls {
 namespace {
 
-// The note read from a file of these lines and, after "|", the next line.
+// Reads a note from a file of these lines. Returns "note|next line".
 std::string NoteOf(const std::string& bytes)
 {
     test::MemoryFileSystem files;

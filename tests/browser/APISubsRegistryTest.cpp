@@ -148,7 +148,7 @@ TEST_F(RegGetStringTest, regQueryString_sizeZero_isEmpty)
     EXPECT_FALSE(world.end.Ended());
 }
 
-// A key that reports 4 bytes: three characters and their NUL. The caller must fill the buffer with blanks
+// A key whose value has 4 bytes: three characters and their NUL. The caller must fill the buffer with blanks
 // first.
 struct BufferKey : RegistryKey
 {

@@ -124,7 +124,8 @@ TEST(ExploreAdvisor, twoWaysIntoDeadEnds_bothAreTold)
         << "without everyWay, one dead end is enough";
 }
 
-// The search for the text of the default goal's advice starts at the last question.
+// For the default goal the search for the advice's text starts at the last question. So GO, which is written
+// before B, has no text after B.
 TEST(ExploreAdvisor, adviceThatComesWithItsTextOrWithout_isToldTwice)
 {
     World world(Topic({"AV(GO)=A(X)", "AV(GO)=A(Y)B(P)", "AV(STAY)=A(Y)B(Q)"},
@@ -251,7 +252,7 @@ Strings AnswersOf(const DialogueEnd& end)
     return answers;
 }
 
-using Shortest = std::map<std::string, std::size_t>; ///< the smallest number of answers for each end
+using Shortest = std::map<std::string, std::size_t>; ///< each end, and the fewest answers that lead to it
 
 Shortest ExploredEnds(const AdvisorCoverage& coverage)
 {
@@ -262,7 +263,7 @@ Shortest ExploredEnds(const AdvisorCoverage& coverage)
     return ends;
 }
 
-// The ends of all dialogues, up to that number. `all` is set if no dialogue is left out.
+// The ends of at most so many dialogues. Sets `all` if these are all dialogues.
 Shortest PlayedEnds(World& world, const std::string& title, int mostDialogues, bool& all)
 {
     Shortest ends;
@@ -333,8 +334,8 @@ void CompareFolder(const std::string& folder, Tally& tally)
     }
 }
 
-// The exploration shows what readers see. Each of its ways is played. Each dialogue that a player can have
-// ends as one of its ways, and that way needs no more answers.
+// Plays each way that the exploration finds; it must end as found. Then plays all dialogues up to a limit:
+// the exploration must have found each of their ends, with no more answers.
 TEST(ExploreAdvisor, everyWay_isTheOneThatReadersGo)
 {
     Tally tally;

@@ -12,14 +12,14 @@ namespace ls::test {
 /// A book from a data file and the findings that `check` must give.
 struct CheckCase
 {
-    std::string name; ///< the rule to test; "near RULE ..." for a book that must not trigger it
+    std::string name; ///< the rule to test; "near RULE ..." for a book in which the rule must find nothing
     std::string book; ///< the bytes of the book
     std::vector<std::string> findings; ///< "line: severity: rule: text"
 };
 
-/// All cases of tests/data/check. In a file "== NAME" begins a case, "--" ends its book, and the findings
-/// follow. A book that begins with a topic gets a header line. "{XX}" is a byte, "{xN}" is N letters, and a
-/// line that ends in "{}" is joined with the next one.
+/// All cases of the files in tests/data/check. "== NAME" begins a case, "--" ends its book, and the expected
+/// findings follow. A book that begins with a topic gets a header line. "{XX}" is a byte, "{xN}" is N times
+/// "x", and a line that ends in "{}" is joined with the next one.
 [[nodiscard]] std::vector<CheckCase> ReadCheckCases();
 
 /// A book in memory, open and scanned.

@@ -19,7 +19,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// The advisor's loader's result for a topic's block, as text.
+// What the advisor's loader reads from a topic's block, as text.
 struct Loaded
 {
     bool good = false;
@@ -57,7 +57,7 @@ Loaded Load(test::CheckedBook& world, int topic, const std::vector<Texts>& tags,
     return loaded;
 }
 
-// The same from the block that `check` reads.
+// The same, from the block as `check` reads it.
 Loaded Read(const CheckedBlock& block, BlockStore& store)
 {
     Loaded read;

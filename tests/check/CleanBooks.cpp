@@ -12,7 +12,7 @@ struct Variable
 {
     std::string name;
     std::vector<std::string> values;
-    std::string home; ///< the title of the topic that asks for it
+    std::string home; ///< the title of the topic that asks about it
 };
 
 // The parts of one logic block.
@@ -157,7 +157,7 @@ private:
         return Chance(2) ? "text" : "\r\nfirst line\r\n\r\n- second, [in brackets]\r\n* with a star\r\n";
     }
 
-    // Adds rules that conclude a value of `goal` for each list of answers.
+    // Adds rules, so that every list of answers leads to a value of `goal`.
     void AddTree(Block& block, const Variable& goal, const std::string& home, const std::string& conditions,
                  int depth, std::size_t& given, const Variable* root)
     {

@@ -22,7 +22,7 @@ std::string Number(int i)
     return std::to_string(i);
 }
 
-// The findings of the rules for a block's frame.
+// The findings about a block's frame.
 Texts FrameFindings(const std::string& logic, const std::string& definitions)
 {
     test::CheckedBook world(Header);

@@ -1,4 +1,4 @@
-// Dialogues worked out by hand: the events of each that lsbook writes as JSON.
+// Compares the events of dialogues, which lsbook writes as JSON, with results that were worked out by hand.
 
 #include "CliFixture.h"
 #include "EventLines.h"

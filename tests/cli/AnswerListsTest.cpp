@@ -35,7 +35,7 @@ TEST(MeantAnswer, shorthands_standForChoices)
     const std::vector<std::string> choices{"? - unsure", "YES", "#9"};
     EXPECT_EQ(MeantAnswer("?", choices), "? - unsure");
     EXPECT_EQ(MeantAnswer("#2", choices), "YES");
-    EXPECT_EQ(MeantAnswer("#9", choices), "#9"); // a choice of that name has priority
+    EXPECT_EQ(MeantAnswer("#9", choices), "#9"); // here "#9" is the name of a choice
     EXPECT_EQ(MeantAnswer("#4", choices), "#4");
     EXPECT_EQ(MeantAnswer("#0", choices), "#0");
     EXPECT_EQ(MeantAnswer("#", choices), "#");

@@ -1,4 +1,4 @@
-// Every command on every kind of file that is no good book.
+// Every command on bad books, and on files that are no books.
 
 #include "CliFixture.h"
 
@@ -22,7 +22,7 @@ const std::vector<Strings> Commands = {
 class Faults : public test::CliFixture
 {
 protected:
-    // All commands, for people and as JSON, give that status and message; the JSON parses.
+    // All commands give that status and message, as plain text and as JSON. The JSON parses.
     void ExpectAll(int status, const std::string& message)
     {
         for (Strings command : Commands) {
@@ -81,7 +81,7 @@ TEST_F(Faults, bookOfNulBytesAndAHugeLine_isRead)
     EXPECT_EQ(OutJson({"info", "x"})["topic_count"].Int(), 1);
 }
 
-// A book with some bytes changed, inserted and removed; the same for the same seed.
+// A book with some bytes changed, inserted and removed. The same seed gives the same book.
 std::string Damaged(std::uint32_t seed)
 {
     std::string book = test::SmallBook();

@@ -14,7 +14,7 @@ class OutOfMemory : public test::CliFixture
 protected:
     void SetUp() override { files["/work/a.IDA"] = test::SmallBook(); }
 
-    // From read number `nth` on, the file's lines do not fit into memory.
+    // From read number `nth` on, memory runs out.
     void FailFromRead(int nth)
     {
         files.fail = [this, nth](const std::string& operation) {

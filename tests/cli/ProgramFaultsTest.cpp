@@ -42,7 +42,7 @@ protected:
     {
         const std::string command =
             "cd '" + scratch.Path() + "' && " + setUp + " '" LS_LSBOOK "' " + arguments;
-        const int status = std::system(command.c_str()); // a test of the shell's view
+        const int status = std::system(command.c_str()); // the shell is part of the test
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 

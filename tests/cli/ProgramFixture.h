@@ -20,7 +20,7 @@ protected:
     {
         const std::string command = before + "cd '" + scratch.Path() + "' && '" LS_LSBOOK "' " + arguments +
                                     " >stdout 2>stderr </dev/null";
-        const int status = std::system(command.c_str()); // a test of the shell's view
+        const int status = std::system(command.c_str()); // the shell is part of the test
         out = scratch.Read("stdout");
         err = scratch.Read("stderr");
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;

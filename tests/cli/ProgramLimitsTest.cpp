@@ -1,5 +1,4 @@
-// The built program at its limits, with real files: counts end at 32,767, sizes where memory or the system
-// ends.
+// The built program at its limits, with real files. Counts end at 32,767. Memory or the system limits sizes.
 
 #include "ProgramFixture.h"
 
@@ -16,7 +15,7 @@ namespace {
 
 constexpr const char* Overflow = "critical: Overflow\n";
 
-// A program that takes far more memory fails here and does not fill the machine's memory.
+// A program that takes far more memory than it should fails, before it fills the machine's memory.
 constexpr const char* OneGibibyte = "ulimit -v 1048576; ";
 
 using test::BookHeader;
@@ -182,7 +181,7 @@ TEST_F(ProgramLimits, lineOfOneGibibyte_isShownUntilTheLinesEnd)
 
 TEST_F(ProgramLimits, lineOfOneGibibyte_isInMemoryOnceAndSavedWithoutBeingThere)
 {
-    // Room for the line, the program, its libraries and a little work.
+    // Enough for the line (1 GiB), the program, its libraries and a little work.
     constexpr const char* OnceAndABit = "ulimit -v 1179648; ";
     constexpr const char* NotOnce = "ulimit -v 131072; ";
     WriteWithHole("[A]\r\nbefore\r\n", std::uintmax_t{1} << 30, "\r\nafter\r\n[B]\r\nb\r\n");
@@ -194,10 +193,10 @@ TEST_F(ProgramLimits, lineOfOneGibibyte_isInMemoryOnceAndSavedWithoutBeingThere)
     EXPECT_EQ(out, "");
 }
 
-// Without a closing ">" the line cannot break: all of it is one row, which must fit into memory.
+// Without a closing ">" the line cannot break. So it becomes one row, which needs as much memory again.
 TEST_F(ProgramLimits, lineThatDoesNotBreak_isShownWhereItFitsIntoMemoryTwice)
 {
-    // Room for the line, the row made from it, the program and some growth.
+    // 96 MiB hold the program and the line of 64 MiB, but not its row too. 176 MiB hold all of them.
     constexpr const char* OnceAndABit = "ulimit -v 98304; ";
     constexpr const char* TwiceAndABit = "ulimit -v 180224; ";
     const std::string start = "a < b ";

@@ -1,5 +1,5 @@
-// Compares the export of the sample books, byte for byte, with the pages of tests/data/exports/model.py. When
-// a sample changes, that script rewrites them.
+// Compares the export of the sample books, byte for byte, with the pages that tests/data/exports/model.py
+// made. After a change to a sample, run that script again.
 
 #include "CliFixture.h"
 

@@ -1,5 +1,5 @@
-// Compares the printed sample books, run by run, with the pages of tests/data/pages/model.py. When a sample
-// changes, that script rewrites them.
+// Compares the printed sample books, run by run, with the pages that tests/data/pages/model.py made. After a
+// change to a sample, run that script again.
 
 #include "CliFixture.h"
 

@@ -1,4 +1,4 @@
-// Books worked out by hand: what lsbook writes about each as JSON.
+// Compares what lsbook writes about books as JSON with results that were worked out by hand.
 
 #include "CliFixture.h"
 
@@ -91,7 +91,7 @@ TEST_P(TextCase, xrefs_asExpected)
 
 TEST_P(TextCase, show_asExpected)
 {
-    // A bad header is reported at every opening; showing a topic adds no message.
+    // Every opening reports a bad header. Showing a topic adds no message.
     const std::size_t messagesOfOpening = Of({"info"})["messages"].Items().size();
     for (const Json& expected : m_expected["show"].Items()) {
         const std::string number = std::to_string(expected["number"].Int());

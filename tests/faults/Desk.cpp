@@ -157,7 +157,7 @@ Disk FilesOf(MemoryFileSystem& files, const std::vector<std::string>& folders)
 
 namespace {
 
-// The state of a file that is new or changed; `whole` is its content after a run without errors.
+// The word for a new or changed file. `whole` is its content after a run without errors.
 std::string Fate(const std::string& bytes, const Disk& before, const std::string* whole)
 {
     if (whole != nullptr) {

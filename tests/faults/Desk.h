@@ -25,7 +25,7 @@ class AgreeingMessages : public Messages
 public:
     using Messages::Messages;
 
-    std::string input; ///< the text typed into an input box; if empty, the proposed text stays
+    std::string input; ///< the text typed into input boxes; if empty, the proposed text stays
 
     /// The messages since the last call, joined by " + ", without questions.
     std::string Take();
@@ -48,8 +48,8 @@ using Disk = std::map<std::string, std::string>;
 /// The files of some folders, with their contents.
 [[nodiscard]] Disk FilesOf(MemoryFileSystem& files, const std::vector<std::string>& folders);
 
-/// The whole program without its windows, on files in memory: "/work/Book.IDA", and settings in "/ini" that
-/// list "/work/Old.IDA".
+/// The whole program without its windows, on files in memory. Its book is "/work/Book.IDA". Its settings in
+/// "/ini" list "/work/Old.IDA".
 struct Desk
 {
     Desk();
@@ -69,10 +69,10 @@ struct Desk
     /// Picks that name in the file form and runs the Save command.
     void SaveAs(const std::string& name);
 
-    /// The shown topic and its lines, whether edits are there, and whether the program ends: "A|a, edited".
+    /// The shown topic and its lines, whether there are edits, and whether the program ends: "A|a, edited".
     [[nodiscard]] std::string State() const;
 
-    /// The present files, with their contents.
+    /// The files that exist now, with their contents.
     [[nodiscard]] Disk Files();
 
     ProgramEnd end;
@@ -92,9 +92,10 @@ struct Desk
     std::string shown; ///< more state that a row compares: a dialogue's events, a list
 };
 
-/// The differences between two disks, as "Out.IDA whole, ...". A file that is also in `whole` is "whole" if
-/// equal to it, "cut" if it is a beginning of it that ends within a line, else "other". Any other file is
-/// "kept" if its content was in some file before, else "cut". A missing file is "gone".
+/// The files that differ between two disks, each with a word: "Out.IDA whole, ...". `whole` is the disk after
+/// a run without errors. For a file that is in `whole`: "whole" if equal, "cut" if it is only a beginning
+/// that ends within a line, else "other". For any other file: "kept" if some file had this content before,
+/// else "cut". A removed file is "gone".
 [[nodiscard]] std::string Changes(const Disk& before, const Disk& after, const Disk& whole);
 
 } // namespace ls::test

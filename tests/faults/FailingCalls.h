@@ -14,7 +14,8 @@ struct SystemFault
     bool forGood; ///< all calls after the first one fail too
 };
 
-/// Makes one of the program's own system calls fail. The linker replaces these calls by our versions.
+/// Makes one of the program's own system calls fail. The linker replaces these calls by those in
+/// WrappedCalls.cpp.
 class FailingCalls
 {
 public:
@@ -28,18 +29,18 @@ public:
     /// The name of the first call that failed; empty if none did.
     [[nodiscard]] std::string Error() const;
 
-    /// The path given to that call. For a call on an open file, the path opened last.
+    /// The path given to the call of `Error`. For a call on an open file, the path opened last.
     [[nodiscard]] std::string Path() const;
 };
 
-/// For the replaced calls: the error code if this call must fail now. `path` is the call's path, if it has
-/// one.
+/// Used by the replaced calls: the error code if this call must fail now. `path` is the call's path, if it
+/// has one.
 [[nodiscard]] std::optional<int> CodeOfFailing(const char* call, const std::string& path = {});
 
-/// Whether a `FailingCalls` exists; the replaced calls then need not wait.
+/// Whether a `FailingCalls` exists. If so, the replaced calls do not wait.
 [[nodiscard]] bool CallsAreFailing();
 
-/// The errors that the running system may give when a disk or a file fails.
+/// The errors of this system for a failing disk or file.
 [[nodiscard]] std::vector<SystemFault> SystemFaults();
 
 /// The system calls that save a book, and the one that removes a file.

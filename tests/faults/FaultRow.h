@@ -11,23 +11,24 @@ namespace ls::test {
 /// The result of a run in which one call fails.
 struct Outcome
 {
-    std::string call; ///< "open", "read", "write", "finish", "create", "rename", ... and its files
+    std::string call; ///< the failing call, such as "open", "read" or "rename", and its files
     std::string told; ///< the messages to the user, "icon: text"; empty if none
     std::string left; ///< the shown topic and the state in memory afterwards
     std::string disk; ///< which files changed
 };
 
-/// Outcomes in the form of a table: a line for each, its parts joined by " -> ", "-" for an empty part.
+/// Outcomes as a table: a line for each, with its parts joined by " -> ". "-" is an empty part.
 [[nodiscard]] std::string TableText(const std::vector<Outcome>& outcomes);
 
 /// The lines of one row of a table in the tests' data: those below "# name".
 [[nodiscard]] std::string ReadTable(const std::string& file, const std::string& name);
 
-/// A table's text with another error number in place of 57.
+/// A table's text with that error number in place of 57.
 [[nodiscard]] std::string WithError(std::string text, int number);
 
-/// An action of the user that uses files. The table "faults/window.txt" gives its results: one line for each
-/// call to the file system, in their order, for that call failing, and a last line for a run without errors.
+/// An action of the user that uses files. The table "faults/window.txt" has its results: for each call to the
+/// file system, in order, a line for the run in which that call fails. The last line is for a run without
+/// errors.
 struct FaultRow
 {
     std::string name;

@@ -102,7 +102,7 @@ TEST_P(FaultTable, eachCallFailing_leavesNoHalfFile)
     }
 }
 
-// A failure without a message must not change what the user sees, except in the calls that the row names.
+// A failure without a message must not change the result, except for the calls that the row lists as quiet.
 TEST_P(FaultTable, eachCallFailing_isToldWhereItShows)
 {
     const std::vector<Outcome> outcomes = OutcomesOf(GetParam(), error::DeviceIo);

@@ -139,8 +139,8 @@ TEST_P(LsbookFaults, eachCallFailing_comesToWhatTheTableSays)
     }
 }
 
-// The exit status reports every failure, and each file under its final name is whole. Also in JSON, and if
-// the disk fails for good.
+// The exit status reports every failure, and each file under its final name is whole. This holds for JSON
+// too, and if the disk fails for good.
 TEST_P(LsbookFaults, eachCallFailing_isTheStatusAndLeavesNoHalfFile)
 {
     for (const bool json : {false, true}) {

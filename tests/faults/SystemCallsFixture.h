@@ -15,8 +15,8 @@ namespace ls::test {
 class SystemCalls : public testing::TestWithParam<SystemFault>
 {
 protected:
-    /// Repeats until `act` has no further call: `prepare`, `act` with the next call failing, `check` with
-    /// that call's name.
+    /// Repeats `prepare`, `act` and `check`. Call number n of `act` fails in round n, and `check` gets that
+    /// call's name. Ends after a round in which no call failed.
     void ForEachCall(const std::function<void(const std::string& error)>& check,
                      const std::function<void()>& act, const std::function<void()>& prepare)
     {

@@ -110,7 +110,7 @@ void Check(Desk& desk)
     CheckItem_Click(desk.book, desk.seams, desk.view, desk.navigation);
 }
 
-// The logic editor's Done looks for problems in the block; the topic leads to another one.
+// The logic editor's Done checks the block, which leads to another topic.
 void CheckText(Desk& desk)
 {
     const std::string text = "<IXML>\r\n<LOGIC>\r\nTARGET R\r\nDEFINE Y@More\r\nR(1)=Y(1)\r\n</LOGIC>\r\n"

@@ -1,4 +1,4 @@
-// File descriptors and memory over a long day's work: at its end they are as after the first minutes.
+// File descriptors and memory over a long day's work: they must not grow after the first minutes.
 
 #include "Held.h"
 #include "advisor/AdvisorRunner.h"
@@ -59,7 +59,7 @@ struct Flat : testing::Test
         commands.OpenItem_Click();
     }
 
-    // What grows while `work` runs `times` times, after a tenth of that to warm up.
+    // Runs `work` `times` times, after a tenth of that to warm up. Returns what has grown.
     static std::string GrowthOver(int times, const std::function<void(int)>& work)
     {
         for (int i = 0; i < times / 10; ++i) {

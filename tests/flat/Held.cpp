@@ -11,7 +11,8 @@ namespace ls::test {
 
 namespace {
 
-// A sanitizer has its own allocator, which holds back freed memory, and it looks for leaks itself.
+// Memory is not counted under a sanitizer: its allocator holds back freed memory, and it looks for leaks
+// itself.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool MemoryCounts = false;
 #else

@@ -10,7 +10,7 @@ namespace ls::fuzz {
 
 /// The input of one run: a text, and after its last NUL the choices for the run.
 ///
-/// In a file without a NUL all is text and every choice is 0. So any book serves as an input.
+/// In a file without a NUL everything is text and every choice is 0. So any book can be an input.
 class Input
 {
 public:

@@ -1,6 +1,6 @@
 # Shared by the scripts of this folder: source it, define checks as functions, and end with run_checks NAME...
 
-# The checks read the output of tools, so no setting of the caller may change it.
+# The checks read the output of tools, so its language must not depend on the caller.
 export LC_ALL=C.UTF-8
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_STATE_HOME XDG_CURRENT_DESKTOP LSADVISOR_WORKDIR DISPLAY WAYLAND_DISPLAY
 
@@ -40,7 +40,7 @@ same() {
     fi
 }
 
-# run_checks NAME...: runs each of these functions to its end; status 1 if one finds a fault.
+# run_checks NAME...: runs all of these functions. The status is 1 if one finds a fault.
 run_checks() {
     local name before
     for name; do

@@ -18,7 +18,7 @@
 namespace ls {
 namespace {
 
-// The whole launch with the system's own seams: the lists name a browser, and the browser gets the page.
+// The whole launch with the real system: the lists name a browser, and that browser gets the page.
 struct LaunchForRealTest : testing::Test, test::ScratchDesktop
 {
     LinuxFileSystem files;

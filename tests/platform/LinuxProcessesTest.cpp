@@ -141,7 +141,7 @@ TEST_F(LinuxProcessesTest, start_standardInputClosed_stillHasTheNullDevice)
 TEST_F(LinuxProcessesTest, start_allStandardDescriptorsClosed_programHasThem)
 {
     const std::string part = folder / "out.part";
-    // Another process looks at the shell's own descriptors while none is redirected.
+    // Another process reads the shell's descriptors, as a redirection in the shell would change them.
     const std::string script = folder.WriteProgram(
         "web", "#!/bin/sh\nlinks=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\necho \"$links\" > '" +
                    part + "'\nmv '" + part + "' '" + (folder / "out") + "'\n");
@@ -163,7 +163,7 @@ TEST_F(LinuxProcessesTest, start_ignoredAndBlockedSignals_areDefaultForTheProgra
     ::sigemptyset(&blocked);
     ::sigaddset(&blocked, SIGUSR1);
     ::pthread_sigmask(SIG_BLOCK, &blocked, &oldMask);
-    // Not by a script, because a shell may clear the mask for its commands. cp writes the copy in one piece.
+    // No script here, because a shell may clear the mask for its commands. cp writes the copy in one piece.
     EXPECT_EQ(processes.Start("cp /proc/self/status " + (folder / "out")).error, FileError{});
     ::pthread_sigmask(SIG_SETMASK, &oldMask, nullptr);
     std::signal(SIGTERM, before);

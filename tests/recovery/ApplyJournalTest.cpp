@@ -258,7 +258,7 @@ TEST_F(ApplyJournalTest, keptTyping_replacesTheTextAndKeepsTheLogic)
     EXPECT_EQ(again.BookPost, "");
 }
 
-// The part of the journal with the topic's record is lost.
+// The journal lost the section with the topic's record.
 TEST_F(ApplyJournalTest, keptTyping_topicNotInMemory_keepsItsOtherHalf)
 {
     files[BookPath] = test::CrLf({"LODESTAR BOOK V5.3", "[A]", "a", "<IXML>", "<LOGIC>", "TARGET X",

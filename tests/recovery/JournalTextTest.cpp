@@ -31,7 +31,7 @@ TEST(JournalTextTest, newBookWithoutTopics_isReadBackAsItWas)
     ExpectSame(reading.journal, journal);
 }
 
-// The program must be able to read journals of older versions, so the format is fixed.
+// The format is fixed, because the program must be able to read journals of older versions.
 TEST(JournalTextTest, smallJournal_hasTheseBytes)
 {
     Journal journal;

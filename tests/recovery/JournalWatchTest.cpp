@@ -96,7 +96,8 @@ TEST_F(JournalWatchTest, typing_standsAndGoesWithCancel)
     EXPECT_EQ(FilesThere(), Strings{});
 }
 
-// A look must cost nothing: scrolling causes many, and a book may be huge.
+// A look without news must read and write nothing, because scrolling causes many looks and a book may be
+// huge.
 TEST_F(JournalWatchTest, nothingNew_looksAtNothing)
 {
     Edit("one");
@@ -130,7 +131,7 @@ TEST_F(JournalWatchTest, boxOfARunningCommand_acceptedEditStands)
     EXPECT_EQ(Standing(), "one|");
 }
 
-// Saving and opening clear the edits before they are finished.
+// Saving and opening clear the edits before the command ends. Until then the journal must stay.
 TEST_F(JournalWatchTest, editsGone_journalGoesOnlyWhenTheCommandIsDone)
 {
     Edit("one");
@@ -200,7 +201,7 @@ struct JournalWatchEndTest : JournalWatchTest
     JournalWatch::Forms open;
 };
 
-// Also the typing since the last look.
+// The journal must hold the typing since the last look too.
 TEST_F(JournalWatchEndTest, fault_writesWhatWasTypedUntilThen)
 {
     form.Type("a");

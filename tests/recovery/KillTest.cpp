@@ -18,8 +18,8 @@ namespace {
 
 struct KillTest : RealFilesFixture
 {
-    /// The child program: types without a pause, and writes each edit's number to `told` once its journal is
-    /// written.
+    /// The child program: types without a pause. After it writes the journal of an edit, it writes the edit's
+    /// number to `told`.
     [[noreturn]] void Edit(int told)
     {
         OwnJournal own(Get(), folder);

@@ -156,7 +156,7 @@ TEST_F(OfferJournalsTest, recover_damagedOneAndNoRoomToPutItAside_isNotWrittenOv
     EXPECT_EQ(FilesThere(), (Strings{"j1.journal", "j1.lock", "j2.journal", "j2.lock"}));
 }
 
-// Removals and moves mean nothing without the book, and must not become a book without topics.
+// Without the book, removals and moves mean nothing. They must not be offered as a book without topics.
 TEST_F(OfferJournalsTest, noEditedTopicAndTheBookIsGone_isNotOfferedUntilItIsBack)
 {
     ASSERT_TRUE(OpenThree());
@@ -227,8 +227,7 @@ TEST_F(OfferJournalsTest, journalsThatCannotBeRead_areToldTogether)
                 "Advisor, and only that can recover it. It stays where it is."});
 }
 
-// The fault table of the journal's reader: one run for each call to the file system, in which that call
-// fails.
+// One run for each call to the file system that the reader of journals makes; that call fails.
 TEST_F(OfferJournalsTest, eachCallFailing_losesNothingAndIsTold)
 {
     for (const int number : {error::DeviceIo, error::DiskFull, error::PermissionDenied}) {
@@ -256,7 +255,7 @@ TEST_F(OfferJournalsTest, eachCallFailing_losesNothingAndIsTold)
                 const bool fits = again.TopicCount == 3;
                 EXPECT_EQ(again.TopicRecs(fits ? 2 : 1).Text, "edited\r\n");
                 EXPECT_TRUE(fits || asked.front().find("new book") != std::string::npos);
-            } else { // error 70 also means a running program
+            } else { // error 70 also means that the owner is running
                 EXPECT_TRUE(!told.empty() || (number == error::PermissionDenied && call.ends_with(".lock")));
                 EXPECT_EQ(files[JournalPath()], journal);
             }

@@ -9,7 +9,7 @@ namespace ls::test {
 
 /// A value of a JSON text, for the tests' data files.
 ///
-/// Asking for a missing member or element fails the test and gives null.
+/// Access to a missing member or element fails the test and gives null.
 class Json
 {
 public:

@@ -11,8 +11,8 @@
 
 namespace ls::test {
 
-/// A printer that records its pages and its calls, and fails where a test wants it. It holds portrait Letter
-/// paper, printable to the edges, and its lines are 272 twips high.
+/// A printer that records its pages and its calls, and fails where a test asks for it. It has portrait Letter
+/// paper that is printable to the edges, and its lines are 272 twips high.
 class RecordingPrinter : public PageRecorder
 {
 public:

@@ -177,7 +177,7 @@ bool Tour::WalkCheck()
            Report(QStringLiteral("Close"), PressInForm("CloseButton"));
 }
 
-// The question at the next start if the program were killed now.
+// Shows the question that the next start would ask if the program were killed now.
 bool Tour::TakeRecovery()
 {
     return WalkForm(

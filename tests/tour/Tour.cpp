@@ -43,7 +43,7 @@ QString TextOf(const QWidget& dialog)
     return dialog.windowTitle();
 }
 
-/// The area of the screen that the program covers: the window with its frame, and an open menu.
+/// The area of the screen that the window covers, with its frame and an open menu.
 QRect VisibleArea(const QWidget& window)
 {
     QRect area = window.frameGeometry();
@@ -264,8 +264,8 @@ Tour::Fault Tour::WidenWindow()
     const int lines = m_bar->maximum();
     m_window.resize(m_window.width() + WidenBy, m_window.height() + WidenBy / 4);
     QTest::qWait(SettleMs);
-    // When the pane first grows, 2 units of the gain go to the gap beside the scroll bar. At scales such as
-    // 150 % the window's size is rounded to whole pixels, so the check allows 4.
+    // When the pane first grows, the gap beside the scroll bar takes 2 units of the gain. At scales such as
+    // 150 % the window's size is rounded to whole pixels. So the check allows 4.
     if (m_pane->width() < before + WidenBy - 4)
         return QStringLiteral("the pane is %1 wide after %2").arg(m_pane->width()).arg(before);
     if (m_bar->maximum() > lines)

@@ -8,7 +8,7 @@ selector_checks=(selector_pathOrPatternTyped_listsWhatIsThere selector_wrongPath
     selector_savingOverABook_asksFirst parameters_quotedAsAWhole_areTaken)
 # Places of rows of the lists, in the selector's window.
 second_folder=(60 161) first_file_at=(290 92)
-disk_of_books=$scratch/disk # drive D: of this Windows
+disk_of_books=$scratch/disk # becomes drive D: of this Windows
 
 # Adds a second disk with a name, and a drive E: for removable disks that holds none.
 add_drives() {
@@ -121,7 +121,7 @@ selector_wrongPathTyped_saysWhyAndStays() {
     leave_selector
 }
 
-# With the keys of the lists: drives with their current folders, and folders from there back to the root.
+# Uses the keys of the lists. A drive opens its current folder; from there folders lead back to the root.
 selector_drivesAndFoldersPicked_showTheirFiles() {
     browse || return 0
     key alt+d

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""A second, plain implementation of the HTML export, written apart from the program's.
+"""A second, plain implementation of the HTML export, written independently of the program.
 
     python3 tests/data/exports/model.py
 
-writes the files beside it anew from the sample books. It is run when a sample changes; the tests compare the program's exports with
-those files, byte for byte. How a line is broken, and what is an item of a list, it shares with the model of the printed pages.
+rewrites the files in this folder from the sample books. Run it when a sample changes. The tests compare the program's exports with
+these files, byte for byte. The rules for line breaks and for items of lists come from the model of the printed pages.
 """
 import os
 import sys

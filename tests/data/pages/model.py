@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""A second, plain implementation of how topics are laid out on pages, written apart from the program's.
+"""A second, plain implementation of how topics are laid out on pages, written independently of the program.
 
     python3 tests/data/pages/model.py
 
-writes the files beside it anew from the samples. It is run when a sample changes; the tests compare the
-program's pages with those files. A run is a line: styles, colour, text, "|" where it ends its row, else "+".
+rewrites the files in this folder from the samples. Run it when a sample changes. The tests compare the program's pages with
+these files. Each run is a line: styles, colour, text, then "|" if it ends its row, else "+".
 """
 import math
 import os
@@ -46,7 +46,7 @@ def list_indent(line):
 
 
 def breaks(line, width, indent):
-    """Whether the line breaks, and its last blank before that (from 1, 0 without one)."""
+    """Whether the line breaks, and the position of its last blank before the break (from 1; 0 if none)."""
     column, last, tag, entity = indent, 0, False, False
     for index, char in enumerate(line, 1):
         if char == "&":
@@ -180,7 +180,7 @@ def print_topic(lines, title, is_book, setup, colour):
 
 
 def topics(lines):
-    """Each title with the lines behind it."""
+    """Each title with the lines after it."""
     for index, line in enumerate(lines):
         if line == "[EOF]":
             return

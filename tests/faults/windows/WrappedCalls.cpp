@@ -1,5 +1,5 @@
-// The replacements of this system's calls. A program calls the system through pointers, and the linker takes
-// these pointers before those of the system's own libraries.
+// The replacements of this system's calls. A program calls the system through pointers in its import table.
+// The linker prefers the pointers in this file to those of the system's libraries.
 
 #include "../FailingCalls.h"
 
@@ -154,7 +154,7 @@ LONG WINAPI QueryOrFail(HKEY key, LPCSTR name, LPDWORD reserved, LPDWORD type, L
     return code ? *code : real(key, name, reserved, type, bytes, size);
 }
 
-// The test must not wait for a disk that only seems to be in use.
+// While calls fail on purpose, waiting for a file in use would only make the test slow.
 void WINAPI NoSleep(DWORD milliseconds)
 {
     static const auto real = Real(NoSleep, "Sleep");

@@ -12,7 +12,8 @@ namespace ls::fuzz {
 
 namespace {
 
-// The model knows ASCII only and finds topics by number. So names must be complete and unique.
+// Whether the model can read the book: it knows ASCII only and finds topics by number, so names must be
+// complete and unique.
 bool ModelReads(const Book& book, const std::string& bytes)
 {
     const bool ascii = std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= 0; });

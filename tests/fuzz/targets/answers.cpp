@@ -28,7 +28,7 @@ std::string Written(const AnswerLists& lists)
     return stream.str();
 }
 
-// The parts of the short form must join to the whole text. "-" alone is a list without answers.
+// The parts of the short form, joined, must give the whole text. "-" alone is a list without answers.
 void TakeShortForm(const std::string& text, const AnswerLists& lists)
 {
     std::string joined;
@@ -58,7 +58,7 @@ void TestInput(Input& input)
                 static_cast<void>(MeantAnswer(answer, answers));
             }
         }
-        const std::string written = Written(*read); // invalid UTF-8 has become valid
+        const std::string written = Written(*read); // reading has replaced invalid UTF-8
         const std::optional<AnswerLists> again = ReadAnswersJson(written);
         Require(again.has_value(), "answers that were read come back from JSON");
         RequireEqual(Written(*again), written, "answers that were read come back from JSON as they were");

@@ -1,4 +1,4 @@
-// The command line, as one string and as separate arguments, and command lines that are started.
+// The program's command line, as one string and as separate arguments, and command lines that it starts.
 
 #include "reader/settings/CommandLine.h"
 #include "World.h"

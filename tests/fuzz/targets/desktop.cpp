@@ -1,4 +1,4 @@
-// The files in which a Linux desktop says which program opens which document.
+// The files that name the program for each type of document on a Linux desktop.
 
 #include "World.h"
 #include "base/SplitCommandLine.h"

@@ -1,4 +1,4 @@
-// A book's first line: a header that was read can be written, and reads back the same.
+// A book's first line: a header that was read is written, and must read back the same.
 
 #include "Fuzz.h"
 #include "book/BookHeader.h"

@@ -1,4 +1,4 @@
-// Takes a logic block apart and builds it again. It must mean the same, or the author is told.
+// Parses a logic block and builds it again. It must mean the same, or give the author a message.
 
 #include "authoring/LogicBlock.h"
 #include "LogicMeaning.h"

@@ -1,4 +1,5 @@
-// Paths, made full, split and joined by the rules of both kinds of system; and patterns of file names.
+// Makes paths full, splits and joins them, by the rules of both kinds of system. Also matches patterns of
+// file names.
 
 #include "World.h"
 #include "base/FindSpelling.h"

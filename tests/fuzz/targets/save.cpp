@@ -86,7 +86,7 @@ std::string ReadBack(const std::string& text)
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t end = std::min(text.find(LineEnd, at), text.size());
         const std::string_view line = std::string_view(text).substr(at, end - at);
-        // with this blank the line stays text
+        // saving keeps this blank, so that the line stays text
         const bool index = TrimRight(line) == "<INDEX>" && line.ends_with(' ');
         trimmed.append(TrimRight(line)).append(index ? " " : "").append(LineEnd);
         at = end + LineEnd.size();
@@ -94,8 +94,8 @@ std::string ReadBack(const std::string& text)
     return trimmed;
 }
 
-// A note that begins in the text and goes on in the logic block may hide lines that look like topics. If one
-// half is edited, these lines become topics, or the note goes on through the topics after it.
+// A note that begins in the text and ends in the logic block may hide lines that look like topics. If one
+// half is edited, these lines become topics, or the note extends over the topics after it.
 bool HoldsTogether(const TopicRec& rec)
 {
     const auto hides = [](const SpecialLine& line) { return line.meaning != LineMeaning::BeginsLogic; };
@@ -108,7 +108,7 @@ void EditTopic(World& world, Book& book, Input& input, int topic)
 {
     TopicRec& rec = book.TopicRecs(topic);
     if (!book.TopicNames(topic).ends_with(']')) {
-        return; // the header line lacks its bracket: the topic is not found, so nobody can edit it
+        return; // without the header line's bracket the topic is not found, so it cannot be edited
     }
     Load(world, book, topic);
     if (rec.Text.empty() && rec.Logic.empty()) {
@@ -125,8 +125,8 @@ void EditTopic(World& world, Book& book, Input& input, int topic)
     }
 }
 
-// Whether a cross reference goes on to the end of the file. If topics are moved after it, they become part of
-// its note.
+// Whether a cross reference has a note without an end. Topics that are moved after it become part of the
+// note.
 bool HasEndlessNote(const Book& book, const std::string& bytes)
 {
     for (int i = 1; i <= book.TopicCount; ++i) {

@@ -16,7 +16,7 @@ std::vector<std::string> Recent(const Settings& settings)
     return {settings.RecentFiles.begin(), settings.RecentFiles.begin() + settings.RecentFileCount};
 }
 
-/// A character of a statement, and whether an escape took its meaning.
+/// A character of a statement, and whether an escape makes it an ordinary character.
 struct Mark
 {
     char c = 0;

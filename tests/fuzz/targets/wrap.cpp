@@ -50,7 +50,8 @@ void RequireWrappedWhileRead(Input& input, const std::string& line, int width, i
 {
     constexpr std::array<std::string_view, 3> ends = {"\r\nnext", "\rnext", ""};
     const std::string_view end = ends[input.Choose(ends.size())];
-    // A line that does not break is walked again with each piece, so longer lines come in larger pieces.
+    // For a line that does not break, each piece causes a walk from its start. So longer lines get larger
+    // pieces.
     test::DrippingFile file(line + std::string(end), 1 + input.Choose(60) + line.size() / 64);
     file.uneven = input.Choose(2) == 0;
     const std::size_t most = input.Choose(4) == 3 ? 1 + input.Choose(6) : AllRows;

@@ -74,7 +74,7 @@ private:
 
     static std::string Refusal(UINT error)
     {
-        // For a busy server, Wine's library reports that the command was not processed.
+        // Wine's library reports a busy server as "not processed".
         const bool refused = error == DMLERR_BUSY || error == DMLERR_NOTPROCESSED;
         return refused ? "refused" : "error " + std::to_string(error);
     }

@@ -7,7 +7,7 @@
 //   peer write PATH
 //       opens a file for writing and shares it for everything; the exit status is the error's number
 //
-// With LSTEST_REPORT set it only writes to that file how it was started.
+// If LSTEST_REPORT names a file, it only writes there how it was started.
 
 #include "DdeClient.h"
 

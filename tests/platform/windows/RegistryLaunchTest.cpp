@@ -170,7 +170,7 @@ INSTANTIATE_TEST_SUITE_P(
                     EndRow{"none", REG_NONE, "Failed to find registry value for:  Program exiting."}),
     [](const auto& row) { return row.param.name; });
 
-// Forms of texts that older and foreign setup programs left in registries.
+// Unusual forms of texts, as older or foreign setup programs write them.
 TEST_F(RegistryLaunch, textsKeptOddly_areReadToTheirEnd)
 {
     keys.SetText(HKEY_CURRENT_USER, ".lstest", "lstest.page");

@@ -219,7 +219,7 @@ TEST_F(WindowsFileSystemTest, names_beyondTheCodePage_workEverywhere)
     EXPECT_FALSE(files.Exists(accents));
 }
 
-// A name after the colon is taken in the drive's current folder.
+// "C:NAME" is a file in the drive's current folder.
 TEST_F(WindowsFileSystemTest, names_behindADriveAlone_areInItsCurrentFolder)
 {
     folder.Write("Guide.IDA", "book");
@@ -236,7 +236,7 @@ TEST_F(WindowsFileSystemTest, names_behindADriveAlone_areInItsCurrentFolder)
     EXPECT_EQ(Content("C:\\Guide.IDA"), "error 53") << "the root has no such file";
     EXPECT_EQ(Content(folder.Path().substr(2) + "\\Guide.IDA"), "book") << "a name without its drive";
 
-    // In this variable the system keeps the current folder of another drive.
+    // The system stores the current folder of another drive in this variable.
     ::SetEnvironmentVariableW(L"=C:", ToWide(folder.Path())->c_str());
     GoTo("Z:\\");
     EXPECT_EQ(Content("C:Guide.IDA"), "book") << "from another drive";

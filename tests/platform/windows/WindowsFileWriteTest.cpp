@@ -101,7 +101,7 @@ TEST_F(WindowsFileWriteTest, finish_twice_is52)
     EXPECT_EQ(folder.Read("a"), "");
 }
 
-// A handle without the right to write replaces a disk that fails.
+// A handle without the right to write acts as a failing disk.
 TEST_F(WindowsFileWriteTest, write_thatFails_isToldAgainByFinish)
 {
     folder.Write("a", "old");

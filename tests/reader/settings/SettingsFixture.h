@@ -17,7 +17,7 @@ using Strings = std::vector<std::string>;
 inline constexpr const char* Ini = "/ini/LSAdvisor.INI";
 inline constexpr const char* Signature = "LSADVISOR V5.3 INI";
 
-/// The recent files in use.
+/// The recent files, without unused places.
 [[nodiscard]] inline Strings Recent(const Settings& settings)
 {
     return {settings.RecentFiles.begin(), settings.RecentFiles.begin() + settings.RecentFileCount};

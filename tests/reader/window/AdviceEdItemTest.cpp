@@ -5,7 +5,7 @@
 namespace ls {
 namespace {
 
-// The command that edits the logic of the topic on show. Tests say what an author does in the editor.
+// The command that edits the logic of the topic on show. Each test sets the author's actions in the editor.
 struct AdviceEdItemTest : MainFixture
 {
     EditCommands edit{book, world.Get(), view, navigation};

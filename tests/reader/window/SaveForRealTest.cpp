@@ -63,8 +63,8 @@ struct SaveForReal : testing::Test
     test::ScratchFolder folder;
 };
 
-// Saves to a disk with more room in each round: at first too little for a book of about 300 KiB, then too
-// little for the settings. Returns what went wrong, or nothing.
+// Saves to a disk with more room in each round: first too little for a book of about 300 KiB, later only too
+// little for the settings. Returns the fault that it finds, or "".
 std::string FillDisk(const std::string& input, const std::string& disk)
 {
     constexpr std::size_t Page = 4096;

@@ -1,4 +1,4 @@
-// Exports to real files: into a folder without write permission, to a full disk, and to names that are no
+// Exports to real files: into a folder without write permission, to a full disk, and to names that cannot be
 // files.
 
 #include "book/BookLoader.h"

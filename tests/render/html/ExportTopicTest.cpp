@@ -81,7 +81,7 @@ TEST_F(ExportTopicTest, leadingTab_isFiveSpaces)
     EXPECT_EQ(BodyOf({"\tin"}), "<P>     in</P>\r\n");
 }
 
-// The TAB that remains becomes five spaces, a segment like any other.
+// The TAB at the end becomes five spaces and a segment of its own.
 TEST_F(ExportTopicTest, remainderOfATab_isASegmentOfSpaces)
 {
     const std::string row(70, 'x');
@@ -155,7 +155,7 @@ TEST_F(ExportTopicTest, longItem_isPlainInTheMiddleAndClosedAtTheEnd)
 
 TEST_F(ExportTopicTest, itemBehindATag_losesTheTagsFirstCharacters)
 {
-    // Intended: the tag is cut in place of the marker.
+    // Intended: the item loses as many characters of the tag as its marker has, and keeps the marker.
     EXPECT_EQ(BodyOf({"<B>1. First</B> item"}), "<OL TYPE=a>\r\n<LI>1. First</B> item</LI>\r\n");
     EXPECT_EQ(BodyOf({"<B>- x</B>"}), "<OL TYPE=a>\r\n<LI>>- x</B></LI>\r\n");
 }

@@ -46,7 +46,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(FindAll, longGaps_areWalkedOnce)
 {
-    // A search that walks from each of its blanks would take hours.
+    // A search that walks on from each of these blanks would take hours.
     const std::string text = std::string(4'000'000, ' ') + "a";
     EXPECT_EQ(FindAll(text, " b"), Ranges{});
     EXPECT_EQ(FindAll(text, " a"), (Ranges{{0, text.size()}}));

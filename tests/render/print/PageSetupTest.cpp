@@ -60,7 +60,7 @@ TEST_P(PageSetupCase, settings_computedAsExpected)
     EXPECT_EQ(settings.TopMarginLines, setup.topMarginLines);
 }
 
-// Computed by hand from the margins: 936 and 864 twips, sideways 720 and 936.
+// Computed by hand from the margins: 936 and 864 twips, or 720 and 936 for a sheet on its side.
 const SetupCase Cases[] = {
     // The whole sheet is printable.
     {"letter_pica", 12240, 15840, 12240, 15840, false, 10, 272, 10368, 14112, 72, 51, 6, 3},

@@ -172,7 +172,7 @@ TEST_F(PrintTopicTest, listItemOfMoreThan50Characters_hangs)
     EXPECT_EQ(BodyRows(), (Strings{"      - " + std::string(60, 'x'), "        " + std::string(20, 'y')}));
 }
 
-// On paper of 25 characters the line breaks, though it is not a long line.
+// The line is too short to count as long, but breaks on paper of 25 characters.
 TEST_F(PrintTopicTest, listItemOf50Characters_doesNotHang)
 {
     printer.state.width = printer.state.scaleWidth = 2 * 936 + 25 * 144;
@@ -191,8 +191,8 @@ TEST_F(PrintTopicTest, remainderThatBecomesBlanks_printsAnEmptyRow)
     EXPECT_EQ(BodyRows(), (Strings{"      " + std::string(72, 'x'), "", "      next"}));
 }
 
-// With an indent of 10 on paper of 12 characters, two of the five blanks fit in a row. The last two make one
-// more row.
+// With an indent of 10 on paper of 12 characters, a row takes two of the five blanks. Intended: the last two
+// blanks cause one more row.
 TEST_F(PrintTopicTest, remainderOfBlanksOnly_printsOneMoreEmptyRow)
 {
     printer.state.width = printer.state.scaleWidth = 2 * 936 + 12 * 144;

@@ -47,7 +47,7 @@ TEST(DisplayLines, clear_keepsMemoryButThatOfHugeLines)
 
 struct RewrapTest : BookFixture
 {
-    // The allocations when a topic of that many paragraphs is shown again at a width it was shown at before.
+    // The number of allocations when a topic of that many paragraphs is shown again at an earlier width.
     std::size_t AllocationsOfShowingAgain(int paragraphs)
     {
         std::string bytes = "LODESTAR BOOK V5.3\r\n[A]\r\n";
@@ -72,8 +72,8 @@ struct RewrapTest : BookFixture
 
 TEST_F(RewrapTest, showTopic_again_allocatesNothingForItsLines)
 {
-    // The rest is the cursor's block and its log in the test's files. It does not depend on the topic's
-    // length.
+    // These allocations are for the cursor's block and for the log of the files in memory. Their number does
+    // not depend on the topic's length.
     const std::size_t forAShortTopic = AllocationsOfShowingAgain(3);
     ResetBook(book);
     EXPECT_LE(AllocationsOfShowingAgain(1000), forAShortTopic + 8);

@@ -19,7 +19,8 @@ TEST(EightBytes, findLastBlank_oneBlankAnywhere_findsIt)
     }
 }
 
-// Most characters differ from a blank in one bit, or could be changed by a carry from the next byte.
+// Most of these characters are easy to confuse with a blank: they differ from it in one bit, or a carry from
+// the next byte could change them.
 TEST(EightBytes, findLastBlank_randomRows_asAPlainSearch)
 {
     const std::string characters("x !\"$(0@`\xA0\xA1\x00\x01\x1F\x7F\x80\xFF", 17);

@@ -92,7 +92,7 @@ TEST(LongLine, wrap_readError_endsTheLineAndIsToldNext)
     EXPECT_EQ(body.Error().number, error::DeviceIo);
 }
 
-// Blanks at the start of a line are read until the line can be classified.
+// A line that begins with blanks is read on until it can be classified.
 TEST(LongLine, nextPart_beginningOfBlanks_isReadOnUntilItTells)
 {
     DrippingFile file(std::string(100, ' ') + "<IXML>" + std::string(100, ' ') + "\r\n" +

@@ -212,7 +212,7 @@ private:
 
 TEST(WrapSegment, wrap_randomLines_asTheRuleWrittenStepByStep)
 {
-    // Only the characters that matter, so that all rules meet.
+    // Only characters with a meaning for the rules, so that the rules often apply together.
     const Strings pieces = {"a", "a", "a", " ", " ", "<", ">", "&", ";", "\t"};
     RandomLines random(20240501);
     for (int round = 0; round < 40000 && !testing::Test::HasFatalFailure(); ++round) {

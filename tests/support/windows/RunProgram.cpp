@@ -53,8 +53,8 @@ int WaitForEnd(const PROCESS_INFORMATION& process)
     return ::GetExitCodeProcess(program.Get(), &status) != 0 ? static_cast<int>(status) : -1;
 }
 
-// Returns the system's code of a failure, 0 for none. On a busy machine Wine fails to start about one program
-// in some thousand, with an internal error and before the program runs; then the start is repeated.
+// Returns the system's error code, or 0. On a busy machine Wine fails to start about one program in some
+// thousand, with an internal error and before the program runs. So this repeats the start after that error.
 DWORD Start(const std::string& program, const std::wstring& commandLine, const std::string& folder,
             STARTUPINFOW start, PROCESS_INFORMATION& process)
 {
