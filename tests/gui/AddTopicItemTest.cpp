@@ -1,4 +1,4 @@
-// Add Topic of the real main window.
+// The Add Topic item of the real main window.
 
 #include "gui/MainFormFixture.h"
 
@@ -30,7 +30,7 @@ TEST_F(AddTopicItemTest, newName_isListedLastSelectedAndShownWithItsText)
     EXPECT_EQ(script.Seen(),
               (Strings{"input|Lodestar Advisor|Topic Name:|", "form|TxEdForm|Topic Text Edit"}));
     test::TakePicture(form, "AddTopic");
-    global.book.BookChanged = false; // else the window asks when it closes
+    global.book.BookChanged = false; // otherwise the window asks when it closes
 }
 
 TEST_F(AddTopicItemTest, nameWithAPastedLineEnd_isOneLine)
@@ -41,7 +41,7 @@ TEST_F(AddTopicItemTest, nameWithAPastedLineEnd_isOneLine)
         box.findChild<QLineEdit*>()->setText(QStringLiteral("One\nTwo\n"));
         QTest::keyClick(&box, Qt::Key_Return);
     });
-    script.Escape(); // the text editor
+    script.Escape(); // closes the text editor
     test::Press(form, "AddTopicItem");
     EXPECT_EQ(global.book.TopicNames(4), "[One Two]");
     global.book.BookChanged = false;

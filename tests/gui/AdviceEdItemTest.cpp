@@ -25,7 +25,7 @@ struct AdviceEdItemFormTest : MainFormFixture
 {
     ModalScript script;
 
-    // The sample book of advisors, locked for editing and with the topic on show.
+    // Opens the sample book of advisors, locked for editing, and shows the topic.
     void OpenSample(const char* topic)
     {
         QFile sample(QStringLiteral(LS_SAMPLES "/Advice.IDA"));
@@ -49,7 +49,7 @@ struct AdviceEdItemFormTest : MainFormFixture
         Press(form, "GoToButton");
     }
 
-    // Goes on typing behind the last character.
+    // Types after the last character.
     static void TypeBehind(QWidget& editor, const char* box, const char* text)
     {
         auto* edit = Find<QPlainTextEdit>(editor, box);
@@ -95,7 +95,7 @@ TEST_F(AdviceEdItemFormTest, newRuleVariableQuestionChoiceAndAdvice_runAfterDone
         Press(editor, "VarAddButton");
         Type(editor, "VQuestionBox", QStringLiteral("Which season is it?"));
         Press(editor, "AddAnsButton");
-        Press(editor, "InsVarItem"); // the caret is where it was
+        Press(editor, "InsVarItem"); // inserts at the caret, which has not moved
         QTest::keyClicks(editor.focusWidget(), QStringLiteral("(AUTUMN)"));
         Pick(editor, "VarCombo", "CURE");
         Press(editor, "AddAnsButton");

@@ -1,4 +1,5 @@
-// What the real main window shows in a web browser: help and the author's web site; and its About box.
+// The items of the real main window that open a web browser (help and the author's web site), and its About
+// box.
 
 #include "gui/MainFormFixture.h"
 
@@ -18,7 +19,8 @@ struct BrowserItemsTest : MainFormFixture
     }
 };
 
-// The main window of a program whose help lies beside it: where that is counts when the window is made.
+// A program with help pages in its folder. The window looks for them when it is made, so they are written
+// first.
 struct HelpItemTest : BrowserItemsTest
 {
     std::string WriteHelp()

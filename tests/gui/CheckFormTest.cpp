@@ -1,4 +1,4 @@
-// Check Book of the real main window.
+// The Check Book item of the real main window.
 
 #include "gui/MainFormFixture.h"
 
@@ -48,7 +48,7 @@ struct CheckFormTest : MainFormFixture
                                  "<XREF TOPIC=None></XREF>", "[C]", "c", "<XREF TOPIC=\"<B>Gone\"></XREF>"}));
     }
 
-    /// Presses the item and does this to the form that comes.
+    /// Presses the item and runs `step` in the form that opens.
     void Check(test::ModalScript& script, std::function<void(QWidget& check)> step)
     {
         script.Do(std::move(step));

@@ -232,7 +232,7 @@ TEST_F(FileFormTest, pushBrowse_opensTheSelectorAfterTheCallReturned)
 {
     Load();
     test::ModalScript script;
-    script.Do([](QWidget&) {}).Escape(); // the form is modal as well
+    script.Do([](QWidget&) {}).Escape(); // for the form, which is modal too
     EXPECT_TRUE(dde.handler("push BROWSEBUTTON"));
     EXPECT_EQ(QApplication::activeModalWidget(), form.get()) << "the call returns before the button acts";
     EXPECT_TRUE(test::WaitFor([this, &script] {
@@ -333,7 +333,7 @@ TEST_F(FileFormTest, push_whileTheSelectorReadsItsFolder_beepsAndBlocks)
         return 0;
     };
     test::ModalScript script;
-    script.Escape().Escape(); // the first does nothing: the selector is on its way
+    script.Escape().Escape(); // the first does nothing, as the selector is opening
     test::Press(*form, "BrowseButton");
     world.files.fail = nullptr;
     EXPECT_EQ(script.Seen(),

@@ -1,4 +1,4 @@
-// Descriptors and memory of the real window over a long day: topics, dialogues, and books opened.
+// Descriptors and memory of the real window over a long day of topics, dialogues and opened books.
 
 #include "flat/Held.h"
 #include "gui/MainFormFixture.h"
@@ -12,12 +12,12 @@ namespace {
 
 using test::Held;
 
-// What Qt keeps for good while it learns (glyphs, texts of events) comes on top of what the rules hold.
+// Larger than without a window, because Qt's caches (glyphs, texts of events) grow too.
 constexpr test::Tolerance WindowsTolerance{256 * 1024, 16 * 1024 * 1024};
 
 struct FlatWindow : MainFormFixture
 {
-    // What grew while `work` was done so often, after a fifth of that to warm up.
+    // Runs `work` `times` times, after a fifth of that to warm up. Returns what has grown.
     static std::string GrowthOver(int times, const std::function<void(int)>& work)
     {
         for (int i = 0; i < times / 5; ++i) {
@@ -37,7 +37,7 @@ struct FlatWindow : MainFormFixture
         return Growth(before, after, WindowsTolerance);
     }
 
-    // Does that to each modal window as soon as it is there.
+    // Runs `act` on each modal window as soon as it opens.
     void Meet(std::function<void(QWidget&)> act)
     {
         QObject::connect(&timer, &QTimer::timeout, &timer, [act = std::move(act)] {

@@ -1,5 +1,5 @@
-// What readers with other fonts and colours need: no caption is cut in a larger font, forms take the
-// desktop's colours, and the page stays black on white.
+// What readers with other fonts and colours need: a larger font cuts no caption, forms have the desktop's
+// colours, and the page stays black on white.
 
 #include "files/FileForm.h"
 #include "forms/FormStyle.h"
@@ -26,7 +26,7 @@ std::string NameOf(const QWidget& control)
                                           : control.objectName().toStdString();
 }
 
-// What a control needs to show its caption whole; nothing for one that scrolls.
+// The size that a control needs to show its whole caption; 0 for one that scrolls.
 QSize Needed(const QWidget& control)
 {
     if (const auto* label = qobject_cast<const QLabel*>(&control); label != nullptr && label->wordWrap()) {
@@ -43,7 +43,7 @@ QSize Needed(const QWidget& control)
         return control.minimumSizeHint();
     }
     if (control.inherits("QLineEdit") && control.parentWidget()->inherits("QComboBox")) {
-        return {0, control.fontMetrics().height()}; // the list has the frame around it
+        return {0, control.fontMetrics().height()}; // the frame belongs to the combo box
     }
     const bool oneRow = control.inherits("QComboBox") || control.inherits("QLineEdit");
     return {0, oneRow ? control.sizeHint().height() : 0};
@@ -69,7 +69,7 @@ void ExpectNothingIsCut(const std::string& name, const QWidget& window)
     }
 }
 
-// The desktop's font, for as long as a test runs. It must be set before the main window is made.
+// Sets the desktop's font for one test. The main window must be made after it.
 struct DesktopFont
 {
     explicit DesktopFont(double points)
@@ -128,7 +128,7 @@ TEST_F(FormsAt20Points, captions_areWhole)
     ExpectAllFit();
 }
 
-// The pane's type has its own commands; the desktop's font moves it only.
+// The pane's type size has its own commands. The desktop's font only changes the pane's place.
 TEST_F(FormsAt14Points, pane_keepsItsTypeAndItsRoom)
 {
     StartOnFullBook();
@@ -227,7 +227,7 @@ struct DarkDesktop
     const QPalette before = QApplication::palette();
 };
 
-// The text of the pane without its border, which shows the focus in the desktop's colour.
+// The pane without its border, whose colour is the desktop's if the pane has the focus.
 QImage PagePicture(const ReadingPane& pane)
 {
     return const_cast<ReadingPane&>(pane).grab(pane.contentsRect()).toImage();
@@ -251,7 +251,7 @@ TEST_F(FormFitTest, darkDesktop_pageAndSelectionLookAsEver)
     EXPECT_EQ(page.pixelColor(page.width() - 1, page.height() - 1), QColor(Qt::white));
 }
 
-// How far the edge of an empty box stands out from its middle.
+// The contrast between the edge of an empty box and its middle.
 int EdgeContrast(QAbstractButton& button)
 {
     const QImage picture = button.grab().toImage();
@@ -283,7 +283,7 @@ TEST_F(FormFitTest, darkDesktop_emptyBoxesAreSeen)
     QApplication::setStyle(before);
 }
 
-// A form whose own colours were fixed would be bright in the dark, or black on black.
+// A form with fixed colours would be bright on a dark desktop, or black on black.
 TEST_F(FormFitTest, darkDesktop_everyFormFollows)
 {
     const DarkDesktop dark;

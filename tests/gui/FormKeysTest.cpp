@@ -1,5 +1,5 @@
-// What the keyboard needs in every window: a letter for Alt at everything that is worked, each letter once,
-// and a Tab key that goes as the eye does.
+// What users of the keyboard need in every window: each control has its own letter for Alt, and the Tab key
+// follows the reading order.
 
 #include "gui/EveryForm.h"
 
@@ -21,7 +21,7 @@ struct FormKeysTest : EveryForm
 {
 };
 
-// Keys and who has them. A second owner fails the test.
+// The owner of each key. A second owner fails the test.
 class KeyTable
 {
 public:
@@ -55,13 +55,13 @@ QString NameOf(const QWidget& control)
                                           : control.objectName();
 }
 
-// Controls that the form hides are to be free of clashes with those that it shows: they may come.
+// Hidden controls count too, because the form may show them later.
 void AddControls(const QWidget& form, KeyTable& keys)
 {
     for (const auto* button : form.findChildren<QAbstractButton*>()) {
         if (button->objectName().startsWith(QStringLiteral("qt_")) ||
             button->inherits("QLineEditIconButton")) {
-            continue; // the toolkit's own: for a menu bar that is too narrow, and to empty a box
+            continue; // buttons of the toolkit: for a menu bar that is too narrow, and to clear a box
         }
         if (!button->text().isEmpty()) {
             keys.AddLetter(button->text(), NameOf(*button));
@@ -132,7 +132,7 @@ QString ReadText(const char* path)
     return QString::fromUtf8(file.readAll());
 }
 
-// The keys that a sheet names, whole: "Ctrl+Page Up" names no "Ctrl+P".
+// The keys that a page names. They are compared whole: "Ctrl+Page Up" does not name "Ctrl+P".
 using Keys = std::set<QString>;
 
 Keys KeysOf(const QString& sheet, const QString& pattern)
@@ -146,7 +146,7 @@ Keys KeysOf(const QString& sheet, const QString& pattern)
     return keys;
 }
 
-// Its keys are set one by one: <kbd>Ctrl</kbd>+<kbd>G</kbd>.
+// The help page marks up each key: <kbd>Ctrl</kbd>+<kbd>G</kbd>.
 Keys KeysOfHelp()
 {
     QString page = ReadText(LS_HELP "/Lodestar_Reader.htm");
@@ -164,7 +164,7 @@ Keys KeysOfGuide()
                   QStringLiteral("<B>[^<]*</B>"));
 }
 
-// "Ctrl+PgUp" as a reader knows it.
+// The name that readers know: "Ctrl+Page Up" for "Ctrl+PgUp".
 QString KeyAsWritten(const QKeySequence& key)
 {
     return key.toString()
@@ -172,7 +172,7 @@ QString KeyAsWritten(const QKeySequence& key)
         .replace(QStringLiteral("PgDown"), QStringLiteral("Page Down"));
 }
 
-// The keys of all menus, and of the buttons that have no caption.
+// The keys of all menus, and of all buttons without a caption.
 Keys KeysOfForms(EveryForm& forms)
 {
     Keys keys;
@@ -203,7 +203,7 @@ TEST_F(FormKeysTest, sheetsOfKeys_nameEveryKeyOfMenusAndButtons)
     EXPECT_GT(keys.size(), 20U);
 }
 
-// What the pane, the find bar and the boxes for text do themselves has tests of its own.
+// Other tests check the keys of the pane, the find bar and text boxes.
 TEST_F(FormKeysTest, sheetsOfKeys_nameNoOtherKeys)
 {
     Keys known = KeysOfForms(*this);
@@ -244,8 +244,8 @@ bool Overlap(int start, int end, int otherStart, int otherEnd)
     return start < otherEnd && otherStart < end;
 }
 
-// What stands right of another in its row, or below it in its column, is read after it. Where neither holds,
-// as in two columns side by side, either may come first.
+// A control is read after those to its left in the same row and those above it in the same column. Controls
+// that share neither, as in two columns side by side, have no order.
 bool IsReadBefore(const QRect& first, const QRect& second)
 {
     const bool sameRow = Overlap(first.top(), first.bottom(), second.top(), second.bottom());

@@ -93,7 +93,7 @@ TEST_F(FormMessagesTest, enter_givesTheDefaultReply)
     }
 }
 
-// The text that the box paints, not only the one it was given.
+// The text of the label that the box shows. It must be plain text, not markup.
 std::string LabelText(const QWidget& box)
 {
     const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
@@ -239,7 +239,7 @@ TEST_F(FormMessagesTest, markupInAPrompt_isShownLiterally)
     });
     messages.InputBox("A <B>name</B> for \"Fish & Chips\"?", "Title", "First");
     EXPECT_EQ(format, Qt::PlainText);
-    // A lone "&" would vanish and underline the letter behind it.
+    // A single "&" would not be shown, and would underline the next letter.
     EXPECT_EQ(text, QStringLiteral("A <B>&name</B> for \"Fish && Chips\"?"));
 }
 

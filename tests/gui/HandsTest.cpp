@@ -11,7 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-// The hands of the other tests are only worth something when they notice what is wrong.
+// Tests the helpers that press controls for other tests: they must notice what is wrong.
 namespace ls {
 namespace {
 

@@ -1,5 +1,5 @@
-// The windows that the help pages picture, with the content of the sample books. With LS_PICTURES set, as
-// scripts/update-pictures does, the pictures are taken here.
+// The windows in the pictures of the help pages, with the sample books. scripts/update-pictures sets
+// LS_PICTURES; then this test takes the pictures.
 
 #include "files/OpenForm.h"
 #include "gui/MainFormFixture.h"
@@ -15,7 +15,7 @@ using test::TakePicture;
 
 struct HelpPictures : MainFormFixture
 {
-    // A copy, so that nothing in a sample is touched.
+    // Copies the sample, so that the original does not change.
     std::string Sample(const char* name)
     {
         const std::string path = Path(name);
@@ -24,7 +24,7 @@ struct HelpPictures : MainFormFixture
         return path;
     }
 
-    // Every user has another folder; the pictures show this one.
+    // Makes the pictures show the same folder for everybody.
     void PretendFolder()
     {
         processes.programFolder = Path("");
@@ -34,7 +34,7 @@ struct HelpPictures : MainFormFixture
         global.settings.RecentFiles[0] = "Guide.IDA";
     }
 
-    // Presses a button or item and takes a picture of the window that comes.
+    // Presses a button or item and takes a picture of the window that opens.
     Strings Picture(const char* control, const char* name, const std::function<void(QWidget&)>& before = {})
     {
         ModalScript script;

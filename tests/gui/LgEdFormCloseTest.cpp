@@ -1,4 +1,4 @@
-// Done, Specification and every way out of the logic editor's window.
+// Done, Specification, and every way to close the logic editor's window.
 
 #include "check/CheckBook.h"
 #include "gui/LgEdFormFixture.h"

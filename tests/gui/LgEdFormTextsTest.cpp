@@ -1,4 +1,4 @@
-// What is typed and inserted in the logic editor's boxes.
+// Typing and inserting text in the logic editor's boxes.
 
 #include "gui/LgEdFormFixture.h"
 #include "support/RowName.h"
@@ -12,7 +12,7 @@ using test::Press;
 
 using LgEdFormTexts = LgEdFormFixture;
 
-// The list's entry changes while the focus stays in the box, as by the wheel: no lost focus comes first.
+// The wheel can change a list's entry while the focus stays in the box. So no loss of focus comes first.
 TEST_F(LgEdFormTexts, listSwitchedUnderTheBox_storesItsTextFirst)
 {
     Load();
@@ -84,7 +84,7 @@ struct InsertCase
     Qt::Key key;
     const char* button;
     const char* item;
-    const char* list; ///< Enter in it does the same
+    const char* list; ///< Enter in this list does the same
     const char* inserted;
 };
 
@@ -112,7 +112,7 @@ TEST_P(LgEdFormInsert, buttonItemKeyAndEnterInTheList_insertAtTheCaret)
         EXPECT_EQ(form->focusWidget(), &Box("LogicTextbox")) << what;
         EXPECT_EQ(Box("LogicTextbox").textCursor().position(),
                   static_cast<int>(std::string(GetParam().inserted).size()))
-            << "the caret is behind it";
+            << "the caret is after it";
         Caret(0);
     };
     Press(*form, GetParam().button);
@@ -126,7 +126,7 @@ TEST_P(LgEdFormInsert, buttonItemKeyAndEnterInTheList_insertAtTheCaret)
     expectOneMore("key in another box");
     for (const char* list : {"KeywordCombo", "VarCombo", "AnswerCombo"}) {
         List(list).setFocus();
-        Key(GetParam().key); // also F4, which in other programs opens the list
+        Key(GetParam().key); // F4 too, although it opens the list in other programs
         expectOneMore(list);
     }
     List(GetParam().list).setFocus();
@@ -139,7 +139,7 @@ TEST_P(LgEdFormInsert, buttonItemKeyAndEnterInTheList_insertAtTheCaret)
 TEST_P(LgEdFormInsert, selection_isReplacedAndOneUndoBringsItBack)
 {
     LoadAndPick();
-    Press(*form, "SelectAllItem"); // of the box that had the focus last
+    Press(*form, "SelectAllItem"); // selects in the box that had the focus last
     Key(GetParam().key);
     EXPECT_EQ(Logic(), GetParam().inserted);
     Key(Qt::Key_Z, Qt::ControlModifier);

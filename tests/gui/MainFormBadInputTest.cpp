@@ -1,4 +1,5 @@
-// Files that are broken, missing, refused or changed under the program: a message, and a window that goes on.
+// Files that are damaged, missing, refused, or changed while open: each gives a message, and the window goes
+// on.
 
 #include "gui/MainFormFixture.h"
 

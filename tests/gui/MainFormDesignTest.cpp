@@ -1,4 +1,4 @@
-// The controls and menus as they are designed: names, captions, tool tips, pictures, places.
+// The design of the controls and menus: names, captions, tool tips, pictures, places.
 
 #include "forms/ButtonIcons.h"
 #include "gui/MainFormFixture.h"
@@ -33,8 +33,8 @@ TEST_F(MainFormDesignTest, icons_atTwiceTheScale_areDrawnInFullSize)
     }
 }
 
-// Help is the only one that may be missing: its page need not lie beside the program. No topic was shown
-// before the first one.
+// Two kinds may be disabled: Help if the program's folder has no help page, and the Go items, because no
+// other topic was shown before.
 TEST_F(MainFormDesignTest, items_areAllEnabled)
 {
     Start(WriteThree());

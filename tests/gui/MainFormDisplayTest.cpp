@@ -1,4 +1,4 @@
-// The pane with its scroll bar, and what a resize does.
+// The pane with its scroll bar, and the effect of a resize.
 
 #include "gui/MainFormFixture.h"
 

@@ -63,7 +63,7 @@ TEST_F(MainFormKeysTest, ctrlPageKeys_goAlongTheList)
 TEST_F(MainFormKeysTest, altLetters_pressTheButtonsWithoutCaption)
 {
     Start(WriteThree());
-    Key(Qt::Key_X, Qt::AltModifier); // the button is seen going down first
+    Key(Qt::Key_X, Qt::AltModifier); // acts a moment later, so that the user sees the button go down
     EXPECT_TRUE(test::WaitFor([this] { return PaneText() == "b"; }));
     Key(Qt::Key_B, Qt::AltModifier);
     EXPECT_TRUE(test::WaitFor([this] { return PaneText() == "a"; }));
@@ -105,7 +105,7 @@ struct FormKeyTest : MainFormKeysTest, testing::WithParamInterface<FormKey>
 TEST_P(FormKeyTest, ctrlLetter_opensItsForm)
 {
     Start(WriteThree());
-    global.book.LockBook = true; // else saving asks first
+    global.book.LockBook = true; // otherwise saving asks first
     ModalScript script;
     script.Escape();
     Key(GetParam().key, Qt::ControlModifier);
@@ -124,7 +124,7 @@ TEST_F(MainFormKeysTest, f1_showsTheHelpPage)
     const std::string page = Write("Lodestar_Reader.htm", "");
     registry.RegisterForUser(".HTM", "page", "/usr/bin/web");
     MainForm helped(global, seams, {*volumes, dde, registry, printer});
-    global.book.BookPath = WriteThree(); // else it asks for a book
+    global.book.BookPath = WriteThree(); // otherwise the program asks for a book
     test::ShowActive(helped);
     QTest::keyClick(helped.windowHandle(), Qt::Key_F1);
     EXPECT_EQ(processes.started, Strings{"/usr/bin/web " + page});

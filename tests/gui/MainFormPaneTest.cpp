@@ -248,6 +248,5 @@ TEST_F(MainFormPaneTest, findBar_anotherTopic_isCounted)
     EXPECT_EQ(Count(), "Not found") << "nothing is on show";
 }
 
-// As on a screen of large dots.
 } // namespace
 } // namespace ls

@@ -1,4 +1,4 @@
-// The type size in the main window, and what is kept when lines are broken anew.
+// The type size in the main window, and what stays when lines wrap at new places.
 
 #include "gui/MainFormPaneFixture.h"
 

@@ -172,7 +172,7 @@ TEST_F(MoveTopicsFormTest, keyboard_bothSteps)
     QTest::keyClick(form->windowHandle(), Qt::Key_End);
     QTest::keyClick(form->windowHandle(), Qt::Key_Return);
     ASSERT_TRUE(To().isVisible());
-    QTest::keyClick(form->windowHandle(), Qt::Key_Space); // the focus alone selects nothing
+    QTest::keyClick(form->windowHandle(), Qt::Key_Space); // the list has the focus, but no selection yet
     QTest::keyClick(form->windowHandle(), Qt::Key_Return);
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(Order(), "[C][A][B]");

@@ -1,4 +1,4 @@
-// The file selector on real folders that are closed, go away, or hold names that nobody expects.
+// The file selector on real folders that cannot be read, disappear, or have files with unusual names.
 
 #include "base/Volumes.h"
 #include "files/FileDialog.h"

@@ -37,7 +37,7 @@ Run MakeRun(int row, int column, std::string text, std::size_t face = RegularFac
     return run;
 }
 
-// A white picture of so many rows and columns on a screen of that scale, with the runs painted on it.
+// A white picture of that many rows and columns at that scale of the screen, with the runs painted on it.
 QImage Paint(const std::vector<ls::Run>& runs, double scale = 1, int rows = 1,
              const CellMetrics& cells = Cells())
 {
@@ -62,8 +62,8 @@ bool IsWhite(const QImage& image)
     return true;
 }
 
-// Every pixel that is inked in `part` is inked as strongly in `whole`: what was drawn there stands at the
-// same place, whatever was drawn around it.
+// Whether every pixel with ink in `part` has at least as much ink in `whole`. So `whole` shows the same
+// drawing at the same place, among others.
 bool Contains(const QImage& whole, const QImage& part)
 {
     for (int y = 0; y < part.height(); ++y) {
@@ -76,7 +76,7 @@ bool Contains(const QImage& whole, const QImage& part)
     return true;
 }
 
-// The first and last pixel column that has ink; first > last in a white picture.
+// The first and last pixel column with ink; first > last for a white picture.
 std::pair<int, int> InkedColumns(const QImage& image)
 {
     int first = image.width();
@@ -92,7 +92,7 @@ std::pair<int, int> InkedColumns(const QImage& image)
     return {first, last};
 }
 
-// Pixels of letters in red; the ink of thin strokes is paler than the colour itself.
+// The number of reddish pixels. Thin strokes are paler than the colour itself.
 int RedPixels(const QImage& image)
 {
     int count = 0;
@@ -105,7 +105,7 @@ int RedPixels(const QImage& image)
     return count;
 }
 
-// For each face and scale: does a row of 79 characters leave a bar behind them where blanks leave it?
+// For each face and scale: a bar after 79 characters must be at the same place as after 79 blanks.
 struct FaceAndScale
 {
     const char* name;
@@ -140,7 +140,7 @@ TEST_P(Grid, bar_standsInItsCell)
 {
     const auto [first, last] = InkedColumns(bar);
     EXPECT_GE(first, std::floor(79 * Cells().charWidth * scale));
-    EXPECT_LT(last, std::ceil(80.5 * Cells().charWidth * scale)); // a slanted one may lean a little
+    EXPECT_LT(last, std::ceil(80.5 * Cells().charWidth * scale)); // a slanted bar may lean out of its cell
 }
 
 TEST_P(Grid, anyCharacterSeventyNineTimes_leavesTheBarInPlace)
@@ -191,7 +191,7 @@ TEST_P(Grid, cellByCell_paintsAsInOneGo)
     EXPECT_EQ(Paint(runs, scale, 1, cells), oneGo);
 }
 
-// A font whose letters differ in width, as when none of fixed pitch is installed.
+// A proportional font, as if no font of fixed pitch were installed.
 TEST_P(Grid, proportionalFont_isForcedIntoTheCells)
 {
     QFont sans(QStringLiteral("Liberation Sans"));
@@ -276,13 +276,14 @@ TEST(PaintRuns, outsideTheArea_isNotDrawn)
     const auto [first, last] = InkedColumns(image);
     EXPECT_LT(first, Cells().charWidth);
     EXPECT_GT(last, 9 * Cells().charWidth);
-    EXPECT_LT(last, 12 * Cells().charWidth); // one cell more than the area, for letters that lean into it
+    EXPECT_LT(last,
+              12 * Cells().charWidth); // letters lean into one cell more
 }
 
 TEST(PaintRuns, areaInTheMiddle_paintsWhatThePartOfTheWholeShows)
 {
     const std::vector<ls::Run> runs = {MakeRun(1, 1, std::string(80, 'f'), BoldFace + ItalicFace)};
-    // From the left edge of a cell on: the letter before it leans into the area.
+    // Begins at the left edge of a cell. The letter before it leans into the area.
     const QRect middle(static_cast<int>(std::lround(13 * Cells().charWidth)), 0, 57,
                        static_cast<int>(Cells().rowHeight));
     QImage image = Paint({});

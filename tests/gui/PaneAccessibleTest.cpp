@@ -1,4 +1,4 @@
-// The reading pane as a screen reader meets it.
+// The reading pane as a screen reader sees it.
 
 #include "gui/PaneFixture.h"
 
@@ -23,7 +23,7 @@ struct PaneAccessibleTest : test::PaneFixture
         return *found;
     }
 
-    // "start-end text" of the line around an offset, or the one before or after it.
+    // "start-end text" of the line around an offset; `away` -1 or 1 is the line before or after it.
     std::string Line(int offset, int away = 0)
     {
         int start = -2;

@@ -1,4 +1,4 @@
-// What the reading pane tells screen readers, and other programs, while it is used. Needs a real display.
+// The events that the reading pane sends to screen readers and other programs. Needs a real display.
 
 #include "gui/PaneFixture.h"
 
@@ -9,7 +9,7 @@
 namespace ls {
 namespace {
 
-// What happened, as "kind position".
+// The recorded events, as "kind position".
 std::vector<std::string>* events = nullptr;
 
 void Record(QAccessibleEvent* event)

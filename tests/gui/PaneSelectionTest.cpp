@@ -1,4 +1,4 @@
-// Selecting and copying in the reading pane, and its caret.
+// Selection, copying and the caret in the reading pane.
 
 #include "gui/PaneFixture.h"
 

@@ -1,4 +1,4 @@
-// Printing through a real printing service, which tests/gui/with-cups starts and ends.
+// Prints through a real printing service, which tests/gui/with-cups starts and ends.
 
 #include "gui/MainFormFixture.h"
 #include "gui/PdfTools.h"
@@ -53,7 +53,7 @@ protected:
         }
     }
 
-    // The one file that a job arrives in; empty when none comes.
+    // Waits up to half a minute for the file of a print job. Returns its path, or "".
     [[nodiscard]] std::string Arrived() const
     {
         std::string path;
@@ -69,7 +69,7 @@ protected:
         return path;
     }
 
-    // Chooses in the print dialog; empty names keep what it shows.
+    // Makes choices in the print dialog. An empty name leaves its choice unchanged.
     static void Choose(QWidget& dialog, const char* printerName, const char* paper = "", bool elite = false)
     {
         ASSERT_EQ(dialog.objectName(), QStringLiteral("PrtForm"));
@@ -89,7 +89,7 @@ protected:
         return QProcess::execute(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command}) == 0;
     }
 
-    // The topic as a PDF file, printed as the printer was set last.
+    // Prints the topic to a PDF file, with the settings of the last print.
     std::string PrintPdf(int paper)
     {
         EXPECT_TRUE(systemPrinter.Choose(PrintToPdf).Ok());
@@ -164,7 +164,7 @@ TEST_F(PrintCupsTest, job_arrivesWithItsPagesAndLooksLikeThePdf)
     }
 }
 
-// The comparison of pictures must be able to fail.
+// Proves that the comparison of pictures can fail.
 TEST_F(PrintCupsTest, pictures_ofOtherPages_differ)
 {
     global.print.CharsPerInch = 10;
@@ -258,7 +258,7 @@ TEST_F(PrintCupsTest, printerRemovedAfterItWasChosen_isTold)
             Choose(dialog, "Laser");
             EXPECT_TRUE(RunTool("LS_CUPS_REMOVE", "Laser"));
             Press(dialog, "OKButton");
-            // The box over the dialog has been answered; the dialog is still there.
+            // The script has answered the box. The dialog is still open.
             Press(dialog, "CancelButton");
         })
         .Answer(Reply::Ok);

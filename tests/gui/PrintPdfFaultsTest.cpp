@@ -1,4 +1,4 @@
-// PDF files that cannot be written, or not whole.
+// PDF files that cannot be written, or only in part.
 
 #include "gui/PrintPdfFixture.h"
 #include "support/MemoryFileSystem.h"
@@ -63,7 +63,7 @@ TEST_P(PrintPdfBadPlace, fileThatCannotBeWritten_isAnErrorAndLeavesNothing)
     }
     printer.SetFile(path, true);
     EXPECT_EQ(PrintTopic(book, seams, printer, settings, "A", 1).error.number, GetParam().error);
-    // The next one goes well.
+    // The next print succeeds.
     EXPECT_EQ(test::PdfPages(Print(1, "good")), (PageRows{{"A", "x"}}));
 }
 
@@ -88,7 +88,7 @@ TEST_F(PrintPdfTest, noRoomForTheWork_isAnErrorAndNotDone)
     EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
 }
 
-// As on a disk that is full: what the toolkit writes is cut, and it does not tell.
+// The limit acts like a full disk: the toolkit writes only a part of the file and reports no error.
 TEST_F(PrintPdfTest, pagesCutWhileTheyAreMade_areNotTakenForDone)
 {
     Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));
@@ -108,7 +108,7 @@ TEST_F(PrintPdfTest, pagesCutWhileTheyAreMade_areNotTakenForDone)
     EXPECT_EQ(test::PdfPages(Print(1)), (PageRows{{"A", "x"}}));
 }
 
-// Each call in turn, for a file that is new and for one that is replaced.
+// Each call fails in turn, for a new file and for one that is replaced.
 TEST_F(PrintPdfTest, eachCallFailingWhileTheFileIsStored_keepsTheOldOneAndLeavesNoHalfOne)
 {
     Open(folder.Write("a.IDA", "LODESTAR BOOK V5.3\r\n[A]\r\nx\r\n"));

@@ -1,4 +1,4 @@
-// Pages in real PDF files, looked at by other programs.
+// Pages in real PDF files, read by other programs.
 
 #include "gui/PrintPdfFixture.h"
 #include "support/RowName.h"
@@ -75,7 +75,7 @@ struct SheetCase
     int paper;
     int charsPerInch;
     bool landscape;
-    int pages; ///< that 200 lines and a title take
+    int pages; ///< of 200 lines and a title
     const char* size;
 };
 
@@ -165,7 +165,7 @@ TEST_F(PrintPdfTest, fonts_areEmbeddedWithTheirCharacters)
     std::getline(fonts, line);
     const std::size_t embedded = line.find("emb");
     const std::size_t unicode = line.find("uni");
-    std::getline(fonts, line); // a rule
+    std::getline(fonts, line); // the line of hyphens below the heads
     int count = 0;
     while (std::getline(fonts, line)) {
         EXPECT_EQ(line.substr(embedded, 3), "yes") << line;

@@ -17,7 +17,7 @@ struct PrtFormTest : MainFormFixture
 {
     PrtFormTest() { printer.names = {"Office", "Attic", "Print to PDF"}; }
 
-    // Opens the dialog by the menu and does something in it, which must close it.
+    // Opens the dialog by the menu and runs `step` in it, which must close it.
     void InDialog(ModalScript& script, const std::function<void(QWidget& dialog)>& step)
     {
         script.Do([step](QWidget& dialog) {
@@ -26,7 +26,7 @@ struct PrtFormTest : MainFormFixture
         });
     }
 
-    // What the dialog shows, chosen entries only: "Office|Letter 8.5 x 11 in.|Pica (10 chars/inch)|colour".
+    // The chosen entries of the dialog: "Office|Letter 8.5 x 11 in.|Pica (10 chars/inch)|colour".
     static std::string Shown(const QWidget& dialog)
     {
         std::string text;
@@ -153,7 +153,7 @@ TEST_F(PrtFormTest, pdf_asksForItsNameAndBeforeItReplacesAFile)
     ModalScript script;
     InDialog(script, [](QWidget& dialog) {
         Pick(dialog, "PrinterCombo", 2);
-        Press(dialog, "OKButton"); // No to the question
+        Press(dialog, "OKButton"); // the script answers No
         EXPECT_TRUE(dialog.isVisible());
         Press(dialog, "OKButton"); // Yes
     });

@@ -16,7 +16,7 @@ namespace {
 
 using test::ShowActive;
 
-// A window with a pane and its bar: 100 lines, a page of 10.
+// A window with a pane and its scroll bar: 100 lines, 10 lines a page.
 class ReadingPaneTest : public testing::Test
 {
 protected:
@@ -40,7 +40,7 @@ protected:
         QApplication::sendEvent(pane, &event);
     }
 
-    // How the pane looks, on a screen of that scale.
+    // A picture of the pane, on a screen of that scale.
     QImage Look(double scale = 1)
     {
         QImage image((QSizeF(pane->size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);

@@ -21,7 +21,7 @@ constexpr const char* TheFileForm = "form|FileForm|Lodestar Advisor Save";
 
 struct SaveItemFormTest : MainFormFixture
 {
-    // "Three.IDA", locked for editing and its second topic edited.
+    // Opens "Three.IDA", locked for editing, and edits its second topic.
     void StartEdited()
     {
         Start(WriteThree());
@@ -35,7 +35,7 @@ struct SaveItemFormTest : MainFormFixture
         global.book.BookChanged = true;
     }
 
-    // "Long.IDA" of 8 MB, locked for editing and marked as changed.
+    // Opens "Long.IDA" of 8 MB, locked for editing, and marks it as changed.
     void StartLong()
     {
         std::string book = "LODESTAR BOOK V5.3\r\n[First]\r\nf\r\n";

@@ -1,5 +1,5 @@
-// The whole way of an author through the real window, on real files: open or begin a book, change it in the
-// real forms, save it through the real file form, go on in the new file, and open that again.
+// An author's whole work in the real window, on real files: opens or begins a book, changes it in the real
+// forms, saves it by the real file form, goes on in the new file, and opens that file again.
 
 #include "gui/AuthorFixture.h"
 
@@ -36,7 +36,7 @@ std::string BookName(const testing::TestParamInfo<std::string>& row)
     return name;
 }
 
-// An edited topic is saved with an empty line behind its text; where it has a reference that line is not
+// An edited topic is saved with an empty line after its text. If the topic has a reference, that line is not
 // shown.
 void ExpectSameText(const Strings& shown, Strings before)
 {
@@ -91,7 +91,7 @@ TEST_P(WholeWay, topicsAddedRemovedRestoredAndMoved_areSavedSoAndTheirBytesStay)
     Add("Brand New", QStringLiteral("Fresh text."));
     ToggleRemoved({0, 1});
     EXPECT_EQ(Titles().size(), titles.size() - 1);
-    ToggleRemoved({0}); // this restores it
+    ToggleRemoved({0}); // restores it
     MoveToStart(-1);
     EnterProperties();
     Save("Book (001).IDA");
