@@ -342,7 +342,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ValuesRow{"nested", {"AV(1)=X(A(B))"}, "A(B, 1"}),
     [](const auto& row) { return row.param.name; });
 
-// A simple model of the rules, without an index; the engine must agree with it.
+// A simple model of the engine, without an index. Both must give the same results.
 class PlainModel
 {
 public:
@@ -515,7 +515,7 @@ std::string RandomRules(std::mt19937& random, Texts& rules)
     return seen;
 }
 
-// The engine keeps an index of the rules from answer to answer, which must always match their texts.
+// The engine's index of the rules must match their texts after every answer.
 TEST(InferenceModel, answerAfterAnswer_givesWhatThePlainReadingGives)
 {
     std::mt19937 random(20240711);

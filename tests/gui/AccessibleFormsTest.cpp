@@ -1,5 +1,4 @@
-// What every form tells a screen reader of its controls: a name, a role, and the label that stands beside a
-// box.
+// What a screen reader learns about the controls of every form: the name, the role, and the label of a box.
 
 #include "authoring/MoveTopicsForm.h"
 #include "gui/EveryForm.h"
@@ -16,14 +15,14 @@
 namespace ls {
 namespace {
 
-// A control that the form's design names; what the toolkit puts inside of others is its own affair.
+// Whether the form's design names the control. The toolkit's parts of controls do not count.
 bool IsOwn(const QWidget& control)
 {
     const QString name = control.objectName();
     return !name.isEmpty() && !name.startsWith(QStringLiteral("qt_"));
 }
 
-// Containers and lines are no controls, and a menu goes by the name of the item that opens it.
+// Containers and lines are no controls. A menu has the name of the item that opens it.
 bool IsControl(const QWidget& widget)
 {
     const QString kind = QString::fromLatin1(widget.metaObject()->className());
@@ -32,7 +31,7 @@ bool IsControl(const QWidget& widget)
            kind != QStringLiteral("QMenu") && kind != QStringLiteral("QMenuBar");
 }
 
-// What is filled in or chosen from, and so needs a caption beside it.
+// A control to type or choose in, which needs a label beside it.
 bool IsBox(const QWidget& widget)
 {
     return IsOwn(widget) && (qobject_cast<const QComboBox*>(&widget) != nullptr ||
@@ -64,7 +63,7 @@ using Names = std::set<std::string>;
 
 struct AccessibleFormsTest : EveryForm
 {
-    /// Does something with every form: its name comes with it. Message boxes are the toolkit's.
+    /// Calls `look` for every form, with its name. Message boxes are left out, as they belong to the toolkit.
     void WithEach(const std::function<void(QWidget& window, const std::string& name)>& look)
     {
         ForEach([&look](const std::string& name, QWidget& window) {
@@ -75,7 +74,7 @@ struct AccessibleFormsTest : EveryForm
     }
 };
 
-// On this system a combo box is named by what is chosen in it, and known by its label.
+// On this system the name of a combo box is its chosen entry, so its label must identify it.
 TEST_F(AccessibleFormsTest, everyControl_hasANameAndARole)
 {
     Names without;
@@ -98,7 +97,7 @@ TEST_F(AccessibleFormsTest, everyControl_hasANameAndARole)
     EXPECT_EQ(without, Names{});
 }
 
-// Those without a label are told apart by their names alone.
+// The boxes listed here have no label. Only their names distinguish them.
 TEST_F(AccessibleFormsTest, everyBox_isTheBuddyOfALabel)
 {
     Names without;
@@ -115,7 +114,7 @@ TEST_F(AccessibleFormsTest, everyBox_isTheBuddyOfALabel)
                      "MoveTopicsForm.MoveToList", "CheckForm.FindingList", "CheckForm.TextBox"}));
 }
 
-// The others are captions of a whole form, or tell something.
+// The labels listed here are captions of a whole form, or show a text.
 TEST_F(AccessibleFormsTest, labelsWithoutABuddy_areThese)
 {
     Names lone;

@@ -23,7 +23,7 @@ const char* const NoDefinition =
 
 struct AdvFormTest : MainFormFixture
 {
-    // A book whose topic "Weather" has these logic lines and definitions.
+    // Opens a book whose topic "Weather" has these logic lines and definitions.
     void StartWith(std::initializer_list<const char*> block)
     {
         Start(Write("Advisor.IDA",
@@ -329,7 +329,7 @@ TEST_F(AdvFormTest, adviceBook_stainAskedAgain_opensOnItsAdviceBehindTheBox)
     test::ModalScript script;
     QString advice;
     script.Do([&advice](QWidget& window) {
-        Answer(window, 2); // below the empty item and "? - unsure"
+        Answer(window, 2); // the first answer after the empty item and "? - unsure"
         Answer(window, 1);
         advice = Text(window);
         test::Press(window, "NextButton");
@@ -346,11 +346,11 @@ TEST_F(AdvFormTest, adviceBook_stainAskedAgain_opensOnItsAdviceBehindTheBox)
     test::Press(form, "AdvisorButton");
 }
 
-// Nothing thrown may reach the window's event loop: it would end the program without a word.
+// An exception that reaches the window's event loop would end the program without a message.
 TEST(AdvFormFaults, memoryRunsOutWhileAnswering_isReportedAndTheWindowStays)
 {
     test::TestSeams world;
-    const std::string farAway(200'000, 'x'); // beyond what was read so far
+    const std::string farAway(200'000, 'x'); // so that the other topic is not read yet
     world.files["/far.IDA"] =
         test::CrLf({"LODESTAR BOOK V5.3", "[Near]", "<IXML>", "<LOGIC>", "DEFINE B@Far", "AV(GO)=A(1)B(1)",
                     "AV(STAY)=A(2)B(2)", "AV(WAIT)=A(1)B(2)", "<DEFINITIONS>", "<Q ID=A>A?</Q>",

@@ -1,4 +1,4 @@
-// How the logic editor's window is made: its controls and sizes.
+// The controls and sizes of the logic editor's window.
 
 #include "gui/LgEdFormFixture.h"
 

@@ -10,7 +10,7 @@ using test::Press;
 
 struct MainFormHugeTest : MainFormFixture
 {
-    // A file with a line of 100 MiB and a little more: what stands before its "w"s, and behind them.
+    // A file with a line of 100 MiB of "w", with these texts before and after it.
     std::string WriteHuge(const char* before, const char* behind)
     {
         QFile file(QString::fromStdString(Path("Huge.IDA")));

@@ -1,4 +1,4 @@
-// The window at the limits of counts, sizes and paths.
+// The window with the largest counts, sizes and paths.
 
 #include "gui/MainFormFixture.h"
 #include "support/LimitBooks.h"
@@ -27,7 +27,7 @@ constexpr const char* Overflow = "critical|Lodestar Advisor|Overflow";
 
 struct MainFormLimitsTest : MainFormFixture
 {
-    // A book of "A" and "B", and between them "Hole": 4 GiB of zero bytes that take no room on the disk.
+    // Topics "A", "Hole" and "B". "Hole" has 4 GiB of zero bytes that take no room on the disk.
     std::string WriteWithHole()
     {
         const std::string path = Write("Hole.IDA", BookHeader + std::string("[A]\r\na\r\n[Hole]\r\n"));
@@ -129,7 +129,7 @@ TEST_F(MainFormLimitsTest, bookPastFourGibibytes_isReadBehindThem)
     EXPECT_EQ(PaneText(), "b");
 }
 
-// While one lives, the program may take this much more memory.
+// Limits the memory that the program may take in addition, until it is destroyed.
 class MemoryLeft
 {
 public:

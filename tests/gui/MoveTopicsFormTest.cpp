@@ -83,7 +83,7 @@ TEST_F(MoveTopicsFormTest, load_nothingToMove_saysSoAndHidesTheButton)
 {
     Load({"A"});
     book.TopicRecs(1).Deleted = true;
-    flags.TopicsRearranged = true; // by the last time
+    flags.TopicsRearranged = true; // left from the last use of the form
     Show();
     EXPECT_EQ(Instruction(), QStringLiteral("There are no topics available to move."));
     EXPECT_FALSE(Find<QPushButton>(*form, "DoneButton")->isVisible());

@@ -25,14 +25,14 @@ namespace {
 struct RecoveryTest : AuthorFixture
 {
     RecoveryTest() { QObject::connect(&form, &MainForm::CommandDone, &keeper, &JournalKeeper::Keep); }
-    ~RecoveryTest() override { global.book.BookChanged = false; } // else the window asks when it closes
+    ~RecoveryTest() override { global.book.BookChanged = false; } // otherwise the window asks when it closes
 
     std::string state = Path("state");
     OwnJournal journal{seams, state, [] { return "own"; }};
     JournalKeeper keeper{global.book, seams, journal, [this] { return form.Busy(); },
                          [this](const std::string& text) { ShowNotice(&form, text); }};
 
-    /// What stands in the journal now.
+    /// The journal on disk now; empty if there is none.
     Journal Standing()
     {
         JournalReading reading;
@@ -43,8 +43,8 @@ struct RecoveryTest : AuthorFixture
         return reading.journal;
     }
 
-    /// The form of that item opens; the step is done in it, and what was typed is waited for, until it stands
-    /// in the journal. Then the form is cancelled.
+    /// Opens the form of that item, runs `step` in it, waits until the typed text is in the journal, and
+    /// cancels the form. Returns the journal.
     Journal Typed(const char* item, const std::function<void(QWidget&)>& step)
     {
         Journal seen;
@@ -123,7 +123,7 @@ TEST_F(RecoveryTest, checkedForRemoval_standsWhileTheFormIsOpen)
     EXPECT_FALSE(journal.Stands());
 }
 
-// The question about "[...]" waits for its answer as long as the author likes.
+// The author may leave the question about "[...]" open for a long time. The journal must be written before.
 TEST_F(RecoveryTest, boxOverTheEditor_whatWasTypedBeforeItStands)
 {
     Start(WriteThree());
@@ -133,7 +133,7 @@ TEST_F(RecoveryTest, boxOverTheEditor_whatWasTypedBeforeItStands)
     script
         .Do([](QWidget& editor) {
             test::Type(editor, "MainTxBox", QStringLiteral("[Heading]"));
-            test::Press(editor, "SaveButton"); // returns when the box is answered
+            test::Press(editor, "SaveButton"); // returns after the answer to the box
             static_cast<QDialog&>(editor).done(QDialog::Rejected);
         })
         .Do([this, &seen](QWidget& box) {
@@ -148,7 +148,7 @@ TEST_F(RecoveryTest, boxOverTheEditor_whatWasTypedBeforeItStands)
     EXPECT_EQ(seen.running.text->utf8, "[Heading]");
 }
 
-// Save Info in the form that asks for a file: the properties are accepted while that form is still open.
+// Save Info accepts the properties while the form that asks for a file is still open.
 TEST_F(RecoveryTest, propertiesAcceptedWhileSaving_stand)
 {
     Start(WriteThree());
@@ -187,8 +187,8 @@ TEST_F(RecoveryTest, topicAddedAndItsEditorOpen_stands)
     test::Press(form, "AddTopicItem");
 }
 
-// The promise is two seconds. Typed at any moment between two looks, and seen in the file as another program
-// would see it.
+// Typing must be in the journal within two seconds. The test types at random moments between two looks, and
+// reads the file as another program would.
 TEST_F(RecoveryTest, typing_standsWithinTwoSeconds)
 {
     constexpr int rounds = 8;
@@ -243,7 +243,7 @@ TEST_F(RecoveryTest, cannotBeWritten_isToldOnceWithoutStoppingTheWork)
     test::Press(form, "EdTextItem");
 }
 
-// No look came between the typing and the fault.
+// The journal is not written between the typing and the fault.
 TEST_F(RecoveryTest, faultInTheTextEditor_keepsWhatWasTypedUntilThen)
 {
     Start(WriteThree());
@@ -310,7 +310,7 @@ TEST_F(RecoveryTest, recoveredAtTheStart_isShownAndCanBeSaved)
                              [](const std::string&) { return RecoveryChoice::Recover; });
     });
     form.show();
-    Settle(); // no Open form comes
+    Settle(); // the Open form must not appear
     EXPECT_EQ(PaneText(), "recovered");
     EXPECT_EQ(ItemTexts(), (Strings{"1. A", "2. B", "3. C"}));
     EXPECT_TRUE(global.book.BookChanged);

@@ -53,7 +53,7 @@ struct TxEdFormTest : testing::Test
     [[nodiscard]] std::string Selected() const { return Box().textCursor().selectedText().toStdString(); }
     [[nodiscard]] int Caret() const { return Box().textCursor().position(); }
 
-    /// Presses a key where the focus is.
+    /// Presses a key in the control that has the focus.
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         QTest::keyClick(form->windowHandle(), key, modifiers);
@@ -72,7 +72,7 @@ TEST_F(TxEdFormTest, load_showsTheText)
 {
     Load("caf\xE9 <B>b</B>\r\n\r\n[x\xA0y\r\n");
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Topic Text Edit"));
-    EXPECT_EQ(Text(), "caf\xC3\xA9 <B>b</B>\n\n[x y\n"); // the box gives a hard blank as an ordinary one
+    EXPECT_EQ(Text(), "caf\xC3\xA9 <B>b</B>\n\n[x y\n"); // the box returns a no-break space as a blank
     ASSERT_EQ(Symbols().count(), 3);
     EXPECT_EQ(Symbols().itemText(0) + Symbols().itemText(1) + Symbols().itemText(2), QStringLiteral("<>&"));
     EXPECT_EQ(Symbols().currentText(), QString());

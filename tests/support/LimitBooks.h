@@ -9,7 +9,7 @@ namespace ls::test {
 inline constexpr int Limit = 32767;
 inline constexpr const char* BookHeader = "LODESTAR BOOK V5.3\r\n";
 
-/// A book of a header, `before`, `count` times what `piece` gives for 1, 2, ..., and `behind`.
+/// A book: the header, `before`, the results of `piece` for 1 to `count`, and `behind`.
 inline std::string BookOfMany(int count, const std::string& before,
                               const std::function<std::string(int)>& piece, const std::string& behind = {})
 {
