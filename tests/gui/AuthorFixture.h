@@ -44,7 +44,7 @@ struct AuthorFixture : MainFormFixture
     {
         test::ModalScript script;
         script
-            .Do([this, name](QWidget& chooser) {
+            .Do([name](QWidget& chooser) {
                 const std::string offered =
                     test::Find<QComboBox>(chooser, "FilenameBox")->currentText().toStdString();
                 EXPECT_EQ(offered.substr(offered.rfind('/') + 1), name);

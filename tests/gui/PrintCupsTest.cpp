@@ -94,7 +94,7 @@ protected:
     {
         EXPECT_TRUE(systemPrinter.Choose(PrintToPdf).Ok());
         EXPECT_TRUE(systemPrinter.SetPaperSize(paper).Ok());
-        systemPrinter.SetColour(global.print.PrintInColour);
+        EXPECT_TRUE(systemPrinter.SetColour(global.print.PrintInColour).Ok());
         systemPrinter.SetFile(Path("own.pdf"), true);
         const Printed printed = PrintTopic(global.book, seams, systemPrinter, global.print,
                                            global.book.CurrentTopicName, global.book.CurrentTopicNo);

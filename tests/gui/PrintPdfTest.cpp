@@ -201,9 +201,9 @@ TEST_F(PrintPdfTest, blackAndWhite_hasNoColour)
         }
         return count;
     };
-    printer.SetColour(false);
+    EXPECT_TRUE(printer.SetColour(false).Ok());
     EXPECT_EQ(coloured(Print(1)), 0);
-    printer.SetColour(true);
+    EXPECT_TRUE(printer.SetColour(true).Ok());
     settings.PrintInColour = true;
     EXPECT_GT(coloured(Print(1)), 20);
 }
