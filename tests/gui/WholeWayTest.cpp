@@ -61,8 +61,7 @@ TEST_P(WholeWay, edit_firstMiddleAndLastTopic_areSavedAndAllOthersAreTheSameByte
         Strings expected = before;
         expected.insert(expected.begin(), "[" + std::string(TypedLine) + "]");
         EXPECT_EQ(shown.back(), expected);
-        const int number = static_cast<int>(index) + 1;
-        bytes[index] = EditedBytes(number);
+        bytes[static_cast<std::size_t>(index)] = EditedBytes(index + 1);
     }
     EXPECT_TRUE(global.book.BookChanged);
     EXPECT_EQ(Read(Path("Book.IDA")), Read(GetParam())) << "the old file is never touched";
