@@ -5,6 +5,7 @@
 #include "base/CodePage.h"
 #include "base/Messages.h"
 #include "base/ProgramEnd.h"
+#include "book/BookWords.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -30,8 +31,6 @@
 namespace ls {
 
 namespace {
-
-constexpr std::string_view AdviceGoal = "AV";
 
 // The value after the first "VAR(" (`head`) in the rule's text.
 std::optional<std::string_view> ValueIn(std::string_view rule, std::string_view head)
@@ -208,7 +207,7 @@ std::string Inference::AssertFact(const std::string& var, Count16 topic, const s
         if (found->target == 1) {
             // The dialogue's own goal. Answers may settle it while sub-goals are open. Its advice counts even
             // then; otherwise the user would read that no question can be found.
-            return found->var == AdviceGoal ? found->value : Fact(found->var, found->value);
+            return found->var == DefaultGoal ? found->value : Fact(found->var, found->value);
         }
         ReduceRules(found->var, found->value);
         // The top of the stack is removed, even if the goal with the fired rule is below it.

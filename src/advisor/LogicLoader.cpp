@@ -168,7 +168,7 @@ bool Loader::TakeLine(LogicLine kind, std::string line)
         return true;
     case LogicLine::Rule:
         return TakeRule(std::move(line));
-    // A command, or another word of the book format, which fails as an unknown command.
+    // A command. Another word of the book format fails here as an unknown command.
     default:
         return TakeCommand(line);
     }
@@ -282,7 +282,7 @@ bool Loader::NoteLoaded()
     // Indexed here, so that the first answer is not slower.
     m_tables.Index.Follow(m_tables.LogicRules, m_tables.RuleCount);
     if (m_tables.TargetCount == 0 &&
-        !Append(m_tables.Targets, m_tables.TargetCount, std::string("AV"), TargetGrowthStep)) {
+        !Append(m_tables.Targets, m_tables.TargetCount, std::string(DefaultGoal), TargetGrowthStep)) {
         return OverflowFails();
     }
     return Append(m_tables.LogicTopics, m_tables.LogicTopicCount, m_topic, AdvisorGrowthStep) ||

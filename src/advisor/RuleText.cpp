@@ -36,7 +36,7 @@ void ReduceRule(std::string& rule, std::string_view head, std::string_view fact)
     if (at == None) {
         return;
     }
-    // The fact begins with the head, so it cannot come before the first occurrence of the head.
+    // `head` is "VAR(" and `fact` is "VAR(VALUE)", so the fact cannot come before the first head.
     if (at < rule.find('=') || rule.find(fact, at) == None) {
         rule.clear();
         return;

@@ -27,9 +27,9 @@ public:
     [[nodiscard]] const std::string& Text() const { return m_text; }
 
 private:
-    // Orders commas by the text before them, compared backwards, so that commas after equal ends are
-    // adjacent. Only the last 64 characters count; otherwise values of many commas would make comparisons
-    // slow.
+    // Finds whether a value ends at some comma. The commas are ordered by the text before them, compared
+    // backwards, so that commas after equal texts are adjacent. Only the last 64 characters count; otherwise
+    // values of many commas would make comparisons slow.
     struct FromTheEnd
     {
         using is_transparent = void;

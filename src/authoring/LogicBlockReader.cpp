@@ -113,7 +113,7 @@ bool Reader::FindLogic()
     return false;
 }
 
-// A comment of one or two characters is written with "</LOGIC>" on its line. Removes that tag.
+// Removes "</LOGIC>" from the line of a comment of one or two characters, which is saved with that tag.
 void CutRunInTag(std::vector<std::string_view>& lines)
 {
     if (lines.size() == 1 && lines[0].starts_with('*') && lines[0].ends_with(LogicClosing) &&

@@ -17,7 +17,7 @@ struct EntryTags
 inline constexpr EntryTags QuestionTags = {QuestionOpening, QuestionClosing};
 inline constexpr EntryTags AdviceTags = {AdviceOpening, AdviceClosing};
 
-/// A text of one line that is shorter than this is on the line of its tags.
+/// A one-line text below this length shares the line of its tags.
 inline constexpr std::size_t OwnLinesLength = 60;
 
 /// The advisor cuts longer texts of entries.

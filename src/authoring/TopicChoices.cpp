@@ -11,11 +11,6 @@ namespace {
 
 constexpr const char* StartEntry = "** Start **";
 
-std::string Title(const Book& book, int number)
-{
-    return WithoutBrackets(book.TopicNames(number));
-}
-
 bool Deleted(const Book& book, int number)
 {
     return book.TopicRecs(number).Deleted;
@@ -37,7 +32,7 @@ std::vector<RemovalEntry> RemovalEntries(const Book& book, bool alphabetic)
     entries.reserve(numbers.size());
     for (const int number : numbers) {
         const std::string shown = alphabetic ? std::string() : ItemNumber(number, width);
-        entries.push_back({shown + Title(book, number), number, Deleted(book, number)});
+        entries.push_back({shown + TitleOf(book, number), number, Deleted(book, number)});
     }
     return entries;
 }
@@ -47,7 +42,7 @@ std::vector<TopicListItem> MovableTopics(const Book& book)
     std::vector<TopicListItem> topics;
     for (int number = 1; number <= book.TopicCount; ++number) {
         if (!Deleted(book, number)) {
-            topics.push_back({Title(book, number), number});
+            topics.push_back({TitleOf(book, number), number});
         }
     }
     return topics;

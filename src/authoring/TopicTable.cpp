@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "book/Book.h"
+#include "book/BookWords.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,9 +10,6 @@
 namespace ls {
 
 namespace {
-
-// A header line with this name would end the book.
-constexpr std::string_view EndName = "EOF";
 
 // A full table grows by the new topic and this number of spare elements.
 constexpr int AddGrowthStep = 9;
@@ -77,7 +75,7 @@ std::string NameRefusal(const Book& book, const std::string& name)
     if (name.find_first_of("[]") != std::string::npos) {
         return "You may not use brackets in the topic name.";
     }
-    if (name == EndName) {
+    if (WithBrackets(name) == BookEnd) {
         return "You may not use EOF as a topic name, because it marks the end of a book.";
     }
     if (IsTaken(book, name)) {

@@ -76,7 +76,7 @@ void LineCursor::SetCapacity(std::size_t wanted, std::size_t kept)
 
 // Moves the unread bytes to the front and reads at least as many more, so that no byte moves twice per read.
 // Errors as in Fill.
-bool LineCursor::FillBehind()
+bool LineCursor::FillMore()
 {
     if (!m_error.Ok()) {
         return false;
@@ -240,7 +240,7 @@ FileError LineCursor::ReadOn(std::string_view& line, std::size_t passed, bool& w
 {
     m_next += passed;
     const std::size_t searched = line.size() - passed;
-    const bool more = FillBehind();
+    const bool more = FillMore();
     whole = TakeWholeLine(searched, line);
     m_inLine = !whole;
     if (!more) {

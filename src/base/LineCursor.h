@@ -68,7 +68,7 @@ public:
 
 private:
     bool Fill();
-    bool FillBehind();
+    bool FillMore();
     bool TakeWholeLine(std::size_t searched, std::string_view& line);
     void SetCapacity(std::size_t wanted, std::size_t kept);
     void AppendRestOfBlock(std::string& line);

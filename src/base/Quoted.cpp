@@ -16,4 +16,9 @@ std::string Quoted(std::string_view bookText)
     return "\"" + FromBook(bookText.substr(0, QuotedLength)) + (cut ? "...\"" : "\"");
 }
 
+std::string InAngles(const std::string& path)
+{
+    return "<<" + FromPath(path) + ">>";
+}
+
 } // namespace ls

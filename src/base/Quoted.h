@@ -9,4 +9,7 @@ namespace ls {
 /// "...".
 [[nodiscard]] std::string Quoted(std::string_view bookText);
 
+/// A path in angle brackets for a message, as UTF-8: "<</home/u/Guide.IDA>>".
+[[nodiscard]] std::string InAngles(const std::string& path);
+
 } // namespace ls

@@ -1,4 +1,5 @@
 #include "book/Book.h"
+#include "base/Text.h"
 
 namespace ls {
 
@@ -12,6 +13,11 @@ constexpr float NewBookVersion = 5.0F;
 Book::Book() : TopicNames(FirstBound), TopicPos(FirstBound), TopicRecs(FirstBound), Xrefs(FirstBound)
 {
     BookVersion = NewBookVersion;
+}
+
+std::string TitleOf(const Book& book, int number)
+{
+    return WithoutBrackets(book.TopicNames(number));
 }
 
 void GrowTopicTables(Book& book, int number)

@@ -72,6 +72,9 @@ struct Book : BookHeader, OldNames
 /// The growth of the tables: when a number passes a table's bound, the new bound is that number plus this.
 inline constexpr int TopicGrowthStep = 49;
 
+/// A topic's title: its header line without the brackets.
+[[nodiscard]] std::string TitleOf(const Book& book, int number);
+
 /// Makes room for topic `number` in the three topic tables, which always grow together.
 void GrowTopicTables(Book& book, int number);
 

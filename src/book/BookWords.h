@@ -36,6 +36,8 @@ inline constexpr std::string_view AssumeWord = "ASSUME"; ///< begins a command, 
 inline constexpr std::string_view TargetWord = "TARGET";
 inline constexpr std::string_view DefineWord = "DEFINE";
 
+inline constexpr std::string_view DefaultGoal = "AV"; ///< the goal of a block without a TARGET line
+
 inline constexpr std::string_view QuestionOpening = "<Q ID="; ///< opens a question entry, in any letter case
 inline constexpr std::string_view QuestionClosing = "</Q>";   ///< closes it, case as here
 inline constexpr std::string_view AdviceOpening = "<AV ID=";  ///< opens an advice entry, in any letter case

@@ -14,7 +14,7 @@ std::size_t ValueEnd(std::string_view rest, std::size_t equals)
 {
     const std::size_t end = rest.find('/', equals);
     // The opening quote must come before that slash. Searching further would scan a line of slashes again for
-    // each slash.
+    // each slash, which takes quadratic time.
     const std::size_t open = end == None ? None : rest.substr(0, end).find('"', equals);
     if (open == None) {
         return end;

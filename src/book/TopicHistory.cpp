@@ -76,7 +76,7 @@ void TopicHistory::Visit(const Book& book)
 }
 
 // Skips places of the topic on show: topics between two such places may have been removed.
-std::size_t TopicHistory::IndexBehind(const Book& book) const
+std::size_t TopicHistory::IndexBefore(const Book& book) const
 {
     const int onShow = OnShow(book).number;
     std::size_t above = m_places.empty() ? 0 : m_current + (onShow == 0 ? 1 : 0);
@@ -106,9 +106,9 @@ int TopicHistory::TopicAt(const Book& book, std::size_t index) const
     return index < m_places.size() ? Find(book, m_places[index]) : 0;
 }
 
-int TopicHistory::TopicBehind(const Book& book) const
+int TopicHistory::TopicBefore(const Book& book) const
 {
-    return TopicAt(book, IndexBehind(book));
+    return TopicAt(book, IndexBefore(book));
 }
 
 int TopicHistory::TopicAhead(const Book& book) const
@@ -118,7 +118,7 @@ int TopicHistory::TopicAhead(const Book& book) const
 
 int TopicHistory::GoBack(const Book& book)
 {
-    return GoTo(book, IndexBehind(book));
+    return GoTo(book, IndexBefore(book));
 }
 
 int TopicHistory::GoForward(const Book& book)

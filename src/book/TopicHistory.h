@@ -29,7 +29,7 @@ public:
 
     /// The number of the topic that Go Back or Go Forward leads to; 0 for none. If no topic is on show, Go
     /// Back leads to the last topic shown.
-    [[nodiscard]] int TopicBehind(const Book& book) const;
+    [[nodiscard]] int TopicBefore(const Book& book) const;
     [[nodiscard]] int TopicAhead(const Book& book) const;
 
     /// Makes that topic the current place and returns its number, to be shown next; 0 for none.
@@ -51,7 +51,7 @@ private:
 
     [[nodiscard]] static Place OnShow(const Book& book);
     [[nodiscard]] static int Find(const Book& book, const Place& place);
-    [[nodiscard]] std::size_t IndexBehind(const Book& book) const;
+    [[nodiscard]] std::size_t IndexBefore(const Book& book) const;
     [[nodiscard]] std::size_t IndexAhead(const Book& book) const;
     [[nodiscard]] int TopicAt(const Book& book, std::size_t index) const;
     int GoTo(const Book& book, std::size_t index);

@@ -32,11 +32,6 @@ bool ComesBefore(const SortedName& a, const SortedName& b)
     return a.number < b.number;
 }
 
-std::string Title(const Book& book, int number)
-{
-    return WithoutBrackets(book.TopicNames(number));
-}
-
 std::vector<int> NumbersToShow(const Book& book)
 {
     std::vector<int> numbers;
@@ -53,7 +48,7 @@ int IndexToSelect(const Book& book, const std::vector<int>& numbers)
     const std::string wanted = WithoutBrackets(book.CurrentTopicName);
     int first = -1;
     for (std::size_t i = 0; i < numbers.size(); ++i) {
-        if (Title(book, numbers[i]) != wanted) {
+        if (TitleOf(book, numbers[i]) != wanted) {
             continue;
         }
         if (numbers[i] == book.CurrentTopicNo) {
@@ -73,7 +68,7 @@ void SortByName(const Book& book, std::vector<int>& numbers)
     std::vector<SortedName> names;
     names.reserve(numbers.size());
     for (const int number : numbers) {
-        std::string name = Title(book, number);
+        std::string name = TitleOf(book, number);
         std::string upper = UpperCase(name);
         names.push_back({std::move(name), std::move(upper), number});
     }
@@ -103,7 +98,7 @@ TopicListModel FillTopicList(const Book& book, bool alphabetic)
     for (const int number : numbers) {
         const int count = static_cast<int>(list.items.size()) + 1;
         std::string text = alphabetic ? std::string() : ItemNumber(count, width);
-        text.append(Title(book, number));
+        text.append(TitleOf(book, number));
         list.items.push_back({std::move(text), number});
     }
     return list;

@@ -38,8 +38,8 @@ std::string HeaderOf(const std::string& name)
     return name == BookEnd || name == "[]" ? name + ' ' : name;
 }
 
-// The ends of all topics of the file. They are sorted once: a search for each topic would take quadratic
-// time.
+// The ends of all topics of the file, by the rule of `EndOfTopic`. They are sorted once: a search for each
+// topic would take quadratic time.
 class TopicEnds
 {
 public:

@@ -4,16 +4,12 @@
 #include "base/FileSystem.h"
 #include "base/Messages.h"
 #include "base/Processes.h"
+#include "base/Quoted.h"
 #include "browser/ProgramPath.h"
 
 namespace ls {
 
 namespace {
-
-std::string InAngles(const std::string& path)
-{
-    return "<<" + FromPath(path) + ">>";
-}
 
 bool HasValue(RegistryKey& key, const std::string& valueName)
 {

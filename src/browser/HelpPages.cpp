@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* FirstPage = "Lodestar_Ideas.htm";
 
-// Systems with drives mark programs by their file type; others put them in common folders.
+// On systems with drives, a program has a file type of its own; on others, it is in a common folder.
 std::string WhereProgramsAre(const Seams& seams)
 {
     return seams.paths.drives ? "*.exe" : "/usr/bin/*";

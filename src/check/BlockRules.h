@@ -3,10 +3,15 @@
 #include "check/Findings.h"
 #include "check/RuleBase.h"
 
+#include <string>
+
 namespace ls {
 
 /// The rules of `check` for one topic's logic, in groups. Each rule checks one thing and reports it at a line
 /// of the topic's own block, where the author can correct it.
+
+/// "VAR(VALUE)" as messages name it, in UTF-8.
+[[nodiscard]] std::string Fact(const std::string& var, const std::string& value);
 
 /// The frame of the block: its tags, and text in places where none is allowed.
 void CheckBlockFrame(const RuleBase& base, Findings& findings);

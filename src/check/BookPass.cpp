@@ -98,7 +98,7 @@ void BookPass::TakeLine(std::string_view line, FilePos pos, int number)
             m_noteBracket = number;
         }
         m_references.Take(line, number);
-        if (m_references.TextBehind()) {
+        if (m_references.TextAfter()) {
             TellNeverShown(number, "Text behind a cross reference");
         }
         if (OpensBlock(line)) {
@@ -149,7 +149,7 @@ void BookPass::TakeBody(std::string_view line, int number)
     }
     if (reference) {
         m_references.Open(line, number);
-        if (m_references.TextBehind()) {
+        if (m_references.TextAfter()) {
             TellNeverShown(number, "Text behind a cross reference");
         }
     }

@@ -1,4 +1,5 @@
 #include "check/CheckedBlock.h"
+#include "book/BookWords.h"
 
 #include <algorithm>
 
@@ -15,7 +16,7 @@ const BlockCommand* CheckedBlock::TargetCommand() const
 std::string CheckedBlock::Target() const
 {
     const BlockCommand* const command = TargetCommand();
-    return command == nullptr ? "AV" : command->argument;
+    return command == nullptr ? std::string(DefaultGoal) : command->argument;
 }
 
 const BlockEntry* CheckedBlock::FindEntry(bool question, const std::string& id) const

@@ -85,7 +85,7 @@ struct CheckedBlock
     int definitionsEnd = 0;        ///< "</DEFINITIONS>" alone on its line
     int blockEnd = 0;              ///< "</IXML>"
     int bracketLine = 0;           ///< the first line of the definitions that has "[" after blanks
-    int textBehind = 0;            ///< the first text after "</IXML>"
+    int textAfter = 0;             ///< the first text after "</IXML>"
     int targetInDefinitions = 0;   ///< a TARGET line among the entries
     std::vector<BlockRule> rules;
     std::vector<BlockCommand> commands;

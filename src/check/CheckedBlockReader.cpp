@@ -58,9 +58,9 @@ void CheckedBlockReader::Take(std::string_view line, int number)
     case Part::Definitions:
         TakeDefinitions(line, number);
         break;
-    case Part::Behind:
-        if (m_block.textBehind == 0 && !trimmed.empty()) {
-            m_block.textBehind = number;
+    case Part::After:
+        if (m_block.textAfter == 0 && !trimmed.empty()) {
+            m_block.textAfter = number;
         }
         break;
     }
@@ -93,7 +93,7 @@ void CheckedBlockReader::TakeLogic(std::string_view trimmed, int number)
         break;
     case LogicLine::BlockClosing: // an unknown command to the loader
         m_block.blockEnd = number;
-        m_part = Part::Behind;
+        m_part = Part::After;
         break;
     case LogicLine::Rule:
         TakeRule(line, number);
@@ -191,7 +191,7 @@ void CheckedBlockReader::TakeDefinitions(std::string_view line, int number)
     m_registers = m_registers && !Contains(upperTrimmed, DefinitionsClosing);
     if (upperTrimmed == BlockClosing) {
         m_block.blockEnd = number;
-        m_part = Part::Behind;
+        m_part = Part::After;
     }
 }
 

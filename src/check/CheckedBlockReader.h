@@ -35,7 +35,7 @@ private:
         BeforeLogic,
         Logic,
         Definitions,
-        Behind, ///< after "</IXML>"
+        After, ///< after "</IXML>"
     };
 
     void TakeBeforeLogic(std::string_view trimmed, int number);

@@ -69,11 +69,11 @@ void CheckBracketLine(const CheckedBlock& block, Findings& findings)
     }
 }
 
-void CheckTextBehind(const CheckedBlock& block, Findings& findings)
+void CheckTextAfter(const CheckedBlock& block, Findings& findings)
 {
-    if (block.textBehind != 0) {
+    if (block.textAfter != 0) {
         findings.Warning(
-            "text-never-shown", block.textBehind,
+            "text-never-shown", block.textAfter,
             "Text behind the logic block is never shown to the reader: move it before \"<IXML>\".");
     }
 }
@@ -116,7 +116,7 @@ void CheckBlockFrame(const RuleBase& base, Findings& findings)
     CheckDefinitionsTag(block, findings);
     CheckClosed(block, findings);
     CheckBracketLine(block, findings);
-    CheckTextBehind(block, findings);
+    CheckTextAfter(block, findings);
     CheckTargetPlace(block, findings);
     CheckLimits(block, findings);
 }

@@ -24,11 +24,6 @@ TermSet ConditionsOf(const BlockRule& rule)
     return terms;
 }
 
-std::string Fact(const std::string& var, const std::string& value)
-{
-    return FromBook(var + "(" + value + ")");
-}
-
 // Reports a rule that needs two values of one variable.
 bool CheckContradiction(const BlockRule& rule, const TermSet& conditions, Findings& findings)
 {
@@ -195,6 +190,11 @@ void CheckConcluded(const RuleBase& base, const BlockRule& rule, Findings& findi
 }
 
 } // namespace
+
+std::string Fact(const std::string& var, const std::string& value)
+{
+    return FromBook(var + "(" + value + ")");
+}
 
 void CheckOverlaps(const RuleBase& base, Findings& findings)
 {

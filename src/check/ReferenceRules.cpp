@@ -88,11 +88,11 @@ void ReferenceRules::Take(std::string_view line, int number)
 // Reads a piece of the note as the scan does.
 void ReferenceRules::TakePiece(std::string_view piece)
 {
-    m_textBehind = false;
+    m_textAfter = false;
     const std::size_t end = piece.find(XrefClosing);
     const bool otherEnd = end == std::string_view::npos && Contains(piece, XrefOtherClosing);
     if (end != std::string_view::npos) {
-        m_textBehind = !Trim(piece.substr(end + XrefClosing.size())).empty();
+        m_textAfter = !Trim(piece.substr(end + XrefClosing.size())).empty();
         piece = piece.substr(0, end);
     }
     piece = Trim(piece);

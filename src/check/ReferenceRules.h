@@ -33,7 +33,7 @@ public:
     void Finish();
 
     /// Whether the last line closes a note and has text after the end tag.
-    [[nodiscard]] bool TextBehind() const { return m_textBehind; }
+    [[nodiscard]] bool TextAfter() const { return m_textAfter; }
 
 private:
     void TakePiece(std::string_view piece);
@@ -47,7 +47,7 @@ private:
     int m_header = 0;         ///< the first line in the note that looks like a title
     std::size_t m_length = 0; ///< the length of the note's text
     bool m_told = false;      ///< a finding about this note was reported
-    bool m_textBehind = false;
+    bool m_textAfter = false;
 };
 
 } // namespace ls

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "book/BookWords.h"
 #include "check/BlockStore.h"
 #include "check/CheckedBlock.h"
 
@@ -35,9 +36,6 @@ struct VariableUse
     std::vector<PlacedRule> conclusions; ///< the rules that conclude it
     std::vector<PlacedRule> rules;       ///< all rules that name it, each once, in the order of the rules
 };
-
-/// The goal of a dialogue without a TARGET line.
-inline constexpr std::string_view DefaultGoal = "AV";
 
 /// The rules of a topic's dialogue: those of its own block and of the blocks that its DEFINE lines lead to.
 /// The other blocks are added when their variables come up.

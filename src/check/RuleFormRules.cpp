@@ -9,11 +9,6 @@ namespace {
 
 constexpr std::size_t None = std::string::npos;
 
-std::string Fact(const BlockTerm& term)
-{
-    return FromBook(term.var + "(" + term.value + ")");
-}
-
 // A readable form of the text between conditions.
 std::string StrayText(const std::string& stray)
 {
@@ -63,8 +58,9 @@ void CheckEmptyValue(const BlockTerm& term, int line, Findings& findings)
 {
     if (term.value.empty()) {
         findings.Error("empty-value", line,
-                       Fact(term) + " has no value, so no reader can choose it: write a value between the "
-                                    "brackets.");
+                       Fact(term.var, term.value) +
+                           " has no value, so no reader can choose it: write a value between the "
+                           "brackets.");
     }
 }
 
@@ -73,14 +69,14 @@ void CheckValueCharacters(const BlockTerm& term, int line, Findings& findings)
     if (term.value.find(',') != None) {
         findings.Error(
             "value-comma", line,
-            "The value of " + Fact(term) +
+            "The value of " + Fact(term.var, term.value) +
                 " holds a comma, at which the list of choices cuts it, so no reader can choose it: "
                 "write a hyphen instead.");
     }
     if (term.value.find('(') != None) {
         findings.Error(
             "value-bracket", line,
-            "The value of " + Fact(term) +
+            "The value of " + Fact(term.var, term.value) +
                 ") holds a bracket, so its rule may never hold for any reader: leave the bracket out.");
     }
 }

@@ -10,7 +10,7 @@ namespace ls {
 
 namespace {
 
-std::string Quoted(std::string_view argument)
+std::string QuotedArgument(std::string_view argument)
 {
     return FromPath(argument).insert(0, 1, '"').append(1, '"');
 }
@@ -47,7 +47,7 @@ std::string CheckRange(const OptionSpec& option, const std::string& value)
         return {};
     }
     return std::string(option.name) + " needs a whole number from " + std::to_string(option.least) + " to " +
-           std::to_string(option.most) + ", not " + Quoted(value);
+           std::to_string(option.most) + ", not " + QuotedArgument(value);
 }
 
 std::string Needs(std::string_view option, const std::vector<std::string>& names)
@@ -70,7 +70,7 @@ std::string Arguments::TakeOption(const CommandSpec& command, const std::vector<
     const auto option = std::find_if(command.options.begin(), command.options.end(),
                                      [&name](const OptionSpec& o) { return o.name == name; });
     if (option == command.options.end()) {
-        return "unknown option " + Quoted(name);
+        return "unknown option " + QuotedArgument(name);
     }
     if (Has(name)) {
         return name + " is given twice";
@@ -110,7 +110,7 @@ std::string Arguments::Read(const CommandSpec& command, const std::vector<std::s
                 return wrong;
             }
         } else if (m_operands.size() == command.mostOperands) {
-            return "unexpected argument " + Quoted(argument);
+            return "unexpected argument " + QuotedArgument(argument);
         } else {
             m_operands.push_back(argument);
         }

@@ -9,7 +9,7 @@
 
 namespace ls {
 
-/// The arguments of one command, checked against its specification.
+/// The arguments of one command, checked against its `CommandSpec`.
 class Arguments
 {
 public:

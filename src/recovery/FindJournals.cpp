@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "base/FileSystem.h"
+#include "base/Quoted.h"
 #include "recovery/JournalFile.h"
 
 #include <algorithm>
@@ -33,21 +34,16 @@ FileError ListNames(const Seams& seams, const std::string& folder, std::set<std:
     return {};
 }
 
-std::string Quoted(const std::string& path)
-{
-    return "<<" + FromPath(path) + ">>";
-}
-
 std::string CannotBeRead(const std::string& path, const FileError& error)
 {
-    return "The recovery journal " + Quoted(path) + " cannot be read" + DueTo(error) +
+    return "The recovery journal " + InAngles(path) + " cannot be read" + DueTo(error) +
            ". It stays where it is.";
 }
 
 // Why a journal cannot be offered; empty if it can.
 std::string Refusal(FoundJournal& found)
 {
-    const std::string journal = "The recovery journal " + Quoted(found.claim->Path());
+    const std::string journal = "The recovery journal " + InAngles(found.claim->Path());
     if (found.reading.state == JournalState::Newer) {
         return journal + " was written by a later version of Lodestar Advisor, and only that can recover it. "
                          "It stays where it is.";
@@ -60,7 +56,7 @@ std::string Refusal(FoundJournal& found)
         return damaged + "It stays where it is.";
     }
     std::ignore = found.claim->Remove(); // a file that stays is found again at the next start
-    return damaged + "It is called " + Quoted(found.claim->DamagedPath()) + " now.";
+    return damaged + "It is called " + InAngles(found.claim->DamagedPath()) + " now.";
 }
 
 void Look(const Seams& seams, FoundJournal&& found, JournalSearch& search)
@@ -72,7 +68,7 @@ void Look(const Seams& seams, FoundJournal&& found, JournalSearch& search)
     }
     std::string note;
     if (error.number == error::OutOfMemory) {
-        note = "The recovery journal " + Quoted(found.claim->Path()) +
+        note = "The recovery journal " + InAngles(found.claim->Path()) +
                " is too large to be read. It stays where it is.";
     } else {
         note = error.Ok() ? Refusal(found) : CannotBeRead(found.claim->Path(), error);
@@ -92,7 +88,7 @@ JournalSearch FindJournals(const Seams& seams, const std::string& folder)
     std::set<std::string> names;
     const FileError error = ListNames(seams, folder, names);
     if (!error.Ok() && error.number != error::PathNotFound && error.number != error::FileNotFound) {
-        search.notes.push_back("The recovery journals in " + Quoted(folder) + " cannot be looked for" +
+        search.notes.push_back("The recovery journals in " + InAngles(folder) + " cannot be looked for" +
                                DueTo(error) + ".");
     }
     for (const std::string& name : names) {

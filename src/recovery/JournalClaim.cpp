@@ -70,9 +70,9 @@ FileError JournalClaim::Take(FileSystem& files, PathRules paths, const std::stri
     std::unique_ptr<JournalClaim> taken(new JournalClaim(files, JoinPath(paths, folder, name)));
     FileError error = taken->Lock();
     if (IsMissing(error)) {
-        // Without a lock file no program claims the journal: it was copied here, or a user removed its lock.
-        // Another program may make a lock file at the same moment. If the folder cannot be written, no
-        // program can make one, and the claim is made without it.
+        // No program claims the journal: it was copied here, or a user removed its lock file. A new lock file
+        // is made. Another program may make one at the same moment; then that one is locked. In a folder that
+        // cannot be written no program can make one, so the claim holds without it.
         error = MakeEmptyFile(files, taken->m_base + std::string(JournalLockType));
         const bool lockable = error.Ok() || error.number == error::FileAlreadyExists;
         error = lockable ? taken->Lock() : FileError{};

@@ -13,7 +13,7 @@ namespace ls {
 namespace {
 
 constexpr char Mark = '@';
-constexpr char LineEnd = '\n';
+constexpr char RecordEnd = '\n';
 constexpr std::size_t ChecksumDigits = 8;
 
 // After broken bytes, the rest is searched for whole sections. A section's first line may claim any size up
@@ -87,9 +87,9 @@ void PutJournalSection(std::string& bytes, std::string_view kind, const JournalT
     const std::string& payload = texts.Bytes();
     bytes += Mark;
     bytes += kind;
-    bytes += ' ' + std::to_string(payload.size()) + ' ' + ChecksumText(kind, payload) + LineEnd;
+    bytes += ' ' + std::to_string(payload.size()) + ' ' + ChecksumText(kind, payload) + RecordEnd;
     bytes += payload;
-    bytes += LineEnd;
+    bytes += RecordEnd;
 }
 
 std::optional<JournalSection> JournalSections::Next()
@@ -116,7 +116,7 @@ std::optional<JournalSection> JournalSections::SectionAt(std::size_t at, std::si
     }
     rest.remove_prefix(1);
     constexpr std::size_t longestLine = 64;
-    std::string_view line = rest.substr(0, std::min(rest.find(LineEnd), longestLine));
+    std::string_view line = rest.substr(0, std::min(rest.find(RecordEnd), longestLine));
     const std::size_t lineSize = line.size() + 1;
     const std::optional<std::string_view> kind = TakeUntil(line, ' ');
     const std::optional<std::string_view> digits = kind ? TakeUntil(line, ' ') : std::nullopt;
@@ -136,7 +136,7 @@ std::optional<JournalSection> JournalSections::SectionAt(std::size_t at, std::si
         m_summed += length;
         return std::nullopt;
     }
-    const bool lineEnds = length < rest.size() && rest[length] == LineEnd;
+    const bool lineEnds = length < rest.size() && rest[length] == RecordEnd;
     end = at + 1 + lineSize + length + (lineEnds ? 1 : 0);
     return JournalSection{*kind, payload};
 }

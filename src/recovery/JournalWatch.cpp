@@ -84,8 +84,8 @@ void JournalWatch::LastAct(const Forms& forms)
     }
 }
 
-// A fault in the program may have destroyed the form already. Then only the journal holds what was typed
-// there. So the journal is not rewritten, unless that text was accepted since.
+// If a fault destroyed the form, only the journal holds what was typed there. So the journal is not
+// rewritten, unless that text was accepted since.
 void JournalWatch::WriteLast(const Forms& forms)
 {
     const State state = StateOf(forms);

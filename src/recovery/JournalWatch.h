@@ -31,7 +31,7 @@ public:
     JournalWatch(const Book& book, const Seams& seams, OwnJournal& journal, Clock clock, Tell tell);
 
     /// Brings the journal up to date. `forms` are the open forms in which the book is edited; `busy` is true
-    /// while a command runs. If the journal cannot be written, the user is told once, and each look tries
+    /// while a command runs. If the journal cannot be written, the user is told once, and each check tries
     /// again.
     void Look(const Forms& forms, bool busy);
 

@@ -41,8 +41,9 @@ constexpr Benchmark Benchmarks[] = {
      [](const std::string&, const std::string& folder) { BenchResize(folder); }},
     {"wrap", "Wrapping",
      "Texts of 64 MiB, read and written, compared with `fold -s -w 80` in the C locale. If a text has no "
-     "tags, both do the same work. `fold` treats tags as text. This program finds the tags and measures only "
-     "the text between them.",
+     "tags, both do the same work. `fold` treats tags as text. This program finds the tags and does not "
+     "count "
+     "them.",
      [](const std::string&, const std::string& folder) { BenchWrap(folder); }},
     {"lines", "Long lines",
      "The ratio is the time for one MiB of the line, divided by that for one MiB of the shortest line of the "

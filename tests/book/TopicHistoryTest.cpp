@@ -60,7 +60,7 @@ struct TopicHistoryTest : testing::Test
 
 TEST_F(TopicHistoryTest, nothingShown_leadsNowhere)
 {
-    EXPECT_EQ(history.TopicBehind(book), 0);
+    EXPECT_EQ(history.TopicBefore(book), 0);
     EXPECT_EQ(history.TopicAhead(book), 0);
     EXPECT_EQ(history.GoBack(book), 0);
     EXPECT_EQ(history.GoForward(book), 0);
@@ -71,7 +71,7 @@ TEST_F(TopicHistoryTest, nothingShown_leadsNowhere)
 TEST_F(TopicHistoryTest, oneTopic_leadsNowhere)
 {
     Show(2);
-    EXPECT_EQ(history.TopicBehind(book), 0);
+    EXPECT_EQ(history.TopicBefore(book), 0);
     EXPECT_EQ(history.TopicAhead(book), 0);
 }
 
@@ -85,10 +85,10 @@ TEST_F(TopicHistoryTest, severalTopics_backAndForwardInTheirOrder)
 TEST_F(TopicHistoryTest, whatIsAsked_isWhatIsTaken)
 {
     ShowAll({1, 2, 3});
-    EXPECT_EQ(history.TopicBehind(book), 2);
+    EXPECT_EQ(history.TopicBefore(book), 2);
     EXPECT_EQ(history.TopicAhead(book), 0);
     Show(history.GoBack(book));
-    EXPECT_EQ(history.TopicBehind(book), 1);
+    EXPECT_EQ(history.TopicBefore(book), 1);
     EXPECT_EQ(history.TopicAhead(book), 3);
 }
 
@@ -120,7 +120,7 @@ TEST_F(TopicHistoryTest, nothingOnShow_backIsTheLastOneShown)
 {
     ShowAll({1, 2});
     book.CurrentTopicName.clear(); // the user is looking through the list
-    EXPECT_EQ(history.TopicBehind(book), 2);
+    EXPECT_EQ(history.TopicBefore(book), 2);
     Show(history.GoBack(book));
     EXPECT_EQ(WayBack(), "A");
 }
@@ -137,9 +137,9 @@ TEST_F(TopicHistoryTest, removedTopic_isPassedOverUntilItIsBack)
 {
     ShowAll({1, 2, 3});
     book.TopicRecs(2).Deleted = true;
-    EXPECT_EQ(history.TopicBehind(book), 1);
+    EXPECT_EQ(history.TopicBefore(book), 1);
     book.TopicRecs(2).Deleted = false;
-    EXPECT_EQ(history.TopicBehind(book), 2);
+    EXPECT_EQ(history.TopicBefore(book), 2);
 }
 
 TEST_F(TopicHistoryTest, removedTopicOfADoubleTitle_doesNotLeadToItsNamesake)
@@ -147,14 +147,14 @@ TEST_F(TopicHistoryTest, removedTopicOfADoubleTitle_doesNotLeadToItsNamesake)
     book.TopicNames(4) = "[B]";
     ShowAll({1, 2, 3});
     book.TopicRecs(2).Deleted = true;
-    EXPECT_EQ(history.TopicBehind(book), 1);
+    EXPECT_EQ(history.TopicBefore(book), 1);
 }
 
 TEST_F(TopicHistoryTest, everythingBetweenRemoved_doesNotLeadToTheTopicOnShow)
 {
     ShowAll({1, 3, 2, 3});
     book.TopicRecs(2).Deleted = true;
-    EXPECT_EQ(history.TopicBehind(book), 1);
+    EXPECT_EQ(history.TopicBefore(book), 1);
 }
 
 TEST_F(TopicHistoryTest, movedTopics_areFoundByTheirTitles)
@@ -162,7 +162,7 @@ TEST_F(TopicHistoryTest, movedTopics_areFoundByTheirTitles)
     ShowAll({1, 2, 3});
     MoveTopics(book, {1}, 4); // B C D A
     EXPECT_EQ(book.TopicNames(4), "[A]");
-    EXPECT_EQ(history.TopicBehind(book), 1);
+    EXPECT_EQ(history.TopicBefore(book), 1);
     EXPECT_EQ(WayBack(), "BA");
     EXPECT_EQ(book.CurrentTopicNo, 4);
 }
@@ -171,7 +171,7 @@ TEST_F(TopicHistoryTest, renamedTopic_isPassedOver)
 {
     ShowAll({1, 2, 3});
     book.TopicNames(2) = "[Two]";
-    EXPECT_EQ(history.TopicBehind(book), 1);
+    EXPECT_EQ(history.TopicBefore(book), 1);
 }
 
 TEST_F(TopicHistoryTest, bookSavedWithoutARemovedTopic_keepsTheOthersByTheirTitles)
@@ -200,7 +200,7 @@ TEST_F(TopicHistoryTest, titleWithBracketsOfItsOwn_isFound)
     book.TopicNames(2) = "[[odd]]";
     ShowAll({2, 1});
     MoveTopics(book, {1}, 4);
-    EXPECT_EQ(history.TopicBehind(book), 1);
+    EXPECT_EQ(history.TopicBefore(book), 1);
 }
 
 TEST_F(TopicHistoryTest, topicOutsideOfTheTable_isNotRemembered)
@@ -220,7 +220,7 @@ TEST_F(TopicHistoryTest, topicThatCannotBeShown_doesNotStopTheWay)
     EXPECT_EQ(history.GoBack(book), 2);
     book.CurrentTopicName.clear(); // the topic's text could not be read
     history.DropCurrent();
-    EXPECT_EQ(history.TopicBehind(book), 1);
+    EXPECT_EQ(history.TopicBefore(book), 1);
     EXPECT_EQ(history.TopicAhead(book), 3);
 }
 
@@ -230,14 +230,14 @@ TEST_F(TopicHistoryTest, oldestTopicThatCannotBeShown_leavesTheOthers)
     EXPECT_EQ(history.GoBack(book), 1);
     book.CurrentTopicName.clear();
     history.DropCurrent();
-    EXPECT_EQ(history.TopicBehind(book), 2);
+    EXPECT_EQ(history.TopicBefore(book), 2);
 }
 
 TEST_F(TopicHistoryTest, cleared_leadsNowhere)
 {
     ShowAll({1, 2, 3});
     history.Clear();
-    EXPECT_EQ(history.TopicBehind(book), 0);
+    EXPECT_EQ(history.TopicBefore(book), 0);
     Show(4);
     EXPECT_EQ(history.Count(), 1U);
 }

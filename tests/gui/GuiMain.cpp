@@ -11,7 +11,7 @@ int main(int argc, char** argv)
     testing::InitGoogleTest(&argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     const QApplication application(argc, argv);
-    // Set behind the start: an application owns, and frees, only such a style.
+    // Set after the application exists, because only then it owns the style and frees it.
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
     const ls::test::StuckBoxGuard guard;

@@ -264,7 +264,7 @@ Tour::Fault Tour::WidenWindow()
     const int lines = m_bar->maximum();
     m_window.resize(m_window.width() + WidenBy, m_window.height() + WidenBy / 4);
     QTest::qWait(SettleMs);
-    // When the pane first grows, the gap beside the scroll bar takes 2 units of the gain. At scales such as
+    // When the pane first grows, the gap beside the scroll bar takes 2 pixels of the gain. At scales such as
     // 150 % the window's size is rounded to whole pixels. So the check allows 4.
     if (m_pane->width() < before + WidenBy - 4)
         return QStringLiteral("the pane is %1 wide after %2").arg(m_pane->width()).arg(before);

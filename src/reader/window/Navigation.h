@@ -40,7 +40,7 @@ public:
     /// nothing at either end.
     void GoBackItem_Click() { ShowFromHistory(m_history.GoBack(m_book)); }
     void GoForwardItem_Click() { ShowFromHistory(m_history.GoForward(m_book)); }
-    [[nodiscard]] bool CanGoBack() const { return m_history.TopicBehind(m_book) != 0; }
+    [[nodiscard]] bool CanGoBack() const { return m_history.TopicBefore(m_book) != 0; }
     [[nodiscard]] bool CanGoForward() const { return m_history.TopicAhead(m_book) != 0; }
 
     /// Call before another book is opened or begun.

@@ -86,8 +86,8 @@ void FindBar::Find(bool forward)
     SetShown(true);
     Recount();
     const TextRange from = m_pane->Selection().Range();
-    const std::size_t behind = from.Empty() ? from.begin : from.begin + 1;
-    ShowMatch(forward ? NextMatch(m_matches, behind) : PreviousMatch(m_matches, from.begin));
+    const std::size_t after = from.Empty() ? from.begin : from.begin + 1;
+    ShowMatch(forward ? NextMatch(m_matches, after) : PreviousMatch(m_matches, from.begin));
 }
 
 // A text that no book can hold has no matches.

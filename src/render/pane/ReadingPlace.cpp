@@ -33,7 +33,7 @@ std::size_t OffsetOfPlace(const TopicText& topic, std::size_t place)
     return static_cast<std::size_t>(at - text.begin());
 }
 
-std::size_t OffsetBehindPlace(const TopicText& topic, std::size_t place)
+std::size_t EndBeforePlace(const TopicText& topic, std::size_t place)
 {
     return place == 0 ? 0 : std::min(OffsetOfPlace(topic, place - 1) + 1, topic.Length());
 }
@@ -49,7 +49,7 @@ KeptSelection::KeptSelection(const TopicText& topic, const TextSelection& select
     m_begin = ReadingPlace(topic, range.begin);
     m_end = ReadingPlace(topic, range.end);
     m_empty = range.Empty();
-    m_behind = range.end == topic.Length() || !IsSolid(topic.Text()[range.end]);
+    m_afterWord = range.end == topic.Length() || !IsSolid(topic.Text()[range.end]);
     m_fromStart = range.begin == 0;
     m_toEnd = range.end >= topic.Length();
     m_backwards = selection.Caret() < selection.Anchor();
@@ -58,13 +58,13 @@ KeptSelection::KeptSelection(const TopicText& topic, const TextSelection& select
 TextSelection KeptSelection::In(const TopicText& topic) const
 {
     const std::size_t begin = m_fromStart ? 0 : OffsetOfPlace(topic, m_begin);
-    const std::size_t behind = m_toEnd ? topic.Length() : OffsetBehindPlace(topic, m_end);
+    const std::size_t after = m_toEnd ? topic.Length() : EndBeforePlace(topic, m_end);
     TextSelection selection;
     if (m_empty) {
-        selection.MoveTo(m_behind && !m_fromStart ? behind : begin, false);
+        selection.MoveTo(m_afterWord && !m_fromStart ? after : begin, false);
         return selection;
     }
-    const std::size_t end = std::max(begin, behind);
+    const std::size_t end = std::max(begin, after);
     selection.MoveTo(m_backwards ? end : begin, false);
     selection.MoveTo(m_backwards ? begin : end, true);
     return selection;

@@ -17,8 +17,8 @@ class TopicText;
 /// The offset of the first character after the place that is not blank; the end of the text if there is none.
 [[nodiscard]] std::size_t OffsetOfPlace(const TopicText& topic, std::size_t place);
 
-/// The offset just after the last character before the place that is not blank.
-[[nodiscard]] std::size_t OffsetBehindPlace(const TopicText& topic, std::size_t place);
+/// The offset at which the last word before the place ends.
+[[nodiscard]] std::size_t EndBeforePlace(const TopicText& topic, std::size_t place);
 
 /// The display line, from 1, in which the reader goes on.
 [[nodiscard]] int LineOfPlace(const TopicText& topic, std::size_t place);
@@ -37,7 +37,7 @@ private:
     std::size_t m_begin = 0; // both are places as above
     std::size_t m_end = 0;
     bool m_empty = true;
-    bool m_behind = false; // a caret before a blank or a row's end stays after the character before it
+    bool m_afterWord = false; // a caret before a blank or a row's end stays after the character before it
     bool m_fromStart = false;
     bool m_toEnd = false;
     bool m_backwards = false; // the caret is at the start of the selection

@@ -20,7 +20,7 @@ FileError PageRecorder::Choose(const std::string& /*name*/)
     return MakeFileError(error::DeviceUnavailable);
 }
 
-// It has one kind of paper.
+// The recorder has one kind of paper.
 FileError PageRecorder::SetPaperSize(int code)
 {
     return code == m_state.paperSize ? FileError{} : MakeFileError(error::InvalidCall);

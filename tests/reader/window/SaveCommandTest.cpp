@@ -8,7 +8,7 @@
 namespace ls {
 namespace {
 
-struct SaveItemTest : SaveCommandFixture
+struct SaveCommandTest : SaveCommandFixture
 {
 };
 
@@ -24,14 +24,14 @@ constexpr const char* AskType = "question|Lodestar Advisor|You did not specify a
 constexpr const char* NameTaken =
     "warning|Lodestar Advisor|The output file already exists, so I cannot save your book with this filename.";
 
-TEST_F(SaveItemTest, save_noBook_saysThatThereIsNothing)
+TEST_F(SaveCommandTest, save_noBook_saysThatThereIsNothing)
 {
     save.SaveItem_Click();
     EXPECT_EQ(Boxes(), Strings{"exclamation|Lodestar Advisor|I have nothing to save."});
     EXPECT_EQ(view.fileForms, 0);
 }
 
-TEST_F(SaveItemTest, save_plainText_saysThatThereIsNothing)
+TEST_F(SaveCommandTest, save_plainText_saysThatThereIsNothing)
 {
     world.messages.replies = {Reply::Ok};
     Open("plain words\r\n", "/work/Note.TXT");
@@ -40,7 +40,7 @@ TEST_F(SaveItemTest, save_plainText_saysThatThereIsNothing)
     EXPECT_EQ(Boxes(), Strings{"exclamation|Lodestar Advisor|I have nothing to save."});
 }
 
-TEST_F(SaveItemTest, save_openedShared_warnsAndCancelStops)
+TEST_F(SaveCommandTest, save_openedShared_warnsAndCancelStops)
 {
     OpenThree();
     world.messages.replies = {Reply::Cancel};
@@ -49,7 +49,7 @@ TEST_F(SaveItemTest, save_openedShared_warnsAndCancelStops)
     EXPECT_EQ(view.fileForms, 1) << "the form was shown only to open the book";
 }
 
-TEST_F(SaveItemTest, save_newBook_isNotWarnedAboutSharing)
+TEST_F(SaveCommandTest, save_newBook_isNotWarnedAboutSharing)
 {
     book.TopicCount = 1;
     GrowTopicTables(book, 1);
@@ -63,7 +63,7 @@ TEST_F(SaveItemTest, save_newBook_isNotWarnedAboutSharing)
     EXPECT_EQ(OnShow(), "[New]|n|");
 }
 
-TEST_F(SaveItemTest, save_fileForm_isToldWhatToOffer)
+TEST_F(SaveCommandTest, save_fileForm_isToldWhatToOffer)
 {
     OpenEdited();
     AddRecentFile(global.settings, "/work/Last.IDA");
@@ -83,7 +83,7 @@ TEST_F(SaveItemTest, save_fileForm_isToldWhatToOffer)
     EXPECT_FALSE(dialog.ShowSharing);
 }
 
-TEST_F(SaveItemTest, save_workDir_isTheFolderOfTheForm)
+TEST_F(SaveCommandTest, save_workDir_isTheFolderOfTheForm)
 {
     OpenEdited();
     world.files.AddFolder("/books");
@@ -94,7 +94,7 @@ TEST_F(SaveItemTest, save_workDir_isTheFolderOfTheForm)
     EXPECT_EQ(book.BookPath, "/books/Out.IDA");
 }
 
-TEST_F(SaveItemTest, save_formCancelled_changesNothing)
+TEST_F(SaveCommandTest, save_formCancelled_changesNothing)
 {
     OpenEdited();
     view.onFileForm = [this] {
@@ -107,7 +107,7 @@ TEST_F(SaveItemTest, save_formCancelled_changesNothing)
     ExpectNothingLost();
 }
 
-TEST_F(SaveItemTest, save_addressEnteredInTheFormThenCancelled_showsTheExplainButton)
+TEST_F(SaveCommandTest, save_addressEnteredInTheFormThenCancelled_showsTheExplainButton)
 {
     OpenEdited();
     view.onFileForm = [this] { book.BookUrl = "http://x"; };
@@ -116,7 +116,7 @@ TEST_F(SaveItemTest, save_addressEnteredInTheFormThenCancelled_showsTheExplainBu
     EXPECT_EQ(Boxes(), Strings());
 }
 
-TEST_F(SaveItemTest, save_formWithoutName_changesNothing)
+TEST_F(SaveCommandTest, save_formWithoutName_changesNothing)
 {
     OpenEdited();
     SaveAs("");
@@ -124,7 +124,7 @@ TEST_F(SaveItemTest, save_formWithoutName_changesNothing)
     ExpectNothingLost();
 }
 
-TEST_F(SaveItemTest, save_programEndsInTheFileForm_writesNothing)
+TEST_F(SaveCommandTest, save_programEndsInTheFileForm_writesNothing)
 {
     OpenEdited();
     view.onFileForm = [this] {
@@ -135,7 +135,7 @@ TEST_F(SaveItemTest, save_programEndsInTheFileForm_writesNothing)
     EXPECT_FALSE(world.files.Has("/work/Out.IDA"));
 }
 
-TEST_F(SaveItemTest, save_nameWithoutType_yesAddsIda)
+TEST_F(SaveCommandTest, save_nameWithoutType_yesAddsIda)
 {
     OpenEdited();
     world.messages.replies = {Reply::Yes};
@@ -146,7 +146,7 @@ TEST_F(SaveItemTest, save_nameWithoutType_yesAddsIda)
     EXPECT_EQ(book.BookPath, "/work/Out.IDA");
 }
 
-TEST_F(SaveItemTest, save_nameWithoutType_noSavesWithoutOne)
+TEST_F(SaveCommandTest, save_nameWithoutType_noSavesWithoutOne)
 {
     OpenEdited();
     world.messages.replies = {Reply::No};
@@ -156,7 +156,7 @@ TEST_F(SaveItemTest, save_nameWithoutType_noSavesWithoutOne)
     EXPECT_EQ(book.BookPath, "/work/Out");
 }
 
-TEST_F(SaveItemTest, save_dotOfAFolder_isNoType)
+TEST_F(SaveCommandTest, save_dotOfAFolder_isNoType)
 {
     OpenEdited();
     world.files.AddFolder("/work/v1.2");
@@ -166,7 +166,7 @@ TEST_F(SaveItemTest, save_dotOfAFolder_isNoType)
     EXPECT_EQ(world.files["/work/v1.2/Out.IDA"], EditedBook);
 }
 
-TEST_F(SaveItemTest, save_otherType_isTakenAsItIs)
+TEST_F(SaveCommandTest, save_otherType_isTakenAsItIs)
 {
     OpenEdited();
     SaveAs("Out.txt");
@@ -174,7 +174,7 @@ TEST_F(SaveItemTest, save_otherType_isTakenAsItIs)
     EXPECT_EQ(world.files["/work/Out.txt"], EditedBook);
 }
 
-TEST_F(SaveItemTest, save_existingName_refusesAndKeepsBoth)
+TEST_F(SaveCommandTest, save_existingName_refusesAndKeepsBoth)
 {
     OpenEdited();
     world.files["/work/Out.IDA"] = "kept";
@@ -186,7 +186,7 @@ TEST_F(SaveItemTest, save_existingName_refusesAndKeepsBoth)
     ExpectNothingLost();
 }
 
-TEST_F(SaveItemTest, save_ownName_isRefused)
+TEST_F(SaveCommandTest, save_ownName_isRefused)
 {
     OpenEdited();
     const std::string before = world.files["/work/Book.IDA"];
@@ -196,7 +196,7 @@ TEST_F(SaveItemTest, save_ownName_isRefused)
     ExpectNothingLost();
 }
 
-TEST_F(SaveItemTest, save_nameThatBecomesTakenByItsType_isRefused)
+TEST_F(SaveCommandTest, save_nameThatBecomesTakenByItsType_isRefused)
 {
     OpenEdited();
     world.files["/work/Out.IDA"] = "kept";
@@ -206,7 +206,7 @@ TEST_F(SaveItemTest, save_nameThatBecomesTakenByItsType_isRefused)
     EXPECT_EQ(world.files["/work/Out.IDA"], "kept");
 }
 
-TEST_F(SaveItemTest, save_overwriteConfirmedInTheSelector_isRefusedAllTheSame)
+TEST_F(SaveCommandTest, save_overwriteConfirmedInTheSelector_isRefusedAllTheSame)
 {
     OpenEdited();
     world.files["/work/Out.IDA"] = "kept";
@@ -227,7 +227,7 @@ struct TestFailure
     const char* box;
 };
 
-struct TestFailureTable : SaveItemTest, testing::WithParamInterface<TestFailure>
+struct TestFailureTable : SaveCommandTest, testing::WithParamInterface<TestFailure>
 {
 };
 
@@ -259,7 +259,7 @@ const TestFailure TestFailures[] = {
 
 INSTANTIATE_TEST_SUITE_P(Failures, TestFailureTable, testing::ValuesIn(TestFailures), test::RowName());
 
-TEST_F(SaveItemTest, save_cancelledWhileWriting_removesThePartAndKeepsAll)
+TEST_F(SaveCommandTest, save_cancelledWhileWriting_removesThePartAndKeepsAll)
 {
     OpenEdited();
     book.TopicRecs(2).Text = std::string(1000000, 'x') + "\r\n";
@@ -274,7 +274,7 @@ TEST_F(SaveItemTest, save_cancelledWhileWriting_removesThePartAndKeepsAll)
     ExpectNothingLost();
 }
 
-TEST_F(SaveItemTest, save_done_theNewFileIsTheOpenBook)
+TEST_F(SaveCommandTest, save_done_theNewFileIsTheOpenBook)
 {
     OpenEdited();
     book.LockBook = true;
@@ -295,7 +295,7 @@ TEST_F(SaveItemTest, save_done_theNewFileIsTheOpenBook)
     EXPECT_EQ(OnShow(), "[B]|edited|");
 }
 
-TEST_F(SaveItemTest, save_openedShared_isOpenLockedAfterwards)
+TEST_F(SaveCommandTest, save_openedShared_isOpenLockedAfterwards)
 {
     OpenThree();
     ASSERT_FALSE(book.LockBook);
@@ -308,7 +308,7 @@ TEST_F(SaveItemTest, save_openedShared_isOpenLockedAfterwards)
     EXPECT_EQ(Boxes(), Strings{Saved}) << "there is nothing left to warn about";
 }
 
-TEST_F(SaveItemTest, save_done_entersTheRecentFilesAndSavesTheSettingsOnce)
+TEST_F(SaveCommandTest, save_done_entersTheRecentFilesAndSavesTheSettingsOnce)
 {
     OpenEdited();
     world.files.log.clear();
@@ -319,7 +319,7 @@ TEST_F(SaveItemTest, save_done_entersTheRecentFilesAndSavesTheSettingsOnce)
     EXPECT_EQ(std::count(world.files.log.begin(), world.files.log.end(), "create LSAdvisor.INI.new"), 1);
 }
 
-TEST_F(SaveItemTest, save_explainButton_followsTheSavedHeader)
+TEST_F(SaveCommandTest, save_explainButton_followsTheSavedHeader)
 {
     OpenEdited();
     EXPECT_FALSE(view.explainButton);
@@ -339,7 +339,7 @@ struct ProposalCase
     const char* saved;
 };
 
-struct ProposalTable : SaveItemTest, testing::WithParamInterface<ProposalCase>
+struct ProposalTable : SaveCommandTest, testing::WithParamInterface<ProposalCase>
 {
 };
 

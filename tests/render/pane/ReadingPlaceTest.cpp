@@ -53,10 +53,10 @@ TEST(ReadingPlace, offsets_areNextToTheGap)
 {
     const TopicText topic = MakeTopic({"ab  cd"});
     EXPECT_EQ(OffsetOfPlace(topic, 2), 4U);
-    EXPECT_EQ(OffsetBehindPlace(topic, 2), 2U);
+    EXPECT_EQ(EndBeforePlace(topic, 2), 2U);
     EXPECT_EQ(OffsetOfPlace(topic, 4), 6U);
-    EXPECT_EQ(OffsetBehindPlace(topic, 0), 0U);
-    EXPECT_EQ(OffsetBehindPlace(topic, 99), 6U);
+    EXPECT_EQ(EndBeforePlace(topic, 0), 0U);
+    EXPECT_EQ(EndBeforePlace(topic, 99), 6U);
 }
 
 struct KeptRow

@@ -85,49 +85,5 @@ TEST_F(ShowEditedTopicTest, show_editedTextWithALogicTag_endsThere)
     EXPECT_FALSE(shown.advisorButton) << "the advisor reads the file, which holds no block";
 }
 
-TEST_F(ShowEditedTopicTest, nextTopicLine_text_givesLineAfterLine)
-{
-    book.TopicRecs(1).Text = "one\r\n\r\nthree";
-    std::size_t position = 1;
-    int done = 0;
-    EXPECT_EQ(NextTopicLine(book, 1, position, done), "one");
-    EXPECT_EQ(position, 6U);
-    EXPECT_EQ(NextTopicLine(book, 1, position, done), "");
-    EXPECT_EQ(position, 8U);
-    EXPECT_EQ(NextTopicLine(book, 1, position, done), "three");
-    EXPECT_EQ(done, 0);
-    EXPECT_EQ(NextTopicLine(book, 1, position, done), "");
-    EXPECT_EQ(done, -1);
-}
-
-TEST_F(ShowEditedTopicTest, nextTopicLine_textEndingInALineEnd_hasNoFurtherLine)
-{
-    book.TopicRecs(1).Text = "one\r\n";
-    std::size_t position = 1;
-    int done = 0;
-    EXPECT_EQ(NextTopicLine(book, 1, position, done), "one");
-    EXPECT_EQ(done, 0);
-    NextTopicLine(book, 1, position, done);
-    EXPECT_EQ(done, -1);
-}
-
-TEST_F(ShowEditedTopicTest, nextTopicLine_loneCrOrLf_isText)
-{
-    book.TopicRecs(1).Text = "a\rb\nc\r\n";
-    std::size_t position = 1;
-    int done = 0;
-    EXPECT_EQ(NextTopicLine(book, 1, position, done), "a\rb\nc");
-}
-
-TEST_F(ShowEditedTopicTest, nextTopicLine_uneditedOrUnknownTopic_isDone)
-{
-    for (const int topic : {0, 1, 32767}) {
-        std::size_t position = 1;
-        int done = 0;
-        EXPECT_EQ(NextTopicLine(book, topic, position, done), "");
-        EXPECT_EQ(done, -1) << topic;
-    }
-}
-
 } // namespace
 } // namespace ls
