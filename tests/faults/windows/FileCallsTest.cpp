@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <windows.h>
 
 namespace ls {
@@ -156,7 +157,7 @@ TEST_F(FileCallsOnce, read_endOfFileAsACode_isNoFault)
 
 TEST_F(FileCallsOnce, finish_whereNothingCanBeFlushed_isWell)
 {
-    for (const DWORD code : {DWORD{ERROR_INVALID_FUNCTION}, DWORD{ERROR_NOT_SUPPORTED}}) {
+    for (const DWORD code : std::initializer_list<DWORD>{ERROR_INVALID_FUNCTION, ERROR_NOT_SUPPORTED}) {
         std::unique_ptr<OutputFile> file;
         ASSERT_EQ(files.CreateNew(folder / std::to_string(code), file), FileError{});
         const FailingCalls failing(1, {"flush", static_cast<int>(code), false});
@@ -168,7 +169,7 @@ TEST_F(FileCallsOnce, finish_whereNothingCanBeFlushed_isWell)
 // A file that is open in another program cannot be renamed ("in use") or replaced ("denied").
 TEST_F(FileCallsOnce, rename_filesInUseForAMoment_isTriedAgain)
 {
-    for (const DWORD code : {DWORD{ERROR_SHARING_VIOLATION}, DWORD{ERROR_ACCESS_DENIED}}) {
+    for (const DWORD code : std::initializer_list<DWORD>{ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED}) {
         folder.Write("to", "older");
         const std::string from = folder.Write("from", "newer");
         const FailingCalls failing(1, {"moment", static_cast<int>(code), false});

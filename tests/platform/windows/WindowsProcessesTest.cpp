@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <thread>
 
@@ -51,7 +52,8 @@ struct WindowsProcessesTest : testing::Test
     // The program's line, what it reads of it, how to show its window, and its folder.
     Strings Report()
     {
-        for (int i = 0; i < 3000 && !folder.Has("report"); ++i) {
+        // The file has its name shortly before the program lets others open it.
+        for (int i = 0; i < 3000 && !std::ifstream(*ToWide(folder / "report")).is_open(); ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
         Strings lines;
