@@ -26,15 +26,15 @@ bool OpensDefinitions(std::string_view line, bool rule)
 LogicLine ClassifyWord(std::string_view line)
 {
     if (line == LogicClosing) {
-        return LogicLine::LogicClosing;
+        return LogicLine::LogicEnd;
     }
     if (line == BlockClosing) {
-        return LogicLine::BlockClosing;
+        return LogicLine::BlockEnd;
     }
     if (line == LogicOpening) {
-        return LogicLine::LogicOpening;
+        return LogicLine::LogicStart;
     }
-    return line == BlockOpening ? LogicLine::BlockOpening : LogicLine::Command;
+    return line == BlockOpening ? LogicLine::BlockStart : LogicLine::Command;
 }
 
 LogicCommand::Kind KindOf(std::string_view word)

@@ -14,10 +14,10 @@ enum class LogicLine
     Rule,        ///< contains "="
     Command,     ///< any other line, known to the loader or not
     Definitions, ///< contains "<DEFINITIONS>", even in a comment or, with blanks, in a rule
-    BlockOpening,
-    LogicOpening,
-    LogicClosing,
-    BlockClosing,
+    BlockStart,  ///< "<IXML>"
+    LogicStart,  ///< "<LOGIC>"
+    LogicEnd,    ///< "</LOGIC>"
+    BlockEnd,    ///< "</IXML>"
 };
 
 /// Classifies a line that is trimmed and in upper case.

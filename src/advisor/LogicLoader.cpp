@@ -164,7 +164,7 @@ bool Loader::TakeLine(LogicLine kind, std::string line)
     switch (kind) {
     case LogicLine::Empty:
     case LogicLine::Comment:
-    case LogicLine::LogicClosing:
+    case LogicLine::LogicEnd:
         return true;
     case LogicLine::Rule:
         return TakeRule(std::move(line));

@@ -138,7 +138,7 @@ bool Reader::ReadLogic()
             }
             break;
         }
-        if (kind == LogicLine::LogicClosing) {
+        if (kind == LogicLine::LogicEnd) {
             closed = std::min(closed, lines.size());
         } else {
             lines.push_back(TrimRight(m_line));

@@ -103,12 +103,12 @@ private:
             case LogicLine::Definitions:
                 AddLine(number, line, "would open the definitions");
                 break;
-            case LogicLine::LogicClosing:
+            case LogicLine::LogicEnd:
                 AddLine(number, line, "would end the logic text and not be kept");
                 break;
-            case LogicLine::BlockOpening:
-            case LogicLine::LogicOpening:
-            case LogicLine::BlockClosing:
+            case LogicLine::BlockStart:
+            case LogicLine::LogicStart:
+            case LogicLine::BlockEnd:
                 AddLine(number, line, "is no logic line, so the advisor would refuse the block");
                 break;
             default:

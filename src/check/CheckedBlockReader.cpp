@@ -88,10 +88,10 @@ void CheckedBlockReader::TakeLogic(std::string_view trimmed, int number)
         m_block.definitionsAlone = line == DefinitionsOpening;
         m_block.definitionsTag = line.starts_with('<');
         break;
-    case LogicLine::LogicClosing:
+    case LogicLine::LogicEnd:
         m_block.logicEnd = number;
         break;
-    case LogicLine::BlockClosing: // an unknown command to the loader
+    case LogicLine::BlockEnd: // an unknown command to the loader
         m_block.blockEnd = number;
         m_part = Part::After;
         break;

@@ -45,11 +45,11 @@ INSTANTIATE_TEST_SUITE_P(
                     LineCase{"definitionsInCommentBetweenBlanks", "*A=< DEFINITIONS >", LogicLine::Comment},
                     LineCase{"definitionsInLowerCase", "<definitions>", LogicLine::Command},
                     LineCase{"definitionsClosing", "</DEFINITIONS>", LogicLine::Command},
-                    LineCase{"logicOpening", "<LOGIC>", LogicLine::LogicOpening},
-                    LineCase{"logicClosing", "</LOGIC>", LogicLine::LogicClosing},
+                    LineCase{"logicOpening", "<LOGIC>", LogicLine::LogicStart},
+                    LineCase{"logicClosing", "</LOGIC>", LogicLine::LogicEnd},
                     LineCase{"logicClosingAndMore", "</LOGIC> X", LogicLine::Command},
-                    LineCase{"blockOpening", "<IXML>", LogicLine::BlockOpening},
-                    LineCase{"blockClosing", "</IXML>", LogicLine::BlockClosing},
+                    LineCase{"blockOpening", "<IXML>", LogicLine::BlockStart},
+                    LineCase{"blockClosing", "</IXML>", LogicLine::BlockEnd},
                     LineCase{"bracket", "[TITLE]", LogicLine::Command}),
     [](const auto& info) { return info.param.name; });
 
