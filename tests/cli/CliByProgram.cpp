@@ -47,4 +47,9 @@ int CliFixture::Run(const std::vector<std::string>& arguments)
     return run.status;
 }
 
+std::vector<Json> CliFixture::Asked(const std::vector<Json>& entries)
+{
+    return {entries.begin(), entries.begin() + (entries.empty() ? 0 : 1)};
+}
+
 } // namespace ls::test

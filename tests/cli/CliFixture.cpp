@@ -21,6 +21,11 @@ int CliFixture::Run(const std::vector<std::string>& arguments)
     return status;
 }
 
+std::vector<Json> CliFixture::Asked(const std::vector<Json>& entries)
+{
+    return entries;
+}
+
 std::string SmallBook()
 {
     return CrLf({

@@ -34,6 +34,11 @@ protected:
         return Json::Parse(Out(arguments, status));
     }
 
+    /// The entries of a case to run: all of them in process. By the program only the first, since the topic
+    /// that is asked for makes no difference to what the program itself adds, and each process takes its
+    /// time.
+    [[nodiscard]] static std::vector<Json> Asked(const std::vector<Json>& entries);
+
     MemoryFileSystem files;
     RecordingProcesses processes;
     std::string in; ///< the content of standard input

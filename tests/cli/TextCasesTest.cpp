@@ -93,7 +93,7 @@ TEST_P(TextCase, show_asExpected)
 {
     // Every opening reports a bad header. Showing a topic adds no message.
     const std::size_t messagesOfOpening = Of({"info"})["messages"].Items().size();
-    for (const Json& expected : m_expected["show"].Items()) {
+    for (const Json& expected : Asked(m_expected["show"].Items())) {
         const std::string number = std::to_string(expected["number"].Int());
         const std::string width = std::to_string(expected["width"].Int());
         SCOPED_TRACE("topic " + number + ", width " + width);
@@ -110,7 +110,7 @@ TEST_P(TextCase, show_asExpected)
 TEST_P(TextCase, export_asExpected)
 {
     ASSERT_FALSE(m_expected["export"].IsNull());
-    for (const Json& expected : m_expected["export"].Items()) {
+    for (const Json& expected : Asked(m_expected["export"].Items())) {
         const std::string number = std::to_string(expected["number"].Int());
         SCOPED_TRACE("topic " + number);
         EXPECT_EQ(Of({"export", "--number", number})["html"].String(), expected["html"].String());
