@@ -52,8 +52,9 @@ struct WindowsProcessesTest : testing::Test
     // The program's line, what it reads of it, how to show its window, and its folder.
     Strings Report()
     {
+        const std::filesystem::path report = *ToWide(folder / "report");
         // The file has its name shortly before the program lets others open it.
-        for (int i = 0; i < 3000 && !std::ifstream(*ToWide(folder / "report")).is_open(); ++i) {
+        for (int i = 0; i < 3000 && !std::ifstream(report).is_open(); ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
         Strings lines;
@@ -61,7 +62,7 @@ struct WindowsProcessesTest : testing::Test
         for (std::string line; std::getline(text, line);) {
             lines.push_back(line);
         }
-        std::filesystem::remove(*ToWide(folder / "report"));
+        std::filesystem::remove(report);
         lines.resize(4);
         return lines;
     }
