@@ -1,4 +1,4 @@
-// Done, Specification, and every way to close the logic editor's window.
+// Done, the button that shows the block, and every way to close the logic editor's window.
 
 #include "check/CheckBook.h"
 #include "gui/LgEdFormFixture.h"

@@ -11,7 +11,7 @@ namespace {
 // Network servers fail at far less than the system's own limit.
 constexpr std::size_t LargestPiece = std::size_t{1} << 20;
 
-// Whether the code means that flushing is not supported, so that there is nothing to wait for.
+// Whether the code means that the file cannot be flushed. Then nothing needs to be waited for.
 bool CannotFlush(DWORD code)
 {
     return code == ERROR_INVALID_FUNCTION || code == ERROR_NOT_SUPPORTED;

@@ -79,7 +79,7 @@ void TopicCommands::DelTopicItem_Click()
     m_navigation.FillTopicList();
 }
 
-// Must run before the list is refilled, which would select another topic of the same name.
+// Runs before the list is refilled: a refilled list may select another topic of the same name.
 void TopicCommands::DropRemovedTopic()
 {
     const int current = m_book.CurrentTopicNo;
